@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+#include "foundation/ClockProperty.h"
+#include "platform/Machine.h"
+
+/// The words of property values and what they mean.
+namespace mduUILib {
+
+inline constexpr int TransparentKey = 0xFFFFFF;       ///< the colour key of transparency
+inline constexpr int TransparentWindow = 0x1000002;   ///< a window's colour while it is transparent
+
+/// A colour number from a text: red in the low byte, then green, then blue. Names, "random", or any
+/// number; all else is black. "white" is 0xFFFFFD, since 0xFFFFFF is the transparent key. The text
+/// itself is trimmed and lower-cased, in the caller's variable as well.
+int ColourValue(QString& text, platform::RandomNumbers& random);
+int ColourValue(QString&& text, platform::RandomNumbers& random);
+
+QString ColourName(int colour);  ///< "Red", ... or the number in decimal
+
+bool IsCustomColour(const QString& text);  ///< exactly "Custom"
+
+bool YesNoToBool(const QString& text);  ///< "no" is false; all else, the empty text too, is true
+QString BoolToYesNo(bool flag);
+
+bool IsNoneValue(const QString& text);  ///< "0", "None" or empty
+
+int WindowStateValue(const QString& text);  ///< 2 maximized, 1 minimized, else 0
+QString WindowStateName(int state);
+
+/// The border style of "No Border" 1, "3D Border" 3, "Classic" 7; 0 for any other text.
+int WindowBorderValue(const QString& text);
+
+QString ToolbarPositionName(int code, bool visible);
+int ToolbarIconSize(const QString& text);  ///< 2 when the text holds "Large Size", else 1
+
+bool IsPictureFile(const QString& name);  ///< ends in .jpg, .gif or .bmp, case ignored
+
+QString FunctionKeyName(int code);  ///< 112 to 123 give "F1" to "F12"; else empty
+
+}  // namespace mduUILib

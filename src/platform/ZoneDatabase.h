@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace platform {
+
+/// A point in time or a yearly rule, in the eight 16-bit fields of the system's structure.
+/// With `wYear` 0 it is a rule: `wMonth` 1 to 12, `wDayOfWeek` 0 (Sunday) to 6, `wDay` the
+/// occurrence (1 to 4 the first to the fourth, 5 the last) and a time of day. With any other
+/// `wYear` it is a date and `wDay` is the day of the month. The fields are signed here, because
+/// moving a rule back by a year gives `wYear` -1.
+struct SYSTEMTIME {
+    std::int16_t wYear = 0;
+    std::int16_t wMonth = 0;
+    std::int16_t wDayOfWeek = 0;
+    std::int16_t wDay = 0;
+    std::int16_t wHour = 0;
+    std::int16_t wMinute = 0;
+    std::int16_t wSecond = 0;
+    std::int16_t wMilliseconds = 0;
+
+    bool operator==(const SYSTEMTIME&) const = default;
+};
+
+/// What the machine's own zone is, as `GetTimeZoneInformation` tells it. The two biases are minutes
+/// relative to `Bias`; zone time plus (`Bias` + bias) gives GMT, so west is positive.
+struct TimeZoneInformation {
+    /// 0: the zone keeps no daylight time; 1: standard time is in force; 2: daylight time is in
+    /// force; -1: the call failed.
+    int Result = -1;
+    std::int32_t Bias = 0;
+    QString StandardName;  ///< at most 32 characters
+    SYSTEMTIME StandardDate;
+    std::int32_t StandardBias = 0;
+    QString DaylightName;  ///< at most 32 characters
+    SYSTEMTIME DaylightDate;
+    std::int32_t DaylightBias = 0;
+};
+
+/// The outcome of opening the zone database.
+enum class ZoneRoot {
+    Opened,
+    Missing,    ///< the root can't be opened
+    Unreadable  ///< the root opens, but it can't be asked what it holds
+};
+
+/// The system's zone database: subkeys (one a zone) with text values and the binary "TZI".
+class ZoneDatabase {
+public:
+    virtual ~ZoneDatabase() = default;
+
+    virtual ZoneRoot Open() const = 0;
+
+    /// The name of the subkey at @p index, from 0; nothing behind the last.
+    virtual std::optional<QString> SubkeyName(int index) const = 0;
+
+    /// A text value of a subkey: "Display", "Std" or "Dlt". Nothing if it can't be read.
+    virtual std::optional<QString> TextValue(const QString& subkey, const QString& name) const = 0;
+
+    /// The value "TZI" of a subkey: 44 bytes, little-endian. `Bias`, `StandardBias`, `DaylightBias`
+    /// (signed 32-bit minutes, the last two relative to the first) and the two transitions
+    /// `StandardDate` and `DaylightDate`, 16 bytes each. Nothing if it can't be read.
+    virtual std::optional<QByteArray> TziValue(const QString& subkey) const = 0;
+
+    virtual TimeZoneInformation GetTimeZoneInformation() const = 0;
+
+    /// The subkey of the machine's own zone; empty if there is none.
+    virtual QString LocalStandardName() const = 0;
+
+    /// Whether the platform is of the NT family: the zone database and the date rules differ.
+    virtual bool IsWindowsNT() const = 0;
+};
+
+}  // namespace platform

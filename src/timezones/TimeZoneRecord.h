@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "platform/ZoneDatabase.h"
+
+/// A time zone, identified by `StandardName`. Biases are total minutes that, added to zone time,
+/// give GMT: west is positive.
+struct TimeZoneRecord {
+    std::int32_t Bias = 0;  ///< of the database; 0 in records from elsewhere
+    QString KeyName;        ///< database subkey, or the full path of a profile
+    QString StandardName;
+    platform::SYSTEMTIME StandardDate;  ///< when standard time starts
+    std::int32_t StandardBias = 0;      ///< minutes, total
+    QString DaylightName;
+    platform::SYSTEMTIME DaylightDate;  ///< when daylight time starts
+    std::int32_t DaylightBias = 0;      ///< minutes, total
+    QString DisplayName;
+    // The rest is derived, and valid once `ApplyCurrentOffset` has run.
+    QString CurrentName;
+    float CurrentGMTHours = 0;  ///< total offset now, in hours, west positive
+    float HoursFromLocal = 0;   ///< added to the local clock, gives this zone's clock
+
+    bool operator==(const TimeZoneRecord&) const = default;
+};
+
+/// Zones from 1; index 0 is unused. It may hold empty records; readers skip them.
+using TimeZoneRecords = std::vector<TimeZoneRecord>;
