@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QStringList>
+
+#include "foundation/ClockProperty.h"
+#include "foundation/ModuleState.h"
+#include "platform/Services.h"
+#include "timezones/TimeZoneRecord.h"
+
+/// The six "Time Zone ..." keys of a property file.
+namespace mduTimeZones {
+
+/// Their names, in order.
+const QStringList& ZoneKeys();
+
+/// Lays the six keys of @p properties over @p record. An empty key is filled in from the record
+/// first. @return the names of the keys that were filled in.
+QStringList OverlayZoneKeys(TimeZoneRecord& record, ClockProperties& properties,
+                            const QDateTime& now);
+
+/// `OverlayZoneKeys`, with the file saved after each key that was filled in. @return false when the
+/// file could not be written.
+bool ReadZoneKeys(const platform::Services& services, TimeZoneRecord& record,
+                  ClockProperties& properties, const QString& path);
+
+/// Writes the six keys of the zone of that name into @p properties and the file, saved after each.
+/// A zone that nothing lists takes them from a profile file of its name instead. Gives the record
+/// back. @p written, when given, tells whether each save succeeded.
+TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable& paths,
+                             ClockProperties& properties, const QString& zoneName,
+                             const QString& path, bool* written = nullptr);
+
+/// Loads the file, then `WriteZoneKeys`.
+bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
+                     const QString& path, const QString& zoneName);
+
+/// Copies every one of the six keys that has a line in @p source.
+void CopyZoneKeys(const ClockProperties& source, ClockProperties& target);
+
+/// The whole of a clock's loading: `FindTimeZone`, `ReadZoneKeys` over it, the name where there is
+/// none, and the present offset.
+TimeZoneRecord LoadZone(const platform::Services& services, const PathTable& paths,
+                        const QString& zoneName, ClockProperties& properties, const QString& path);
+
+}  // namespace mduTimeZones
