@@ -84,10 +84,12 @@ public:
     virtual int MessageBox(const QString& text, int flags, const QString& title) = 0;
 
     /// A picker for opening a file; an empty text when it is cancelled.
-    virtual QString OpenFile(const QString& title, const QString& folder, const QString& filter) = 0;
+    virtual QString OpenFile(const QString& title, const QString& folder,
+                             const QString& filter) = 0;
 
     /// A picker for a file to be written; an empty text when it is cancelled.
-    virtual QString SaveFile(const QString& title, const QString& folder, const QString& filter) = 0;
+    virtual QString SaveFile(const QString& title, const QString& folder,
+                             const QString& filter) = 0;
 
     /// A picker for a colour, red in the low byte; -1 when it is cancelled.
     virtual int PickColour(int present) = 0;
@@ -108,7 +110,7 @@ public:
 class RandomNumbers {
 public:
     virtual ~RandomNumbers() = default;
-    virtual void Seed() = 0;   ///< starts a new sequence, from the clock or from the seed chosen
+    virtual void Seed() = 0;    ///< starts a new sequence, from the clock or from the seed chosen
     virtual double Next() = 0;  ///< the next number, from 0 up to but not including 1
 };
 
