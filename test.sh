@@ -1,0 +1,25 @@
+#!/bin/bash
+# Installs what is missing, builds Tempolark with warnings as errors and runs every test but the
+# long ones. The last line is "N passed, M failed"; the exit status is 0 when nothing failed.
+set -euo pipefail
+cd "$(dirname "$0")"
+. tools/tally.sh
+
+tools/install.sh test
+
+Say "Building in build/debug, warnings as errors"
+Check "the build" tools/build.sh debug
+
+Say "Unit and widget tests"
+Count "unit and widget tests" tools/run_tests.sh debug
+
+if [[ -x tests/e2e/run.sh ]]; then
+    Say "End-to-end tests"
+    Count "end-to-end tests" tools/with_display.sh tests/e2e/run.sh build/debug/bin
+fi
+
+Say "Rules of the house"
+Count "rules of the house" tools/check_style.sh
+Say "Tests of these rules"
+Count "tests of these rules" tests/house/run.sh
+Finish
