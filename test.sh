@@ -20,6 +20,7 @@ fi
 
 Say "Rules of the house"
 Count "rules of the house" tools/check_style.sh
-Say "Tests of these rules"
-Count "tests of these rules" tests/house/run.sh
+Say "Tests of these checks"
+Count "tests of the rules" tests/house/rules.sh
+Count "tests of the counting" tests/house/counting.sh
 Finish
