@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDateTime>
+#include <QStringList>
+
+#include "foundation/ClockProperty.h"
+#include "timezones/TimeZoneRecord.h"
+
+namespace clockcore {
+
+/// What a tick does.
+enum class ClockState : std::int16_t {
+    Loading = 0,          ///< nothing
+    Running = 1,          ///< the normal tick
+    FirstTickDue = 2,     ///< the first-tick procedure
+    RedrawRequested = 3,  ///< the redraw procedure
+    Closing = 4           ///< nothing
+};
+
+/// Working values of the face and the tick.
+struct DialState {
+    std::int16_t LastSecond = -1;  ///< of the last check for the second's sound
+    std::int16_t HourSoundCount = 0;
+    int StyleIndex = 0;
+    QStringList BackgroundList;
+    int MessageCursor = 0;
+    std::int16_t MusicIndex = 0;
+    bool EditingZoneLine = false;
+};
+
+/// The fields of one clock.
+class ClockData {
+public:
+    TimeZoneRecord Zone;
+    ClockState State = ClockState::Loading;
+    QDateTime StartTime;
+    QString ClockFormat;
+    QString PropertyFileName;
+    QString Tag = QStringLiteral("1");
+    bool ActiveEditFlag = false;
+    bool AutoStyleChange = false;
+    DialState Dial;
+
+    const ClockProperties& Properties() const { return properties_; }
+
+    /// The properties for a change. Whoever keeps values read from them reads these again when
+    /// `Revision` has moved.
+    ClockProperties& EditProperties() {
+        ++revision_;
+        return properties_;
+    }
+    int Revision() const { return revision_; }
+
+private:
+    ClockProperties properties_;
+    int revision_ = 0;
+};
+
+}  // namespace clockcore

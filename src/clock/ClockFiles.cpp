@@ -1,0 +1,121 @@
+#include "clock/ClockFiles.h"
+
+#include "foundation/FileHelpers.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "foundation/SetupPaths.h"
+#include "timezones/ZoneKeys.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+namespace {
+
+/// "/s" names the file "s.ini": a name is a file name, never a path.
+QString FileNameOfZone(const QString& zoneName) {
+    return zoneName == u"/s"_s ? u"s"_s : zoneName;
+}
+
+/// A file that is there, but is no text or is more than the reader takes in.
+bool HoldsMoreThanRead(const platform::Files& files, const QString& path, bool wasRead) {
+    if (!files.FileExists(path)) {
+        return false;
+    }
+    const std::optional<QByteArray> content = files.Read(path);
+    return !content || content->contains('\0') || (!wasRead && !content->isEmpty());
+}
+
+}  // namespace
+
+bool ClockFiles::LoadForShell(const QString& zoneName) {
+    const QString problem = mduLib::ZoneNameProblem(zoneName);
+    if (!problem.isEmpty()) {
+        report_(problem);
+        return false;
+    }
+    PathTable& paths = program_.Module.Paths;
+    const QString name = FileNameOfZone(zoneName);
+    const QString file = paths.ZoneFileFolder + mduLib::AddIniExtension(name);
+    paths.CurrentPropertyFile = file;
+    paths.TimerFile = paths.TimersFolder + name + u"Timer.txt"_s;
+    const bool merged = mduMain::RefreshCurrentPropertyFile(program_.Module, program_.Services);
+    // The merge lets other windows run, which may have become current meanwhile.
+    paths.CurrentPropertyFile = file;
+    LoadCurrent();
+    if (!merged) {
+        RefreshDefaultTimeZoneDetails(mduLib::StripIniExtension(zoneName));
+    }
+    program_.Module.CurrentProperties = data_.Properties();
+    return true;
+}
+
+void ClockFiles::LoadCurrent() {
+    data_.PropertyFileName = program_.Module.Paths.CurrentPropertyFile;
+    ReadProperties();
+}
+
+void ClockFiles::ReadProperties() {
+    const platform::Files& files = program_.Services.FileSystem;
+    ClockProperties& properties = data_.EditProperties();
+    properties.Reset();
+    const bool wasRead = mduLib::ReadPropertyFile(files, data_.PropertyFileName, properties);
+    mayWrite_ = !HoldsMoreThanRead(files, data_.PropertyFileName, wasRead);
+    if (!mayWrite_) {
+        report_(u"%1 can't be read as a property file; it is left as it is"_s.arg(
+            data_.PropertyFileName));
+    }
+}
+
+void ClockFiles::FillZone(const QString& zoneName) {
+    const QString name = mduLib::StripIniExtension(zoneName);
+    if (mayWrite_) {
+        data_.Zone = mduTimeZones::LoadZone(program_.Services, program_.Module.Paths, name,
+                                            data_.EditProperties(), data_.PropertyFileName);
+        return;
+    }
+    ClockProperties copy = data_.Properties();
+    data_.Zone = mduTimeZones::LoadZone(program_.Services, program_.Module.Paths, name, copy, {});
+}
+
+void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
+    if (mayWrite_) {
+        bool written = true;
+        mduTimeZones::WriteZoneKeys(program_.Services, program_.Module.Paths,
+                                    data_.EditProperties(), zoneName, data_.PropertyFileName,
+                                    &written);
+        if (!written) {
+            report_(u"%1 can't be written"_s.arg(data_.PropertyFileName));
+        }
+    }
+    program_.Module.CurrentProperties = data_.Properties();
+}
+
+void ClockFiles::SavePosition(float top, float left, float height, float width) {
+    ReadProperties();
+    if (!mayWrite_) {
+        return;
+    }
+    const std::pair<QString, float> values[] = {{u"Window Top"_s, top},
+                                                {u"Window Left"_s, left},
+                                                {u"Window Height"_s, height},
+                                                {u"Window Width"_s, width}};
+    bool written = true;
+    for (const auto& [name, value] : values) {
+        written = mduLib::SavePropertyNow(program_.Services.FileSystem, name,
+                                          mduAPILib::SingleText(value), data_.EditProperties(),
+                                          data_.PropertyFileName) &&
+                  written;
+    }
+    if (!written) {
+        report_(u"%1 can't be written"_s.arg(data_.PropertyFileName));
+    }
+}
+
+void ClockFiles::MakeCurrent() {
+    program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
+    program_.Module.CurrentProperties = data_.Properties();
+}
+
+}  // namespace clockcore

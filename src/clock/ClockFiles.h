@@ -1,0 +1,52 @@
+#pragma once
+
+#include "clock/ClockData.h"
+#include "foundation/Program.h"
+
+namespace clockcore {
+
+/// What a clock reads from its files and leaves in them.
+class ClockFiles {
+public:
+    /// Tells the user of a file that can't be used.
+    using Report = std::function<void(const QString&)>;
+
+    ClockFiles(ClockData& data, const Program& program, Report report)
+        : data_(data), program_(program), report_(std::move(report)) {}
+
+    /// Brings the zone's file into being or up to date, reads it, refreshes its zone keys unless it
+    /// has just been merged, and publishes the properties. @return false when the name can't be
+    /// that of a file.
+    bool LoadForShell(const QString& zoneName);
+
+    /// Reads `CurrentPropertyFile` as it stands.
+    void LoadCurrent();
+
+    /// Fills the clock's zone: the record of that name, the file's keys over it, the present
+    /// offset.
+    void FillZone(const QString& zoneName);
+
+    /// Rewrites the zone keys of the file from the zone's present rules and publishes the
+    /// properties.
+    void RefreshDefaultTimeZoneDetails(const QString& zoneName);
+
+    /// Stores the window's rectangle, in twips, into the file as it now stands on disk.
+    void SavePosition(float top, float left, float height, float width);
+
+    /// Names this clock's file and properties as the current ones.
+    void MakeCurrent();
+
+    /// False for a file that could not be read whole: it is never written, so that nothing in it
+    /// is lost.
+    bool MayWrite() const { return mayWrite_; }
+
+private:
+    void ReadProperties();
+
+    ClockData& data_;
+    Program program_;
+    Report report_;
+    bool mayWrite_ = true;
+};
+
+}  // namespace clockcore

@@ -1,0 +1,200 @@
+#include "clock/ClockTick.h"
+
+#include "clock/ClockMode.h"
+#include "foundation/Dates.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyLookup.h"
+#include "timezones/ZoneArithmetic.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+namespace {
+
+constexpr int NormalInterval = 1000;  // milliseconds
+constexpr int FirstTickInterval = 10;
+constexpr int StyleRhythm = 10;  // seconds
+
+}  // namespace
+
+QString ClockTimeText(const QDateTime& clockTime) {
+    const QTime time = clockTime.time();
+    return u"%1 %2:%3:%4"_s.arg(mduAPILib::ShortDate(clockTime.date()))
+        .arg(time.hour())
+        .arg(time.minute(), 2, 10, u'0')
+        .arg(time.second(), 2, 10, u'0');
+}
+
+void ClockTick::Tick() {
+    switch (data_.State) {
+        case ClockState::Loading:
+        case ClockState::Closing:
+            break;
+        case ClockState::FirstTickDue:
+            FirstTick();
+            break;
+        case ClockState::RedrawRequested:
+            Redraw();
+            break;
+        default:
+            NormalTick();
+    }
+}
+
+bool ClockTick::Is(int kind) const {
+    return IsClockMode(data_.Tag, kind);
+}
+
+bool ClockTick::IsAnalogue() const {
+    return Is(Analogue) || Is(AnalogueAndDigital);
+}
+
+void ClockTick::FirstTick() {
+    parts_.Window.HideHandShapes();
+    parts_.Placement.ApplyWindowState();
+    parts_.Background.LoadClockPicture();
+    parts_.Overlays.LayOutOverlays();
+    parts_.Voice.PrepareSpeaker();
+    if (Is(Wrapper)) {
+        FirstTickOfWrapper();
+        return;
+    }
+    parts_.Placement.SetClockCaption();
+    parts_.Placement.ApplyWindowRect();
+    parts_.Timers.SetTemplate();
+    parts_.Timers.LoadTimers(module_.Paths.TimerFile);
+    parts_.Voice.FillVoiceMenu();
+    parts_.Styles.RecordProgramFolder();
+    parts_.Face.ApplyWindowBackground();
+    parts_.Background.ApplyTransparency();
+    parts_.Face.ReadDigitalFormat();
+    parts_.Face.PrepareClockFace();
+    data_.State = ClockState::Running;
+    parts_.Overlays.LoadFlag();
+    parts_.Placement.ApplyWindowBorder();
+    parts_.Placement.ApplyTitleBar();
+    parts_.Background.SetWindowShape();
+    RequestRedraw();
+    parts_.Placement.ShowClockWindow(true);
+    parts_.Window.SetTimerInterval(FirstTickInterval);
+    parts_.Menus.FillMenuArrays();
+    parts_.Dial.ApplyClockSpecial();
+    parts_.Window.SetTimerInterval(NormalInterval);
+}
+
+// The state stays as it is: a wrapper repeats these steps on every tick.
+void ClockTick::FirstTickOfWrapper() {
+    parts_.Face.ApplyWindowBackground();
+    if (IsAnalogue()) {
+        parts_.Dial.DrawDialNumbers(true, {}, true);
+    }
+}
+
+void ClockTick::Redraw() {
+    parts_.Window.Cls();
+    parts_.Window.LockWindowUpdate(true);
+    parts_.Placement.ApplyWindowBorder();
+    parts_.Placement.ApplyWindowBorder();
+    parts_.Placement.ApplyTitleBar();
+    if (IsAnalogue()) {
+        parts_.Dial.DrawDialNumbers(true, {}, true);
+    }
+    const QDateTime clockTime = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
+    parts_.Dial.ShowMinuteSpots(clockTime.time().hour());
+    parts_.Overlays.SetSpeakerPosition();
+    parts_.Overlays.SetTransparentIconPosition();
+    parts_.Window.LockWindowUpdate(false);
+    parts_.Background.ApplySurface();
+    data_.State = ClockState::Running;
+    parts_.Face.DrawClockFace();
+}
+
+void ClockTick::NormalTick() {
+    RefreshTickValues();
+    if (StayTimeIsOver()) {
+        parts_.Window.CloseClock();
+        return;
+    }
+    HandleFocus();
+    const QDateTime now = clock_.Now();
+    parts_.Timers.CheckTimers(ClockTimeText(mduTimeZones::GetClockTime(data_.Zone, now)));
+    parts_.Spoken.CheckSpokenTime();
+    parts_.Face.DrawClockFace();
+    PlaySounds();
+    parts_.Messages.RunMessage(mduAPILib::ToInt16(parts_.Window.ScaleLeft()),
+                               mduAPILib::ToInt16(parts_.Window.ScaleWidth()));
+    const int localSecond = now.time().second();
+    RotateStyle(localSecond);
+    RotateBackground(localSecond);
+    parts_.Music.CheckMusic();
+}
+
+void ClockTick::RefreshTickValues() {
+    if (revisionRead_ == data_.Revision()) {
+        return;
+    }
+    revisionRead_ = data_.Revision();
+    stayTime_ = mduAPILib::Val(mduLib::GetPropertyRaw(u"Stay Time"_s, data_.Properties()));
+    autoBackground_ = mduAPILib::IntegerValue(
+        mduLib::GetProperty(u"Auto Background Display"_s, data_.Properties()));
+}
+
+bool ClockTick::StayTimeIsOver() const {
+    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !Is(Wrapper) &&
+           static_cast<double>(data_.StartTime.secsTo(clock_.Now())) > stayTime_;
+}
+
+// Returns the tick to its normal rate after the fast rate of the dial editors.
+void ClockTick::HandleFocus() {
+    const ClockWindow& window = parts_.Window;
+    const bool active = window.IsActiveForm() && (window.IsMDIChild() || window.IsActiveWindow());
+    if (active && !data_.ActiveEditFlag && window.IsEnabled()) {
+        return;
+    }
+    if (data_.ActiveEditFlag && active && window.IsEnabled()) {
+        if (IsAnalogue()) {
+            parts_.Dial.DrawDialNumbers(true, {}, true);
+        }
+    } else if (window.TimerInterval() != NormalInterval) {
+        parts_.Window.SetTimerInterval(NormalInterval);
+    }
+}
+
+// Only a clock without a shell sounds the hour and the seconds.
+void ClockTick::PlaySounds() {
+    if (parts_.Window.TimerInterval() != NormalInterval || parts_.Window.IsMDIChild()) {
+        return;
+    }
+    if (!parts_.Sounds.PlayHourSound()) {
+        parts_.Sounds.PlaySecondSound();
+    }
+}
+
+void ClockTick::RotateStyle(int localSecond) {
+    if (data_.AutoStyleChange && localSecond % StyleRhythm == 0) {
+        parts_.Styles.ApplyNextStyle();
+    }
+}
+
+void ClockTick::RotateBackground(int localSecond) {
+    if (autoBackground_ > 0 && localSecond % autoBackground_ == 0) {
+        parts_.Background.ShowAutoBackground();
+    }
+}
+
+void ClockTick::RequestRedraw() {
+    if (IsAnalogue()) {
+        parts_.Overlays.SetSunMoon();
+    }
+    if (Is(Digital) || Is(AnalogueAndDigital)) {
+        parts_.Digital.SetDigitalLayout();
+    }
+    if (Is(Calculator) || Is(CalculatorInput)) {
+        parts_.Calculator.SetCalculatorLayout();
+    }
+    parts_.Timers.PlaceTimerMarks();
+    data_.State = ClockState::RedrawRequested;
+}
+
+}  // namespace clockcore

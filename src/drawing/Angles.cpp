@@ -1,0 +1,53 @@
+#include "drawing/Angles.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace drawing {
+
+namespace {
+
+HandAngles Forward(const HandTime& time) {
+    return {Pi - Pi * time.Hour / 6 - Pi * time.Minute / 360, Pi - TwoPi * time.Minute / 60,
+            Pi - TwoPi * time.Second / 60};
+}
+
+HandAngles Mirrored(const HandTime& time) {
+    const HandAngles forward = Forward(time);
+    return {-forward.Hour, -forward.Minute, -forward.Second};
+}
+
+bool OnLeftHours(int hour) {
+    return (hour > 6 && hour < 12) || (hour > 18 && hour < 24);
+}
+
+bool OnLeftMinutes(int value) {
+    return value > 30 && value < 60;
+}
+
+}  // namespace
+
+HandAngles AnglesAt(const HandTime& time, const QString& clockSpecial) {
+    const HandAngles forward = Forward(time);
+    const HandAngles mirrored = Mirrored(time);
+    if (clockSpecial == u"Analogue Backward"_s) {
+        return mirrored;
+    }
+    const bool rightHalf = clockSpecial == u"Analogue Right Half"_s;
+    if (!rightHalf && clockSpecial != u"Analogue Left Half"_s) {
+        return forward;
+    }
+    // On the right half, what would lie left is mirrored; on the left half, what would lie right.
+    return {OnLeftHours(time.Hour) == rightHalf ? mirrored.Hour : forward.Hour,
+            OnLeftMinutes(time.Minute) == rightHalf ? mirrored.Minute : forward.Minute,
+            OnLeftMinutes(time.Second) == rightHalf ? mirrored.Second : forward.Second};
+}
+
+HandTime ReadHandTime(const QString& caption) {
+    const QStringList parts = caption.split(u':');
+    const auto part = [&parts](qsizetype index) { return parts.value(index).trimmed().toInt(); };
+    return {part(0), part(1), part(2)};
+}
+
+}  // namespace drawing

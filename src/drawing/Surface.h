@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QImage>
+#include <QRegion>
+
+namespace drawing {
+
+/// A clock's drawing surface: an opaque bitmap in device pixels. Colours are numbers with red in
+/// the low byte. What lies outside is clipped.
+class Surface {
+public:
+    /// @param devicePixelRatio device pixels per logical pixel (96 per inch)
+    Surface(int scaleWidth, int scaleHeight, double devicePixelRatio);
+
+    int ScaleWidth() const { return image_.width(); }
+    int ScaleHeight() const { return image_.height(); }
+    double TwipsPerPixel() const { return 15.0 / devicePixelRatio_; }
+
+    /// The window's outer height in twips; it differs from the surface's where there is a frame.
+    int Height() const { return height_; }
+    void SetHeight(int twips) { height_ = twips; }
+
+    /// Clears the whole surface to a colour.
+    void Cls(int colour);
+
+    /// A straight line in the style solid, @p drawWidth pixels wide (below 1: a hairline). Ends are
+    /// pixel centres and belong to the line.
+    void Line(int x1, int y1, int x2, int y2, int colour, int drawWidth);
+
+    void SetPixel(int x, int y, int colour);
+
+    /// Limits all drawing to a part of the surface; null means no limit.
+    void SetClip(const QRegion& region);
+
+    const QImage& Image() const { return image_; }
+    QImage& Image() { return image_; }
+
+private:
+    QImage image_;
+    double devicePixelRatio_;
+    int height_;
+    QRegion clip_;
+    bool clipped_ = false;
+};
+
+/// The bitmap's form of a colour number.
+QRgb ToRgb(int colour);
+
+}  // namespace drawing

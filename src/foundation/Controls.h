@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <QString>
+#include <memory>
+#include <vector>
+
+/// The windowless controls of a clock: plain values that the clock paints in order and hits by
+/// rectangle. A clock has hundreds of them, so none is a widget.
+namespace mduUILib {
+
+enum class ControlKind { Picture, TextBox, Image, Shape, Label };
+
+/// One control. Measures are in device pixels of the surface it stands on.
+struct Control {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    bool Visible = false;
+    bool Enabled = true;
+    int ForeColor = 0;  ///< red in the low byte
+    QString Caption;
+    QString Tag;
+    QString ToolTipText;
+    QFont Font;
+    std::shared_ptr<const QImage> Picture;  ///< shared between clocks; null for none
+};
+
+/// A control array: members of one name and kind, numbered from `First`.
+struct ControlArray {
+    QString Name;
+    ControlKind Kind = ControlKind::Label;
+    int First = 1;
+    std::vector<Control> Members;
+
+    int Count() const { return static_cast<int>(Members.size()); }
+    Control& operator()(int index) { return Members[static_cast<std::size_t>(index - First)]; }
+    const Control& operator()(int index) const {
+        return Members[static_cast<std::size_t>(index - First)];
+    }
+};
+
+/// The controls of one clock window, as they stand when it is created. Only the timer slots
+/// (`txtMsg`, `imgTimer`) grow later.
+struct ClockControls {
+    ClockControls();
+
+    ControlArray picFrame, txtMsg, imgSpeaker, shpArea, imgAction, lblLocation, imgSunMoon,
+        shpHourHand, shpMinuteHand, shpSecondHand, lblDigitalNumber, imgTimer, imgClockNumber,
+        lblHour, lblMsg, lblActionMsg, lblClock, lblTimeInput, lblTimeOutput, imgFlag, imgClock;
+
+    /// All arrays, in the order above.
+    std::vector<ControlArray*> All();
+};
+
+}  // namespace mduUILib

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+/// The application's list of loaded windows, and what windows may ask of each other. Neither the
+/// shell nor the clock knows the other's class.
+
+class IClock;
+
+/// Bits of a window's style that the menus filter on.
+namespace WindowStyle {
+inline constexpr std::uint32_t Disabled = 0x8000000;
+inline constexpr std::uint32_t Maximised = 0x1000000;
+inline constexpr std::uint32_t Minimised = 0x20000000;
+}  // namespace WindowStyle
+
+/// A loaded window.
+class IForm {
+public:
+    virtual ~IForm() = default;
+
+    virtual QString Name() const = 0;  ///< the window's class, such as "frmTempolark"
+    virtual QString Caption() const = 0;
+    virtual int hwnd() const = 0;         ///< the handle that menus keep; above 0
+    virtual int WindowState() const = 0;  ///< 0 normal, 1 minimised, 2 maximised
+    virtual void SetWindowState(int state) = 0;
+    virtual bool IsEnabled() const = 0;
+    virtual void EnableWindow(bool enabled) = 0;
+    virtual void Show() = 0;
+    virtual void SetFocus() = 0;
+    /// Closes the window. It may leave `Forms` at once or when the event loop runs next.
+    virtual void Unload() = 0;
+
+    /// The window as a clock; null for any other window.
+    virtual IClock* AsClock() { return nullptr; }
+
+    /// Style bits made of the state and the enabled switch.
+    std::uint32_t Style() const;
+};
+
+class IShell;
+
+/// A clock, as the shell sees it.
+class IClock : public IForm {
+public:
+    IClock* AsClock() override { return this; }
+
+    /// Loads the clock of a zone as a child of the shell. @return false when that failed.
+    virtual bool ShowMeMDIChild(const QString& zoneName) = 0;
+    virtual void SetClocks(int mode) = 0;  ///< 1 Analogue, 2 Digital, 3 Calculator, 4 both
+    virtual void SetClockStyle(const QString& styleFile) = 0;
+    /// @p caption is that of the menu item; with "Custom" @p value is the colour already picked.
+    virtual void SetWindowBackColour(const QString& value, const QString& caption) = 0;
+    virtual void SaveCurrentStyle() = 0;
+    virtual void RefreshForm(const QString& fileName) = 0;
+    virtual void Refresh() = 0;  ///< paints the window anew
+    /// Lays the clock out again after it came back to its normal size.
+    virtual void LayOutAgain() = 0;
+
+    virtual int DrawStyle() const = 0;  ///< 1 while the clock shows the shell behind itself
+    virtual void SetBackColor(int colour) = 0;
+};
+
+/// The shell, as a clock and the other windows see it.
+class IShell {
+public:
+    virtual ~IShell() = default;
+
+    virtual void ShowStatusMsg(const QString& text) = 0;
+    /// @return the button pressed: 1 OK, 6 Yes, 7 No
+    virtual int ShowMsgbox(const QString& text, int flags, const QString& title) = 0;
+    /// Takes the exchange slot over as the shell's own settings. @return a new clock's handle or 0
+    virtual int RefreshForm(const QString& zoneName) = 0;
+    virtual void SpeakMessage(const QString& text) = 0;
+    virtual void PurgeSpeech() = 0;
+    virtual void DoMenuItem(float menuId, int index) = 0;
+    virtual int BackColor() const = 0;
+};
+
+/// The loaded windows in the order of their creation, counted from 0. The shell is the first.
+class Forms {
+public:
+    int Count() const { return static_cast<int>(windows_.size()); }
+    IForm& operator[](int index) const { return *windows_[static_cast<std::size_t>(index)]; }
+
+    void Add(IForm& window) { windows_.push_back(&window); }
+    void Remove(const IForm& window) { std::erase(windows_, &window); }
+
+    /// The window with this handle; null if there is none.
+    IForm* Find(int handle) const;
+
+    /// A handle that no window of this run has had.
+    int NewHandle() { return ++lastHandle_; }
+
+private:
+    std::vector<IForm*> windows_;
+    int lastHandle_ = 1000;
+};
+
+/// The name of every clock window.
+inline const QString ClockWindowName = QStringLiteral("frmTempolark");

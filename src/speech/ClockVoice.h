@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+namespace speech {
+
+/// The voice of one clock, its menu and its mark.
+class ClockVoice {
+public:
+    virtual ~ClockVoice() = default;
+
+    virtual void PrepareSpeaker() {}
+    virtual void FillVoiceMenu() {}
+    virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, bool /*force*/) {}
+    virtual void PurgeSpeech(bool /*force*/) {}
+};
+
+/// The spoken time of one clock.
+class SpokenTime {
+public:
+    virtual ~SpokenTime() = default;
+
+    /// Speaks the shortest unit whose pattern is due, unless a message or an action is showing.
+    virtual void CheckSpokenTime() {}
+};
+
+/// The music and sounds of one clock.
+class ClockMusic {
+public:
+    virtual ~ClockMusic() = default;
+
+    virtual void CheckMusic() {}
+    virtual void PlaySound(const QString& /*path*/) {}
+    virtual void StopMusic() {}
+};
+
+}  // namespace speech

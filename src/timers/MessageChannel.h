@@ -1,0 +1,15 @@
+#pragma once
+
+namespace timers {
+
+/// The one running message of a clock, and the action that counts down.
+class MessageChannel {
+public:
+    virtual ~MessageChannel() = default;
+
+    /// Moves the message by one step. @p left and @p width are those of the drawing surface.
+    virtual void RunMessage(int /*left*/, int /*width*/) {}
+    virtual void HideMessage() {}
+};
+
+}  // namespace timers

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+namespace timers {
+
+/// The timers of one clock: their slots, their file and their firing.
+class TimerSlots {
+public:
+    virtual ~TimerSlots() = default;
+
+    /// Gives slot 1 the colour of "Message Colour" and the sound of "Timer Sound File", as the
+    /// template of new timers.
+    virtual void SetTemplate() {}
+    virtual void LoadTimers(const QString& /*path*/) {}
+    virtual void SaveTimer(const QString& /*path*/) {}
+    /// Places all marks on the dial anew.
+    virtual void PlaceTimerMarks() {}
+    /// Fires what is due at the clock's time, given as date and time text.
+    virtual void CheckTimers(const QString& /*clockTime*/) {}
+};
+
+}  // namespace timers
