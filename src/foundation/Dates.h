@@ -17,10 +17,12 @@ struct ParsedMoment {
 };
 
 /// Reads "d/m/yyyy", "d/m" (in the present year), "h:mm", "h:mm:ss", each time optionally with AM
-/// or PM behind it, or a date and a time with blanks between. Nothing for any other text.
+/// or PM behind it, or a date and a time with blanks between. Nothing for any other text. An hour
+/// above 12 may stand before PM, as in "15:00 PM", but not before AM.
 std::optional<ParsedMoment> ParseMoment(const QString& text, int presentYear);
 
-QString ShortDate(const QDate& date);  ///< "25/03/2008"
+QString ShortDate(const QDate& date);         ///< "25/03/2008"
+QString MomentText(const QDateTime& moment);  ///< "25/03/2008 9:05:07"
 
 /// Date and time from parts; a part out of its range gives nothing. Years run from 100 to 9999.
 std::optional<QDate> ValidDate(int day, int month, int year);

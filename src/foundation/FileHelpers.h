@@ -10,14 +10,18 @@ namespace mduLib {
 QString ToNativePath(const QString& stored);  ///< "\" becomes the native separator
 QString ToStoredPath(const QString& native);
 
-bool FileExists(const platform::Files& files, const QString& path);  ///< false for a file named "-1"
+/// Whether a plain file of that name exists; false for one that is named "-1".
+bool FileExists(const platform::Files& files, const QString& path);
 bool TrimmedFileExists(const platform::Files& files, QString& path);  ///< trims it in place
 void EnsureFolder(platform::Files& files, const QString& path);       ///< one level
+
+/// @return false when the destination exists and @p overwrite is off, or when copying fails.
 bool CopyFileTo(platform::Files& files, const QString& source, const QString& destination,
                 bool overwrite);
 void DeleteFileNow(platform::Files& files, const QString& path);
 
-/// The last-modified time as text when the file exists and @p kind is 4; otherwise empty.
+/// The last-modified time as text ("25/03/2008 9:05:07", in GMT) when the file exists and @p kind
+/// is 4; otherwise empty.
 QString FileModifiedTime(const platform::Files& files, const QString& path, int kind);
 
 QString AddIniExtension(const QString& name);    ///< unless it holds ".ini" anywhere, case ignored
@@ -27,6 +31,7 @@ QString FileBaseName(const QString& path, bool keepExtension);
 /// ".\x" is @p appFolder + separator + x, in native form; any other path only becomes native.
 QString ResolveAppPath(const QString& path, const QString& appFolder);
 
+/// Replaces a file with the text and a line end.
 bool WriteTextFile(platform::Files& files, const QString& text, const QString& path);
 
 /// The names of a folder's files that hold @p filter, each followed by @p separator.
@@ -39,5 +44,8 @@ bool IsOlderThan(const platform::Files& files, const QString& userFile, const QS
 /// Why @p name can't become a file name: a path separator, "..", a control character, or too long.
 /// Empty when it can. "/s" is let through: it is the name of the screen-saver run.
 QString ZoneNameProblem(const QString& name);
+
+/// What a zone's files are named after: the zone name, and "s" for the screen-saver run "/s".
+QString ZoneFileStem(const QString& zoneName);
 
 }  // namespace mduLib

@@ -1,0 +1,122 @@
+#include "foundation/NamedValues.h"
+
+#include <limits>
+
+#include "foundation/Numbers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mduUILib {
+
+namespace {
+
+struct NamedColour {
+    QLatin1StringView Name;
+    int Value;
+};
+
+// White stays off the transparent key: a white hand on a transparent window must not vanish.
+constexpr NamedColour Colours[] = {
+    {"Red"_L1, 0x0000FF},         {"Black"_L1, 0x000000},
+    {"Green"_L1, 0x00FF00},       {"Yellow"_L1, 0x00FFFF},
+    {"Blue"_L1, 0xFF0000},        {"Magenta"_L1, 0xFF00FF},
+    {"Cyan"_L1, 0xFFFF00},        {"White"_L1, 0xFFFFFD},
+    {"White"_L1, TransparentKey}, {"Transparent"_L1, TransparentWindow}};
+
+int RandomColour(platform::RandomNumbers& random) {
+    random.Seed();
+    const int blue = static_cast<int>(random.Next() * 255.0);
+    const int green = static_cast<int>(random.Next() * 255.0);
+    const int red = static_cast<int>(random.Next() * 255.0);
+    return blue << 16 | green << 8 | red;
+}
+
+int ColourNumber(const QString& text) {
+    const double value = mduAPILib::Val(text);
+    const bool fits =
+        value >= std::numeric_limits<int>::min() && value <= std::numeric_limits<int>::max();
+    return fits && mduAPILib::IsNumeric(text) ? mduAPILib::RoundToInteger(value) : 0;
+}
+
+}  // namespace
+
+int ColourValue(QString& text, platform::RandomNumbers& random) {
+    text = text.trimmed().toLower();
+    if (text == "random"_L1) {
+        return RandomColour(random);
+    }
+    if (text == "transparent"_L1) {
+        return TransparentKey;
+    }
+    for (const NamedColour& colour : Colours) {
+        if (text.compare(colour.Name, Qt::CaseInsensitive) == 0) {
+            return colour.Value;
+        }
+    }
+    return ColourNumber(text);
+}
+
+int ColourValue(QString&& text, platform::RandomNumbers& random) {
+    return ColourValue(text, random);
+}
+
+QString ColourName(int colour) {
+    for (const NamedColour& named : Colours) {
+        if (named.Value == colour) {
+            return named.Name;
+        }
+    }
+    return QString::number(colour);
+}
+
+bool IsCustomColour(const QString& text) {
+    return text == "Custom"_L1;
+}
+
+bool YesNoToBool(const QString& text) {
+    return text.trimmed().compare("no"_L1, Qt::CaseInsensitive) != 0;
+}
+
+QString BoolToYesNo(bool flag) {
+    return flag ? u"Yes"_s : u"No"_s;
+}
+
+bool IsNoneValue(const QString& text) {
+    return text.isEmpty() || text == "0"_L1 || text == "None"_L1;
+}
+
+int WindowStateValue(const QString& text) {
+    if (text.compare("maximized"_L1, Qt::CaseInsensitive) == 0) {
+        return 2;
+    }
+    return text.compare("minimized"_L1, Qt::CaseInsensitive) == 0 ? 1 : 0;
+}
+
+QString WindowStateName(int state) {
+    return state == 2 ? u"Maximized"_s : state == 1 ? u"Minimized"_s : u"Normal"_s;
+}
+
+int WindowBorderValue(const QString& text) {
+    return text == "No Border"_L1 ? 1 : text == "3D Border"_L1 ? 3 : text == "Classic"_L1 ? 7 : 0;
+}
+
+QString ToolbarPositionName(int code, bool visible) {
+    const QStringList names = {u"None"_s, u"Top"_s, u"Bottom"_s, u"Left"_s, u"Right"_s};
+    const QString name = names[code >= 1 && code <= 4 ? code : 0];
+    return visible ? name : name + u":Hide"_s;
+}
+
+int ToolbarIconSize(const QString& text) {
+    return text.contains("Large Size"_L1) ? 2 : 1;
+}
+
+bool IsPictureFile(const QString& name) {
+    const QString ending = name.right(4).toUpper();
+    return ending == ".JPG"_L1 || ending == ".GIF"_L1 || ending == ".BMP"_L1;
+}
+
+QString FunctionKeyName(int code) {
+    return code >= 112 && code <= 123 ? u'F' + QString::number(code - 111) : QString();
+}
+
+}  // namespace mduUILib

@@ -1,0 +1,209 @@
+#include "foundation/SetupPaths.h"
+
+#include <QCoreApplication>
+
+#include "foundation/FileHelpers.h"
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyMerge.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mduMain {
+
+namespace {
+
+// A step that fails ends its routine without a word; what has been set stays set.
+enum class Step { Done, Failed };
+
+void LetEventsRun() {
+    if (QCoreApplication::instance() != nullptr) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
+bool Merge(platform::Files& files, const QString& userFile, const QString& defaultFile) {
+    return mduLib::MergePropertyFile(files, userFile, defaultFile, userFile, LetEventsRun);
+}
+
+// An account name may hold a separator ("DOMAIN\name") and must still be one folder below
+// AppFolder.
+QString AccountFolderName(const QString& userName) {
+    QString name = userName;
+    for (QChar& character : name) {
+        if (character == u'/' || character == u'\\' || character < u' ') {
+            character = u'_';
+        }
+    }
+    return name == "."_L1 || name == ".."_L1 ? u"_"_s : name;
+}
+
+QString MakeFolder(platform::Files& files, const QString& folder) {
+    mduLib::EnsureFolder(files, folder);
+    return folder;
+}
+
+Step CopyUnlessThere(platform::Files& files, const QString& source, const QString& destination) {
+    if (mduLib::FileExists(files, destination) ||
+        mduLib::CopyFileTo(files, source, destination, false)) {
+        return Step::Done;
+    }
+    return Step::Failed;
+}
+
+Step SetShortcutsFile(PathTable& paths, platform::Files& files) {
+    paths.ShortcutsFile = paths.DataFolder + u"/Shortcuts.txt"_s;
+    const QString defaultFile = paths.DefaultShortcutsFile();
+    if (!mduLib::FileExists(files, paths.ShortcutsFile)) {
+        return CopyUnlessThere(files, defaultFile, paths.ShortcutsFile);
+    }
+    if (!mduLib::FileExists(files, defaultFile)) {
+        return Step::Failed;
+    }
+    if (mduLib::IsOlderThan(files, paths.ShortcutsFile, defaultFile)) {
+        Merge(files, paths.ShortcutsFile, defaultFile);
+    }
+    return Step::Done;
+}
+
+Step SetPathsOfUser(PathTable& paths, platform::Files& files, const QString& userName,
+                    const QString& zoneStem) {
+    paths.DataFolder = MakeFolder(files, paths.AppFolder + u'/' + AccountFolderName(userName));
+    paths.ZoneFileFolder = MakeFolder(files, paths.DataFolder + u"/TimeZones/"_s);
+    paths.TimersFolder = MakeFolder(files, paths.DataFolder + u"/Timers/"_s);
+    paths.TimerFile = paths.TimersFolder + zoneStem + u"Timer.txt"_s;
+    paths.ActionFile = paths.DataFolder + u"/Action.txt"_s;
+    if (CopyUnlessThere(files, paths.DefaultActionFile(), paths.ActionFile) == Step::Failed) {
+        return Step::Failed;
+    }
+    paths.AutoStartFile = paths.DataFolder + u"/AutoStart.txt"_s;
+    return SetShortcutsFile(paths, files);
+}
+
+void SetPathsWithoutUser(PathTable& paths) {
+    paths.ZoneFileFolder = paths.AppFolder + u"/TimeZones/"_s;
+    paths.ShortcutsFile = paths.DefaultShortcutsFile();
+    paths.ActionFile = paths.DefaultActionFile();
+    paths.TimersFolder = paths.AppFolder + u"/Timer/"_s;
+    paths.AutoStartFile = paths.AppFolder + u"/AutoStart.txt"_s;
+}
+
+enum class DefaultFile { There, Lost, CopyFailed };
+
+// A lost default comes back from the user's own file.
+DefaultFile GuardDefaultFile(const PathTable& paths, platform::Files& files) {
+    const QString defaultFile = paths.ZoneDefaultFile();
+    if (mduLib::FileExists(files, defaultFile)) {
+        return DefaultFile::There;
+    }
+    if (!mduLib::FileExists(files, paths.CurrentPropertyFile)) {
+        return DefaultFile::Lost;
+    }
+    return mduLib::CopyFileTo(files, paths.CurrentPropertyFile, defaultFile, true)
+               ? DefaultFile::There
+               : DefaultFile::CopyFailed;
+}
+
+SetupResult ReportLostDefault(const PathTable& paths, platform::Dialogs& dialogs) {
+    constexpr int CriticalIcon = 16;
+    dialogs.MessageBox(paths.ZoneDefaultFile() + u" is not found"_s, CriticalIcon,
+                       u"Tempolark System Error"_s);
+    return SetupResult::DefaultFileLost;
+}
+
+enum class Refreshed { Nothing, Created, Merged };
+
+// File names of the system know no letter case, so that without a user the zone folder is the
+// folder of profiles, which exists by now; where they do, it is a folder of its own.
+Refreshed BringUpToDate(const PathTable& paths, platform::Files& files, const QString& file,
+                        const QString& defaultFile) {
+    if (!mduLib::FileExists(files, file)) {
+        if (paths.DataFolder.isEmpty()) {
+            mduLib::EnsureFolder(files, paths.ZoneFileFolder);
+        }
+        return mduLib::CopyFileTo(files, defaultFile, file, false) ? Refreshed::Created
+                                                                   : Refreshed::Nothing;
+    }
+    return mduLib::IsOlderThan(files, file, defaultFile) && Merge(files, file, defaultFile)
+               ? Refreshed::Merged
+               : Refreshed::Nothing;
+}
+
+SetupResult SetCurrentPropertyFile(ModuleState& state, const platform::Services& services,
+                                   const QString& zoneStem) {
+    PathTable& paths = state.Paths;
+    platform::Files& files = services.FileSystem;
+    const QString stem = zoneStem.isEmpty() ? CentralExeName : zoneStem;
+    paths.CurrentPropertyFile = paths.ZoneFileFolder + mduLib::AddIniExtension(stem);
+    switch (GuardDefaultFile(paths, files)) {
+        case DefaultFile::Lost:
+            return ReportLostDefault(paths, services.Dialog);
+        case DefaultFile::CopyFailed:
+            return SetupResult::Done;
+        case DefaultFile::There:
+            break;
+    }
+    if (BringUpToDate(paths, files, paths.CurrentPropertyFile, paths.ZoneDefaultFile()) ==
+        Refreshed::Created) {
+        state.NewPropertyFileCreated = true;
+    }
+    return SetupResult::Done;
+}
+
+void ReadList(const platform::Files& files, const QString& path, ClockProperties& list) {
+    list.Reset();
+    mduLib::ReadPropertyFile(files, path, list);
+}
+
+}  // namespace
+
+SetupResult SetupPaths(ModuleState& state, const platform::Services& services, QString& zoneName) {
+    zoneName = zoneName.trimmed();
+    PathTable& paths = state.Paths;
+    platform::Files& files = services.FileSystem;
+    paths.SoundFilesFolder = paths.AppFolder + u"/SoundFiles/"_s;
+    paths.ImagesFolder = paths.AppFolder + u"/Images/"_s;
+    paths.ProfileFolder = MakeFolder(files, paths.AppFolder + u"/Timezones/"_s);
+    paths.StylesFolder = MakeFolder(files, paths.AppFolder + u"/Styles/"_s);
+    paths.MusicFolder = MakeFolder(files, paths.AppFolder + u"/Music/"_s);
+    paths.UserName = services.User.UserName().trimmed();
+    return SetupUserFiles(state, services, paths.UserName, zoneName);
+}
+
+SetupResult SetupUserFiles(ModuleState& state, const platform::Services& services,
+                           const QString& userName, const QString& zoneName) {
+    const bool usable = mduLib::ZoneNameProblem(zoneName).isEmpty();
+    const QString zoneStem = usable ? mduLib::ZoneFileStem(zoneName) : QString();
+    if (userName.isEmpty()) {
+        SetPathsWithoutUser(state.Paths);
+    } else if (SetPathsOfUser(state.Paths, services.FileSystem, userName, zoneStem) ==
+               Step::Failed) {
+        return SetupResult::Done;
+    }
+    return SetCurrentPropertyFile(state, services, zoneStem);
+}
+
+bool RefreshCurrentPropertyFile(ModuleState& state, const platform::Services& services) {
+    const PathTable& paths = state.Paths;
+    return BringUpToDate(paths, services.FileSystem, paths.CurrentPropertyFile,
+                         paths.ZoneDefaultFile()) == Refreshed::Merged;
+}
+
+SetupResult SetupFiles(ModuleState& state, const platform::Services& services, QString zoneName,
+                       ClockProperties& centralProperties) {
+    const SetupResult result = SetupPaths(state, services, zoneName);
+    if (result != SetupResult::Done) {
+        return result;
+    }
+    PathTable& paths = state.Paths;
+    const platform::Files& files = services.FileSystem;
+    const QString& folder = paths.DataFolder.isEmpty() ? paths.AppFolder : paths.DataFolder;
+    paths.CentralFile = folder + u'/' + CentralExeName + u".ini"_s;
+    BringUpToDate(paths, services.FileSystem, paths.CentralFile, paths.CentralDefaultFile());
+    ReadList(files, paths.ShortcutsFile, state.ShortcutList);
+    ReadList(files, paths.CentralFile, centralProperties);
+    state.CurrentProperties = centralProperties;
+    ReadList(files, paths.AutoStartFile, state.AutoStartList);
+    return result;
+}
+
+}  // namespace mduMain
