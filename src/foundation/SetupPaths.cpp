@@ -156,15 +156,22 @@ void ReadList(const platform::Files& files, const QString& path, ClockProperties
 
 }  // namespace
 
+void NameProgramFolders(PathTable& paths) {
+    paths.SoundFilesFolder = paths.AppFolder + u"/SoundFiles/"_s;
+    paths.ImagesFolder = paths.AppFolder + u"/Images/"_s;
+    paths.ProfileFolder = paths.AppFolder + u"/Timezones/"_s;
+    paths.StylesFolder = paths.AppFolder + u"/Styles/"_s;
+    paths.MusicFolder = paths.AppFolder + u"/Music/"_s;
+}
+
+// Sounds and pictures come with the program: their folders are never made.
 SetupResult SetupPaths(ModuleState& state, const platform::Services& services, QString& zoneName) {
     zoneName = zoneName.trimmed();
     PathTable& paths = state.Paths;
-    platform::Files& files = services.FileSystem;
-    paths.SoundFilesFolder = paths.AppFolder + u"/SoundFiles/"_s;
-    paths.ImagesFolder = paths.AppFolder + u"/Images/"_s;
-    paths.ProfileFolder = MakeFolder(files, paths.AppFolder + u"/Timezones/"_s);
-    paths.StylesFolder = MakeFolder(files, paths.AppFolder + u"/Styles/"_s);
-    paths.MusicFolder = MakeFolder(files, paths.AppFolder + u"/Music/"_s);
+    NameProgramFolders(paths);
+    for (const QString& folder : {paths.ProfileFolder, paths.StylesFolder, paths.MusicFolder}) {
+        mduLib::EnsureFolder(services.FileSystem, folder);
+    }
     paths.UserName = services.User.UserName().trimmed();
     return SetupUserFiles(state, services, paths.UserName, zoneName);
 }

@@ -16,6 +16,9 @@ enum class SetupResult {
     DefaultFileLost  ///< `ZoneDefaultFile` is gone and nothing can restore it: the program must end
 };
 
+/// Names the folders that stand beside the executable, from `AppFolder`; makes none.
+void NameProgramFolders(PathTable& paths);
+
 /// Fills the path table for `state.Paths.AppFolder` and the user, makes the folders, and brings the
 /// user's files into being or up to date. @p zoneName is trimmed in place.
 SetupResult SetupPaths(ModuleState& state, const platform::Services& services, QString& zoneName);
@@ -28,8 +31,8 @@ SetupResult SetupUserFiles(ModuleState& state, const platform::Services& service
 /// merged the file.
 bool RefreshCurrentPropertyFile(ModuleState& state, const platform::Services& services);
 
-/// The file work of the shell's `ConfigSetup` behind the choice of the zone name: paths, the shell's
-/// file, the lists. @p centralProperties receives the shell's own keys.
+/// The file work of the shell's `ConfigSetup` behind the choice of the zone name: paths, the
+/// shell's file, the lists. @p centralProperties receives the shell's own keys.
 SetupResult SetupFiles(ModuleState& state, const platform::Services& services, QString zoneName,
                        ClockProperties& centralProperties);
 

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QJsonDocument>
+#include <QMap>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "ctl/GlobalOptions.h"
+#include "foundation/ModuleState.h"
+#include "platform/Services.h"
+
+/// The commands of `tempolarkctl`. Each is a few lines over the operation that it names.
+namespace ctl {
+
+enum ExitStatus {
+    Done = 0,
+    OperationFailed = 1,  ///< the operation reported failure; the JSON still says what it can
+    WrongArguments = 2    ///< the usage goes to standard error
+};
+
+/// What a command works with.
+struct Context {
+    const GlobalOptions& Global;
+    const platform::Services& Services;
+    ModuleState& State;  ///< `AppFolder` and the folders beside it are set; no user's file is
+    QStringList Arguments;
+    QMap<QString, QString> Options;  ///< by name, "--file"; an option without a value maps to ""
+
+    QString Option(const QString& name) const { return Options.value(name); }
+    bool HasOption(const QString& name) const { return Options.contains(name); }
+
+    /// An argument as a whole number; nothing when it is none.
+    std::optional<int> Integer(int index) const;
+};
+
+/// One command. "zones show NAME [--file INI]" is {"zones", "show", "NAME [--file INI]", 1, 1,
+/// {"--file="}, ZonesShow}: an option that takes a value is listed with "=" behind it.
+struct Command {
+    QString Group;
+    QString Name;
+    QString Usage;
+    int LeastArguments = 0;
+    int MostArguments = 0;  ///< -1: any number
+    QStringList Options;
+    int (*Run)(Context& context) = nullptr;  ///< gives an `ExitStatus` back
+    bool DrawsPictures = false;  ///< runs with windows, on the platform without a screen
+};
+
+std::vector<Command> PropertiesCommands();
+std::vector<Command> ValuesCommands();
+std::vector<Command> FilesCommands();
+
+/// Every command, group by group. A new group is declared above and added there.
+std::vector<Command> AllCommands();
+
+/// Prints the one JSON document of a command, or one line of those that tell events.
+void PrintJson(const QJsonDocument& document);
+
+/// Prints {"value": ...}.
+void PrintValue(const QJsonValue& value);
+
+/// Prints a text as it is: the answers that are no JSON.
+void PrintText(const QString& text);
+
+/// A message for people, on standard error.
+void Complain(const QString& message);
+
+}  // namespace ctl

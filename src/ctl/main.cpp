@@ -1,0 +1,57 @@
+#include <QApplication>
+#include <QDir>
+
+#include "ctl/CommandLine.h"
+#include "ctl/ScriptMachine.h"
+#include "foundation/SetupPaths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList ArgumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index) {
+        arguments += QString::fromLocal8Bit(argv[index]);
+    }
+    return arguments;
+}
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv, bool drawsPictures) {
+    if (!drawsPictures) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+int Run(const ctl::CommandLine& line) {
+    const QString folder = line.Global.AppFolder.value_or(QCoreApplication::applicationDirPath());
+    ModuleState state;
+    state.Paths.AppFolder = QDir::cleanPath(QDir(folder).absolutePath());
+    mduMain::NameProgramFolders(state.Paths);
+    const ctl::ScriptMachine machine(line.Global, state.Paths.AppFolder);
+    ctl::Context context{line.Global, machine.Services(), state, line.Arguments, line.Options};
+    return line.Chosen->Run(context);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<ctl::Command> commands = ctl::AllCommands();
+    const ctl::CommandLine line = ctl::ParseCommandLine(ArgumentsOf(argc, argv), commands);
+    if (!line.Answer.isEmpty()) {
+        ctl::PrintText(line.Answer);
+        return ctl::Done;
+    }
+    if (line.Chosen == nullptr) {
+        ctl::Complain(line.Problem);
+        return ctl::WrongArguments;
+    }
+    const auto application = MakeApplication(argc, argv, line.Chosen->DrawsPictures);
+    const int status = Run(line);
+    if (status == ctl::WrongArguments) {
+        ctl::Complain(ctl::UsageOf(*line.Chosen));
+    }
+    return status;
+}
