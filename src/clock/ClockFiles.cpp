@@ -29,17 +29,25 @@ bool HoldsMoreThanRead(const platform::Files& files, const QString& path, bool w
 
 }  // namespace
 
-bool ClockFiles::LoadForShell(const QString& zoneName) {
+bool ClockFiles::NameCurrentFile(const QString& zoneName) {
     const QString problem = mduLib::ZoneNameProblem(zoneName);
     if (!problem.isEmpty()) {
         report_(problem);
         return false;
     }
     PathTable& paths = program_.Module.Paths;
-    const QString name = FileNameOfZone(zoneName);
-    const QString file = paths.ZoneFileFolder + mduLib::AddIniExtension(name);
-    paths.CurrentPropertyFile = file;
-    paths.TimerFile = paths.TimersFolder + name + u"Timer.txt"_s;
+    paths.CurrentPropertyFile =
+        paths.ZoneFileFolder + mduLib::AddIniExtension(FileNameOfZone(zoneName));
+    return true;
+}
+
+bool ClockFiles::LoadForShell(const QString& zoneName) {
+    if (!NameCurrentFile(zoneName)) {
+        return false;
+    }
+    PathTable& paths = program_.Module.Paths;
+    const QString file = paths.CurrentPropertyFile;
+    paths.TimerFile = paths.TimersFolder + FileNameOfZone(zoneName) + u"Timer.txt"_s;
     const bool merged = mduMain::RefreshCurrentPropertyFile(program_.Module, program_.Services);
     // The merge lets other windows run, which may have become current meanwhile.
     paths.CurrentPropertyFile = file;

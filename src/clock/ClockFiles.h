@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "clock/ClockData.h"
 #include "foundation/Program.h"
 
@@ -18,6 +20,10 @@ public:
     /// has just been merged, and publishes the properties. @return false when the name can't be
     /// that of a file.
     bool LoadForShell(const QString& zoneName);
+
+    /// Makes the zone's file the current one, without touching it. @return false when the name
+    /// can't be that of a file.
+    bool NameCurrentFile(const QString& zoneName);
 
     /// Reads `CurrentPropertyFile` as it stands.
     void LoadCurrent();

@@ -1,0 +1,208 @@
+#include "clock/ui/frmTempolark.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "clock/ClockMode.h"
+#include "foundation/NamedValues.h"
+#include "foundation/PropertyLookup.h"
+#include "foundation/SetupPaths.h"
+#include "timezones/ZoneKeys.h"
+#include "timezones/ZoneSources.h"
+
+using namespace Qt::StringLiterals;
+using clockcore::ClockState;
+
+namespace {
+
+constexpr int FirstShot = 10;  // milliseconds until the first tick
+constexpr int NormalInterval = 1000;
+constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
+
+}  // namespace
+
+frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area)
+    : program_(program),
+      shell_(shell),
+      area_(area),
+      handle_(program.Windows.NewHandle()),
+      surface_(std::make_unique<drawing::Surface>(1, 1, 1.0)),
+      files_(data_, program, [this](const QString& text) { Status(text); }),
+      timClock_(program.Services.Clock.MakeTicker([this] { Tick(); })),
+      placement_(*this, area, data_),
+      face_(data_, controls_, *this, {dial_, digital_, calculator_, background_, overlays_},
+            program.Services.Clock, program.Services.Random),
+      tick_(data_,
+            {*this, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
+             timers_, messages_, sounds_, voice_, spoken_, music_, menus_, styles_},
+            program.Module, program.Services.Clock) {
+    setObjectName(ClockWindowName);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    program_.Windows.Add(*this);
+}
+
+frmTempolark::~frmTempolark() {
+    program_.Windows.Remove(*this);
+}
+
+bool frmTempolark::ShowMeMDIChild(const QString& zoneName) {
+    if (!files_.LoadForShell(zoneName)) {
+        return false;
+    }
+    Load();
+    placement_.PlaceInTheMiddle();
+    data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
+    FinishLoading(zoneName);
+    return true;
+}
+
+void frmTempolark::ShowMe(const QString& zoneName, bool refresh, bool wrapper) {
+    files_.LoadCurrent();
+    Load();
+    const int mode = clockcore::GetClockType(data_.Properties());
+    data_.Tag = QString::number(wrapper ? mode + clockcore::Wrapper : mode);
+    if (refresh) {
+        RefreshDefaultTimeZoneDetails(zoneName);
+    }
+    FinishLoading(zoneName);
+}
+
+void frmTempolark::LaunchMDITempolark(QString zoneName) {
+    if (zoneName.isEmpty()) {
+        zoneName = mduTimeZones::GetLocalZone(program_.Services).StandardName;
+    }
+    auto* other = new frmTempolark(program_, shell_, area_);
+    if (other->files_.NameCurrentFile(zoneName)) {
+        const bool merged = mduMain::RefreshCurrentPropertyFile(program_.Module, program_.Services);
+        other->ShowMe(zoneName, !merged, false);
+        other->placement_.SetOuterSize(placement_.OuterRect().size());
+    } else {
+        delete other;
+    }
+}
+
+// The load event: the first touch of the window, with the properties already in place.
+void frmTempolark::Load() {
+    data_.State = ClockState::Loading;
+    placement_.MakeFrame();
+    if (QMdiSubWindow* frame = placement_.Frame()) {
+        connect(frame, &QMdiSubWindow::aboutToActivate, this, [this] { Activate(); });
+    }
+    controls_.shpArea(1).Visible = false;
+    if (!program_.Services.Zones.IsWindowsNT()) {
+        controls_.imgSpeaker(1).Visible = false;
+        controls_.imgSpeaker(1).ToolTipText.clear();
+    }
+    data_.StartTime = program_.Services.Clock.Now();
+    placement_.Outer().raise();
+    ApplyEnable();
+    LayOutTimerMarks();
+    data_.State = ClockState::FirstTickDue;
+    placement_.SetOuterSize({0, 0});
+    controls_.imgSpeaker(1).Visible = false;
+    timClock_->SetInterval(FirstShot);
+    timClock_->SetInterval(NormalInterval);
+}
+
+void frmTempolark::LayOutTimerMarks() {
+    mduUILib::ControlArray& marks = controls_.imgTimer;
+    marks(1).Left = FirstTimerMark;
+    marks(1).Top = FirstTimerMark;
+    for (int i = 2; i <= marks.Count(); ++i) {
+        marks(i) = marks(i - 1);
+    }
+}
+
+void frmTempolark::FinishLoading(const QString& zoneName) {
+    files_.FillZone(zoneName);
+    controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
+    placement_.Outer().raise();
+}
+
+void frmTempolark::Activate() {
+    if (data_.State != ClockState::Closing) {
+        files_.MakeCurrent();
+    }
+}
+
+void frmTempolark::ApplyEnable() {
+    EnableWindow(mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties())));
+}
+
+void frmTempolark::closeEvent(QCloseEvent* event) {
+    if (std::exchange(data_.State, ClockState::Closing) == ClockState::Closing) {
+        event->accept();
+        return;
+    }
+    timClock_->SetInterval(0);
+    messages_.HideMessage();
+    program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
+    if (WindowState() == 0) {
+        const QRectF rect = placement_.OuterRect();
+        files_.SavePosition(static_cast<float>(rect.top()), static_cast<float>(rect.left()),
+                            static_cast<float>(rect.height()), static_cast<float>(rect.width()));
+    }
+    timers_.SaveTimer(program_.Module.Paths.TimerFile);
+    placement_.ShowClockWindow(false);
+    program_.Windows.Remove(*this);
+    event->accept();
+    if (!IsMDIChild()) {
+        QCoreApplication::quit();  // a clock that stands alone is the whole program
+    }
+}
+
+void frmTempolark::CloseClock() {
+    Unload();
+}
+
+void frmTempolark::Unload() {
+    placement_.Outer().close();
+}
+
+QString frmTempolark::Caption() const {
+    return placement_.Outer().windowTitle();
+}
+
+bool frmTempolark::IsEnabled() const {
+    return placement_.Outer().isEnabled();
+}
+
+void frmTempolark::EnableWindow(bool enabled) {
+    placement_.Outer().setEnabled(enabled);
+}
+
+void frmTempolark::SetFocus() {
+    if (area_ != nullptr) {
+        area_->setActiveSubWindow(placement_.Frame());
+    }
+    setFocus();
+}
+
+bool frmTempolark::IsActiveForm() const {
+    return area_ != nullptr ? area_->activeSubWindow() == placement_.Frame() : isActiveWindow();
+}
+
+QString frmTempolark::AppEXEName() const {
+    return program_.Module.Paths.AppFolder + u"/Tempolark.exe"_s;
+}
+
+QString frmTempolark::GetLocation() const {
+    return controls_.lblLocation(1).Caption;
+}
+
+void frmTempolark::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
+    files_.RefreshDefaultTimeZoneDetails(zoneName);
+}
+
+void frmTempolark::SetBackward() {
+    mduLib::PutProperty(u"Clock Special"_s, u"Analogue Backward"_s, data_.EditProperties());
+}
+
+void frmTempolark::Status(const QString& text) {
+    if (shell_ != nullptr) {
+        shell_->ShowStatusMsg(text);
+    }
+}

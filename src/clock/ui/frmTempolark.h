@@ -1,0 +1,142 @@
+#pragma once
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QWidget>
+
+#include "clock/Canvas.h"
+#include "clock/ClockData.h"
+#include "clock/ClockFiles.h"
+#include "clock/ClockTick.h"
+#include "clock/Face.h"
+#include "clock/ui/MdiPlacement.h"
+#include "foundation/Controls.h"
+#include "foundation/Program.h"
+
+/// One world clock: a window that shows a zone's time, driven by one property file. It is built in
+/// two halves: `ShowMeMDIChild` reads the file and fills the zone, and the first tick finishes the
+/// window. It owns its parts and routes the tick to them; it decides nothing itself.
+class frmTempolark final : public QWidget,
+                           public IClock,
+                           private clockcore::Canvas,
+                           private clockcore::ClockWindow {
+public:
+    /// @param shell the shell, or null for a clock that stands alone
+    /// @param area the shell's frame for its children; null for a clock that stands alone
+    frmTempolark(const Program& program, IShell* shell, QMdiArea* area);
+    ~frmTempolark() override;
+
+    // The ways in.
+    bool ShowMeMDIChild(const QString& zoneName) override;
+    /// The stand-alone way in: shows `CurrentPropertyFile` as it stands. @p wrapper gives a plain,
+    /// undrawn window.
+    void ShowMe(const QString& zoneName, bool refresh, bool wrapper);
+    /// Opens another clock, sized like this one and with its parent.
+    void LaunchMDITempolark(QString zoneName);
+
+    // What the shell calls.
+    QString Name() const override { return ClockWindowName; }
+    QString Caption() const override;
+    int hwnd() const override { return handle_; }
+    int WindowState() const override { return placement_.WindowState(); }
+    void SetWindowState(int state) override { placement_.SetWindowState(state); }
+    bool IsEnabled() const override;
+    void EnableWindow(bool enabled) override;
+    void Show() override { placement_.Show(); }
+    void SetFocus() override;
+    void Unload() override;
+    void SetClocks(int mode) override;
+    void SetClockStyle(const QString& styleFile) override;
+    void SetWindowBackColour(const QString& value, const QString& caption) override;
+    void SaveCurrentStyle() override;
+    void RefreshForm(const QString& fileName) override;
+    void Refresh() override;
+    void LayOutAgain() override;
+    int DrawStyle() const override { return drawStyle_; }
+    void SetBackColor(int colour) override;
+
+    void SetParentForm(IShell* shell) { shell_ = shell; }
+    QString IniFile() const { return data_.PropertyFileName; }
+    QString DefaultIniFile() const { return program_.Module.Paths.ZoneDefaultFile(); }
+    QString AppEXEName() const;
+    QString GetLocation() const;
+    void RefreshDefaultTimeZoneDetails(const QString& zoneName);
+    /// Turns the clock backward: stores the property and draws nothing itself.
+    void SetBackward();
+
+    /// Gives the zone's record, the state and the controls to those who look from outside.
+    const clockcore::ClockData& Data() const { return data_; }
+    const mduUILib::ClockControls& Controls() const { return controls_; }
+    const drawing::Surface& PaintedSurface() const { return *surface_; }
+    /// One event of `timClock`, now.
+    void Tick() { tick_.Tick(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Load();
+    void LayOutTimerMarks();
+    void FinishLoading(const QString& zoneName);
+    void Activate();
+    void ApplyEnable();
+    QSize SurfaceSize() const;
+    void Status(const QString& text);
+
+    // The canvas.
+    drawing::Surface& Surface() override { return *surface_; }
+    void Present(const QRegion& changed) override;
+    bool CanBeSeen() const override;
+    int BackColor() const override { return backColour_; }
+    int ParentBackColor() const override;
+    void SetTransparent(bool transparent) override { drawStyle_ = transparent ? 1 : 0; }
+
+    // The window, as the tick sees it.
+    bool IsMDIChild() const override { return area_ != nullptr; }
+    bool IsActiveForm() const override;
+    bool IsActiveWindow() const override { return QWidget::isActiveWindow(); }
+    int TimerInterval() const override { return timClock_->Interval(); }
+    void SetTimerInterval(int milliseconds) override { timClock_->SetInterval(milliseconds); }
+    int ScaleLeft() const override { return 0; }
+    int ScaleWidth() const override { return surface_->ScaleWidth(); }
+    void Cls() override;
+    void LockWindowUpdate(bool locked) override;
+    void HideHandShapes() override;
+    void CloseClock() override;
+
+    Program program_;
+    IShell* shell_;
+    QMdiArea* area_;
+    int handle_;
+    std::unique_ptr<drawing::Surface> surface_;
+    int backColour_ = 0xFFFFFF;
+    int drawStyle_ = 0;
+    bool locked_ = false;
+    QRegion lockedChanges_;
+    QRegion presented_;  ///< changes of our own that wait to be painted
+
+    clockcore::ClockData data_;
+    mduUILib::ClockControls controls_;
+    clockcore::ClockFiles files_;
+    std::unique_ptr<platform::Ticker> timClock_;
+
+    clockcore::MdiPlacement placement_;
+    drawing::Dial dial_;
+    drawing::DigitalClock digital_;
+    drawing::CalculatorClock calculator_;
+    drawing::Background background_;
+    drawing::Overlays overlays_;
+    timers::TimerSlots timers_;
+    timers::MessageChannel messages_;
+    timers::ClockSounds sounds_;
+    speech::ClockVoice voice_;
+    speech::SpokenTime spoken_;
+    speech::ClockMusic music_;
+    clockcore::ClockMenus menus_;
+    clockcore::ClockStyles styles_;
+    clockcore::Face face_;
+    clockcore::ClockTick tick_;
+};

@@ -1,0 +1,116 @@
+#include <QApplication>
+#include <QDir>
+#include <cstdio>
+
+#include "foundation/Program.h"
+#include "platform/AbsentDevices.h"
+#include "platform/AppFolder.h"
+#include "platform/LocalFiles.h"
+#include "platform/QuitSignals.h"
+#include "platform/Services.h"
+#include "platform/SystemClock.h"
+#include "platform/SystemServices.h"
+#include "platform/TzZoneDatabase.h"
+#include "platform/ui/DesktopDialogs.h"
+#include "shell/ui/frmMain.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Options {
+    QString AppFolder;    ///< empty: the program finds its own
+    QString CommandLine;  ///< what is left of the arguments, joined by blanks
+    int ExitCode = -1;    ///< not negative: the program has answered and ends
+};
+
+const char* const Usage =
+    "Usage: TempolarkCentral [options] [zone name]\n"
+    "Shows clocks of the world's time zones.\n\n"
+    "  zone name          the zone to begin with, such as \"Tokyo Standard Time\"\n"
+    "  --app-folder DIR   the folder of the program's data\n"
+    "  --help             this text\n"
+    "  --version          the version\n";
+
+/// Takes the options off; everything else is the command line.
+Options ReadOptions(QStringList arguments) {
+    Options options;
+    QStringList rest;
+    arguments.removeFirst();
+    while (!arguments.isEmpty()) {
+        const QString argument = arguments.takeFirst();
+        if (argument == u"--help"_s) {
+            std::fputs(Usage, stdout);
+            options.ExitCode = 0;
+        } else if (argument == u"--version"_s) {
+            std::puts("Tempolark " TEMPOLARK_VERSION);
+            options.ExitCode = 0;
+        } else if (argument == u"--app-folder"_s && !arguments.isEmpty()) {
+            options.AppFolder = QDir(arguments.takeFirst()).absolutePath();
+        } else if (argument.startsWith(u"--"_s)) {
+            std::fprintf(stderr, "%s: not an option\n%s", qPrintable(argument), Usage);
+            options.ExitCode = 2;
+        } else {
+            rest += argument;
+        }
+        if (options.ExitCode >= 0) {
+            return options;
+        }
+    }
+    options.CommandLine = rest.join(u' ');
+    return options;
+}
+
+/// The arguments before any window system is asked for: help and version need none.
+QStringList Arguments(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments += QString::fromLocal8Bit(argv[i]);
+    }
+    return arguments;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const Options early = ReadOptions(Arguments(argc, argv));
+    if (early.ExitCode >= 0) {
+        return early.ExitCode;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"Tempolark"_s);
+    QApplication::setApplicationVersion(QStringLiteral(TEMPOLARK_VERSION));
+    // The toolkit has taken its own options off by now.
+    const Options options = ReadOptions(QApplication::arguments());
+
+    ModuleState module;
+    module.CommandLine = options.CommandLine;
+    module.Paths.AppFolder = options.AppFolder.isEmpty()
+                                 ? platform::ChooseAppFolder(platform::FindAppFolderPlaces())
+                                 : options.AppFolder;
+
+    platform::SystemClock clock;
+    platform::TzZoneDatabase zones(clock);
+    platform::LocalFiles files;
+    platform::UnixAccount user;
+    platform::FileSettings settings(module.Paths.AppFolder + u"/Settings.ini"_s);
+    platform::NoActions actions;
+    platform::NoVoices voices;
+    platform::NoPlayers players;
+    platform::NoSound sound;
+    platform::DesktopDialogs dialogs;
+    platform::NoTray tray;
+    platform::NoHelp help;
+    platform::SystemRandom random;
+    const platform::Services services{clock,   zones, files,   user, settings, actions, voices,
+                                      players, sound, dialogs, tray, help,     random};
+    Forms windows;
+
+    frmMain shell({services, module, windows});
+    dialogs.SetOwner(&shell);
+    if (!shell.Load()) {
+        return 1;
+    }
+    const platform::QuitSignals quitSignals([&shell] { shell.close(); });
+    return QApplication::exec();
+}

@@ -1,0 +1,67 @@
+#include "platform/ui/DesktopDialogs.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace platform {
+
+namespace {
+
+constexpr int YesNo = 4;
+constexpr int Critical = 16;
+constexpr int Question = 32;
+constexpr int Exclamation = 48;
+constexpr int IconMask = 0x70;
+constexpr int ButtonMask = 0x0F;
+
+constexpr int OkPressed = 1;
+constexpr int YesPressed = 6;
+constexpr int NoPressed = 7;
+
+QMessageBox::Icon IconOf(int flags) {
+    switch (flags & IconMask) {
+        case Critical:
+            return QMessageBox::Critical;
+        case Question:
+            return QMessageBox::Question;
+        case Exclamation:
+            return QMessageBox::Warning;
+        default:
+            return QMessageBox::Information;
+    }
+}
+
+}  // namespace
+
+int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& title) {
+    const bool asks = (flags & ButtonMask) == YesNo;
+    QMessageBox box(
+        IconOf(flags), title, text,
+        asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
+        owner_);
+    box.setTextFormat(Qt::PlainText);
+    const int pressed = box.exec();
+    if (!asks) {
+        return OkPressed;
+    }
+    return pressed == QMessageBox::Yes ? YesPressed : NoPressed;
+}
+
+QString DesktopDialogs::OpenFile(const QString& title, const QString& folder,
+                                 const QString& filter) {
+    return QFileDialog::getOpenFileName(owner_, title, folder, filter);
+}
+
+QString DesktopDialogs::SaveFile(const QString& title, const QString& folder,
+                                 const QString& filter) {
+    return QFileDialog::getSaveFileName(owner_, title, folder, filter);
+}
+
+int DesktopDialogs::PickColour(int present) {
+    const QColor before(present & 0xFF, (present >> 8) & 0xFF, (present >> 16) & 0xFF);
+    const QColor picked = QColorDialog::getColor(before, owner_);
+    return picked.isValid() ? picked.red() | picked.green() << 8 | picked.blue() << 16 : -1;
+}
+
+}  // namespace platform

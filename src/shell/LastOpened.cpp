@@ -1,0 +1,79 @@
+#include "shell/LastOpened.h"
+
+#include "foundation/FileHelpers.h"
+#include "foundation/PropertyFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace shell {
+
+namespace {
+
+constexpr int ListUpperBound = 30;
+constexpr int MenuLimit = 15;
+
+}  // namespace
+
+QString StripCentralPrefix(const QString& name) {
+    const QString prefix = u"Tempolark Central "_s;
+    return name.contains(prefix) ? name.sliced(prefix.size()) : name;
+}
+
+LastOpened::LastOpened() {
+    openedList_.Resize(ListUpperBound);
+}
+
+void LastOpened::LoadOpenedForms(const platform::Files& files, const QString& path) {
+    mduLib::ReadPropertyFile(files, path, openedList_);
+}
+
+bool LastOpened::SaveOpenedForms(platform::Files& files, const QString& path) const {
+    return mduLib::WritePropertyFile(files, openedList_, path);
+}
+
+void LastOpened::PushLastOpened(const QString& fullName) {
+    const QString name = StripCentralPrefix(fullName);
+    const auto entry = [this](int index) -> QString& { return openedList_[index].Name; };
+    int pos = 0;
+    for (int i = 1; i <= openedList_.UpperBound() - 1; ++i) {
+        if (entry(i) == name) {
+            pos = i;
+            break;
+        }
+        if (!entry(i).trimmed().isEmpty()) {
+            pos = i + 1;
+        }
+    }
+    for (int i = pos; i >= 2; --i) {
+        entry(i) = std::exchange(entry(i - 1), QString());
+    }
+    const bool firstTaken = !entry(1).isEmpty() && entry(1) != name && entry(1) != u"None"_s;
+    entry(firstTaken ? 2 : 1) = name;
+}
+
+void LastOpened::FillLastOpenedMenu(MenuArray& fileItems, const platform::Files& files,
+                                    const PathTable& paths) const {
+    int shown = 0;
+    const int limit = openedList_.UpperBound() - 1;
+    for (int i = 1; i <= MenuLimit && i <= openedList_.UpperBound() && shown < limit; ++i) {
+        const QString& name = openedList_[i].Name;
+        if (name.isEmpty() ||
+            !mduLib::FileExists(files, paths.ZoneFileFolder + mduLib::AddIniExtension(name))) {
+            continue;
+        }
+        MenuItem& item = fileItems.Load(++shown);
+        item.Caption = name;
+        item.Tag = name;
+        item.Visible = true;
+    }
+    if (shown == 0) {
+        fileItems(1).Caption = u"None"_s;
+        fileItems.UnloadAbove(1);
+        return;
+    }
+    MenuItem& all = fileItems.Load(shown + 1);
+    all.Caption = u"All"_s;
+    all.Visible = true;
+}
+
+}  // namespace shell

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+/// The menus of the shell as data: what they hold, before any widget shows it.
+namespace shell {
+
+struct MenuItem {
+    QString Caption;
+    QString Tag;
+    bool Visible = true;
+    bool Enabled = true;
+    bool Checked = false;
+    bool operator==(const MenuItem&) const = default;
+};
+
+/// A menu array: items from 1; item 1 exists from the beginning and is never unloaded.
+class MenuArray {
+public:
+    MenuArray() : items_(1) {}
+
+    int Count() const { return static_cast<int>(items_.size()); }
+    MenuItem& operator()(int index) { return items_[static_cast<std::size_t>(index - 1)]; }
+    const MenuItem& operator()(int index) const {
+        return items_[static_cast<std::size_t>(index - 1)];
+    }
+
+    /// The item at @p index, loaded when the array is shorter.
+    MenuItem& Load(int index) {
+        if (index > Count()) {
+            items_.resize(static_cast<std::size_t>(index));
+        }
+        return (*this)(index);
+    }
+
+    /// Unloads the items above @p count (at least 1 stays).
+    void UnloadAbove(int count) {
+        if (count < Count()) {
+            items_.resize(static_cast<std::size_t>(count < 1 ? 1 : count));
+        }
+    }
+
+private:
+    std::vector<MenuItem> items_;
+};
+
+}  // namespace shell

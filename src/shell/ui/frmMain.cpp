@@ -1,0 +1,276 @@
+#include "shell/ui/frmMain.h"
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "clock/ui/frmTempolark.h"
+#include "drawing/Surface.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "foundation/SetupPaths.h"
+#include "shell/AutoStart.h"
+#include "shell/ClockCommands.h"
+#include "timezones/ZoneSources.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+constexpr int BusyInterval = 400;  // milliseconds, while the message line holds something
+constexpr int IdleInterval = 10000;
+
+}  // namespace
+
+frmMain::frmMain(const Program& program)
+    : program_(program),
+      handle_(program.Windows.NewHandle()),
+      launcher_(
+          program, lastOpened_, [this] { return new frmTempolark(program_, this, area_); },
+          [this](const QString& text) { ShowStatusMsg(text); }),
+      timerCtrl_(program.Services.Clock.MakeTicker([this] { TimerCtrl(); })) {
+    setObjectName(u"frmMain"_s);
+    setWindowTitle(u"Tempolark Central"_s);
+    program_.Windows.Add(*this);
+    MakeInnerParts();
+}
+
+frmMain::~frmMain() {
+    // The clocks go first: they still take leave of the window list and of the shell.
+    delete area_;
+    program_.Windows.Remove(*this);
+}
+
+void frmMain::MakeInnerParts() {
+    area_ = new QMdiArea(this);
+    area_->setObjectName(u"area"_s);
+    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+
+    header_ = new QLabel(u"Press Launch to open a clock"_s, area_->viewport());
+    header_->setObjectName(u"header"_s);
+    header_->setAlignment(Qt::AlignCenter);
+    header_->setAttribute(Qt::WA_TransparentForMouseEvents);
+
+    messagePanel_ = new QLabel(this);
+    messagePanel_->setObjectName(u"messagePanel"_s);
+    messagePanel_->setTextFormat(Qt::PlainText);
+    messagePanel_->setMinimumWidth(1);
+    timePanel_ = new QLabel(this);
+    timePanel_->setObjectName(u"timePanel"_s);
+    statusBar()->addWidget(messagePanel_, 1);
+    statusBar()->addPermanentWidget(timePanel_);
+    MakeToolbar();
+}
+
+bool frmMain::Load() {
+    if (!ConfigSetup()) {
+        return false;
+    }
+    lastOpened_.LoadOpenedForms(program_.Services.FileSystem,
+                                program_.Module.Paths.OpenedFormsFile());
+    lastOpened_.FillLastOpenedMenu(fileItem_, program_.Services.FileSystem, program_.Module.Paths);
+    ApplyCentralProperties();
+    const bool launchedAny = shell::LaunchAutoStartClocks(
+        program_.Module.AutoStartList, [this](const QString& name) { LaunchTempolark(name); });
+    SetHeaderVisible(!launchedAny);
+    timerCtrl_->SetInterval(BusyInterval);
+    if (WindowState() == 0) {
+        show();
+    }
+    return true;
+}
+
+bool frmMain::ConfigSetup() {
+    QString zoneName = program_.Module.CommandLine;
+    if (zoneName.isEmpty()) {
+        zoneName = mduTimeZones::GetLocalZone(program_.Services).StandardName;
+    }
+    const QString problem = mduLib::ZoneNameProblem(zoneName);
+    if (!problem.isEmpty()) {
+        ShowStatusMsg(problem);
+    }
+    return mduMain::SetupFiles(program_.Module, program_.Services, zoneName, centralProperties_) ==
+           mduMain::SetupResult::Done;
+}
+
+void frmMain::ApplyCentralProperties() {
+    ApplyPlacement();
+    const auto value = [this](const QString& key) {
+        return mduLib::GetProperty(key, centralProperties_);
+    };
+    statusBar()->setVisible(mduUILib::YesNoToBool(value(u"Status Bar"_s)));
+    SetBackgroundColour(value(u"Window Background Colour"_s));
+}
+
+void frmMain::ApplyPlacement() {
+    const auto number = [this](const QString& key) {
+        return mduAPILib::Val(mduLib::GetProperty(key, centralProperties_));
+    };
+    const int state =
+        mduUILib::WindowStateValue(mduLib::GetProperty(u"Window State"_s, centralProperties_));
+    const QRect whole = screen()->availableGeometry();
+    const auto extent = [](double twips, int present) {
+        return twips > 0 ? mduAPILib::RoundToInteger(twips / TwipsPerPixel) : present / 4;
+    };
+    const QSize size(extent(number(u"Window Width"_s), whole.width()),
+                     extent(number(u"Window Height"_s), whole.height()));
+    resize(size.boundedTo(whole.size()).expandedTo({200, 150}));
+    const auto place = [](double twips, int from, int room) {
+        return twips == -1 ? from + room / 2 : mduAPILib::RoundToInteger(twips / TwipsPerPixel);
+    };
+    move(place(number(u"Window Left"_s), whole.left(), whole.width() - width()),
+         place(number(u"Window Top"_s), whole.top(), whole.height() - height()));
+    layout()->activate();
+    if (state != 0) {
+        SetWindowState(state);
+    }
+}
+
+void frmMain::SetBackgroundColour(const QString& colourName) {
+    if (colourName.trimmed().toLower() != u"transparent"_s) {
+        backColour_ = mduUILib::ColourValue(QString(colourName), program_.Services.Random);
+    }
+    const QColor colour(drawing::ToRgb(backColour_));
+    area_->setBackground(colour);
+    QPalette palette = header_->palette();
+    palette.setColor(QPalette::WindowText,
+                     colour.lightness() > 128 ? QColor(40, 50, 65) : QColor(225, 230, 238));
+    header_->setPalette(palette);
+    shell::SyncClockBackColours(program_.Windows, backColour_);
+}
+
+void frmMain::SetHeaderVisible(bool visible) {
+    header_->setVisible(visible);
+    PlaceHeader();
+}
+
+void frmMain::PlaceHeader() {
+    QFont font = header_->font();
+    font.setPointSize(18);
+    header_->setFont(font);
+    header_->setGeometry(area_->viewport()->rect());
+    header_->lower();
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    PlaceHeader();
+}
+
+int frmMain::LaunchTempolark(const QString& name) {
+    const int handle = launcher_.LaunchTempolark(name);
+    if (handle != 0) {
+        SetHeaderVisible(false);
+    }
+    return handle;
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    shell::CloseAllChildren(program_.Windows);
+    ExitShell();
+    event->accept();
+}
+
+void frmMain::ExitShell() {
+    const bool listSaved = lastOpened_.SaveOpenedForms(program_.Services.FileSystem,
+                                                       program_.Module.Paths.OpenedFormsFile());
+    if (!listSaved) {
+        ShowStatusMsg(u"%1 can't be written"_s.arg(program_.Module.Paths.OpenedFormsFile()));
+    }
+    SaveWindowPlacement();
+    SaveAutoStartList();
+}
+
+void frmMain::SaveWindowPlacement() {
+    platform::Files& files = program_.Services.FileSystem;
+    const QString file = IniFile();
+    // What the property window saved meanwhile stays.
+    ClockProperties fresh;
+    if (mduLib::ReadPropertyFile(files, file, fresh)) {
+        centralProperties_ = fresh;
+    } else if (files.FileExists(file)) {
+        return;  // it can't be read: writing it would lose what it holds
+    }
+    if (WindowState() == 0) {
+        const auto store = [this](const QString& key, int pixels) {
+            mduLib::PutProperty(key,
+                                mduAPILib::SingleText(static_cast<float>(pixels * TwipsPerPixel)),
+                                centralProperties_);
+        };
+        store(u"Window Top"_s, y());
+        store(u"Window Left"_s, x());
+        store(u"Window Width"_s, width());
+        store(u"Window Height"_s, height());
+    }
+    mduLib::WritePropertyFile(files, centralProperties_, file);
+}
+
+void frmMain::SaveAutoStartList() {
+    if (!mduLib::WritePropertyFile(program_.Services.FileSystem, program_.Module.AutoStartList,
+                                   program_.Module.Paths.AutoStartFile)) {
+        ShowStatusMsg(u"%1 can't be written"_s.arg(program_.Module.Paths.AutoStartFile));
+    }
+}
+
+QString frmMain::AppEXEName() const {
+    return program_.Module.Paths.AppFolder + u"/TempolarkCentral.exe"_s;
+}
+
+void frmMain::SetWindowState(int state) {
+    switch (state) {
+        case 1:
+            showMinimized();
+            break;
+        case 2:
+            showMaximized();
+            break;
+        default:
+            showNormal();
+    }
+}
+
+void frmMain::ShowStatusMsg(const QString& text) {
+    status_.ShowStatusMsg(text);
+    timerCtrl_->SetInterval(BusyInterval);
+    RefreshPanels();
+}
+
+int frmMain::ShowMsgbox(const QString& text, int flags, const QString& title) {
+    return program_.Services.Dialog.MessageBox(text, flags, title);
+}
+
+void frmMain::TimerCtrl() {
+    status_.Tick();
+    timerCtrl_->SetInterval(status_.Panel().isEmpty() ? IdleInterval : BusyInterval);
+    RefreshPanels();
+}
+
+void frmMain::RefreshPanels() {
+    if (messagePanel_->text() != status_.Panel()) {
+        messagePanel_->setText(status_.Panel());
+    }
+    const QString time = program_.Services.Clock.Now().time().toString(u"hh:mm"_s);
+    if (timePanel_->text() != time) {
+        timePanel_->setText(time);
+    }
+}
+
+int frmMain::RefreshForm(const QString&) {
+    centralProperties_ = program_.Module.CurrentProperties;
+    ApplyCentralProperties();
+    return 0;
+}
+
+// The shell's own voice comes with the voices.
+void frmMain::SpeakMessage(const QString&) {}
+void frmMain::PurgeSpeech() {}
