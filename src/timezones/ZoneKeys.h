@@ -13,6 +13,9 @@ namespace mduTimeZones {
 /// Their names, in order.
 const QStringList& ZoneKeys();
 
+/// The current value of a key, trimmed; empty when the key has no line, unlike a plain lookup.
+QString ZoneKeyValue(const ClockProperties& properties, const QString& key);
+
 /// Lays the six keys of @p properties over @p record. An empty key is filled in from the record
 /// first. @return the names of the keys that were filled in.
 QStringList OverlayZoneKeys(TimeZoneRecord& record, ClockProperties& properties,

@@ -18,8 +18,8 @@ void ReadZoneTZI(const platform::ZoneDatabase& zones, const QString& subkey,
 std::array<QString, 3> ReadZoneValues(const platform::ZoneDatabase& zones, const QString& subkey,
                                       const std::array<QString, 3>& names);
 
-/// One record for each profile file of a folder, from index 1, in file-name order. A file that can't
-/// be read leaves an empty record.
+/// One record for each profile file of a folder, from index 1, in file-name order. A file that
+/// can't be read leaves an empty record.
 TimeZoneRecords ListProfileTimeZones(const platform::Services& services, const QString& folder);
 
 /// The machine's own zone with its derived fields; `HoursFromLocal` equals `CurrentGMTHours` here.

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QHash>
+#include <vector>
+
+#include "platform/TzRule.h"
+#include "platform/TzWindowsZones.h"
+#include "platform/WallClock.h"
+#include "platform/ZoneDatabase.h"
+
+namespace platform {
+
+/// The zone database of a machine that has the tz database: one subkey for each zone that CLDR
+/// names, with the rules of the wall clock's present year.
+///
+/// "Std" is the subkey's name, "Dlt" the same with "Standard" made "Daylight", and "Display" tells
+/// the standard offset and the cities: "(GMT-05:00) New York, Toronto, Washington, Miami,
+/// Montréal".
+///
+/// The machine's own zone goes by its CLDR name where the zone behind that name keeps the same time
+/// all through the year. Where it does not, or where there is no such name, the database ends with
+/// one more subkey, named by the zone's city ("Vancouver"), so that the local clock is right.
+class TzZoneDatabase : public ZoneDatabase {
+public:
+    /// @param localIana the machine's zone; empty for the real one. One that is unknown is UTC.
+    explicit TzZoneDatabase(const WallClock& clock, QByteArray localIana = {});
+
+    ZoneRoot Open() const override { return ZoneRoot::Opened; }
+    std::optional<QString> SubkeyName(int index) const override;
+    std::optional<QString> TextValue(const QString& subkey, const QString& name) const override;
+    std::optional<QByteArray> TziValue(const QString& subkey) const override;
+
+    /// Result 0 for a zone that keeps one offset through the present year, else 1 or 2. Both names
+    /// are those of the machine's subkey.
+    TimeZoneInformation GetTimeZoneInformation() const override;
+    QString LocalStandardName() const override;
+    bool IsWindowsNT() const override { return true; }
+
+    /// The tz identifier behind a subkey; empty for a name that is no subkey.
+    QByteArray IanaOf(const QString& subkey) const;
+
+private:
+    struct LocalSubkey {
+        QString Name;
+        bool IsExtra = false;
+    };
+
+    qint64 Present() const;
+    const TzYear& YearOf(const QByteArray& iana) const;
+    const LocalSubkey& Local() const;
+    LocalSubkey MakeLocalSubkey() const;
+    TzRule RuleOf(const QByteArray& iana) const;
+    QString CitiesOf(const QString& subkey) const;
+
+    const WallClock& clock_;
+    QByteArray localIana_;
+    std::vector<TzWindowsZone> zones_;
+    QHash<QString, std::size_t> index_;
+
+    // Reading a zone is slow, so each is read when it is first asked for, once a year.
+    mutable int year_ = 0;
+    mutable QHash<QByteArray, TzYear> years_;
+    mutable std::optional<LocalSubkey> local_;
+};
+
+}  // namespace platform

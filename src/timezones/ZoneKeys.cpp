@@ -1,0 +1,227 @@
+#include "timezones/ZoneKeys.h"
+
+#include <functional>
+
+#include "foundation/Dates.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "timezones/TransitionText.h"
+#include "timezones/ZoneArithmetic.h"
+#include "timezones/ZoneSources.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mduTimeZones {
+
+namespace {
+
+using platform::SYSTEMTIME;
+
+/// Stores a key's text: in the array, or in the file as well.
+using Store = std::function<void(const QString& key, const QString& text)>;
+
+/// The text of a key, by its place in `ZoneKeys`, for a record.
+QString KeyText(const TimeZoneRecord& record, qsizetype key, const QDate& today) {
+    switch (key) {
+        case 0:
+            return record.StandardName;
+        case 1:
+            return TransitionText(record.StandardDate, today);
+        case 2:
+            return QString::number(record.StandardBias);
+        case 3:
+            return record.DaylightName;
+        case 4:
+            return TransitionText(record.DaylightDate, today);
+        default:
+            return QString::number(record.DaylightBias);
+    }
+}
+
+/// A date and time is taken as it is, a rule becomes its date; any other text is ignored.
+void ReadTransition(SYSTEMTIME& transition, const QString& text, const QDate& today) {
+    const auto parsed = mduAPILib::ParseMoment(text, today.year());
+    if (parsed && parsed->HasDate) {
+        TakeMoment(transition, parsed->Moment);
+    } else if (text.contains(u':')) {
+        transition = ParseTransitionText(text, transition, today);
+    }
+}
+
+void ReadMinutes(std::int32_t& minutes, const QString& text) {
+    if (mduAPILib::IsNumeric(text)) {
+        minutes = mduAPILib::IntegerValue(text);
+    }
+}
+
+/// A southern zone's daylight time began in the year before, as long as its end is still to come.
+void RollDaylightBack(TimeZoneRecord& record, const QDateTime& now) {
+    const QDateTime standard = TransitionValue(record.StandardDate, now.date());
+    const QDateTime daylight = TransitionValue(record.DaylightDate, now.date());
+    const bool valid = standard.isValid() && daylight.isValid();
+    if (valid && now.secsTo(standard) >= 1 && standard.secsTo(daylight) >= 1) {
+        record.DaylightDate.wYear = static_cast<std::int16_t>(record.DaylightDate.wYear - 1);
+    }
+}
+
+/// Reads the texts of the six keys over a record, in the order of the table.
+class KeyReader {
+public:
+    KeyReader(TimeZoneRecord& record, const ClockProperties& properties, const QDateTime& now,
+              const Store& store)
+        : record_(record), properties_(properties), now_(now), store_(store) {}
+
+    QStringList Read() {
+        const QDate today = now_.date();
+        const QString name = Text(0);
+        if (!name.isEmpty()) {
+            record_.StandardName = name;
+            record_.KeyName = name;
+        }
+        ReadTransition(record_.StandardDate, Text(1), today);
+        ReadMinutes(record_.StandardBias, Text(2));
+        const QString daylightName = Text(3);
+        if (!daylightName.isEmpty()) {
+            record_.DaylightName = daylightName;
+        }
+        ReadTransition(record_.DaylightDate, Text(4), today);
+        RollDaylightBack(record_, now_);
+        ReadMinutes(record_.DaylightBias, Text(5));
+        return filledIn_;
+    }
+
+private:
+    /// The text of a key; an empty one is filled in from the record first.
+    QString Text(qsizetype key) {
+        const QString& name = ZoneKeys()[key];
+        const QString present = ZoneKeyValue(properties_, name);
+        if (!present.isEmpty()) {
+            return present;
+        }
+        store_(name, KeyText(record_, key, now_.date()));
+        filledIn_.append(name);
+        return ZoneKeyValue(properties_, name);
+    }
+
+    TimeZoneRecord& record_;
+    const ClockProperties& properties_;
+    const QDateTime& now_;
+    const Store& store_;
+    QStringList filledIn_;
+};
+
+/// The profile of a zone that nothing lists; empty when no such file can be.
+QString ProfilePath(const PathTable& paths, const QString& zoneName) {
+    if (paths.ProfileFolder.isEmpty() || !mduLib::ZoneNameProblem(zoneName).isEmpty()) {
+        return {};
+    }
+    return paths.ProfileFolder + mduLib::AddIniExtension(mduLib::ZoneFileStem(zoneName));
+}
+
+bool WriteFromRecord(platform::Files& files, const TimeZoneRecord& record, const QDate& today,
+                     ClockProperties& properties, const QString& path) {
+    bool saved = true;
+    for (qsizetype key = 0; key < ZoneKeys().size(); ++key) {
+        const QString text = KeyText(record, key, today);
+        saved = mduLib::SavePropertyNow(files, ZoneKeys()[key], text, properties, path) && saved;
+    }
+    return saved;
+}
+
+bool WriteFromProfile(platform::Files& files, const QString& profile, ClockProperties& properties,
+                      const QString& path) {
+    ClockProperties source;
+    if (profile.isEmpty() || !mduLib::ReadPropertyFile(files, profile, source)) {
+        return true;
+    }
+    CopyZoneKeys(source, properties);
+    return mduLib::WritePropertyFile(files, properties, path);
+}
+
+}  // namespace
+
+const QStringList& ZoneKeys() {
+    static const QStringList keys = {
+        u"Time Zone Standard Name"_s,          u"Time Zone Standard Start Time"_s,
+        u"Time Zone Standard GMT (Minutes)"_s, u"Time Zone Daylight Name"_s,
+        u"Time Zone Daylight Start Time"_s,    u"Time Zone Daylight GMT (Minutes)"_s};
+    return keys;
+}
+
+QString ZoneKeyValue(const ClockProperties& properties, const QString& key) {
+    const bool missing = mduLib::FindPropertyRow(key, properties) == 0;
+    return missing ? QString() : mduLib::GetProperty(key, properties).trimmed();
+}
+
+QStringList OverlayZoneKeys(TimeZoneRecord& record, ClockProperties& properties,
+                            const QDateTime& now) {
+    const Store store = [&](const QString& key, const QString& text) {
+        mduLib::PutPropertyRaw(key, text, properties);
+    };
+    return KeyReader(record, properties, now, store).Read();
+}
+
+bool ReadZoneKeys(const platform::Services& services, TimeZoneRecord& record,
+                  ClockProperties& properties, const QString& path) {
+    bool saved = true;
+    const Store store = [&](const QString& key, const QString& text) {
+        saved = mduLib::SavePropertyNow(services.FileSystem, key, text, properties, path) && saved;
+    };
+    KeyReader(record, properties, services.Clock.Now(), store).Read();
+    return saved;
+}
+
+TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable& paths,
+                             ClockProperties& properties, const QString& zoneName,
+                             const QString& path, bool* written) {
+    TimeZoneRecord record = FindTimeZone(services, paths, zoneName);
+    platform::Files& files = services.FileSystem;
+    const bool saved =
+        record.KeyName.isEmpty()
+            ? WriteFromProfile(files, ProfilePath(paths, zoneName), properties, path)
+            : WriteFromRecord(files, record, services.Clock.Now().date(), properties, path);
+    if (written != nullptr) {
+        *written = saved;
+    }
+    return record;
+}
+
+// A file that is there but can't be read must not be replaced by six lines.
+bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
+                     const QString& path, const QString& zoneName) {
+    const platform::Files& files = services.FileSystem;
+    ClockProperties properties;
+    const bool loaded = mduLib::ReadPropertyFile(files, path, properties);
+    if (!loaded && files.FileExists(path) && files.Read(path) != QByteArray("")) {
+        return false;
+    }
+    bool written = false;
+    WriteZoneKeys(services, paths, properties, zoneName, path, &written);
+    return written;
+}
+
+void CopyZoneKeys(const ClockProperties& source, ClockProperties& target) {
+    for (const QString& key : ZoneKeys()) {
+        if (mduLib::FindPropertyRow(key, source) != 0) {
+            mduLib::PutPropertyRaw(key, mduLib::GetPropertyRaw(key, source), target);
+        }
+    }
+}
+
+TimeZoneRecord LoadZone(const platform::Services& services, const PathTable& paths,
+                        const QString& zoneName, ClockProperties& properties, const QString& path) {
+    TimeZoneRecord record = FindTimeZone(services, paths, zoneName);
+    ReadZoneKeys(services, record, properties, path);
+    if (record.StandardName.isEmpty()) {
+        record.StandardName = zoneName;
+    }
+    if (record.KeyName.isEmpty()) {
+        record.KeyName = zoneName;
+    }
+    ApplyCurrentOffset(record, services.Clock.Now(), GetLocalZone(services).CurrentGMTHours);
+    return record;
+}
+
+}  // namespace mduTimeZones
