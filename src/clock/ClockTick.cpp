@@ -22,8 +22,8 @@ QString ClockTimeText(const QDateTime& clockTime) {
     const QTime time = clockTime.time();
     return u"%1 %2:%3:%4"_s.arg(mduAPILib::ShortDate(clockTime.date()))
         .arg(time.hour())
-        .arg(time.minute(), 2, 10, u'0')
-        .arg(time.second(), 2, 10, u'0');
+        .arg(time.minute(), 2, 10, QChar(u'0'))
+        .arg(time.second(), 2, 10, QChar(u'0'));
 }
 
 void ClockTick::Tick() {

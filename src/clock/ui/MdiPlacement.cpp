@@ -16,6 +16,7 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;  // logical pixels
 constexpr double Automatic = -1;
+constexpr int LargestPixels = 16000;  // beyond that no surface can be made
 
 int ToPixels(double twips) {
     return mduAPILib::RoundToInteger(twips / TwipsPerPixel);
@@ -141,9 +142,10 @@ QRectF MdiPlacement::OuterRect() const {
 }
 
 void MdiPlacement::SetOuterRect(const QRectF& twips) {
-    constexpr int largest = 16000;  // pixels; beyond that no surface can be made
-    const auto size = [](double value) { return qBound(0, ToPixels(value), largest); };
-    const auto place = [](double value) { return qBound(-largest, ToPixels(value), largest); };
+    const auto size = [](double value) { return qBound(0, ToPixels(value), LargestPixels); };
+    const auto place = [](double value) {
+        return qBound(-LargestPixels, ToPixels(value), LargestPixels);
+    };
     Outer().setGeometry(place(twips.left()), place(twips.top()), size(twips.width()),
                         size(twips.height()));
 }

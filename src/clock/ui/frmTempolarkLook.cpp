@@ -9,6 +9,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 

@@ -1,0 +1,81 @@
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <memory>
+
+#include "clock/ui/frmTempolark.h"
+#include "ctl/Command.h"
+#include "foundation/FileHelpers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace ctl {
+
+namespace {
+
+constexpr int LargestSide = 16000;  // pixels
+
+/// "300x200" as a size; nothing for any other text.
+std::optional<QSize> ReadSize(const QString& text) {
+    static const QRegularExpression form(u"^(\\d{1,5})x(\\d{1,5})$"_s);
+    const QRegularExpressionMatch match = form.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const bool fits = size.width() >= 1 && size.height() >= 1 && size.width() <= LargestSide &&
+                      size.height() <= LargestSide;
+    return match.hasMatch() && fits ? std::optional(size) : std::nullopt;
+}
+
+/// A clock of that size with that file, after its first tick, its redraw and some normal ticks.
+std::unique_ptr<frmTempolark> DrawnClock(const Program& program, const QString& file,
+                                         const QSize& size, int normalTicks) {
+    program.Module.Paths.CurrentPropertyFile = file;
+    auto clock = std::make_unique<frmTempolark>(program, nullptr, nullptr);
+    clock->setWindowFlag(Qt::FramelessWindowHint);
+    clock->setFixedSize(size);
+    clock->ShowMe(mduLib::FileBaseName(file, false), false, false);
+    for (int tick = 0; tick < normalTicks + 2; ++tick) {
+        clock->Tick();
+    }
+    return clock;
+}
+
+int Render(Context& context) {
+    const QString file = context.Arguments[0];
+    const std::optional<QSize> size = ReadSize(context.Option(u"--size"_s));
+    bool ticksAreNumber = true;
+    const int ticks =
+        context.HasOption(u"--ticks"_s) ? context.Option(u"--ticks"_s).toInt(&ticksAreNumber) : 1;
+    if (!size || !ticksAreNumber || ticks < 0) {
+        return WrongArguments;
+    }
+    if (!context.Services.FileSystem.Read(file)) {
+        Complain(file + u" can't be read"_s);
+        return OperationFailed;
+    }
+    Forms windows;
+    const Program program{context.Services, context.State, windows};
+    const std::unique_ptr<frmTempolark> clock = DrawnClock(program, file, *size, ticks);
+    const QImage& image = clock->PaintedSurface().Image();
+    const bool saved = image.save(context.Arguments[1], "PNG");
+    if (!saved) {
+        Complain(context.Arguments[1] + u" can't be written"_s);
+    }
+    PrintJson(QJsonDocument(QJsonObject{{u"width"_s, image.width()},
+                                        {u"height"_s, image.height()},
+                                        {u"mode"_s, clock->Data().Tag}}));
+    return saved ? Done : OperationFailed;
+}
+
+}  // namespace
+
+std::vector<Command> ClockCommands() {
+    return {{u"clock"_s,
+             u"render"_s,
+             u"FILE PNG --size WxH [--ticks N]"_s,
+             2,
+             2,
+             {u"--size="_s, u"--ticks="_s},
+             Render,
+             true}};
+}
+
+}  // namespace ctl
