@@ -50,6 +50,8 @@ struct Command {
 std::vector<Command> PropertiesCommands();
 std::vector<Command> ValuesCommands();
 std::vector<Command> FilesCommands();
+std::vector<Command> ClockCommands();
+std::vector<Command> ShellCommands();
 
 /// Every command, group by group. A new group is declared above and added there.
 std::vector<Command> AllCommands();
