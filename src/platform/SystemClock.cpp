@@ -52,7 +52,8 @@ public:
         Due = interval_ > 0 ? SteadyMilliseconds() + Wait() : Never;
         running_ = true;
         const std::shared_ptr<bool> alive = alive_;
-        onTick_();
+        const std::function<void()> onTick = onTick_;  // the call may end this ticker's life
+        onTick();
         if (*alive) {
             running_ = false;
         }

@@ -29,10 +29,10 @@ void AppendTransition(QByteArray& bytes, const platform::SYSTEMTIME& time) {
 void FakeZoneDatabase::Add(const QString& name, int bias, int standardBias, int daylightBias,
                            const platform::SYSTEMTIME& standardDate,
                            const platform::SYSTEMTIME& daylightDate) {
-    QString daylight = name;
-    daylight.replace(u"Standard"_s, u"Daylight"_s);
+    QString daylightName = name;
+    daylightName.replace(u"Standard"_s, u"Daylight"_s);
     Subkeys.push_back({name,
-                       {{u"Display"_s, u"(GMT) "_s + name}, {u"Std"_s, name}, {u"Dlt"_s, daylight}},
+                       {{u"Display"_s, u"(GMT) "_s + name}, {u"Std"_s, name}, {u"Dlt"_s, daylightName}},
                        TziBytes(bias, standardBias, daylightBias, standardDate, daylightDate)});
 }
 
