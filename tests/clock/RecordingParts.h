@@ -1,0 +1,188 @@
+#pragma once
+
+#include <QStringList>
+
+#include "clock/ClockTick.h"
+
+/// The parts of a clock, all of which write down each call in one list, in order.
+class RecordingParts {
+    using Calls = QStringList;
+
+    struct Window final : clockcore::ClockWindow {
+        Calls* Log = nullptr;
+        bool MDIChild = true, ActiveForm = true, ActiveWindow = true, Enabled = true;
+        int Interval = 1000;
+        bool IsMDIChild() const override { return MDIChild; }
+        bool IsActiveForm() const override { return ActiveForm; }
+        bool IsActiveWindow() const override { return ActiveWindow; }
+        bool IsEnabled() const override { return Enabled; }
+        int TimerInterval() const override { return Interval; }
+        void SetTimerInterval(int milliseconds) override {
+            Interval = milliseconds;
+            *Log += QStringLiteral("interval %1").arg(milliseconds);
+        }
+        int ScaleLeft() const override { return 3; }
+        int ScaleWidth() const override { return 240; }
+        void Cls() override { *Log += QStringLiteral("Cls"); }
+        void LockWindowUpdate(bool locked) override {
+            *Log += locked ? QStringLiteral("lock") : QStringLiteral("unlock");
+        }
+        void HideHandShapes() override { *Log += QStringLiteral("HideHandShapes"); }
+        void CloseClock() override { *Log += QStringLiteral("CloseClock"); }
+    };
+
+// A part whose calls without arguments are written down by their names.
+#define RECORD(operation)                   \
+    void operation() override {             \
+        *Log += QStringLiteral(#operation); \
+    }
+
+    struct Placement final : clockcore::ClockPlacement {
+        Calls* Log = nullptr;
+        RECORD(ApplyWindowState)
+        RECORD(ApplyWindowRect)
+        RECORD(ApplyWindowBorder)
+        RECORD(ApplyTitleBar)
+        RECORD(SetClockCaption)
+        void ShowClockWindow(bool show) override {
+            *Log += show ? QStringLiteral("ShowClockWindow") : QStringLiteral("hide");
+        }
+    };
+
+    struct Face final : clockcore::ClockFace {
+        Calls* Log = nullptr;
+        RECORD(ApplyWindowBackground)
+        RECORD(ReadDigitalFormat)
+        RECORD(PrepareClockFace)
+        RECORD(DrawClockFace)
+    };
+
+    struct Dial final : drawing::Dial {
+        Calls* Log = nullptr;
+        void DrawDialNumbers(bool, const QString&, bool) override {
+            *Log += QStringLiteral("DrawDialNumbers");
+        }
+        void ShowMinuteSpots(int hour) override {
+            *Log += QStringLiteral("ShowMinuteSpots %1").arg(hour);
+        }
+        RECORD(ApplyClockSpecial)
+    };
+
+    struct Digital final : drawing::DigitalClock {
+        Calls* Log = nullptr;
+        RECORD(SetDigitalLayout)
+    };
+
+    struct Calculator final : drawing::CalculatorClock {
+        Calls* Log = nullptr;
+        RECORD(SetCalculatorLayout)
+    };
+
+    struct Background final : drawing::Background {
+        Calls* Log = nullptr;
+        RECORD(LoadClockPicture)
+        RECORD(ApplyTransparency)
+        RECORD(SetWindowShape)
+        RECORD(ApplySurface)
+        RECORD(ShowAutoBackground)
+    };
+
+    struct Overlays final : drawing::Overlays {
+        Calls* Log = nullptr;
+        RECORD(LayOutOverlays)
+        RECORD(LoadFlag)
+        RECORD(SetSunMoon)
+        RECORD(SetSpeakerPosition)
+        RECORD(SetTransparentIconPosition)
+    };
+
+    struct Timers final : timers::TimerSlots {
+        Calls* Log = nullptr;
+        RECORD(SetTemplate)
+        RECORD(PlaceTimerMarks)
+        void LoadTimers(const QString& path) override {
+            *Log += QStringLiteral("LoadTimers ") + path;
+        }
+        void CheckTimers(const QString& clockTime) override {
+            *Log += QStringLiteral("CheckTimers ") + clockTime;
+        }
+    };
+
+    struct Messages final : timers::MessageChannel {
+        Calls* Log = nullptr;
+        void RunMessage(int left, int width) override {
+            *Log += QStringLiteral("RunMessage %1 %2").arg(left).arg(width);
+        }
+    };
+
+    struct Sounds final : timers::ClockSounds {
+        Calls* Log = nullptr;
+        bool Busy = false;
+        bool PlayHourSound() override {
+            *Log += QStringLiteral("PlayHourSound");
+            return Busy;
+        }
+        RECORD(PlaySecondSound)
+    };
+
+    struct Voice final : speech::ClockVoice {
+        Calls* Log = nullptr;
+        RECORD(PrepareSpeaker)
+        RECORD(FillVoiceMenu)
+    };
+
+    struct Spoken final : speech::SpokenTime {
+        Calls* Log = nullptr;
+        RECORD(CheckSpokenTime)
+    };
+
+    struct Music final : speech::ClockMusic {
+        Calls* Log = nullptr;
+        RECORD(CheckMusic)
+    };
+
+    struct Menus final : clockcore::ClockMenus {
+        Calls* Log = nullptr;
+        RECORD(FillMenuArrays)
+    };
+
+    struct Styles final : clockcore::ClockStyles {
+        Calls* Log = nullptr;
+        RECORD(ApplyNextStyle)
+        RECORD(RecordProgramFolder)
+    };
+#undef RECORD
+
+public:
+    RecordingParts() {
+        const auto record = [this](auto&... parts) { ((parts.Log = &Log), ...); };
+        record(TheWindow, ThePlacement, TheFace, TheDial, TheDigital, TheCalculator, TheBackground,
+               TheOverlays, TheTimers, TheMessages, TheSounds, TheVoice, TheSpoken, TheMusic,
+               TheMenus, TheStyles);
+    }
+    Q_DISABLE_COPY_MOVE(RecordingParts)
+
+    clockcore::ClockParts All() {
+        return {TheWindow,     ThePlacement, TheFace,   TheDial,     TheDigital, TheCalculator,
+                TheBackground, TheOverlays,  TheTimers, TheMessages, TheSounds,  TheVoice,
+                TheSpoken,     TheMusic,     TheMenus,  TheStyles};
+    }
+
+    QStringList Log;
+    Window TheWindow;
+    Placement ThePlacement;
+    Face TheFace;
+    Dial TheDial;
+    Digital TheDigital;
+    Calculator TheCalculator;
+    Background TheBackground;
+    Overlays TheOverlays;
+    Timers TheTimers;
+    Messages TheMessages;
+    Sounds TheSounds;
+    Voice TheVoice;
+    Spoken TheSpoken;
+    Music TheMusic;
+    Menus TheMenus;
+    Styles TheStyles;
+};
