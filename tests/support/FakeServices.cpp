@@ -31,9 +31,10 @@ void FakeZoneDatabase::Add(const QString& name, int bias, int standardBias, int 
                            const platform::SYSTEMTIME& daylightDate) {
     QString daylightName = name;
     daylightName.replace(u"Standard"_s, u"Daylight"_s);
-    Subkeys.push_back({name,
-                       {{u"Display"_s, u"(GMT) "_s + name}, {u"Std"_s, name}, {u"Dlt"_s, daylightName}},
-                       TziBytes(bias, standardBias, daylightBias, standardDate, daylightDate)});
+    Subkeys.push_back(
+        {name,
+         {{u"Display"_s, u"(GMT) "_s + name}, {u"Std"_s, name}, {u"Dlt"_s, daylightName}},
+         TziBytes(bias, standardBias, daylightBias, standardDate, daylightDate)});
 }
 
 QByteArray FakeZoneDatabase::TziBytes(int bias, int standardBias, int daylightBias,
