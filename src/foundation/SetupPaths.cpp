@@ -57,8 +57,10 @@ QString MakeFolder(platform::Files& files, const QString& folder) {
     return folder;
 }
 
+// A default file that is missing is no failure: the user's file then comes into being when it is
+// first saved.
 Step CopyUnlessThere(platform::Files& files, const QString& source, const QString& destination) {
-    if (mduLib::FileExists(files, destination) ||
+    if (mduLib::FileExists(files, destination) || !mduLib::FileExists(files, source) ||
         mduLib::CopyFileTo(files, source, destination, false)) {
         return Step::Done;
     }
@@ -70,9 +72,6 @@ Step SetShortcutsFile(PathTable& paths, platform::Files& files) {
     const QString defaultFile = paths.DefaultShortcutsFile();
     if (!mduLib::FileExists(files, paths.ShortcutsFile)) {
         return CopyUnlessThere(files, defaultFile, paths.ShortcutsFile);
-    }
-    if (!mduLib::FileExists(files, defaultFile)) {
-        return Step::Failed;
     }
     if (mduLib::IsOlderThan(files, paths.ShortcutsFile, defaultFile)) {
         Merge(files, paths.ShortcutsFile, defaultFile);

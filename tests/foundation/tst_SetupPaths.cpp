@@ -67,6 +67,8 @@ private Q_SLOTS:
     void refreshesTheCurrentFile();
     void survivesADataFolderThatCantBeMade();
     void stopsWhereAStepFails();
+    void goesOnWithoutDefaultLists();
+    void endsInAnEmptyProgramFolder();
     void keepsAccountsBelowTheProgramFolder();
     void readsTheLists();
     void mergesTheShellsFile();
@@ -265,14 +267,33 @@ void tst_SetupPaths::survivesADataFolderThatCantBeMade() {
 
 void tst_SetupPaths::stopsWhereAStepFails() {
     Installed app;
-    QFile::remove(app.Below(u"ini/Shortcuts.txt"_s));
+    app.Machine.Files.Unwritable = {app.Below(u"tester/Shortcuts.txt"_s)};
     QCOMPARE(app.Setup(u"Tokyo"_s), mduMain::SetupResult::Done);
     QCOMPARE(app.State.Paths.ShortcutsFile, app.Below(u"tester/Shortcuts.txt"_s));
     QCOMPARE(app.State.Paths.CurrentPropertyFile, QString());
-    app.Machine.WriteFile(u"tester/Shortcuts.txt"_s, "Clocks=F2\r\n");
-    app.Setup(u"Tokyo"_s);
-    QCOMPARE(app.State.Paths.CurrentPropertyFile, QString());
     QVERIFY(app.Machine.Dialogs.Boxes.empty());
+}
+
+void tst_SetupPaths::goesOnWithoutDefaultLists() {
+    Installed app;
+    QFile::remove(app.Below(u"ini/Shortcuts.txt"_s));
+    QFile::remove(app.Below(u"ini/Action.txt"_s));
+    app.Setup(u"Tokyo"_s);
+    QVERIFY(!app.Exists(u"tester/Shortcuts.txt"_s));
+    QVERIFY(!app.Exists(u"tester/Action.txt"_s));
+    QVERIFY(app.Exists(u"tester/TimeZones/Tokyo.ini"_s));
+    app.Machine.WriteFile(u"tester/Shortcuts.txt"_s, "Mine=F2\r\n");
+    app.Setup(u"Oslo"_s);
+    QCOMPARE(app.Machine.ReadFile(u"tester/Shortcuts.txt"_s), "Mine=F2\r\n"_ba);
+    QVERIFY(app.Exists(u"tester/TimeZones/Oslo.ini"_s));
+}
+
+void tst_SetupPaths::endsInAnEmptyProgramFolder() {
+    Installed app;
+    QVERIFY(QDir(app.Below(u"ini"_s)).removeRecursively());
+    app.Machine.Dialogs.BoxAnswers = {1};
+    QCOMPARE(app.SetupAll(u"Tokyo"_s), mduMain::SetupResult::DefaultFileLost);
+    QCOMPARE(app.Machine.Dialogs.Boxes.size(), 1U);
 }
 
 void tst_SetupPaths::keepsAccountsBelowTheProgramFolder() {
