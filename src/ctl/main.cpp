@@ -4,6 +4,7 @@
 #include "ctl/CommandLine.h"
 #include "ctl/ScriptMachine.h"
 #include "foundation/SetupPaths.h"
+#include "platform/AppFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,10 +26,14 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv, bool d
     return std::make_unique<QApplication>(argc, argv);
 }
 
+QString AppFolderOf(const ctl::GlobalOptions& options) {
+    return options.AppFolder ? QDir::cleanPath(QDir(*options.AppFolder).absolutePath())
+                             : platform::ChooseAppFolder(platform::FindAppFolderPlaces());
+}
+
 int Run(const ctl::CommandLine& line) {
-    const QString folder = line.Global.AppFolder.value_or(QCoreApplication::applicationDirPath());
     ModuleState state;
-    state.Paths.AppFolder = QDir::cleanPath(QDir(folder).absolutePath());
+    state.Paths.AppFolder = AppFolderOf(line.Global);
     mduMain::NameProgramFolders(state.Paths);
     const ctl::ScriptMachine machine(line.Global, state.Paths.AppFolder);
     ctl::Context context{line.Global, machine.Services(), state, line.Arguments, line.Options};
