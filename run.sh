@@ -8,20 +8,10 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 program=$root/build/release/bin/TempolarkCentral
 
-build() {
-    cd "$root"
-    tools/install.sh run
-    command -v ccache >/dev/null && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
-    mkdir -p build
-    echo "Building in build/release"
-    { cmake --preset release && cmake --build --preset release --parallel "$(nproc)" \
-        --target TempolarkCentral tempolarkctl tempolark_data; } >build/release.log 2>&1 && return
-    cat build/release.log >&2
-    echo "The build failed; its log is build/release.log" >&2
-    exit 1
-}
+"$root/tools/install.sh" run
+echo "Building in build/release"
+"$root/tools/build.sh" --lenient release TempolarkCentral tempolarkctl tempolark_data >&2
 
-(build)
 if [[ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" || "${QT_QPA_PLATFORM:-xcb}" != xcb ]]; then
     echo "Starting build/release/bin/TempolarkCentral"
     exec "$program" "$@"
