@@ -26,7 +26,7 @@ std::optional<int> Context::Integer(int index) const {
 std::vector<Command> AllCommands() {
     std::vector<Command> commands;
     for (const auto& group : {PropertiesCommands(), ValuesCommands(), FilesCommands(), ClockCommands(),
-                              ShellCommands()}) {
+                              ShellCommands(), ZonesCommands()}) {
         commands.insert(commands.end(), group.begin(), group.end());
     }
     return commands;

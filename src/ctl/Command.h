@@ -52,6 +52,7 @@ std::vector<Command> ValuesCommands();
 std::vector<Command> FilesCommands();
 std::vector<Command> ClockCommands();
 std::vector<Command> ShellCommands();
+std::vector<Command> ZonesCommands();
 
 /// Every command, group by group. A new group is declared above and added there.
 std::vector<Command> AllCommands();

@@ -188,13 +188,16 @@ TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable
     return record;
 }
 
-// A file that is there but can't be read must not be replaced by six lines.
+bool LoadZoneFile(const platform::Files& files, const QString& path, ClockProperties& properties) {
+    properties.Reset();
+    return mduLib::ReadPropertyFile(files, path, properties) || !files.FileExists(path) ||
+           files.Read(path) == QByteArray("");
+}
+
 bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
                      const QString& path, const QString& zoneName) {
-    const platform::Files& files = services.FileSystem;
     ClockProperties properties;
-    const bool loaded = mduLib::ReadPropertyFile(files, path, properties);
-    if (!loaded && files.FileExists(path) && files.Read(path) != QByteArray("")) {
+    if (!LoadZoneFile(services.FileSystem, path, properties)) {
         return false;
     }
     bool written = false;

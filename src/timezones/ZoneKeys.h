@@ -33,7 +33,11 @@ TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable
                              ClockProperties& properties, const QString& zoneName,
                              const QString& path, bool* written = nullptr);
 
-/// Loads the file, then `WriteZoneKeys`.
+/// Loads a zone's file into an empty array; one that is missing or empty has no rows. @return false
+/// when a file is there that can't be read whole, so that writing the array would lose it.
+bool LoadZoneFile(const platform::Files& files, const QString& path, ClockProperties& properties);
+
+/// Loads the file, then `WriteZoneKeys`. @return false when it could not be read or written.
 bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
                      const QString& path, const QString& zoneName);
 

@@ -1,0 +1,186 @@
+#include "ctl/ZonesCommands.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QRegularExpression>
+
+#include "foundation/Numbers.h"
+#include "timezones/ZoneArithmetic.h"
+#include "timezones/ZoneKeys.h"
+#include "timezones/ZoneSources.h"
+
+using namespace Qt::StringLiterals;
+
+namespace ctl {
+
+namespace {
+
+QJsonObject DateAsJson(const platform::SYSTEMTIME& date) {
+    return {{u"wYear"_s, date.wYear},           {u"wMonth"_s, date.wMonth},
+            {u"wDayOfWeek"_s, date.wDayOfWeek}, {u"wDay"_s, date.wDay},
+            {u"wHour"_s, date.wHour},           {u"wMinute"_s, date.wMinute},
+            {u"wSecond"_s, date.wSecond},       {u"wMilliseconds"_s, date.wMilliseconds}};
+}
+
+/// A single-precision number without the digits that double precision would add.
+double Shortest(float number) {
+    return mduAPILib::SingleText(number).toDouble();
+}
+
+float LocalHours(const Context& context) {
+    return mduTimeZones::GetLocalZone(context.Services).CurrentGMTHours;
+}
+
+TimeZoneRecord Find(const Context& context) {
+    return mduTimeZones::FindTimeZone(context.Services, context.State.Paths, context.Arguments[0]);
+}
+
+/// The folder of the user's zone files; a separator in the account's name is none in the folder's.
+QString SelectedFolder(const Context& context) {
+    const PathTable& paths = context.State.Paths;
+    if (!paths.ZoneFileFolder.isEmpty()) {
+        return paths.ZoneFileFolder;
+    }
+    QString user = context.Services.User.UserName().trimmed();
+    user.replace(QRegularExpression(u"[/\\\\\\x00-\\x1f]|^\\.\\.?$"_s), u"_"_s);
+    return paths.AppFolder + (user.isEmpty() ? QString() : u'/' + user) + u"/TimeZones/"_s;
+}
+
+std::optional<TimeZoneRecords> RecordsOfSource(const Context& context, const QString& source) {
+    if (source == "windows"_L1) {
+        return mduTimeZones::ListWindowsTimeZones(context.Services);
+    }
+    if (source == "profiles"_L1) {
+        return mduTimeZones::ListProfileTimeZones(context.Services,
+                                                  context.State.Paths.ProfileFolder);
+    }
+    if (source == "selected"_L1) {
+        return mduTimeZones::ListProfileTimeZones(context.Services, SelectedFolder(context));
+    }
+    return std::nullopt;
+}
+
+int List(Context& context) {
+    const QString source =
+        context.HasOption(u"--source"_s) ? context.Option(u"--source"_s) : u"windows"_s;
+    const std::optional<TimeZoneRecords> records = RecordsOfSource(context, source);
+    if (!records) {
+        return WrongArguments;
+    }
+    QJsonArray array;
+    for (std::size_t number = 1; number < records->size(); ++number) {
+        array.append(RecordAsJson((*records)[number]));
+    }
+    PrintJson(QJsonDocument(array));
+    return Done;
+}
+
+// A document is an object or an array, so an empty record is printed by its word.
+void PrintRecord(const TimeZoneRecord& record) {
+    const QJsonValue value = RecordAsJson(record);
+    if (value.isNull()) {
+        PrintText(u"null"_s);
+    } else {
+        PrintJson(QJsonDocument(value.toObject()));
+    }
+}
+
+int Local(Context& context) {
+    PrintRecord(mduTimeZones::GetLocalZone(context.Services));
+    return Done;
+}
+
+bool OverlayFile(const Context& context, TimeZoneRecord& record) {
+    const QString path = QFileInfo(context.Option(u"--file"_s)).absoluteFilePath();
+    ClockProperties properties;
+    if (!mduTimeZones::LoadZoneFile(context.Services.FileSystem, path, properties)) {
+        Complain(path + u" can't be read"_s);
+        return false;
+    }
+    return mduTimeZones::ReadZoneKeys(context.Services, record, properties, path);
+}
+
+int Show(Context& context) {
+    if (context.HasOption(u"--file"_s) && context.Option(u"--file"_s).isEmpty()) {
+        return WrongArguments;
+    }
+
+    bool saved = true;
+    PrintRecord(RecordAskedFor(context, saved));
+    return saved ? Done : OperationFailed;
+}
+
+int NameAt(Context& context) {
+    const QString text = context.Arguments[1];
+    QDateTime moment = QDateTime::fromString(text, u"yyyy-MM-dd'T'HH:mm:ss"_s);
+    if (!moment.isValid()) {
+        return WrongArguments;
+    }
+    moment = QDateTime(moment.date(), moment.time(), Qt::UTC);
+    TimeZoneRecord record = Find(context);
+    const QString name = mduTimeZones::ZoneNameAtTime(moment, context.Services.Clock.Now(), record,
+                                                      LocalHours(context));
+    PrintJson(QJsonDocument(QJsonObject{{u"name"_s, name}}));
+    return Done;
+}
+
+std::optional<int> ShortInteger(const Context& context, int index) {
+    const std::optional<int> number = context.Integer(index);
+    return number && *number == static_cast<std::int16_t>(*number) ? number : std::nullopt;
+}
+
+int Rule(Context& context) {
+    const auto occurrence = ShortInteger(context, 0);
+    const auto weekday = ShortInteger(context, 1);
+    const auto month = ShortInteger(context, 2);
+    if (!occurrence || !weekday || !month) {
+        return WrongArguments;
+    }
+    const QDate date = mduTimeZones::RuleTransitionDate(*occurrence, *weekday, *month,
+                                                        context.Services.Clock.Now().date());
+    PrintJson(QJsonDocument(QJsonObject{{u"date"_s, date.toString(Qt::ISODate)}}));
+    return Done;
+}
+
+}  // namespace
+
+QJsonValue RecordAsJson(const TimeZoneRecord& record) {
+    if (record == TimeZoneRecord()) {
+        return QJsonValue::Null;
+    }
+    return QJsonObject{{u"Bias"_s, record.Bias},
+                       {u"KeyName"_s, record.KeyName},
+                       {u"StandardName"_s, record.StandardName},
+                       {u"StandardDate"_s, DateAsJson(record.StandardDate)},
+                       {u"StandardBias"_s, record.StandardBias},
+                       {u"DaylightName"_s, record.DaylightName},
+                       {u"DaylightDate"_s, DateAsJson(record.DaylightDate)},
+                       {u"DaylightBias"_s, record.DaylightBias},
+                       {u"DisplayName"_s, record.DisplayName},
+                       {u"CurrentName"_s, record.CurrentName},
+                       {u"CurrentGMTHours"_s, Shortest(record.CurrentGMTHours)},
+                       {u"HoursFromLocal"_s, Shortest(record.HoursFromLocal)}};
+}
+
+TimeZoneRecord RecordAskedFor(const Context& context, bool& saved) {
+    TimeZoneRecord record = Find(context);
+    saved = true;
+    if (context.HasOption(u"--file"_s)) {
+        saved = OverlayFile(context, record);
+    }
+    mduTimeZones::ApplyCurrentOffset(record, context.Services.Clock.Now(), LocalHours(context));
+    return record;
+}
+
+std::vector<Command> ZonesCommands() {
+    const QString group = u"zones"_s;
+    return {
+        {group, u"list"_s, u"[--source windows|profiles|selected]"_s, 0, 0, {u"--source="_s}, List},
+        {group, u"local"_s, {}, 0, 0, {}, Local},
+        {group, u"show"_s, u"NAME [--file INI]"_s, 1, 1, {u"--file="_s}, Show},
+        {group, u"name-at"_s, u"NAME DATETIME"_s, 2, 2, {}, NameAt},
+        {group, u"rule"_s, u"OCCURRENCE WEEKDAY MONTH"_s, 3, 3, {}, Rule},
+    };
+}
+
+}  // namespace ctl
