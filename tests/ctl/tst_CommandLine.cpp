@@ -1,0 +1,99 @@
+#include "ctl/Companion.h"
+
+using namespace Qt::StringLiterals;
+
+class tst_CommandLine : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void answersQuestions();
+    void refusesWrongArguments_data();
+    void refusesWrongArguments();
+    void takesOptionsInBothForms();
+    void takesNothingForAnOptionBehindTwoDashes();
+    void printsOneDocument();
+};
+
+void tst_CommandLine::answersQuestions() {
+    const Companion companion;
+    const CompanionAnswer help = companion.Run({u"--help"_s});
+    QCOMPARE(help.Status, 0);
+    QVERIFY(help.Output.contains("properties merge OLD NEW OUT"));
+    QVERIFY(help.Output.contains("--app-folder DIR"));
+    QCOMPARE(help.Messages, QByteArray());
+    const CompanionAnswer version = companion.Run({u"--version"_s});
+    QCOMPARE(version.Status, 0);
+    QCOMPARE(version.Output, "tempolarkctl " TEMPOLARK_VERSION "\n"_ba);
+}
+
+void tst_CommandLine::refusesWrongArguments_data() {
+    QTest::addColumn<QStringList>("arguments");
+    const auto row = [](const char* line) {
+        QTest::newRow(line) << QString::fromLatin1(line).split(u' ', Qt::SkipEmptyParts);
+    };
+    row("");
+    row("properties");
+    row("properties frobnicate a");
+    row("frobnicate read a");
+    row("properties read");
+    row("properties read a b");
+    row("properties read a --category C");
+    row("properties get a b --category");
+    row("properties get a b --frob");
+    row("properties put a b");
+    row("properties merge a b");
+    row("properties sort a b c");
+    row("properties sort a 0 1");
+    row("properties sort a 4 1");
+    row("values colour");
+    row("values colour-name red");
+    row("values colour-name 1.5");
+    row("values wrap text wide");
+    row("files setup a b");
+    row("--now yesterday values colour red");
+    row("--now 2026-02-30T00:00:00 values colour red");
+    row("--local-zone Nowhere/Land values colour red");
+    row("--seed many values colour red");
+    row("--frob values colour red");
+    row("--seed");
+    row("--app-folder= values colour red");
+}
+
+void tst_CommandLine::refusesWrongArguments() {
+    QFETCH(QStringList, arguments);
+    const CompanionAnswer answer = Companion().Run(arguments);
+    QCOMPARE(answer.Status, 2);
+    QCOMPARE(answer.Output, QByteArray());
+    QVERIFY(answer.Messages.contains("tempolarkctl [options]"));
+}
+
+void tst_CommandLine::takesOptionsInBothForms() {
+    const Companion companion;
+    const QString file = companion.Write(u"a.ini"_s, "A:N=1\nB:N=2\n");
+    for (const QStringList& option :
+         {QStringList{u"--category"_s, u"B"_s}, QStringList{u"--category=B"_s}}) {
+        const CompanionAnswer answer =
+            companion.Run(QStringList{u"--seed=1"_s, u"--user"_s, QString(), u"properties"_s,
+                                      u"get"_s, file, u"N"_s} +
+                          option);
+        QCOMPARE(answer.Status, 0);
+        QCOMPARE(answer.Output, "{\"value\":\"2\"}\n"_ba);
+    }
+}
+
+void tst_CommandLine::takesNothingForAnOptionBehindTwoDashes() {
+    const CompanionAnswer answer =
+        Companion().Run({u"values"_s, u"colour"_s, u"--"_s, u"--category"_s});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(answer.Object().value(u"text"_s).toString(), u"--category"_s);
+}
+
+void tst_CommandLine::printsOneDocument() {
+    const CompanionAnswer answer = Companion().Run({u"values"_s, u"wrap"_s, u"Größe €"_s, u"3"_s});
+    QCOMPARE(answer.Output,
+             "{\"value\":\"Gr\xC3\xB6\xC3\x9F"
+             "e \xE2\x82\xAC\"}\n"_ba);
+}
+
+QTEST_GUILESS_MAIN(tst_CommandLine)
+#include "tst_CommandLine.moc"
