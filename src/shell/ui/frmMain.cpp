@@ -60,6 +60,7 @@ void frmMain::MakeInnerParts() {
     header_->setObjectName(u"header"_s);
     header_->setAlignment(Qt::AlignCenter);
     header_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    area_->viewport()->installEventFilter(this);
 
     messagePanel_ = new QLabel(this);
     messagePanel_->setObjectName(u"messagePanel"_s);
@@ -162,9 +163,11 @@ void frmMain::PlaceHeader() {
     header_->lower();
 }
 
-void frmMain::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    PlaceHeader();
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched == area_->viewport()) {
+        PlaceHeader();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 int frmMain::LaunchTempolark(const QString& name) {

@@ -1,0 +1,53 @@
+# Sourced by the end-to-end tests: a program in a window, a mouse, and what the files say.
+
+# WaitFor SECONDS COMMAND...: until the command succeeds; fails when it never does.
+WaitFor() {
+    local tries=$(($1 * 20))
+    shift
+    for ((try = 0; try < tries; try++)); do
+        "$@" && return 0
+        sleep 0.05
+    done
+    return 1
+}
+
+ShellWindow() { xdotool search --onlyvisible --name '^Tempolark Central$' 2>/dev/null | head -n 1; }
+HasShell() { [[ -n "$(ShellWindow)" ]]; }
+HasNoShell() { [[ -z "$(ShellWindow)" ]]; }
+
+# Box WINDOW: its inner place and size on the screen, as "x y width height".
+Box() {
+    xwininfo -id "$1" | awk '/Absolute upper-left X/{x=$NF} /Absolute upper-left Y/{y=$NF}
+        /Width:/{w=$NF} /Height:/{h=$NF} END{print x, y, w, h}'
+}
+
+# The pop-up menus on the screen, oldest first: every window of the program but the shell.
+Popups() {
+    local shell
+    shell=$(ShellWindow)
+    xdotool search --onlyvisible --class '^Tempolark' 2>/dev/null | grep -vx "$shell" | sort -n
+}
+HasPopups() { [[ $(Popups | wc -l) -eq $1 ]]; }
+
+# ClickAt X Y: a real press and release of the left button.
+ClickAt() { xdotool mousemove "$1" "$2" sleep 0.1 click 1; }
+
+# PressButton OFFSET: a button of the toolbar, by the distance from the shell's left edge.
+PressButton() {
+    local x y
+    read -r x y _ < <(Box "$(ShellWindow)")
+    ClickAt $((x + $1)) $((y + 15))
+    WaitFor 5 HasPopups 1
+}
+
+# PointAtRow MENU ROW ROWS: moves the mouse onto a row of a menu with that many equal rows.
+PointAtRow() {
+    local x y w h
+    read -r x y w h < <(Box "$1")
+    xdotool mousemove $((x + w / 2)) $((y + h * (2 * $2 - 1) / (2 * $3)))
+}
+
+Pixel() { import -window root -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}' | head -n 1; }
+
+# Value FILE NAME: what a property file says.
+Value() { tr -d '\r' <"$1" | sed -n "s/^\([^=:]*:\)\?$2=\(.*\)$/\2/p" | head -n 1; }
