@@ -44,7 +44,7 @@ constexpr Row rows[] = {
     {u"Atlantic Standard Time", u"Halifax, Hamilton, Moncton"},
     {u"Central Brazilian Standard Time", u"Cuiabá, Campo Grande"},
     {u"Pacific SA Standard Time", u"Santiago, Valparaíso, Concepción"},
-    {u"SA Western Standard Time", u"La Paz, San Juan, Santo Domingo, Manaus, Georgetown"},
+    {u"SA Western Standard Time", u"La Paz, Santo Domingo, Manaus, Georgetown"},
     {u"Venezuela Standard Time", u"Caracas, Maracaibo"},
     {u"Newfoundland Standard Time", u"St. John’s"},
     {u"Argentina Standard Time", u"Buenos Aires, Córdoba, Rosario, Ushuaia"},

@@ -60,8 +60,9 @@ void ReadMinutes(std::int32_t& minutes, const QString& text) {
 void RollDaylightBack(TimeZoneRecord& record, const QDateTime& now) {
     const QDateTime standard = TransitionValue(record.StandardDate, now.date());
     const QDateTime daylight = TransitionValue(record.DaylightDate, now.date());
+    const QDateTime present = now.addMSecs(-now.time().msec());
     const bool valid = standard.isValid() && daylight.isValid();
-    if (valid && now.secsTo(standard) >= 1 && standard.secsTo(daylight) >= 1) {
+    if (valid && daylight > standard && standard > present) {
         record.DaylightDate.wYear = static_cast<std::int16_t>(record.DaylightDate.wYear - 1);
     }
 }
