@@ -12,6 +12,7 @@
 #include "platform/SystemServices.h"
 #include "platform/TzZoneDatabase.h"
 #include "platform/ui/DesktopDialogs.h"
+#include "shell/ui/ProgramIcon.h"
 #include "shell/ui/frmMain.h"
 
 using namespace Qt::StringLiterals;
@@ -80,6 +81,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Tempolark"_s);
     QApplication::setApplicationVersion(QStringLiteral(TEMPOLARK_VERSION));
+    QApplication::setWindowIcon(ProgramIcon());
     // The toolkit has taken its own options off by now.
     const Options options = ReadOptions(QApplication::arguments());
 

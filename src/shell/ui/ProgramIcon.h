@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QIcon>
+
+/// The program's icon: a dial at ten past ten.
+QIcon ProgramIcon();
