@@ -93,7 +93,7 @@ QString TakeGlobalOptions(QStringList& arguments, GlobalOptions& options) {
             options.Help = true;
         } else if (argument == "--version"_L1) {
             options.Version = true;
-        } else if (const QString problem = TakeOptionWithValue(argument, arguments, options);
+        } else if (QString problem = TakeOptionWithValue(argument, arguments, options);
                    !problem.isEmpty()) {
             return problem;
         }

@@ -102,7 +102,7 @@ int WindowBorderValue(const QString& text) {
 
 QString ToolbarPositionName(int code, bool visible) {
     const QStringList names = {u"None"_s, u"Top"_s, u"Bottom"_s, u"Left"_s, u"Right"_s};
-    const QString name = names[code >= 1 && code <= 4 ? code : 0];
+    const QString& name = names[code >= 1 && code <= 4 ? code : 0];
     return visible ? name : name + u":Hide"_s;
 }
 
