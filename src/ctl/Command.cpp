@@ -25,8 +25,8 @@ std::optional<int> Context::Integer(int index) const {
 
 std::vector<Command> AllCommands() {
     std::vector<Command> commands;
-    for (const auto& group : {PropertiesCommands(), ValuesCommands(), FilesCommands(), ClockCommands(),
-                              ShellCommands(), ZonesCommands()}) {
+    for (const auto& group : {PropertiesCommands(), ValuesCommands(), FilesCommands(),
+                              ClockCommands(), ShellCommands(), ZonesCommands()}) {
         commands.insert(commands.end(), group.begin(), group.end());
     }
     return commands;
