@@ -44,14 +44,14 @@ QPointF ClockCentre(const AnalogueLook& look, int scaleWidth, int scaleHeight) {
     return {CentreOf(look.CentralX, scaleWidth), CentreOf(look.CentralY, scaleHeight)};
 }
 
-QRegion AnalogueFace::DrawAnalogueClock(Surface& surface, const AnalogueLook& look,
-                                        const HandTime& time, int backColour) {
+QRect AnalogueFace::DrawAnalogueClock(Surface& surface, const AnalogueLook& look,
+                                      const HandTime& time, int backColour) {
     const Frame frame = MakeFrame(surface, look, time, backColour);
-    const std::optional<QRegion> changed = ChangedPart(frame);
+    const std::optional<QRect> changed = ChangedPart(frame);
     if (changed && changed->isEmpty()) {
         return {};
     }
-    surface.SetClip(changed.value_or(QRegion()));
+    surface.SetClip(changed.value_or(QRect()));
     Paint(surface, frame);
     surface.SetClip({});
     if (look.ClockSpecial == u"Analogue Hour Number Random Colour"_s) {
@@ -89,20 +89,20 @@ AnalogueFace::Hand AnalogueFace::MakeHand(const HandLook& look, double angle, in
 }
 
 // Nothing where the whole surface has to be painted.
-std::optional<QRegion> AnalogueFace::ChangedPart(const Frame& frame) const {
+std::optional<QRect> AnalogueFace::ChangedPart(const Frame& frame) const {
     if (!last_ || frame.Size != last_->Size || frame.Cx != last_->Cx || frame.Cy != last_->Cy ||
         frame.HeadColour != last_->HeadColour || frame.BackColour != last_->BackColour ||
         frame.Height != last_->Height || background_.HasClockPicture() ||
         dial_.NumbersArePainted()) {
         return std::nullopt;
     }
-    QRegion changed;
+    QRect changed;
     for (std::size_t i = 0; i < frame.Hands.size(); ++i) {
         const Hand& now = frame.Hands[i];
         const Hand& before = last_->Hands[i];
         if (now != before) {
             for (const Hand& hand : {now, before}) {
-                changed += HandBounds(hand.Style, frame.Cx, frame.Cy, hand.Angle, hand.Length,
+                changed |= HandBounds(hand.Style, frame.Cx, frame.Cy, hand.Angle, hand.Length,
                                       hand.LineWidth);
             }
         }

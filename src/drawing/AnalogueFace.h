@@ -41,8 +41,8 @@ public:
         : dial_(dial), background_(background), random_(random) {}
 
     /// @return the part of the surface that may have changed
-    QRegion DrawAnalogueClock(Surface& surface, const AnalogueLook& look, const HandTime& time,
-                              int backColour);
+    QRect DrawAnalogueClock(Surface& surface, const AnalogueLook& look, const HandTime& time,
+                            int backColour);
 
     /// Makes the next pass a whole one: the surface has been touched by others.
     void Invalidate() { last_.reset(); }
@@ -70,7 +70,7 @@ private:
     Frame MakeFrame(const Surface& surface, const AnalogueLook& look, const HandTime& time,
                     int backColour);
     Hand MakeHand(const HandLook& look, double angle, int diameter);
-    std::optional<QRegion> ChangedPart(const Frame& frame) const;
+    std::optional<QRect> ChangedPart(const Frame& frame) const;
     void Paint(Surface& surface, const Frame& frame);
 
     Dial& dial_;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QImage>
-#include <QRegion>
 
 namespace drawing {
 
@@ -23,24 +22,28 @@ public:
     /// Clears the whole surface to a colour.
     void Cls(int colour);
 
-    /// A straight line in the style solid, @p drawWidth pixels wide (below 1: a hairline). Ends are
-    /// pixel centres and belong to the line.
+    /// A straight, anti-aliased line in the style solid, @p drawWidth pixels wide (below 1: a
+    /// hairline of 1). Ends are pixel centres and belong to the line; a wide line has round ends.
     void Line(int x1, int y1, int x2, int y2, int colour, int drawWidth);
 
     void SetPixel(int x, int y, int colour);
 
-    /// Limits all drawing to a part of the surface; null means no limit.
-    void SetClip(const QRegion& region);
+    /// Limits all drawing to a rectangle of the surface; a null one means no limit.
+    void SetClip(const QRect& rect);
 
+    /// The live bitmap: a copy of it shares the pixels and sees what is drawn later.
     const QImage& Image() const { return image_; }
-    QImage& Image() { return image_; }
 
 private:
+    QRgb* ScanLine(int y) { return pixels_ + static_cast<std::ptrdiff_t>(y) * stride_; }
+
     QImage image_;
+    QRgb* pixels_;           // of the image, which nobody else writes
+    std::ptrdiff_t stride_;  // pixels from one row to the next
     double devicePixelRatio_;
     int height_;
-    QRegion clip_;
-    bool clipped_ = false;
+    QRect whole_;
+    QRect clip_;
 };
 
 /// The bitmap's form of a colour number.

@@ -101,15 +101,6 @@ bool IsNumeric(const QString& text) {
     return !trimmed.isEmpty() && ScanNumber(trimmed).Length == trimmed.size();
 }
 
-int RoundToInteger(double value) {
-    if (std::isnan(value)) {
-        return 0;
-    }
-    constexpr double Lowest = std::numeric_limits<int>::min();
-    constexpr double Highest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(std::nearbyint(value), Lowest, Highest));
-}
-
 int IntegerValue(const QString& text) {
     return RoundToInteger(Val(text));
 }

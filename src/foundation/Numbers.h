@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
+#include <limits>
 
 /// Conversions between text and number, each named once.
 namespace mduAPILib {
@@ -14,7 +17,17 @@ double Val(const QString& text);
 bool IsNumeric(const QString& text);
 
 /// Nearest integer, half to even; the ends of the 32-bit range where the value lies beyond.
-int RoundToInteger(double value);
+inline int RoundToInteger(double value) {
+    constexpr double least = std::numeric_limits<int>::min();
+    constexpr double most = std::numeric_limits<int>::max();
+    if (std::isnan(value)) {
+        return 0;
+    }
+    // At this size a double holds no fraction, so that the sum is rounded by the processor, half to
+    // even. Drawing rounds every pixel; a call of the library would be most of its cost.
+    constexpr double noFraction = 6755399441055744.0;  // 1.5 * 2^52
+    return static_cast<int>((std::clamp(value, least, most) + noFraction) - noFraction);
+}
 
 /// `RoundToInteger` of `Val`: how an integer property reads.
 int IntegerValue(const QString& text);
