@@ -23,6 +23,7 @@ public:
         return Contents.contains(source) && Write(destination, Contents[source]);
     }
     bool Delete(const QString& path) override { return Contents.remove(path) > 0; }
+    bool Touch(const QString& path) override { return Contents.contains(path); }
     std::optional<qint64> ModifiedSeconds(const QString&) const override { return std::nullopt; }
     QStringList FileNames(const QString&) const override { return Contents.keys(); }
 };

@@ -21,22 +21,13 @@ void LetEventsRun() {
     }
 }
 
-// A file that holds its content already is left alone by a write. Here its time must move on, else
-// it is merged at every start; what stands in it meanwhile reads the same.
-void MakeYounger(platform::Files& files, const QString& file) {
-    if (const std::optional<QByteArray> content = files.Read(file)) {
-        files.Write(file, *content + "\r\n");
-        files.Write(file, *content);
-    }
-}
-
 bool Merge(platform::Files& files, const QString& userFile, const QString& defaultFile) {
     if (!mduLib::MergePropertyFile(files, userFile, defaultFile, userFile, LetEventsRun)) {
         return false;
     }
-    if (mduLib::IsOlderThan(files, userFile, defaultFile)) {
-        MakeYounger(files, userFile);
-    }
+    // A merge that changed nothing has left the file alone. Its time must move on all the same, else
+    // it is merged at every start.
+    files.Touch(userFile);
     return true;
 }
 

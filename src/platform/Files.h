@@ -32,6 +32,9 @@ public:
 
     virtual bool Delete(const QString& path) = 0;
 
+    /// Makes the present the file's last-modified time. False if it can't.
+    virtual bool Touch(const QString& path) = 0;
+
     /// Last-modified time in whole seconds since the epoch; nothing if there is no such file.
     virtual std::optional<qint64> ModifiedSeconds(const QString& path) const = 0;
 

@@ -51,6 +51,12 @@ bool LocalFiles::Delete(const QString& path) {
     return QFile::remove(path);
 }
 
+bool LocalFiles::Touch(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
+           file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
+}
+
 std::optional<qint64> LocalFiles::ModifiedSeconds(const QString& path) const {
     const QFileInfo info(path);
     if (!info.exists()) {

@@ -14,6 +14,7 @@ public:
     bool Write(const QString& path, const QByteArray& content) override;
     bool Copy(const QString& source, const QString& destination) override;
     bool Delete(const QString& path) override;
+    bool Touch(const QString& path) override;
     std::optional<qint64> ModifiedSeconds(const QString& path) const override;
     QStringList FileNames(const QString& folder) const override;
 };

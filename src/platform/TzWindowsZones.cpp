@@ -167,7 +167,7 @@ std::vector<TzWindowsZone> TzWindowsZones() {
 }
 
 QByteArray TzDefaultIana(const QString& name) {
-    const QByteArray iana = QTimeZone::windowsIdToDefaultIanaId(name.toUtf8());
+    QByteArray iana = QTimeZone::windowsIdToDefaultIanaId(name.toUtf8());
     if (iana.isEmpty() || QTimeZone(iana).isValid()) {
         return iana;
     }

@@ -98,6 +98,9 @@ public:
     bool Write(const QString& path, const QByteArray& content) override;
     bool Copy(const QString& source, const QString& destination) override;
     bool Delete(const QString& path) override { return local_.Delete(path); }
+    bool Touch(const QString& path) override {
+        return !Unwritable.contains(path) && local_.Touch(path);
+    }
     std::optional<qint64> ModifiedSeconds(const QString& path) const override {
         return local_.ModifiedSeconds(path);
     }
