@@ -97,7 +97,7 @@ private:
     /// The text of a key; an empty one is filled in from the record first.
     QString Text(qsizetype key) {
         const QString& name = ZoneKeys()[key];
-        const QString present = ZoneKeyValue(properties_, name);
+        QString present = ZoneKeyValue(properties_, name);
         if (!present.isEmpty()) {
             return present;
         }

@@ -33,7 +33,7 @@ std::int32_t IntAt(const QByteArray& bytes, qsizetype offset) {
 }
 
 SYSTEMTIME TransitionAt(const QByteArray& bytes, qsizetype offset) {
-    const auto field = [&](int index) {
+    const auto field = [&](qsizetype index) {
         return qFromLittleEndian<qint16>(bytes.constData() + offset + 2 * index);
     };
     return {field(0), field(1), field(2), field(3), field(4), field(5), field(6), field(7)};
