@@ -18,15 +18,6 @@ QString FileNameOfZone(const QString& zoneName) {
     return zoneName == u"/s"_s ? u"s"_s : zoneName;
 }
 
-/// A file that is there, but is no text or is more than the reader takes in.
-bool HoldsMoreThanRead(const platform::Files& files, const QString& path, bool wasRead) {
-    if (!files.FileExists(path)) {
-        return false;
-    }
-    const std::optional<QByteArray> content = files.Read(path);
-    return !content || content->contains('\0') || (!wasRead && !content->isEmpty());
-}
-
 }  // namespace
 
 bool ClockFiles::NameCurrentFile(const QString& zoneName) {
@@ -68,8 +59,8 @@ void ClockFiles::ReadProperties() {
     const platform::Files& files = program_.Services.FileSystem;
     ClockProperties& properties = data_.EditProperties();
     properties.Reset();
-    const bool wasRead = mduLib::ReadPropertyFile(files, data_.PropertyFileName, properties);
-    mayWrite_ = !HoldsMoreThanRead(files, data_.PropertyFileName, wasRead);
+    mduLib::ReadPropertyFile(files, data_.PropertyFileName, properties);
+    mayWrite_ = mduLib::MayRewrite(files, data_.PropertyFileName);
     if (!mayWrite_) {
         report_(u"%1 can't be read as a property file; it is left as it is"_s.arg(
             data_.PropertyFileName));

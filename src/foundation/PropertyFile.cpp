@@ -93,6 +93,14 @@ bool ReadPropertyFile(const platform::Files& files, const QString& path, ClockPr
     return count > 0 && lines.size() <= LastCountableLine;
 }
 
+bool MayRewrite(const platform::Files& files, const QString& path) {
+    if (!files.FileExists(path)) {
+        return true;
+    }
+    const std::optional<QByteArray> content = files.Read(path);
+    return content && !content->contains('\0') && FileLines(*content).size() <= LastCountableLine;
+}
+
 QByteArray PropertyFileContent(const ClockProperties& array) {
     QString text;
     for (int row = 1; row <= array.UpperBound(); ++row) {

@@ -24,6 +24,10 @@ void ParsePropertyLine(const QString& line, ClockProperty& row);
 /// lines are then in the array).
 bool ReadPropertyFile(const platform::Files& files, const QString& path, ClockProperties& array);
 
+/// Whether a file may be written anew without losing what a reader does not take in: it is missing,
+/// or it can be read, is a text (no NUL in it) and has no more lines than a 16-bit counter holds.
+bool MayRewrite(const platform::Files& files, const QString& path);
+
 /// The text that `WritePropertyFile` writes: rows with an empty Name are skipped, one leading "^"
 /// of a Value is dropped.
 QByteArray PropertyFileContent(const ClockProperties& array);

@@ -130,12 +130,21 @@ QStringList LinesOf(const std::optional<QByteArray>& content) {
     return content ? FileLines(*content) : QStringList();
 }
 
+/// A user's file that can't be read, or is no text, is not replaced by the defaults.
+bool HoldsNothingOrText(const platform::Files& files, const QString& path) {
+    if (!files.FileExists(path)) {
+        return true;
+    }
+    const std::optional<QByteArray> content = files.Read(path);
+    return content && !content->contains('\0');
+}
+
 }  // namespace
 
 bool MergePropertyFile(platform::Files& files, const QString& oldFile, const QString& newFile,
                        const QString& outFile, const std::function<void()>& yield) {
     const std::optional<QByteArray> newContent = files.Read(newFile);
-    if (!newContent) {
+    if (!newContent || (outFile == oldFile && !HoldsNothingOrText(files, oldFile))) {
         return false;
     }
     const OldLines old(LinesOf(files.Read(oldFile)));

@@ -12,6 +12,9 @@ namespace mduLib {
 /// The user's "Clocks=Digital,Analogue,Digital" and the default
 /// "Clocks=Analogue,Analogue,Digital,Calculator" give "Clocks=Digital,Analogue,Digital,Calculator".
 ///
+/// A user's file that can't be read, or is no text, is never replaced by the defaults: where
+/// @p outFile is such an @p oldFile, the merge answers false.
+///
 /// @param yield called after each line, so that a window stays alive during a long merge
 /// @return true when the whole new file was processed. On false nothing is written and
 /// @p outFile is as it was.

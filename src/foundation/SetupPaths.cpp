@@ -25,8 +25,8 @@ bool Merge(platform::Files& files, const QString& userFile, const QString& defau
     if (!mduLib::MergePropertyFile(files, userFile, defaultFile, userFile, LetEventsRun)) {
         return false;
     }
-    // A merge that changed nothing has left the file alone. Its time must move on all the same, else
-    // it is merged at every start.
+    // A merge that changed nothing has left the file alone. Its time must move on all the same,
+    // else it is merged at every start.
     files.Touch(userFile);
     return true;
 }

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void mergesManyLines();
     void yieldsAfterEachLine();
     void survivesEveryByteValue();
+    void leavesWhatIsNoTextOrCantBeRead();
 };
 
 void tst_PropertyMerge::merges_data() {
@@ -178,13 +179,27 @@ void tst_PropertyMerge::yieldsAfterEachLine() {
 void tst_PropertyMerge::survivesEveryByteValue() {
     FakeServices machine;
     QByteArray content;
-    for (int byte = 0; byte < 256; ++byte) {
+    for (int byte = 1; byte < 256; ++byte) {
         content += static_cast<char>(byte);
     }
     const QString old = machine.WriteFile(u"old.ini"_s, content);
     const QString fresh = machine.WriteFile(u"new.ini"_s, "A=2");
     QVERIFY(mduLib::MergePropertyFile(machine.Files, old, fresh, old));
     QCOMPARE(machine.ReadFile(u"old.ini"_s), "A=2\r\n"_ba);
+}
+
+void tst_PropertyMerge::leavesWhatIsNoTextOrCantBeRead() {
+    FakeServices machine;
+    const QByteArray picture("GIF89a\0\0A=1", 11);
+    const QString old = machine.WriteFile(u"old.ini"_s, picture);
+    const QString fresh = machine.WriteFile(u"new.ini"_s, "A=2");
+    QVERIFY(!mduLib::MergePropertyFile(machine.Files, old, fresh, old));
+    QCOMPARE(machine.ReadFile(u"old.ini"_s), picture);
+
+    const QString closed = machine.WriteFile(u"closed.ini"_s, "A=1");
+    machine.Files.Unreadable = {closed};
+    QVERIFY(!mduLib::MergePropertyFile(machine.Files, closed, fresh, closed));
+    QCOMPARE(machine.ReadFile(u"closed.ini"_s), "A=1"_ba);
 }
 
 QTEST_GUILESS_MAIN(tst_PropertyMerge)

@@ -199,10 +199,11 @@ void frmMain::SaveWindowPlacement() {
     const QString file = IniFile();
     // What the property window saved meanwhile stays.
     ClockProperties fresh;
+    if (!mduLib::MayRewrite(files, file)) {
+        return;
+    }
     if (mduLib::ReadPropertyFile(files, file, fresh)) {
         centralProperties_ = fresh;
-    } else if (files.FileExists(file)) {
-        return;  // it can't be read: writing it would lose what it holds
     }
     if (WindowState() == 0) {
         const auto store = [this](const QString& key, int pixels) {
