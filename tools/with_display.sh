@@ -9,9 +9,8 @@ set -euo pipefail
 scratch=$(mktemp -d)
 xvfb= manager=
 cleanUp() {
-    [[ -n "$manager" ]] && kill "$manager" 2>/dev/null
-    [[ -n "$xvfb" ]] && kill "$xvfb" 2>/dev/null
-    wait 2>/dev/null
+    kill $manager $xvfb 2>/dev/null || true
+    wait 2>/dev/null || true
     rm -rf "$scratch"
 }
 trap cleanUp EXIT
