@@ -1,14 +1,11 @@
 #include <QApplication>
-#include <QFile>
 #include <QMdiArea>
 #include <QTest>
 
 #include "clock/ui/frmTempolark.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
-#include "foundation/SetupPaths.h"
-#include "platform/TzZoneDatabase.h"
-#include "support/FakeServices.h"
+#include "support/MachineWithZones.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;
@@ -26,31 +23,12 @@ struct FakeShell final : IShell {
     int BackColor() const override { return Colour; }
 };
 
-/// A machine in GMT at noon of 15 June 2026, with the real zone database and the default files.
-struct Desk {
-    FakeServices Machine;
-    platform::TzZoneDatabase Zones{Machine.Clock, "UTC"};
-    platform::Services Services{Machine.Clock,    Zones,           Machine.Files,  Machine.User,
-                                Machine.Settings, Machine.Actions, Machine.Voices, Machine.Players,
-                                Machine.Sound,    Machine.Dialogs, Machine.Tray,   Machine.Help,
-                                Machine.Random};
-    ModuleState Module;
-    Forms Windows;
+/// A frame of the shell with nothing in it.
+struct Desk : MachineWithZones {
     FakeShell Shell;
     QMdiArea Area;
-    Program TheProgram{Services, Module, Windows};
 
     Desk() {
-        for (const QString& name :
-             {u"Tempolark.ini"_s, u"TempolarkCentral.ini"_s, u"Shortcuts.txt"_s, u"Action.txt"_s}) {
-            QFile file(QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/ini/") + name);
-            if (!file.open(QIODevice::ReadOnly)) {
-                qFatal("no default file");
-            }
-            Machine.WriteFile(u"ini/"_s + name, file.readAll());
-            Machine.SetAge(u"ini/"_s + name, 3600);
-        }
-        Module.Paths.AppFolder = Machine.AppFolder();
         ClockProperties central;
         mduMain::SetupFiles(Module, Services, u"UTC"_s, central);
         Area.resize(800, 600);

@@ -1,0 +1,320 @@
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QTest>
+#include <QToolButton>
+
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "shell/ui/frmMain.h"
+#include "support/MachineWithZones.h"
+
+using namespace Qt::StringLiterals;
+
+/// The real shell on a machine of the test.
+struct Desk : MachineWithZones {
+    std::unique_ptr<frmMain> Shell;
+
+    bool Start() {
+        Shell = std::make_unique<frmMain>(TheProgram);
+        return Shell->Load();
+    }
+    void Stop() {
+        Shell->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Shell.reset();
+    }
+    void Zone(const QString& name) {
+        Machine.WriteFile(u"tester/TimeZones/"_s + name + u".ini"_s,
+                          Machine.ReadFile(u"ini/Tempolark.ini"_s));
+    }
+    QMenu* Menu(const QString& name) const { return Shell->findChild<QMenu*>(name); }
+
+    /// Opens a button's pop-up with a real click and gives its menu back.
+    QMenu* Open(const QString& button) const {
+        auto* tool = Shell->findChild<QToolButton*>(u"tool_"_s + button);
+        QMenu* menu = tool->menu();
+        Q_EMIT menu->aboutToShow();
+        return menu;
+    }
+    static QAction* Item(const QMenu* menu, const QString& text) {
+        for (QAction* action : menu->actions()) {
+            if (action->text() == text) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
+    static QStringList Texts(const QMenu* menu) {
+        QStringList texts;
+        for (const QAction* action : menu->actions()) {
+            texts += action->isSeparator() && action->text().isEmpty() ? u"-"_s : action->text();
+        }
+        return texts;
+    }
+    /// A real click on an item of a menu that is on the screen.
+    static void Click(QMenu* menu, const QString& text) {
+        menu->popup({10, 10});
+        QAction* action = Item(menu, text);
+        QVERIFY(action != nullptr);
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    }
+    QString Status() const { return Shell->findChild<QLabel*>(u"messagePanel"_s)->text(); }
+    QStringList Clocks() const {
+        QStringList captions;
+        for (int i = 0; i < Windows.Count(); ++i) {
+            if (Windows[i].Name() == ClockWindowName) {
+                captions += Windows[i].Caption();
+            }
+        }
+        return captions;
+    }
+    void Settle() { Machine.Clock.Advance(50); }
+    QByteArray User(const QString& file) const { return Machine.ReadFile(u"tester/"_s + file); }
+};
+
+class tst_frmMain : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FirstRunInvites() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        QVERIFY(desk.Shell->isVisible());
+        QVERIFY(desk.Shell->findChild<QLabel*>(u"header"_s)->isVisible());
+        QCOMPARE(desk.Shell->size(), QSize(800, 700));  // as wide as the screen
+        QCOMPARE(Desk::Texts(desk.Open(u"Launch"_s)),
+                 (QStringList{u"Open"_s, u"Open Last Opened"_s, u"Choose Time Zone"_s, u"-"_s,
+                              u"&Exit"_s}));
+        QCOMPARE(Desk::Texts(desk.Menu(u"Open"_s)), QStringList{u"UTC"_s});
+        QCOMPARE(Desk::Texts(desk.Menu(u"LastOpened"_s)), QStringList{u"None"_s});
+        Desk::Item(desk.Menu(u"LastOpened"_s), u"None"_s)->trigger();
+        QCOMPARE(desk.Clocks(), QStringList());
+    }
+
+    void LaunchesFromTheMenu() {
+        Desk desk;
+        desk.Zone(u"Tokyo Standard Time"_s);
+        QVERIFY(desk.Start());
+        desk.Open(u"Launch"_s);
+        Desk::Click(desk.Menu(u"Open"_s), u"Tokyo Standard Time"_s);
+        QCOMPARE(desk.Status(), u"Launched Tempolark for Tokyo Standard Time successfully."_s);
+        QVERIFY(!desk.Shell->findChild<QLabel*>(u"header"_s)->isVisible());
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"Tokyo Standard Time"_s});
+        desk.Open(u"Launch"_s);
+        QVERIFY(Desk::Item(desk.Menu(u"Open"_s), u"Tokyo Standard Time"_s)->isChecked());
+        QVERIFY(!Desk::Item(desk.Menu(u"Open"_s), u"UTC"_s)->isChecked());
+    }
+
+    void MoreOpensTheFilePicker() {
+        Desk desk;
+        for (int i = 10; i < 26; ++i) {
+            desk.Zone(u"Zone %1"_s.arg(i));
+        }
+        QVERIFY(desk.Start());
+        desk.Open(u"Launch"_s);
+        QCOMPARE(desk.Menu(u"Open"_s)->actions().size(), 16);
+        desk.Machine.Dialogs.FileAnswers = {u"/somewhere/Zone 25.ini"_s};
+        Desk::Item(desk.Menu(u"Open"_s), u"More"_s)->trigger();
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"Zone 25"_s});
+    }
+
+    void EveryZoneCanBeChosen() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        QMenu* zones = desk.Menu(u"ChooseTimeZone"_s);
+        Q_EMIT zones->aboutToShow();
+        QAction* offset = Desk::Item(zones, u"(GMT+05:45)"_s);
+        QVERIFY(offset != nullptr);
+        QCOMPARE(offset->menu()->actions().size(), 1);
+        offset->menu()->actions().first()->trigger();
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"Nepal Standard Time"_s});
+    }
+
+    void AmpersandIsACharacter() {
+        Desk desk;
+        desk.Zone(u"A & B"_s);
+        QVERIFY(desk.Start());
+        desk.Open(u"Launch"_s);
+        Desk::Item(desk.Menu(u"Open"_s), u"A && B"_s)->trigger();
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"A & B"_s});
+    }
+
+    void ListsAndPlacesSurviveARestart() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->LaunchTempolark(u"Tokyo Standard Time"_s);
+        desk.Shell->LaunchTempolark(u"Nepal Standard Time"_s);
+        desk.Settle();
+        auto* area = desk.Shell->findChild<QMdiArea*>();
+        area->subWindowList().first()->setGeometry(20, 30, 240, 160);
+        desk.Shell->resize(780, 650);
+        desk.Stop();
+        QCOMPARE(desk.User(u"OpenedForms.txt"_s),
+                 QByteArray("Nepal Standard Time=\r\nTokyo Standard Time=\r\n"));
+        QVERIFY(desk.User(u"TempolarkCentral.ini"_s).contains("Window Width=11700\r\n"));
+
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Shell->size(), QSize(780, 650));
+        desk.Open(u"Launch"_s);
+        QCOMPARE(Desk::Texts(desk.Menu(u"LastOpened"_s)),
+                 (QStringList{u"Nepal Standard Time"_s, u"Tokyo Standard Time"_s, u"All"_s}));
+        Desk::Item(desk.Menu(u"LastOpened"_s), u"All"_s)->trigger();
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), (QStringList{u"Nepal Standard Time"_s, u"Tokyo Standard Time"_s}));
+        area = desk.Shell->findChild<QMdiArea*>();
+        QCOMPARE(area->subWindowList().last()->geometry(), QRect(20, 30, 240, 160));
+    }
+
+    void AutoStartTurnsOver() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->LaunchTempolark(u"Tokyo Standard Time"_s);
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Settle();
+        QMenu* menu = desk.Open(u"Auto Start"_s);
+        QCOMPARE(Desk::Texts(menu),
+                 (QStringList{u"Auto Start"_s, u"Tokyo Standard Time"_s, u"UTC"_s, u"All"_s}));
+        Desk::Item(menu, u"UTC"_s)->trigger();
+        QCOMPARE(desk.User(u"AutoStart.txt"_s), QByteArray("UTC=UTC\r\n"));
+        QVERIFY(Desk::Item(desk.Open(u"Auto Start"_s), u"UTC"_s)->isChecked());
+        desk.Stop();
+
+        QVERIFY(desk.Start());
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"UTC"_s});
+        QVERIFY(!desk.Shell->findChild<QLabel*>(u"header"_s)->isVisible());
+        Desk::Item(desk.Open(u"Auto Start"_s), u"All"_s)->trigger();
+        QCOMPARE(desk.User(u"AutoStart.txt"_s), QByteArray("UTC=\r\n"));
+    }
+
+    void CommandsOfThePopUps() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        QMenu* none = desk.Open(u"Close"_s);
+        QCOMPARE(Desk::Texts(none), (QStringList{u"Close"_s, u"None"_s}));
+        QVERIFY(!Desk::Item(none, u"None"_s)->isEnabled());
+        for (const QString& zone : {u"UTC"_s, u"Tokyo Standard Time"_s, u"Nepal Standard Time"_s}) {
+            desk.Shell->LaunchTempolark(zone);
+        }
+        desk.Settle();
+        Desk::Item(desk.Open(u"Minimize"_s), u"UTC"_s)->trigger();
+        QCOMPARE(desk.Windows[1].WindowState(), 1);
+        QCOMPARE(Desk::Texts(desk.Open(u"Restore"_s)),
+                 (QStringList{u"Restore"_s, u"UTC"_s, u"All"_s}));
+        Desk::Item(desk.Open(u"Restore"_s), u"All"_s)->trigger();
+        QCOMPARE(desk.Windows[1].WindowState(), 0);
+        Desk::Item(desk.Open(u"Disable"_s), u"UTC"_s)->trigger();
+        QVERIFY(!desk.Windows[1].IsEnabled());
+        QCOMPARE(Desk::Texts(desk.Open(u"Enable"_s)),
+                 (QStringList{u"Enable"_s, u"UTC"_s, u"All"_s}));
+        Desk::Item(desk.Open(u"Enable"_s), u"UTC"_s)->trigger();
+        QVERIFY(desk.Windows[1].IsEnabled());
+        Desk::Item(desk.Open(u"Maximize"_s), u"UTC"_s)->trigger();
+        QCOMPARE(desk.Windows[1].WindowState(), 2);
+        Desk::Item(desk.Open(u"Close"_s), u"All"_s)->trigger();
+        QCOMPARE(desk.Clocks(), QStringList());
+    }
+
+    void WindowMenu() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        QCOMPARE(
+            Desk::Texts(desk.Open(u"Organize Windows"_s)),
+            (QStringList{u"Tile"_s, u"Cascade"_s, u"Arrang Icons"_s, u"Maximise All"_s,
+                         u"Restore All"_s, u"Minimise All"_s, u"-"_s, u"Close All"_s, u"None"_s}));
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Shell->LaunchTempolark(u"Tokyo Standard Time"_s);
+        desk.Settle();
+        QMenu* menu = desk.Open(u"Organize Windows"_s);
+        QVERIFY(Desk::Item(menu, u"Tokyo Standard Time"_s)->isChecked());
+        Desk::Item(menu, u"UTC"_s)->trigger();
+        QCOMPARE(desk.Shell->findChild<QMdiArea*>()->activeSubWindow()->windowTitle(), u"UTC"_s);
+        Desk::Item(desk.Open(u"Organize Windows"_s), u"Minimise All"_s)->trigger();
+        QCOMPARE(desk.Windows[1].WindowState(), 1);
+        QCOMPARE(desk.Windows[2].WindowState(), 1);
+        Desk::Item(desk.Open(u"Organize Windows"_s), u"Close All"_s)->trigger();
+        QCOMPARE(desk.Windows.Count(), 1);
+    }
+
+    void PlaceOfTheShell_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QPoint>("place");
+        // The screen of the test is 800 by 800, the shell 600 by 400.
+        QTest::newRow("centred") << QByteArray("Window Top=-1\r\nWindow Left=-1\r\n")
+                                 << QPoint(100, 200);
+        QTest::newRow("centred only down")
+            << QByteArray("Window Top=-1\r\nWindow Left=150\r\n") << QPoint(10, 200);
+        QTest::newRow("as it stands")
+            << QByteArray("Window Top=300\r\nWindow Left=0\r\n") << QPoint(0, 20);
+    }
+
+    void PlaceOfTheShell() {
+        QFETCH(QByteArray, keys);
+        Desk desk;
+        QCOMPARE(QApplication::primaryScreen()->availableGeometry().size(), QSize(800, 800));
+        desk.Machine.WriteFile(u"tester/TempolarkCentral.ini"_s,
+                               keys + "Window Width=9000\r\nWindow Height=6000\r\n");
+        QVERIFY(desk.Start());
+        QTEST(desk.Shell->pos(), "place");
+        QCOMPARE(desk.Shell->size(), QSize(600, 400));
+    }
+
+    void LostDefaultFileEndsTheProgram() {
+        Desk desk;
+        const QString file = desk.Machine.AppFolder() + u"/ini/Tempolark.ini"_s;
+        QVERIFY(QFile::remove(file));
+        desk.Machine.Dialogs.BoxAnswers = {1};
+        QVERIFY(!desk.Start());
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), std::size_t(1));
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Text, file + u" is not found"_s);
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Title, u"Tempolark System Error"_s);
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Flags, 16);
+    }
+
+    void UnwritableListsAreTold() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        const QString file = desk.Machine.AppFolder() + u"/tester/AutoStart.txt"_s;
+        desk.Machine.Files.Unwritable += file;
+        desk.Shell->SaveAutoStartList();
+        QCOMPARE(desk.Status(), file + u" can't be written"_s);
+    }
+
+    void RefusedNameOfTheCommandLineIsTold() {
+        Desk desk;
+        desk.Module.CommandLine = u"../../etc/passwd"_s;
+        QVERIFY(desk.Start());
+        QVERIFY(!desk.Status().isEmpty());
+        QVERIFY(desk.Shell->isVisible());
+    }
+
+    void KeyboardReachesEveryButton() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(desk.Shell.get()));
+        auto* first = desk.Shell->findChild<QToolButton*>(u"tool_Launch"_s);
+        first->setFocus();
+        QStringList reached;
+        for (int i = 0; i < 9; ++i) {
+            QWidget* focus = QApplication::focusWidget();
+            QVERIFY(focus != nullptr);
+            reached += focus->objectName();
+            QTest::keyClick(focus, Qt::Key_Tab);
+        }
+        QCOMPARE(reached.join(u','),
+                 u"tool_Launch,tool_Close,tool_Disable,tool_Enable,tool_Maximize,tool_Minimize,"
+                 "tool_Restore,tool_Auto Start,tool_Organize Windows"_s);
+    }
+};
+
+QTEST_MAIN(tst_frmMain)
+#include "tst_frmMain.moc"
