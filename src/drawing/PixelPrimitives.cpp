@@ -1,7 +1,9 @@
 #include "drawing/PixelPrimitives.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "foundation/Numbers.h"
 
@@ -11,22 +13,48 @@ using mduAPILib::RoundToInteger;
 
 namespace {
 
-struct Direction {
-    double Cos, Sin;
-};
-
 constexpr int Degrees = 361;
+constexpr int LargestKeptRadius = 20;  // of a hub
 
-const std::array<Direction, Degrees>& CircleDirections() {
-    static const std::array<Direction, Degrees> directions = [] {
-        std::array<Direction, Degrees> all{};
-        for (int d = 0; d < Degrees; ++d) {
-            const double t = d * 6.28 / 360;
-            all[static_cast<std::size_t>(d)] = {std::cos(t), std::sin(t)};
+/// The pixels of a ring around the origin, each once, in the order of their first visit.
+std::vector<QPoint> RingAround(int x, int y, int radius) {
+    std::vector<QPoint> ring;
+    for (int d = 0; d < Degrees; ++d) {
+        const double t = d * 6.28 / 360;
+        const QPoint pixel(RoundToInteger(x + radius * std::cos(t)),
+                           RoundToInteger(y + radius * std::sin(t)));
+        if (std::find(ring.begin(), ring.end(), pixel) == ring.end()) {
+            ring.push_back(pixel);
+        }
+    }
+    return ring;
+}
+
+/// Rings of a hub are drawn at every pass: no point of them lies half-way between two pixels, so
+/// that the ring around the origin, moved, is the ring around any centre.
+const std::vector<QPoint>& KeptRing(int radius) {
+    static const std::array<std::vector<QPoint>, LargestKeptRadius + 1> rings = [] {
+        std::array<std::vector<QPoint>, LargestKeptRadius + 1> all;
+        for (int r = 0; r <= LargestKeptRadius; ++r) {
+            all[static_cast<std::size_t>(r)] = RingAround(0, 0, r);
         }
         return all;
     }();
-    return directions;
+    return rings[static_cast<std::size_t>(radius)];
+}
+
+void DrawRing(Surface& surface, int x, int y, int radius, int colour) {
+    if (radius >= 0 && radius <= LargestKeptRadius) {
+        for (const QPoint& pixel : KeptRing(radius)) {
+            surface.SetPixel(x + pixel.x(), y + pixel.y(), colour);
+        }
+        return;
+    }
+    for (int d = 0; d < Degrees; ++d) {
+        const double t = d * 6.28 / 360;
+        surface.SetPixel(RoundToInteger(x + radius * std::cos(t)),
+                         RoundToInteger(y + radius * std::sin(t)), colour);
+    }
 }
 
 /// Calls @p plot with each step of the driving axis and the point of the other axis.
@@ -54,10 +82,7 @@ void DrawPixelLine(Surface& surface, double x1, double y1, double x2, double y2,
 
 void DrawPixelCircle(Surface& surface, int x, int y, int radius, int thickness, int colour) {
     for (int j = 0; j <= thickness; ++j) {
-        for (const Direction& direction : CircleDirections()) {
-            surface.SetPixel(RoundToInteger(x + (radius - j) * direction.Cos),
-                             RoundToInteger(y + (radius - j) * direction.Sin), colour);
-        }
+        DrawRing(surface, x, y, radius - j, colour);
     }
 }
 

@@ -1,4 +1,5 @@
 #include <QTest>
+#include <cmath>
 #include <set>
 
 #include "drawing/PixelPrimitives.h"
@@ -98,6 +99,24 @@ private Q_SLOTS:
         QVERIFY(painted.contains({20, 5}));
         QVERIFY(!painted.contains({36, 20}));
         QVERIFY(!painted.contains({20, 20}));
+    }
+
+    /// Every ring, at even and odd centres, is what 361 rounded points give.
+    void RingsAreTheirPoints() {
+        for (int radius = 0; radius <= 25; ++radius) {
+            for (const QPoint& centre : {QPoint(60, 60), QPoint(61, 60), QPoint(60, 61)}) {
+                Surface surface = WhiteSurface(130, 130);
+                drawing::DrawPixelCircle(surface, centre.x(), centre.y(), radius, 0, Red);
+                Pixels expected;
+                for (int d = 0; d <= 360; ++d) {
+                    const double t = d * 6.28 / 360;
+                    expected.insert(
+                        {static_cast<int>(std::nearbyint(centre.x() + radius * std::cos(t))),
+                         static_cast<int>(std::nearbyint(centre.y() + radius * std::sin(t)))});
+                }
+                QVERIFY2(Painted(surface) == expected, qPrintable(QString::number(radius)));
+            }
+        }
     }
 
     void PixelsOutsideAreClipped() {

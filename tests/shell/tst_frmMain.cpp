@@ -9,6 +9,7 @@
 
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "shell/ui/MessagePanel.h"
 #include "shell/ui/frmMain.h"
 #include "support/MachineWithZones.h"
 
@@ -62,7 +63,7 @@ struct Desk : MachineWithZones {
         QVERIFY(action != nullptr);
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
     }
-    QString Status() const { return Shell->findChild<QLabel*>(u"messagePanel"_s)->text(); }
+    QString Status() const { return Shell->findChild<MessagePanel*>()->Text(); }
     QStringList Clocks() const {
         QStringList captions;
         for (int i = 0; i < Windows.Count(); ++i) {

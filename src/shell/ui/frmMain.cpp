@@ -16,6 +16,7 @@
 #include "foundation/SetupPaths.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
+#include "shell/ui/MessagePanel.h"
 #include "timezones/ZoneSources.h"
 
 using namespace Qt::StringLiterals;
@@ -62,10 +63,8 @@ void frmMain::MakeInnerParts() {
     header_->setAttribute(Qt::WA_TransparentForMouseEvents);
     area_->viewport()->installEventFilter(this);
 
-    messagePanel_ = new QLabel(this);
+    messagePanel_ = new MessagePanel(this);
     messagePanel_->setObjectName(u"messagePanel"_s);
-    messagePanel_->setTextFormat(Qt::PlainText);
-    messagePanel_->setMinimumWidth(1);
     timePanel_ = new QLabel(this);
     timePanel_->setObjectName(u"timePanel"_s);
     statusBar()->addWidget(messagePanel_, 1);
@@ -260,9 +259,7 @@ void frmMain::TimerCtrl() {
 }
 
 void frmMain::RefreshPanels() {
-    if (messagePanel_->text() != status_.Panel()) {
-        messagePanel_->setText(status_.Panel());
-    }
+    messagePanel_->SetText(status_.Panel());
     const QString time = program_.Services.Clock.Now().time().toString(u"hh:mm"_s);
     if (timePanel_->text() != time) {
         timePanel_->setText(time);

@@ -10,6 +10,7 @@
 #include "shell/MenuArray.h"
 #include "shell/StatusMessages.h"
 
+class MessagePanel;
 class QMenu;
 class QToolButton;
 
@@ -101,6 +102,6 @@ private:
 
     QMdiArea* area_ = nullptr;
     QLabel* header_ = nullptr;
-    QLabel* messagePanel_ = nullptr;
+    MessagePanel* messagePanel_ = nullptr;
     QLabel* timePanel_ = nullptr;
 };
