@@ -22,7 +22,8 @@ namespace {
 struct Options {
     QString AppFolder;    ///< empty: the program finds its own
     QString CommandLine;  ///< what is left of the arguments, joined by blanks
-    int ExitCode = -1;    ///< not negative: the program has answered and ends
+    bool QuitWhenPainted = false;
+    int ExitCode = -1;  ///< not negative: the program has answered and ends
 };
 
 const char* const Usage =
@@ -30,6 +31,7 @@ const char* const Usage =
     "Shows clocks of the world's time zones.\n\n"
     "  zone name          the zone to begin with, such as \"Tokyo Standard Time\"\n"
     "  --app-folder DIR   the folder of the program's data\n"
+    "  --quit-when-painted  end once the first clock has been painted (to measure the start)\n"
     "  --help             this text\n"
     "  --version          the version\n";
 
@@ -46,6 +48,8 @@ Options ReadOptions(QStringList arguments) {
         } else if (argument == u"--version"_s) {
             std::puts("Tempolark " TEMPOLARK_VERSION);
             options.ExitCode = 0;
+        } else if (argument == u"--quit-when-painted"_s) {
+            options.QuitWhenPainted = true;
         } else if (argument == u"--app-folder"_s && !arguments.isEmpty()) {
             options.AppFolder = QDir(arguments.takeFirst()).absolutePath();
         } else if (argument.startsWith(u"--"_s)) {
@@ -70,6 +74,17 @@ QStringList Arguments(int argc, char** argv) {
     }
     return arguments;
 }
+
+/// Ends the program when a clock has been painted and its window has been shown.
+class FirstPaint final : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && watched->objectName() == ClockWindowName) {
+            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
 
 }  // namespace
 
@@ -112,6 +127,10 @@ int main(int argc, char** argv) {
     dialogs.SetOwner(&shell);
     if (!shell.Load()) {
         return 1;
+    }
+    FirstPaint firstPaint;
+    if (options.QuitWhenPainted) {
+        application.installEventFilter(&firstPaint);
     }
     const platform::QuitSignals quitSignals([&shell] { shell.close(); });
     return QApplication::exec();
