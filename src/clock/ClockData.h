@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QStringList>
 
+#include "clock/ClockMode.h"
 #include "foundation/ClockProperty.h"
 #include "timezones/TimeZoneRecord.h"
 
@@ -40,6 +41,11 @@ public:
     bool ActiveEditFlag = false;
     bool AutoStyleChange = false;
     DialState Dial;
+
+    /// Whether the window is of that kind (`ClockMode.h`).
+    bool Is(int kind) const { return IsClockMode(Tag, kind); }
+    /// Whether it has a dial, alone or with a read-out.
+    bool IsAnalogue() const { return Is(Analogue) || Is(AnalogueAndDigital); }
 
     const ClockProperties& Properties() const { return properties_; }
 

@@ -11,24 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
-namespace {
-
-/// "/s" names the file "s.ini": a name is a file name, never a path.
-QString FileNameOfZone(const QString& zoneName) {
-    return zoneName == u"/s"_s ? u"s"_s : zoneName;
-}
-
-}  // namespace
-
 bool ClockFiles::NameCurrentFile(const QString& zoneName) {
-    const QString problem = mduLib::ZoneNameProblem(zoneName);
+    const QString problem = zoneName.trimmed().isEmpty() ? u"The time zone has no name"_s
+                                                         : mduLib::ZoneNameProblem(zoneName);
     if (!problem.isEmpty()) {
         report_(problem);
         return false;
     }
     PathTable& paths = program_.Module.Paths;
     paths.CurrentPropertyFile =
-        paths.ZoneFileFolder + mduLib::AddIniExtension(FileNameOfZone(zoneName));
+        paths.ZoneFileFolder + mduLib::AddIniExtension(mduLib::ZoneFileStem(zoneName));
     return true;
 }
 
@@ -37,17 +29,23 @@ bool ClockFiles::LoadForShell(const QString& zoneName) {
         return false;
     }
     PathTable& paths = program_.Module.Paths;
-    const QString file = paths.CurrentPropertyFile;
-    paths.TimerFile = paths.TimersFolder + FileNameOfZone(zoneName) + u"Timer.txt"_s;
-    const bool merged = mduMain::RefreshCurrentPropertyFile(program_.Module, program_.Services);
-    // The merge lets other windows run, which may have become current meanwhile.
-    paths.CurrentPropertyFile = file;
+    paths.TimerFile = paths.TimersFolder + mduLib::ZoneFileStem(zoneName) + u"Timer.txt"_s;
+    const bool merged = RefreshFile();
     LoadCurrent();
     if (!merged) {
         RefreshDefaultTimeZoneDetails(mduLib::StripIniExtension(zoneName));
     }
     program_.Module.CurrentProperties = data_.Properties();
     return true;
+}
+
+bool ClockFiles::RefreshFile() {
+    QString& current = program_.Module.Paths.CurrentPropertyFile;
+    const QString file = current;
+    const bool merged = mduMain::RefreshCurrentPropertyFile(program_.Module, program_.Services);
+    // The merge lets other windows run, which may have become current meanwhile.
+    current = file;
+    return merged;
 }
 
 void ClockFiles::LoadCurrent() {
@@ -91,20 +89,20 @@ void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
     program_.Module.CurrentProperties = data_.Properties();
 }
 
-void ClockFiles::SavePosition(float top, float left, float height, float width) {
+void ClockFiles::SavePosition(const QRectF& twips) {
     ReadProperties();
     if (!mayWrite_) {
         return;
     }
-    const std::pair<QString, float> values[] = {{u"Window Top"_s, top},
-                                                {u"Window Left"_s, left},
-                                                {u"Window Height"_s, height},
-                                                {u"Window Width"_s, width}};
+    const std::pair<QString, double> values[] = {{u"Window Top"_s, twips.top()},
+                                                 {u"Window Left"_s, twips.left()},
+                                                 {u"Window Height"_s, twips.height()},
+                                                 {u"Window Width"_s, twips.width()}};
     bool written = true;
     for (const auto& [name, value] : values) {
         written = mduLib::SavePropertyNow(program_.Services.FileSystem, name,
-                                          mduAPILib::SingleText(value), data_.EditProperties(),
-                                          data_.PropertyFileName) &&
+                                          mduAPILib::SingleText(static_cast<float>(value)),
+                                          data_.EditProperties(), data_.PropertyFileName) &&
                   written;
     }
     if (!written) {

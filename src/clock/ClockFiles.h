@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRectF>
 #include <functional>
 
 #include "clock/ClockData.h"
@@ -25,6 +26,9 @@ public:
     /// can't be that of a file.
     bool NameCurrentFile(const QString& zoneName);
 
+    /// Brings the current file into being or up to date. @return true when it was merged
+    bool RefreshFile();
+
     /// Reads `CurrentPropertyFile` as it stands.
     void LoadCurrent();
 
@@ -37,7 +41,7 @@ public:
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);
 
     /// Stores the window's rectangle, in twips, into the file as it now stands on disk.
-    void SavePosition(float top, float left, float height, float width);
+    void SavePosition(const QRectF& twips);
 
     /// Names this clock's file and properties as the current ones.
     void MakeCurrent();

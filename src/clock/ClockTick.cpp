@@ -1,6 +1,5 @@
 #include "clock/ClockTick.h"
 
-#include "clock/ClockMode.h"
 #include "foundation/Dates.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -42,21 +41,13 @@ void ClockTick::Tick() {
     }
 }
 
-bool ClockTick::Is(int kind) const {
-    return IsClockMode(data_.Tag, kind);
-}
-
-bool ClockTick::IsAnalogue() const {
-    return Is(Analogue) || Is(AnalogueAndDigital);
-}
-
 void ClockTick::FirstTick() {
     parts_.Window.HideHandShapes();
     parts_.Placement.ApplyWindowState();
     parts_.Background.LoadClockPicture();
     parts_.Overlays.LayOutOverlays();
     parts_.Voice.PrepareSpeaker();
-    if (Is(Wrapper)) {
+    if (data_.Is(Wrapper)) {
         FirstTickOfWrapper();
         return;
     }
@@ -86,7 +77,7 @@ void ClockTick::FirstTick() {
 // The state stays as it is: a wrapper repeats these steps on every tick.
 void ClockTick::FirstTickOfWrapper() {
     parts_.Face.ApplyWindowBackground();
-    if (IsAnalogue()) {
+    if (data_.IsAnalogue()) {
         parts_.Dial.DrawDialNumbers(true, {}, true);
     }
 }
@@ -97,7 +88,7 @@ void ClockTick::Redraw() {
     parts_.Placement.ApplyWindowBorder();
     parts_.Placement.ApplyWindowBorder();
     parts_.Placement.ApplyTitleBar();
-    if (IsAnalogue()) {
+    if (data_.IsAnalogue()) {
         parts_.Dial.DrawDialNumbers(true, {}, true);
     }
     const QDateTime clockTime = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
@@ -141,7 +132,7 @@ void ClockTick::RefreshTickValues() {
 }
 
 bool ClockTick::StayTimeIsOver() const {
-    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !Is(Wrapper) &&
+    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !data_.Is(Wrapper) &&
            static_cast<double>(data_.StartTime.secsTo(clock_.Now())) > stayTime_;
 }
 
@@ -153,7 +144,7 @@ void ClockTick::HandleFocus() {
         return;
     }
     if (data_.ActiveEditFlag && active && window.IsEnabled()) {
-        if (IsAnalogue()) {
+        if (data_.IsAnalogue()) {
             parts_.Dial.DrawDialNumbers(true, {}, true);
         }
     } else if (window.TimerInterval() != NormalInterval) {
@@ -184,13 +175,13 @@ void ClockTick::RotateBackground(int localSecond) {
 }
 
 void ClockTick::RequestRedraw() {
-    if (IsAnalogue()) {
+    if (data_.IsAnalogue()) {
         parts_.Overlays.SetSunMoon();
     }
-    if (Is(Digital) || Is(AnalogueAndDigital)) {
+    if (data_.Is(Digital) || data_.Is(AnalogueAndDigital)) {
         parts_.Digital.SetDigitalLayout();
     }
-    if (Is(Calculator) || Is(CalculatorInput)) {
+    if (data_.Is(Calculator) || data_.Is(CalculatorInput)) {
         parts_.Calculator.SetCalculatorLayout();
     }
     parts_.Timers.PlaceTimerMarks();

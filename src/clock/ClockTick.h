@@ -45,9 +45,6 @@ public:
     /// Makes the next tick a redraw, after the parts that moved have been placed anew.
     void RequestRedraw();
 
-    /// What depends on no timer: the face that stands still, by mode.
-    bool IsAnalogue() const;
-
 private:
     void FirstTick();
     void FirstTickOfWrapper();
@@ -59,7 +56,6 @@ private:
     void RotateStyle(int localSecond);
     void RotateBackground(int localSecond);
     void RefreshTickValues();
-    bool Is(int kind) const;
 
     ClockData& data_;
     ClockParts parts_;

@@ -1,6 +1,5 @@
 #include "clock/Face.h"
 
-#include "clock/ClockMode.h"
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
 #include "timezones/ZoneArithmetic.h"
@@ -35,10 +34,6 @@ Face::Face(ClockData& data, mduUILib::ClockControls& controls, Canvas& canvas, c
       random_(random),
       analogue_(parts.Dial, parts.Background, random) {}
 
-bool Face::Is(int kind) const {
-    return IsClockMode(data_.Tag, kind);
-}
-
 void Face::ApplyWindowBackground() {
     QString colour = mduLib::GetProperty(u"Window Background Colour"_s, data_.Properties());
     const int value = mduUILib::ColourValue(colour, random_);
@@ -53,28 +48,28 @@ void Face::ReadDigitalFormat() {
 
 void Face::PrepareClockFace() {
     Invalidate();
-    parts_.Dial.SetClockDial(Is(Analogue) || Is(AnalogueAndDigital), {}, false, false);
-    if (Is(Digital) || Is(AnalogueAndDigital)) {
+    parts_.Dial.SetClockDial(data_.IsAnalogue(), {}, false, false);
+    if (data_.Is(Digital) || data_.Is(AnalogueAndDigital)) {
         parts_.Digital.SetDigitalLayout();
     } else {
         parts_.Digital.HideDigitalClock();
     }
-    if (Is(Calculator)) {
+    if (data_.Is(Calculator)) {
         parts_.Calculator.SetCalculatorClock(true);
     }
 }
 
 void Face::DrawClockFace() {
-    if (Is(Analogue)) {
+    if (data_.Is(Analogue)) {
         DrawAnalogue();
         parts_.Overlays.SetSunMoon();
         parts_.Overlays.SetLocationLabel();
-    } else if (Is(Digital)) {
+    } else if (data_.Is(Digital)) {
         parts_.Digital.DrawDigitalClock(data_.ClockFormat);
         parts_.Overlays.SetLocationLabel();
-    } else if (Is(Calculator)) {
+    } else if (data_.Is(Calculator)) {
         parts_.Calculator.DrawCalculatorClock();
-    } else if (Is(AnalogueAndDigital)) {
+    } else if (data_.Is(AnalogueAndDigital)) {
         DrawAnalogue();
         parts_.Overlays.SetSunMoon();
         parts_.Digital.DrawDigitalClock(data_.ClockFormat);

@@ -32,7 +32,6 @@ public:
     void Invalidate() { analogue_.Invalidate(); }
 
 private:
-    bool Is(int kind) const;
     void DrawAnalogue();
 
     ClockData& data_;

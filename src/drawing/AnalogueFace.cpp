@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace drawing {
 
-using mduAPILib::RoundToInteger;
-
 namespace {
 
 HandLook ReadHand(const QString& hand, const ClockProperties& properties) {
@@ -22,6 +20,8 @@ HandLook ReadHand(const QString& hand, const ClockProperties& properties) {
             mduAPILib::Val(value(u" Length(%)"_s)),
             mduAPILib::IntegerValue(value(u" Line Width"_s))};
 }
+
+constexpr int LargestWidth = 4096;  // of a pen, in pixels: wider than any clock
 
 double CentreOf(double percent, int extent) {
     return percent == -1 ? extent / 2.0 : percent * extent / 100;
@@ -48,12 +48,11 @@ QRect AnalogueFace::DrawAnalogueClock(Surface& surface, const AnalogueLook& look
                                       const HandTime& time, int backColour) {
     const Frame frame = MakeFrame(surface, look, time, backColour);
     const std::optional<QRect> changed = ChangedPart(frame);
-    if (changed && changed->isEmpty()) {
-        return {};
+    if (!changed || !changed->isEmpty()) {
+        surface.SetClip(changed.value_or(QRect()));
+        Paint(surface, frame);
+        surface.SetClip({});
     }
-    surface.SetClip(changed.value_or(QRect()));
-    Paint(surface, frame);
-    surface.SetClip({});
     if (look.ClockSpecial == u"Analogue Hour Number Random Colour"_s) {
         dial_.RecolourNumbers();
     }
@@ -66,8 +65,8 @@ AnalogueFace::Frame AnalogueFace::MakeFrame(const Surface& surface, const Analog
     Frame frame;
     frame.Size = {surface.ScaleWidth(), surface.ScaleHeight()};
     const QPointF centre = ClockCentre(look, frame.Size.width(), frame.Size.height());
-    frame.Cx = RoundToInteger(centre.x());
-    frame.Cy = RoundToInteger(centre.y());
+    frame.Cx = ToPoint(centre.x());
+    frame.Cy = ToPoint(centre.y());
     const int diameter = std::min(frame.Size.width(), frame.Size.height());
     const HandAngles angles = AnglesAt(time, look.ClockSpecial);
     frame.Hands = {MakeHand(look.Hour, angles.Hour, diameter),
@@ -82,8 +81,8 @@ AnalogueFace::Frame AnalogueFace::MakeFrame(const Surface& surface, const Analog
 AnalogueFace::Hand AnalogueFace::MakeHand(const HandLook& look, double angle, int diameter) {
     Hand hand{look.Style, angle, 0, 0, mduUILib::ColourValue(QString(look.Colour), random_)};
     if (look.Style != HandStyle::Unknown) {
-        hand.LineWidth = look.LineWidth;
-        hand.Length = RoundToInteger(look.LengthPercent * diameter / 200);
+        hand.LineWidth = std::min(look.LineWidth, LargestWidth);
+        hand.Length = ToPoint(look.LengthPercent * diameter / 200);
     }
     return hand;
 }

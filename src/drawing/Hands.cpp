@@ -20,8 +20,7 @@ constexpr double SideRatio = 0.02;
 
 /// A point at a distance from the centre.
 QPoint PointAt(int cx, int cy, double distance, double angle) {
-    return {mduAPILib::RoundToInteger(cx + distance * std::sin(angle)),
-            mduAPILib::RoundToInteger(cy + distance * std::cos(angle))};
+    return {ToPoint(cx + distance * std::sin(angle)), ToPoint(cy + distance * std::cos(angle))};
 }
 
 /// Tip, tail and the two sides of a frame.
@@ -36,6 +35,10 @@ void Connect(Surface& surface, const QPoint& from, const QPoint& to, int colour,
 }
 
 }  // namespace
+
+int ToPoint(double value) {
+    return std::clamp(mduAPILib::RoundToInteger(value), -32768, 32767);
+}
 
 HandStyle ReadHandStyle(const QString& text) {
     static const QStringList names = {
@@ -90,8 +93,13 @@ void DrawCentrePoint(Surface& surface, int cx, int cy, int colour) {
 }
 
 QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth) {
-    if (length <= 0 || (style != HandStyle::Line && style != HandStyle::Frame)) {
+    if (length <= 0 || style == HandStyle::Unknown) {
         return {};
+    }
+    if (style != HandStyle::Line && style != HandStyle::Frame) {
+        // Not worked out for this style: all that it can reach, with its width and its shadow.
+        const int reach = 2 * length + std::max(0, lineWidth) + 8;
+        return {cx - reach, cy - reach, 2 * reach + 1, 2 * reach + 1};
     }
     QRect bounds(QPoint(cx, cy), QSize(1, 1));
     for (const QPoint& point : FramePoints(cx, cy, angle, length)) {

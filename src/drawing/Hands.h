@@ -42,7 +42,10 @@ void DrawCentrePoint(Surface& surface, int cx, int cy, int colour);
 /// The number of those rings.
 int CentrePointRings(int windowHeightInTwips);
 
-/// The smallest rectangle that holds every pixel of a hand.
+/// A coordinate or length as drawing uses it: rounded half to even, within 16 bits.
+int ToPoint(double value);
+
+/// A rectangle that holds every pixel of a hand.
 QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth);
 
 }  // namespace drawing

@@ -31,7 +31,7 @@ Surface::Surface(int scaleWidth, int scaleHeight, double devicePixelRatio)
       pixels_(reinterpret_cast<QRgb*>(image_.bits())),
       stride_(image_.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb))),
       devicePixelRatio_(devicePixelRatio),
-      height_(static_cast<int>(std::nearbyint(scaleHeight * TwipsPerPixel()))),
+      height_(static_cast<int>(std::nearbyint(scaleHeight * TwipsPerDevicePixel()))),
       whole_(image_.rect()),
       clip_(whole_) {
     std::fill_n(pixels_, stride_ * image_.height(), ToRgb(0));

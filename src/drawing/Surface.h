@@ -2,6 +2,8 @@
 
 #include <QImage>
 
+#include "foundation/Twips.h"
+
 namespace drawing {
 
 /// A clock's drawing surface: an opaque bitmap in device pixels. Colours are numbers with red in
@@ -13,7 +15,7 @@ public:
 
     int ScaleWidth() const { return image_.width(); }
     int ScaleHeight() const { return image_.height(); }
-    double TwipsPerPixel() const { return 15.0 / devicePixelRatio_; }
+    double TwipsPerDevicePixel() const { return TwipsPerPixel / devicePixelRatio_; }
 
     /// The window's outer height in twips; it differs from the surface's where there is a frame.
     int Height() const { return height_; }

@@ -36,14 +36,18 @@ ClockControls::ClockControls()
       lblTimeInput(Make(u"lblTimeInput"_s, ControlKind::Label, 1)),
       lblTimeOutput(Make(u"lblTimeOutput"_s, ControlKind::Label, 1)),
       imgFlag(Make(u"imgFlag"_s, ControlKind::Image, 1)),
-      imgClock(Make(u"imgClock"_s, ControlKind::Image, 2, 0)) {}
+      imgClock(Make(u"imgClock"_s, ControlKind::Image, 2, 0)),
+      timClock(Make(u"timClock"_s, ControlKind::Timer, 1)),
+      imgList(Make(u"imgList"_s, ControlKind::ImageList, 1)),
+      objDialog(Make(u"objDialog"_s, ControlKind::Dialog, 1)),
+      MusicPlayer(Make(u"MusicPlayer"_s, ControlKind::Player, 1)) {}
 
 std::vector<ControlArray*> ClockControls::All() {
     return {&picFrame,         &txtMsg,     &imgSpeaker,     &shpArea,       &imgAction,
             &lblLocation,      &imgSunMoon, &shpHourHand,    &shpMinuteHand, &shpSecondHand,
             &lblDigitalNumber, &imgTimer,   &imgClockNumber, &lblHour,       &lblMsg,
             &lblActionMsg,     &lblClock,   &lblTimeInput,   &lblTimeOutput, &imgFlag,
-            &imgClock};
+            &imgClock,         &timClock,   &imgList,        &objDialog,     &MusicPlayer};
 }
 
 }  // namespace mduUILib

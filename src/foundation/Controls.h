@@ -10,7 +10,7 @@
 /// rectangle. A clock has hundreds of them, so none is a widget.
 namespace mduUILib {
 
-enum class ControlKind { Picture, TextBox, Image, Shape, Label };
+enum class ControlKind { Picture, TextBox, Timer, Image, Shape, Label, ImageList, Dialog, Player };
 
 /// One control. Measures are in device pixels of the surface it stands on.
 struct Control {
@@ -46,7 +46,8 @@ struct ClockControls {
 
     ControlArray picFrame, txtMsg, imgSpeaker, shpArea, imgAction, lblLocation, imgSunMoon,
         shpHourHand, shpMinuteHand, shpSecondHand, lblDigitalNumber, imgTimer, imgClockNumber,
-        lblHour, lblMsg, lblActionMsg, lblClock, lblTimeInput, lblTimeOutput, imgFlag, imgClock;
+        lblHour, lblMsg, lblActionMsg, lblClock, lblTimeInput, lblTimeOutput, imgFlag, imgClock,
+        timClock, imgList, objDialog, MusicPlayer;
 
     /// All arrays, in the order above.
     std::vector<ControlArray*> All();

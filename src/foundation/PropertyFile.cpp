@@ -125,4 +125,9 @@ bool WritePropertyFile(platform::Files& files, const ClockProperties& array, con
     return files.Write(path, PropertyFileContent(array));
 }
 
+bool RewritePropertyFile(platform::Files& files, const ClockProperties& array,
+                         const QString& path) {
+    return MayRewrite(files, path) && WritePropertyFile(files, array, path);
+}
+
 }  // namespace mduLib

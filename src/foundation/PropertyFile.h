@@ -36,4 +36,7 @@ QByteArray PropertyFileContent(const ClockProperties& array);
 /// then whole.
 bool WritePropertyFile(platform::Files& files, const ClockProperties& array, const QString& path);
 
+/// `WritePropertyFile`, unless the file holds what a reader does not take in (`MayRewrite`).
+bool RewritePropertyFile(platform::Files& files, const ClockProperties& array, const QString& path);
+
 }  // namespace mduLib

@@ -6,6 +6,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -23,14 +24,17 @@ void CopyWithTime(const QString& source, const QString& target) {
     const QString half = target + u".new"_s;
     QFile::remove(half);
     QFile copy(half);
-    if (!QFile::copy(source, half) || !copy.open(QIODevice::ReadWrite)) {
+    if (!QFile::copy(source, half)) {
+        return;
+    }
+    copy.setPermissions(copy.permissions() | QFileDevice::WriteOwner | QFileDevice::ReadOwner);
+    if (!copy.open(QIODevice::ReadWrite)) {
         return;
     }
     copy.setFileTime(QFileInfo(source).lastModified(), QFileDevice::FileModificationTime);
     copy.close();
-    copy.setPermissions(copy.permissions() | QFileDevice::WriteOwner);
-    QFile::remove(target);
-    copy.rename(target);
+    // Over the old file in one step, so that there is a default at every moment.
+    std::rename(QFile::encodeName(half).constData(), QFile::encodeName(target).constData());
 }
 
 void FillFrom(const QString& installed, const QString& folder) {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 namespace platform {
@@ -14,8 +15,10 @@ namespace {
 std::array<int, 2> pipeEnds = {-1, -1};
 
 void Forward(int) {
+    const int savedError = errno;
     const char byte = 1;
     [[maybe_unused]] const ssize_t written = write(pipeEnds[0], &byte, 1);
+    errno = savedError;
 }
 
 constexpr std::array<int, 3> Handled = {SIGTERM, SIGINT, SIGHUP};

@@ -16,7 +16,8 @@ void MarkAutoStartItems(MenuArray& opened, const ClockProperties& autoStartList)
 void SetAutoStartEntry(ClockProperties& autoStartList, const MenuArray& opened, const QString& name,
                        bool checked) {
     const auto set = [&](const QString& key) {
-        mduLib::PutProperty(key, checked ? QString() : key, autoStartList);
+        // Raw: a comma in a name begins no list of choices.
+        mduLib::PutPropertyRaw(key, checked ? QString() : key, autoStartList);
     };
     if (name != u"All"_s) {
         set(name);
@@ -28,15 +29,17 @@ void SetAutoStartEntry(ClockProperties& autoStartList, const MenuArray& opened, 
 }
 
 bool LaunchAutoStartClocks(const ClockProperties& autoStartList,
-                           const std::function<void(const QString&)>& launch) {
-    bool launchedAny = false;
-    // A launch may change the list, so that it is read from a copy.
-    const ClockProperties list = autoStartList;
-    for (int row = 1; row <= list.UpperBound(); ++row) {
-        if (!list[row].Value.isEmpty()) {
-            launch(list[row].Value);
-            launchedAny = true;
+                           const std::function<bool(const QString&)>& launch) {
+    // A launch may change the list, so that its values are taken from it first.
+    QStringList names;
+    for (int row = 1; row <= autoStartList.UpperBound(); ++row) {
+        if (!autoStartList[row].Value.isEmpty()) {
+            names += autoStartList[row].Value;
         }
+    }
+    bool launchedAny = false;
+    for (const QString& name : names) {
+        launchedAny = launch(name) || launchedAny;
     }
     return launchedAny;
 }

@@ -17,8 +17,9 @@ void MarkAutoStartItems(MenuArray& opened, const ClockProperties& autoStartList)
 void SetAutoStartEntry(ClockProperties& autoStartList, const MenuArray& opened, const QString& name,
                        bool checked);
 
-/// Calls @p launch with each value that is not empty, in file order. @return whether there was one.
+/// Calls @p launch with each value that is not empty, in file order. @return whether one was
+/// launched.
 bool LaunchAutoStartClocks(const ClockProperties& autoStartList,
-                           const std::function<void(const QString&)>& launch);
+                           const std::function<bool(const QString&)>& launch);
 
 }  // namespace shell

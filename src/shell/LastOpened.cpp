@@ -28,7 +28,7 @@ void LastOpened::LoadOpenedForms(const platform::Files& files, const QString& pa
 }
 
 bool LastOpened::SaveOpenedForms(platform::Files& files, const QString& path) const {
-    return mduLib::WritePropertyFile(files, openedList_, path);
+    return mduLib::RewritePropertyFile(files, openedList_, path);
 }
 
 void LastOpened::PushLastOpened(const QString& fullName) {

@@ -12,9 +12,9 @@ class LastOpened {
 public:
     LastOpened();
 
-    /// Reads the list; it may grow it and never shrinks it.
+    /// Reads the list; it may grow it and never shrinks it. `FillLastOpenedMenu` goes with it.
     void LoadOpenedForms(const platform::Files& files, const QString& path);
-    /// @return false if the file can't be written
+    /// @return false if the file can't be written, or holds what could not be read
     bool SaveOpenedForms(platform::Files& files, const QString& path) const;
 
     /// Puts a name first; one that is in the list already moves there.

@@ -335,11 +335,13 @@ private Q_SLOTS:
         for (const mduUILib::ControlArray* array : controls.All()) {
             counts += u"%1 %2"_s.arg(array->Name).arg(array->Count());
         }
-        QCOMPARE(counts.join(u','),
-                 u"picFrame 1,txtMsg 100,imgSpeaker 1,shpArea 1,imgAction 1,lblLocation 1,"
-                 "imgSunMoon 2,shpHourHand 2,shpMinuteHand 2,shpSecondHand 2,lblDigitalNumber 6,"
-                 "imgTimer 100,imgClockNumber 60,lblHour 60,lblMsg 1,lblActionMsg 1,lblClock 1,"
-                 "lblTimeInput 1,lblTimeOutput 1,imgFlag 1,imgClock 2"_s);
+        QCOMPARE(
+            counts.join(u','),
+            u"picFrame 1,txtMsg 100,imgSpeaker 1,shpArea 1,imgAction 1,lblLocation 1,"
+            "imgSunMoon 2,shpHourHand 2,shpMinuteHand 2,shpSecondHand 2,lblDigitalNumber 6,"
+            "imgTimer 100,imgClockNumber 60,lblHour 60,lblMsg 1,lblActionMsg 1,lblClock 1,"
+            "lblTimeInput 1,lblTimeOutput 1,imgFlag 1,imgClock 2,timClock 1,imgList 1,objDialog 1,"
+            "MusicPlayer 1"_s);
         QCOMPARE(clock->Controls().imgTimer(1).Left, 13.0F);
         QCOMPARE(clock->Controls().imgTimer(100).Top, 13.0F);
     }

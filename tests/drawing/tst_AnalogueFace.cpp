@@ -190,6 +190,35 @@ private Q_SLOTS:
         }
     }
 
+    void NumbersAreRecolouredAtEveryPass() {
+        Surface surface(50, 50, 1.0);
+        AnalogueFace face(dial_, background_, random_);
+        AnalogueLook look = Look();
+        look.ClockSpecial = u"Analogue Hour Number Random Colour"_s;
+        for (int pass = 0; pass < 3; ++pass) {
+            face.DrawAnalogueClock(surface, look, {1, 2, 3}, White);
+        }
+        QCOMPARE(calls_, (QStringList{u"recolour"_s, u"recolour"_s, u"recolour"_s}));
+    }
+
+    /// Numbers without measure neither crash nor take their time.
+    void OutrageousNumbers() {
+        Surface surface(100, 100, 1.0);
+        AnalogueFace face(dial_, background_, random_);
+        AnalogueLook look = Look();
+        look.Hour.LengthPercent = 1e12;
+        look.Hour.LineWidth = 2147483647;
+        look.Minute.LengthPercent = -1e12;
+        look.Second.LineWidth = -2147483647;
+        look.CentralX = 1e12;
+        look.CentralY = -1e300;
+        face.DrawAnalogueClock(surface, look, {1, 2, 3}, White);
+        look.CentralX = look.CentralY = -1;
+        face.DrawAnalogueClock(surface, look, {1, 2, 4}, White);
+        // The hour hand is wider than the surface: nothing of the background is left.
+        QCOMPARE(surface.Image().pixel(2, 2), qRgb(0, 0, 255));
+    }
+
     void AnEqualTimeChangesNothing() {
         Surface surface(100, 100, 1.0);
         AnalogueFace face(dial_, background_, random_);

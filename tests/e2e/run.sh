@@ -12,7 +12,7 @@ export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
 
 scratch=$(mktemp -d)
 cleanUp() {
-    [[ -s "$scratch/pid" ]] && kill -9 "$(<"$scratch/pid")" 2>/dev/null
+    [[ -s "$scratch/pid" ]] && kill -9 "$(<"$scratch/pid")" 2>/dev/null || true
     rm -rf "$scratch"
 }
 trap cleanUp EXIT

@@ -63,15 +63,31 @@ private Q_SLOTS:
         mduLib::PutProperty(u"off"_s, QString(), list);
         mduLib::PutProperty(u"A"_s, u"A"_s, list);
         QStringList launched;
-        QVERIFY(shell::LaunchAutoStartClocks(
-            list, [&launched](const QString& name) { launched += name; }));
+        QVERIFY(shell::LaunchAutoStartClocks(list, [&launched](const QString& name) {
+            launched += name;
+            return true;
+        }));
         QCOMPARE(launched, (QStringList{u"B"_s, u"A"_s}));
     }
 
     void NothingToLaunch() {
         ClockProperties list;
         mduLib::PutProperty(u"off"_s, QString(), list);
-        QVERIFY(!shell::LaunchAutoStartClocks(list, [](const QString&) { QFAIL("launched"); }));
+        QVERIFY(!shell::LaunchAutoStartClocks(list, [](const QString&) { return true; }));
+    }
+
+    void AFailedLaunchDoesNotCount() {
+        ClockProperties list;
+        mduLib::PutProperty(u"A"_s, u"A"_s, list);
+        QVERIFY(!shell::LaunchAutoStartClocks(list, [](const QString&) { return false; }));
+    }
+
+    void ANameMayHoldAComma() {
+        ClockProperties list;
+        const shell::MenuArray menu = Menu({u"Paris, France"_s, u"All"_s});
+        shell::SetAutoStartEntry(list, menu, u"Paris, France"_s, false);
+        shell::SetAutoStartEntry(list, menu, u"Paris, France"_s, true);
+        QCOMPARE(Content(list), QByteArray("Paris, France=\r\n"));
     }
 
     void ALaunchMayChangeTheList() {
@@ -82,6 +98,7 @@ private Q_SLOTS:
         shell::LaunchAutoStartClocks(list, [&](const QString& name) {
             launched += name;
             list.Reset();
+            return true;
         });
         QCOMPARE(launched, (QStringList{u"A"_s, u"B"_s}));
     }

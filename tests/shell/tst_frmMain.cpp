@@ -289,6 +289,117 @@ private Q_SLOTS:
         QCOMPARE(desk.Status(), file + u" can't be written"_s);
     }
 
+    /// What is no list, or is more than a reader takes in, is told at the start and never written.
+    void OddListsAreLeft_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("content");
+        const QByteArray binary("GIF89a\0\0\xFF", 9);
+        const QByteArray longList = QByteArray("UTC=\r\n").repeated(40000);
+        for (const QString& file :
+             {u"AutoStart.txt"_s, u"OpenedForms.txt"_s, u"TempolarkCentral.ini"_s}) {
+            QTest::addRow("binary %s", qPrintable(file)) << file << binary;
+            QTest::addRow("40,000 lines %s", qPrintable(file)) << file << longList;
+        }
+    }
+
+    void OddListsAreLeft() {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, content);
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/"_s + file, content);
+        QVERIFY(desk.Start());
+        QVERIFY(desk.Status().contains(file));
+        desk.Open(u"Launch"_s);
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Stop();
+        QVERIFY(desk.User(file) == content);
+    }
+
+    void AListThatCantBeSavedStaysInMemory() {
+        Desk desk;
+        desk.Machine.Files.Unwritable +=
+            desk.Machine.WriteFile(u"tester/OpenedForms.txt"_s, "Old=\r\n");
+        QVERIFY(desk.Start());
+        desk.Shell->LaunchTempolark(u"Tokyo Standard Time"_s);
+        desk.Open(u"Launch"_s);
+        QCOMPARE(Desk::Texts(desk.Menu(u"LastOpened"_s)).first(), u"Tokyo Standard Time"_s);
+        QVERIFY(desk.Status().contains(u"OpenedForms.txt can't be written"_s));
+    }
+
+    void FailedAutoStartShowsTheHeader() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/AutoStart.txt"_s, "a/b=a/b\r\n");
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Clocks(), QStringList());
+        QVERIFY(desk.Shell->findChild<QLabel*>(u"header"_s)->isVisible());
+    }
+
+    void MaximisedShellSizesItsClocks() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/TempolarkCentral.ini"_s,
+                               "Window Width=6000\r\nWindow Height=6000\r\n"
+                               "Window State=Maximized\r\n");
+        desk.Machine.WriteFile(u"tester/AutoStart.txt"_s, "UTC=UTC\r\n");
+        QVERIFY(desk.Start());
+        desk.Settle();
+        QCOMPARE(desk.Shell->WindowState(), 2);
+        // A quarter of a screen of 800 by 800, not of the shell's 400 by 400.
+        const QRect clock = desk.Shell->findChild<QMdiArea*>()->subWindowList().first()->geometry();
+        QVERIFY(qAbs(clock.width() - 200) <= 1);
+    }
+
+    void TwoClocksOfOneZone() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Settle();
+        const QList<QAction*> items = desk.Open(u"Organize Windows"_s)->actions();
+        int checked = 0;
+        for (const QAction* item : items) {
+            checked += item->isChecked() ? 1 : 0;
+        }
+        QCOMPARE(checked, 1);
+        QVERIFY(items[items.size() - 2]->isChecked());  // the second, which is the active one
+    }
+
+    void ClosedBeforeItsFirstTick() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->LaunchTempolark(u"Tokyo Standard Time"_s);
+        desk.Stop();
+        QVERIFY(desk.User(u"TimeZones/Tokyo Standard Time.ini"_s).contains("Window Top=-1\r\n"));
+    }
+
+    void ArrangesIcons() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Shell->LaunchTempolark(u"Tokyo Standard Time"_s);
+        desk.Settle();
+        Desk::Item(desk.Open(u"Organize Windows"_s), u"Minimise All"_s)->trigger();
+        auto* area = desk.Shell->findChild<QMdiArea*>();
+        for (QMdiSubWindow* child : area->subWindowList()) {
+            child->move(50, 60);
+        }
+        Desk::Item(desk.Open(u"Organize Windows"_s), u"Arrang Icons"_s)->trigger();
+        const QRect first = area->subWindowList()[0]->geometry();
+        const QRect second = area->subWindowList()[1]->geometry();
+        QCOMPARE(first.left(), 0);
+        QCOMPARE(first.bottom(), area->viewport()->height() - 1);
+        QCOMPARE(second.left(), first.width());
+        QCOMPARE(second.top(), first.top());
+    }
+
+    void NamelessMachineZone() {
+        Desk desk;
+        desk.Shell = std::make_unique<frmMain>(desk.TheProgram);
+        QVERIFY(desk.Shell->Load());
+        QCOMPARE(desk.Shell->LaunchTempolark(u" "_s), 0);
+        QVERIFY(desk.Status().contains(u"The time zone has no name"_s));
+        QVERIFY(!QFile::exists(desk.Machine.AppFolder() + u"/tester/TimeZones/ .ini"_s));
+    }
+
     void RefusedNameOfTheCommandLineIsTold() {
         Desk desk;
         desk.Module.CommandLine = u"../../etc/passwd"_s;

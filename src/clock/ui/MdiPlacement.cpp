@@ -7,6 +7,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/Twips.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +15,6 @@ namespace clockcore {
 
 namespace {
 
-constexpr double TwipsPerPixel = 15;  // logical pixels
 constexpr double Automatic = -1;
 constexpr int LargestPixels = 16000;  // beyond that no surface can be made
 

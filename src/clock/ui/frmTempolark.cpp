@@ -9,7 +9,6 @@
 #include "clock/ClockMode.h"
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
-#include "foundation/SetupPaths.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -55,7 +54,8 @@ bool frmTempolark::ShowMeMDIChild(const QString& zoneName) {
     Load();
     placement_.PlaceInTheMiddle();
     data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
-    FinishLoading(zoneName);
+    files_.FillZone(zoneName);
+    FinishLoading();
     return true;
 }
 
@@ -64,10 +64,11 @@ void frmTempolark::ShowMe(const QString& zoneName, bool refresh, bool wrapper) {
     Load();
     const int mode = clockcore::GetClockType(data_.Properties());
     data_.Tag = QString::number(wrapper ? mode + clockcore::Wrapper : mode);
+    files_.FillZone(zoneName);
     if (refresh) {
         RefreshDefaultTimeZoneDetails(zoneName);
     }
-    FinishLoading(zoneName);
+    FinishLoading();
 }
 
 void frmTempolark::LaunchMDITempolark(QString zoneName) {
@@ -76,7 +77,7 @@ void frmTempolark::LaunchMDITempolark(QString zoneName) {
     }
     auto* other = new frmTempolark(program_, shell_, area_);
     if (other->files_.NameCurrentFile(zoneName)) {
-        const bool merged = mduMain::RefreshCurrentPropertyFile(program_.Module, program_.Services);
+        const bool merged = other->files_.RefreshFile();
         other->ShowMe(zoneName, !merged, false);
         other->placement_.SetOuterSize(placement_.OuterRect().size());
     } else {
@@ -100,11 +101,12 @@ void frmTempolark::Load() {
     placement_.Outer().raise();
     ApplyEnable();
     LayOutTimerMarks();
+    controls_.MusicPlayer(1).Tag = u"0"_s;
     data_.State = ClockState::FirstTickDue;
     placement_.SetOuterSize({0, 0});
     controls_.imgSpeaker(1).Visible = false;
     timClock_->SetInterval(FirstShot);
-    timClock_->SetInterval(NormalInterval);
+    timClock_->SetInterval(NormalInterval);  // from then on; the first shot comes all the same
 }
 
 void frmTempolark::LayOutTimerMarks() {
@@ -116,8 +118,7 @@ void frmTempolark::LayOutTimerMarks() {
     }
 }
 
-void frmTempolark::FinishLoading(const QString& zoneName) {
-    files_.FillZone(zoneName);
+void frmTempolark::FinishLoading() {
     controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
     placement_.Outer().raise();
 }
@@ -133,17 +134,17 @@ void frmTempolark::ApplyEnable() {
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {
-    if (std::exchange(data_.State, ClockState::Closing) == ClockState::Closing) {
+    const ClockState before = std::exchange(data_.State, ClockState::Closing);
+    if (before == ClockState::Closing) {
         event->accept();
         return;
     }
     timClock_->SetInterval(0);
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
-    if (WindowState() == 0) {
-        const QRectF rect = placement_.OuterRect();
-        files_.SavePosition(static_cast<float>(rect.top()), static_cast<float>(rect.left()),
-                            static_cast<float>(rect.height()), static_cast<float>(rect.width()));
+    // Before its first tick a clock has not taken the place that its file holds.
+    if (before != ClockState::FirstTickDue && WindowState() == 0) {
+        files_.SavePosition(placement_.OuterRect());
     }
     timers_.SaveTimer(program_.Module.Paths.TimerFile);
     placement_.ShowClockWindow(false);

@@ -80,7 +80,7 @@ protected:
 private:
     void Load();
     void LayOutTimerMarks();
-    void FinishLoading(const QString& zoneName);
+    void FinishLoading();
     void Activate();
     void ApplyEnable();
     QSize SurfaceSize() const;

@@ -142,9 +142,7 @@ void frmTempolark::SaveCurrentStyle() {
     mduLib::WritePropertyFile(program_.Services.FileSystem, data_.Properties(),
                               data_.PropertyFileName);
     if (WindowState() == 0) {
-        const QRectF rect = placement_.OuterRect();
-        files_.SavePosition(static_cast<float>(rect.top()), static_cast<float>(rect.left()),
-                            static_cast<float>(rect.height()), static_cast<float>(rect.width()));
+        files_.SavePosition(placement_.OuterRect());
     }
 }
 

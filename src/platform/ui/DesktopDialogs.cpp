@@ -32,6 +32,11 @@ QMessageBox::Icon IconOf(int flags) {
     }
 }
 
+/// "ini" of a filter such as "Ini File (*.ini)".
+QString SuffixOf(const QString& filter) {
+    return filter.section(QStringLiteral("*."), 1, 1).section(u')', 0, 0).section(u' ', 0, 0);
+}
+
 }  // namespace
 
 int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& title) {
@@ -50,7 +55,10 @@ int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& ti
 
 QString DesktopDialogs::OpenFile(const QString& title, const QString& folder,
                                  const QString& filter) {
-    return QFileDialog::getOpenFileName(owner_, title, folder, filter);
+    QFileDialog dialog(owner_, title, folder, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setDefaultSuffix(SuffixOf(filter));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString DesktopDialogs::SaveFile(const QString& title, const QString& folder,

@@ -14,6 +14,7 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SetupPaths.h"
+#include "foundation/Twips.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/ui/MessagePanel.h"
@@ -23,7 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr int BusyInterval = 400;  // milliseconds, while the message line holds something
 constexpr int IdleInterval = 10000;
 
@@ -76,17 +76,17 @@ bool frmMain::Load() {
     if (!ConfigSetup()) {
         return false;
     }
+    Arrange(shell::Arrangement::Cascade);
     lastOpened_.LoadOpenedForms(program_.Services.FileSystem,
                                 program_.Module.Paths.OpenedFormsFile());
     lastOpened_.FillLastOpenedMenu(fileItem_, program_.Services.FileSystem, program_.Module.Paths);
-    ApplyCentralProperties();
+    ApplyCentralProperties(false);
     const bool launchedAny = shell::LaunchAutoStartClocks(
-        program_.Module.AutoStartList, [this](const QString& name) { LaunchTempolark(name); });
+        program_.Module.AutoStartList,
+        [this](const QString& name) { return LaunchTempolark(name) != 0; });
     SetHeaderVisible(!launchedAny);
     timerCtrl_->SetInterval(BusyInterval);
-    if (WindowState() == 0) {
-        show();
-    }
+    ShowAtStart();
     return true;
 }
 
@@ -99,12 +99,26 @@ bool frmMain::ConfigSetup() {
     if (!problem.isEmpty()) {
         ShowStatusMsg(problem);
     }
-    return mduMain::SetupFiles(program_.Module, program_.Services, zoneName, centralProperties_) ==
-           mduMain::SetupResult::Done;
+    const mduMain::SetupResult result =
+        mduMain::SetupFiles(program_.Module, program_.Services, zoneName, centralProperties_);
+    TellUnreadableLists();
+    return result != mduMain::SetupResult::DefaultFileLost;
 }
 
-void frmMain::ApplyCentralProperties() {
-    ApplyPlacement();
+// Told now: what is not read is not written at the end either, when nobody sees a message.
+void frmMain::TellUnreadableLists() {
+    const PathTable& paths = program_.Module.Paths;
+    for (const QString& file : {paths.CentralFile, paths.AutoStartFile, paths.OpenedFormsFile()}) {
+        if (!mduLib::MayRewrite(program_.Services.FileSystem, file)) {
+            ShowStatusMsg(u"%1 can't be read as a property file; it is left as it is"_s.arg(file));
+        }
+    }
+}
+
+void frmMain::ApplyCentralProperties(bool keepPlacement) {
+    if (!keepPlacement) {
+        ApplyPlacement();
+    }
     const auto value = [this](const QString& key) {
         return mduLib::GetProperty(key, centralProperties_);
     };
@@ -116,8 +130,6 @@ void frmMain::ApplyPlacement() {
     const auto number = [this](const QString& key) {
         return mduAPILib::Val(mduLib::GetProperty(key, centralProperties_));
     };
-    const int state =
-        mduUILib::WindowStateValue(mduLib::GetProperty(u"Window State"_s, centralProperties_));
     const QRect whole = screen()->availableGeometry();
     const auto extent = [](double twips, int present) {
         return twips > 0 ? mduAPILib::RoundToInteger(twips / TwipsPerPixel) : present / 4;
@@ -130,10 +142,21 @@ void frmMain::ApplyPlacement() {
     };
     move(place(number(u"Window Left"_s), whole.left(), whole.width() - width()),
          place(number(u"Window Top"_s), whole.top(), whole.height() - height()));
-    layout()->activate();
-    if (state != 0) {
-        SetWindowState(state);
+    normalSize_ = QWidget::size();
+    // The clocks that start by themselves are sized by the shell as it will be seen.
+    if (StoredWindowState() == 2) {
+        resize(whole.size());
     }
+    layout()->activate();
+}
+
+int frmMain::StoredWindowState() const {
+    return mduUILib::WindowStateValue(mduLib::GetProperty(u"Window State"_s, centralProperties_));
+}
+
+void frmMain::ShowAtStart() {
+    resize(normalSize_);
+    SetWindowState(StoredWindowState());
 }
 
 void frmMain::SetBackgroundColour(const QString& colourName) {
@@ -184,11 +207,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::ExitShell() {
-    const bool listSaved = lastOpened_.SaveOpenedForms(program_.Services.FileSystem,
-                                                       program_.Module.Paths.OpenedFormsFile());
-    if (!listSaved) {
-        ShowStatusMsg(u"%1 can't be written"_s.arg(program_.Module.Paths.OpenedFormsFile()));
-    }
+    SaveOpenedForms();
     SaveWindowPlacement();
     SaveAutoStartList();
 }
@@ -198,9 +217,6 @@ void frmMain::SaveWindowPlacement() {
     const QString file = IniFile();
     // What the property window saved meanwhile stays.
     ClockProperties fresh;
-    if (!mduLib::MayRewrite(files, file)) {
-        return;
-    }
     if (mduLib::ReadPropertyFile(files, file, fresh)) {
         centralProperties_ = fresh;
     }
@@ -215,14 +231,24 @@ void frmMain::SaveWindowPlacement() {
         store(u"Window Width"_s, width());
         store(u"Window Height"_s, height());
     }
-    mduLib::WritePropertyFile(files, centralProperties_, file);
+    mduLib::RewritePropertyFile(files, centralProperties_, file);
 }
 
 void frmMain::SaveAutoStartList() {
-    if (!mduLib::WritePropertyFile(program_.Services.FileSystem, program_.Module.AutoStartList,
-                                   program_.Module.Paths.AutoStartFile)) {
-        ShowStatusMsg(u"%1 can't be written"_s.arg(program_.Module.Paths.AutoStartFile));
+    const QString& file = program_.Module.Paths.AutoStartFile;
+    if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, program_.Module.AutoStartList,
+                                     file)) {
+        ShowStatusMsg(u"%1 can't be written"_s.arg(file));
     }
+}
+
+bool frmMain::SaveOpenedForms() {
+    const QString file = program_.Module.Paths.OpenedFormsFile();
+    const bool saved = lastOpened_.SaveOpenedForms(program_.Services.FileSystem, file);
+    if (!saved) {
+        ShowStatusMsg(u"%1 can't be written"_s.arg(file));
+    }
+    return saved;
 }
 
 QString frmMain::AppEXEName() const {
@@ -268,7 +294,7 @@ void frmMain::RefreshPanels() {
 
 int frmMain::RefreshForm(const QString&) {
     centralProperties_ = program_.Module.CurrentProperties;
-    ApplyCentralProperties();
+    ApplyCentralProperties(true);
     return 0;
 }
 

@@ -5,6 +5,7 @@
 #include <QMdiArea>
 
 #include "foundation/Program.h"
+#include "shell/Arrangement.h"
 #include "shell/LastOpened.h"
 #include "shell/Launcher.h"
 #include "shell/MenuArray.h"
@@ -63,13 +64,17 @@ protected:
 private:
     // Start and stop (frmMain.cpp)
     void MakeInnerParts();
-    void ApplyCentralProperties();
+    void ApplyCentralProperties(bool keepPlacement);
+    void TellUnreadableLists();
     void ApplyPlacement();
+    int StoredWindowState() const;
+    void ShowAtStart();
     void SetBackgroundColour(const QString& colourName);
     void SetHeaderVisible(bool visible);
     void PlaceHeader();
     void ExitShell();
     void SaveWindowPlacement();
+    bool SaveOpenedForms();
     void TimerCtrl();
     void RefreshPanels();
 
@@ -85,11 +90,13 @@ private:
     QMenu* MakeWindowMenu();
     void FillWindowMenu(QMenu& menu);
     void OpenLast(int index);
-    void Arrange(int code);
+    void Arrange(shell::Arrangement code);
+    IForm* ActiveChild() const;
 
     Program program_;
     int handle_;
     int backColour_ = 0;
+    QSize normalSize_;
     ClockProperties centralProperties_;
     shell::LastOpened lastOpened_;
     shell::Launcher launcher_;

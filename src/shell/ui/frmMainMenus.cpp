@@ -113,8 +113,10 @@ void frmMain::FillFileMenu() {
     openMenu_->clear();
     ShowItems(*openMenu_, timeZone_, this, [this](int index) { DoMenuItem(TimeZoneMenu, index); });
 
-    lastOpened_.SaveOpenedForms(files, paths.OpenedFormsFile());
-    lastOpened_.LoadOpenedForms(files, paths.OpenedFormsFile());
+    // A list that could not be saved is not read back: it would come without its newest names.
+    if (SaveOpenedForms()) {
+        lastOpened_.LoadOpenedForms(files, paths.OpenedFormsFile());
+    }
     lastOpened_.FillLastOpenedMenu(fileItem_, files, paths);
     shell::MarkOpenItems(fileItem_, program_.Windows);
     lastOpenedMenu_->clear();
@@ -230,9 +232,9 @@ void frmMain::FillWindowMenu(QMenu& menu) {
     }
     menu.addSeparator();
     for (int i = 1; i <= openedWindow_.Count(); ++i) {
-        const IForm* window = program_.Windows.Find(mduAPILib::IntegerValue(openedWindow_(i).Tag));
-        openedWindow_(i).Checked = window != nullptr && area_->activeSubWindow() != nullptr &&
-                                   window->Caption() == area_->activeSubWindow()->windowTitle();
+        const IForm* active = ActiveChild();
+        openedWindow_(i).Checked =
+            active != nullptr && mduAPILib::IntegerValue(openedWindow_(i).Tag) == active->hwnd();
     }
     ShowItems(menu, openedWindow_, this, [this](int index) {
         shell::ActivateWindowByHandle(program_.Windows,
@@ -243,18 +245,17 @@ void frmMain::FillWindowMenu(QMenu& menu) {
 void frmMain::DoMenuItem(float menuId, int index) {
     if (menuId == TimeZoneMenu) {
         if (timeZone_(index).Tag.isEmpty()) {
-            if (launcher_.LaunchFromFileDialog() != 0) {
-                SetHeaderVisible(false);
-            }
+            launcher_.LaunchFromFileDialog();
         } else {
             LaunchTempolark(timeZone_(index).Tag);
         }
+        SetHeaderVisible(false);
     } else if (menuId == WindowMenu) {
         switch (index) {
             case 1:
             case 2:
             case 3:
-                Arrange(index);
+                Arrange(static_cast<shell::Arrangement>(index));
                 break;
             case 4:
                 shell::MaximiseAllChildren(program_.Windows, *this);
@@ -276,11 +277,32 @@ void frmMain::DoMenuItem(float menuId, int index) {
     }
 }
 
-// The codes are those of the child-window arrangement: 0 cascades, 1 and 2 tile, 3 lines icons up.
-void frmMain::Arrange(int code) {
-    if (code == 0) {
+IForm* frmMain::ActiveChild() const {
+    const QMdiSubWindow* active = area_->activeSubWindow();
+    return active != nullptr ? dynamic_cast<IForm*>(active->widget()) : nullptr;
+}
+
+void frmMain::Arrange(shell::Arrangement code) {
+    if (code == shell::Arrangement::Cascade) {
         area_->cascadeSubWindows();
-    } else if (code < 3) {
-        area_->tileSubWindows();
+        return;
+    }
+    const bool icons = code == shell::Arrangement::Icons;
+    QList<QMdiSubWindow*> children;
+    for (QMdiSubWindow* child : area_->subWindowList()) {
+        if (child->isVisible() && child->isMinimized() == icons) {
+            children += child;
+        }
+    }
+    const int count = static_cast<int>(children.size());
+    const QSize room = area_->viewport()->size();
+    const std::vector<QRect> places =
+        icons ? shell::IconPlaces(count, room, children.isEmpty() ? QSize() : children[0]->size())
+              : shell::TilePlaces(count, room, code == shell::Arrangement::TileColumns);
+    for (int i = 0; i < count; ++i) {
+        if (!icons) {
+            children[i]->showNormal();
+        }
+        children[i]->setGeometry(places[static_cast<std::size_t>(i)]);
     }
 }
