@@ -8,8 +8,8 @@
 /// The words of property values and what they mean.
 namespace mduUILib {
 
-inline constexpr int TransparentKey = 0xFFFFFF;       ///< the colour key of transparency
-inline constexpr int TransparentWindow = 0x1000002;   ///< a window's colour while it is transparent
+inline constexpr int TransparentKey = 0xFFFFFF;      ///< the colour key of transparency
+inline constexpr int TransparentWindow = 0x1000002;  ///< a window's colour while it is transparent
 
 /// A colour number from a text: red in the low byte, then green, then blue. Names, "random", or any
 /// number; all else is black. "white" is 0xFFFFFD, since 0xFFFFFF is the transparent key. The text

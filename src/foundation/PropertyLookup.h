@@ -11,7 +11,8 @@
 namespace mduLib {
 
 /// The number of the first matching row; 0 if there is none.
-int FindPropertyRow(const QString& name, const ClockProperties& array, const QString& category = {});
+int FindPropertyRow(const QString& name, const ClockProperties& array,
+                    const QString& category = {});
 
 /// The raw Value of the first row of that name; empty if there is none.
 QString GetPropertyRaw(const QString& name, const ClockProperties& array);
@@ -25,8 +26,8 @@ QString GetProperty(const QString& name, const ClockProperties& array,
 /// The choices: the text behind the first comma; the whole raw value if it holds no comma.
 QString GetPropertyChoices(const QString& name, const ClockProperties& array);
 
-/// Stores a trimmed current value and keeps the row's choices. A row whose value begins with a comma
-/// loses them. A new key goes behind a gap row: the array grows by two.
+/// Stores a trimmed current value and keeps the row's choices. A row whose value begins with a
+/// comma loses them. A new key goes behind a gap row: the array grows by two.
 void PutProperty(const QString& name, const QString& value, ClockProperties& array,
                  const QString& category = {});
 
