@@ -386,7 +386,7 @@ private Q_SLOTS:
         const QRect first = area->subWindowList()[0]->geometry();
         const QRect second = area->subWindowList()[1]->geometry();
         QCOMPARE(first.left(), 0);
-        QCOMPARE(first.bottom(), area->viewport()->height() - 1);
+        QCOMPARE(first.bottom(), area->contentsRect().height() - 1);
         QCOMPARE(second.left(), first.width());
         QCOMPARE(second.top(), first.top());
     }

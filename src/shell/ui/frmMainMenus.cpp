@@ -295,7 +295,8 @@ void frmMain::Arrange(shell::Arrangement code) {
         }
     }
     const int count = static_cast<int>(children.size());
-    const QSize room = area_->viewport()->size();
+    // Not the viewport's: what is arranged needs no scroll bars any more.
+    const QSize room = area_->contentsRect().size();
     const std::vector<QRect> places =
         icons ? shell::IconPlaces(count, room, children.isEmpty() ? QSize() : children[0]->size())
               : shell::TilePlaces(count, room, code == shell::Arrangement::TileColumns);
