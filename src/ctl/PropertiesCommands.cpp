@@ -81,16 +81,10 @@ int Choices(Context& context) {
     return file.Status();
 }
 
-// A file that holds something but can't be read whole would lose it.
-bool MayBeReplaced(const Context& context, const FileRead& file, const QString& path) {
-    const platform::Files& files = context.Services.FileSystem;
-    return file.Completed || !files.FileExists(path) || files.Read(path) == QByteArray();
-}
-
 int Put(Context& context) {
     const QString path = context.Arguments[0];
     FileRead file(context, path);
-    if (!MayBeReplaced(context, file, path)) {
+    if (!mduLib::MayRewrite(context.Services.FileSystem, path)) {
         PrintRows(file.Rows());
         return OperationFailed;
     }

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void puts();
     void putsIntoAFileThatIsNotThere();
     void putsNothingIntoAFileItCouldNotRead();
+    void putsNothingIntoWhatIsNoText();
     void merges();
     void tellsOfAFailedMerge();
     void sorts_data();
@@ -148,6 +149,13 @@ void tst_PropertiesCommands::putsNothingIntoAFileItCouldNotRead() {
     QCOMPARE(answer.Output, "{\"rows\":32767}\n"_ba);
     QCOMPARE(companion_.Read(u"long.ini"_s), content);
     QCOMPARE(Run({u"put"_s, companion_.Folder.path(), u"A"_s, u"1"_s}).Status, 1);
+}
+
+void tst_PropertiesCommands::putsNothingIntoWhatIsNoText() {
+    const QByteArray picture("GIF89a\0\nA=1\n", 12);
+    companion_.Write(u"a.gif"_s, picture);
+    QCOMPARE(Run({u"put"_s, u"a.gif"_s, u"A"_s, u"2"_s}).Status, 1);
+    QCOMPARE(companion_.Read(u"a.gif"_s), picture);
 }
 
 void tst_PropertiesCommands::merges() {
