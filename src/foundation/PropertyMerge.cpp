@@ -115,10 +115,7 @@ private:
             return oldValue ? std::optional(Line(line, *oldValue)) : std::nullopt;
         }
         const std::optional<QString> newValue = SecondField(line);
-        if (!newValue) {
-            return std::nullopt;
-        }
-        return newValue->startsWith(u'^') ? Line(line, newValue->mid(1)) : line;
+        return newValue && newValue->startsWith(u'^') ? Line(line, newValue->mid(1)) : line;
     }
 
     const OldLines& old_;
