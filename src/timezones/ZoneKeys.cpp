@@ -191,8 +191,11 @@ TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable
 
 bool LoadZoneFile(const platform::Files& files, const QString& path, ClockProperties& properties) {
     properties.Reset();
-    return mduLib::ReadPropertyFile(files, path, properties) || !files.FileExists(path) ||
-           files.Read(path) == QByteArray("");
+    if (!mduLib::MayRewrite(files, path)) {
+        return false;
+    }
+    mduLib::ReadPropertyFile(files, path, properties);
+    return true;
 }
 
 bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
@@ -215,9 +218,13 @@ void CopyZoneKeys(const ClockProperties& source, ClockProperties& target) {
 }
 
 TimeZoneRecord LoadZone(const platform::Services& services, const PathTable& paths,
-                        const QString& zoneName, ClockProperties& properties, const QString& path) {
+                        const QString& zoneName, ClockProperties& properties, const QString& path,
+                        bool* written) {
     TimeZoneRecord record = FindTimeZone(services, paths, zoneName);
-    ReadZoneKeys(services, record, properties, path);
+    const bool saved = ReadZoneKeys(services, record, properties, path);
+    if (written != nullptr) {
+        *written = saved;
+    }
     if (record.StandardName.isEmpty()) {
         record.StandardName = zoneName;
     }

@@ -34,7 +34,7 @@ TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable
                              const QString& path, bool* written = nullptr);
 
 /// Loads a zone's file into an empty array; one that is missing or empty has no rows. @return false
-/// when a file is there that can't be read whole, so that writing the array would lose it.
+/// when a file is there that may not be written anew (`mduLib::MayRewrite`); no row is then read.
 bool LoadZoneFile(const platform::Files& files, const QString& path, ClockProperties& properties);
 
 /// Loads the file, then `WriteZoneKeys`. @return false when it could not be read or written.
@@ -45,8 +45,10 @@ bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
 void CopyZoneKeys(const ClockProperties& source, ClockProperties& target);
 
 /// The whole of a clock's loading: `FindTimeZone`, `ReadZoneKeys` over it, the name where there is
-/// none, and the present offset.
+/// none, and the present offset. @p written, when given, tells whether each key that was filled in
+/// reached the file.
 TimeZoneRecord LoadZone(const platform::Services& services, const PathTable& paths,
-                        const QString& zoneName, ClockProperties& properties, const QString& path);
+                        const QString& zoneName, ClockProperties& properties, const QString& path,
+                        bool* written = nullptr);
 
 }  // namespace mduTimeZones

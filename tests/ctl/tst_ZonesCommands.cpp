@@ -36,6 +36,7 @@ private Q_SLOTS:
     void ShowsAnUnknownZone();
     void ShowsAZoneThroughAFile();
     void KeepsAFileThatItCannotRead();
+    void KeepsABinaryFile();
     void TellsWhenTheFileCannotBeWritten();
     void ShowsTheLocalZone();
     void ListsTheDatabase();
@@ -100,6 +101,16 @@ void tst_ZonesCommands::KeepsAFileThatItCannotRead() {
     QCOMPARE(answer.Status, 1);
     QVERIFY(answer.Messages.contains("can't be read"));
     QCOMPARE(answer.Object()[u"StandardName"_s], u"UTC"_s);
+}
+
+void tst_ZonesCommands::KeepsABinaryFile() {
+    const Companion companion;
+    const QByteArray bytes("\x7f\0ELF\n", 6);
+    const QString path = companion.Write(u"picture.bin"_s, bytes);
+    const CompanionAnswer answer = Run(companion, {u"show"_s, u"UTC"_s, u"--file"_s, path});
+    QCOMPARE(answer.Status, 1);
+    QVERIFY(answer.Messages.contains("can't be read"));
+    QCOMPARE(companion.Read(u"picture.bin"_s), bytes);
 }
 
 void tst_ZonesCommands::TellsWhenTheFileCannotBeWritten() {

@@ -108,8 +108,11 @@ private Q_SLOTS:
     void CopiesPresentKeysOnly();
     void AppliesAZoneToAFile();
     void KeepsAFileThatItCannotRead();
+    void LoadsFiles_data();
+    void LoadsFiles();
     void LoadsAZone();
     void LoadsAnUnknownZone();
+    void TellsWhetherALoadWasSaved();
 };
 
 void tst_ZoneKeys::NamesTheKeys() {
@@ -550,6 +553,35 @@ void tst_ZoneKeys::KeepsAFileThatItCannotRead() {
     QCOMPARE(machine.Fake.ReadFile(u"zone.ini"_s), QByteArray("Look:Clocks=Digital\r\n"));
 }
 
+void tst_ZoneKeys::LoadsFiles_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("loaded");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("keys") << "Time Zone Standard Name=N\r\n"_ba << true << u"N"_s;
+    QTest::newRow("nothing") << QByteArray() << true << QString();
+    QTest::newRow("binary") << QByteArray("Time Zone Standard Name=N\r\n\0\1", 29) << false
+                            << QString();
+    QTest::newRow("as many lines as can be counted")
+        << "Time Zone Standard Name=N\n"_ba + QByteArray("\n").repeated(32766) << true << u"N"_s;
+    QTest::newRow("a line more") << "Time Zone Standard Name=N\n"_ba +
+                                        QByteArray("\n").repeated(32767)
+                                 << false << QString();
+}
+
+void tst_ZoneKeys::LoadsFiles() {
+    QFETCH(QByteArray, content);
+    QFETCH(bool, loaded);
+    Machine machine;
+    const QString path = machine.Fake.WriteFile(u"zone.ini"_s, content);
+    ClockProperties properties = Keys(ParisValues);
+    QCOMPARE(LoadZoneFile(machine.Fake.Files, path, properties), loaded);
+    QTEST(ValueOf(properties, u"Standard Name"_s), "name");
+    QCOMPARE(
+        ApplyZoneToFile(machine.Fake.Services, machine.Paths, path, u"Eastern Standard Time"_s),
+        loaded);
+    QCOMPARE(machine.Fake.ReadFile(u"zone.ini"_s) == content, !loaded);
+}
+
 // GMT noon of 15 June on a machine in GMT.
 void tst_ZoneKeys::LoadsAZone() {
     Machine machine;
@@ -578,6 +610,25 @@ void tst_ZoneKeys::LoadsAnUnknownZone() {
     QCOMPARE(record.CurrentName, u"Nowhere"_s);
     QCOMPARE(record.CurrentGMTHours, 0.0F);
     QCOMPARE(record.HoursFromLocal, -2.0F);
+}
+
+void tst_ZoneKeys::TellsWhetherALoadWasSaved() {
+    Machine machine;
+    const QString path = machine.Fake.AppFolder() + u"/zone.ini"_s;
+    bool written = false;
+    ClockProperties properties;
+    LoadZone(machine.Fake.Services, machine.Paths, u"Eastern Standard Time"_s, properties, path,
+             &written);
+    QVERIFY(written);
+    machine.Fake.Files.Unwritable = {path};
+    ClockProperties empty;
+    LoadZone(machine.Fake.Services, machine.Paths, u"Eastern Standard Time"_s, empty, path,
+             &written);
+    QVERIFY(!written);
+    // Full keys need no saving.
+    LoadZone(machine.Fake.Services, machine.Paths, u"Eastern Standard Time"_s, properties, path,
+             &written);
+    QVERIFY(written);
 }
 
 QTEST_GUILESS_MAIN(tst_ZoneKeys)
