@@ -1,6 +1,7 @@
 #include "platform/TzZoneDatabase.h"
 
 #include <QDateTime>
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -11,7 +12,11 @@ namespace {
 
 constexpr qsizetype longestSubkey = 31;
 
+/// Stands for the identifier of a zone that has none, and names its subkey.
+constexpr char namelessZone[] = "Local time";
+
 /// The identifier as QTimeZone knows it: the environment may hold ":Europe/Paris" or a full path.
+/// Empty when that is no zone.
 QByteArray UsableIana(QByteArray iana) {
     if (iana.startsWith(':')) {
         iana.remove(0, 1);
@@ -20,7 +25,13 @@ QByteArray UsableIana(QByteArray iana) {
     if (const qsizetype at = iana.indexOf(folder); at >= 0) {
         iana.remove(0, at + folder.size());
     }
-    return QTimeZone(iana).isValid() ? iana : QByteArray("UTC");
+    return QTimeZone(iana).isValid() ? iana : QByteArray();
+}
+
+bool KeepsOffset(const TzYear& year, int offset) {
+    return year.FirstOffset == offset ||
+           std::any_of(year.Changes.begin(), year.Changes.end(),
+                       [&](const TzChange& change) { return change.After == offset; });
 }
 
 /// "America/North_Dakota/New_Salem" gives "New Salem".
@@ -45,10 +56,12 @@ QString DisplayText(const TzRule& rule, const QString& cities) {
 }  // namespace
 
 TzZoneDatabase::TzZoneDatabase(const WallClock& clock, QByteArray localIana)
-    : clock_(clock),
-      localIana_(
-          UsableIana(localIana.isEmpty() ? QTimeZone::systemTimeZoneId() : std::move(localIana))),
-      zones_(TzWindowsZones()) {
+    : clock_(clock), zones_(TzWindowsZones()) {
+    const bool told = !localIana.isEmpty();
+    const QByteArray usable =
+        UsableIana(told ? std::move(localIana) : QTimeZone::systemTimeZoneId());
+    mayBeNameless_ = !told || usable.isEmpty();
+    namedIana_ = usable.isEmpty() ? QByteArray("UTC") : usable;
     for (std::size_t i = 0; i < zones_.size(); ++i) {
         index_.insert(zones_[i].Name, i);
     }
@@ -69,7 +82,7 @@ QByteArray TzZoneDatabase::IanaOf(const QString& subkey) const {
     if (index_.contains(subkey)) {
         return TzDefaultIana(subkey);
     }
-    return Local().IsExtra && subkey == Local().Name ? localIana_ : QByteArray();
+    return Local().IsExtra && subkey == Local().Name ? Local().Iana : QByteArray();
 }
 
 QString TzZoneDatabase::CitiesOf(const QString& subkey) const {
@@ -103,9 +116,11 @@ std::optional<QByteArray> TzZoneDatabase::TziValue(const QString& subkey) const 
 }
 
 TimeZoneInformation TzZoneDatabase::GetTimeZoneInformation() const {
-    const TzRule rule = RuleOf(localIana_);
+    const QByteArray iana = Local().Iana;
+    const TzRule rule = RuleOf(iana);
+    const int unchanging = iana == namelessZone ? 1 : 0;
     TimeZoneInformation information;
-    information.Result = !rule.KeepsDaylight ? 0 : rule.DaylightNow ? 2 : 1;
+    information.Result = !rule.KeepsDaylight ? unchanging : rule.DaylightNow ? 2 : 1;
     information.Bias = rule.Bias;
     information.StandardName = LocalStandardName();
     information.StandardDate = rule.StandardDate;
@@ -139,26 +154,38 @@ const TzYear& TzZoneDatabase::YearOf(const QByteArray& iana) const {
 }
 
 TzRule TzZoneDatabase::RuleOf(const QByteArray& iana) const {
+    if (iana == namelessZone) {
+        return MakeTzRule({0, clock_.OffsetFromGmt(), {}}, Present());
+    }
     return MakeTzRule(YearOf(iana), Present());
 }
 
+// The clock takes its offset from the system, which can read a zone that has no name or another
+// one: TZ=CET-1CEST, a copy of a zone's file.
+QByteArray TzZoneDatabase::LocalIana() const {
+    const TzYear& year = YearOf(namedIana_);
+    const bool nameless = mayBeNameless_ && !KeepsOffset(year, clock_.OffsetFromGmt());
+    return nameless ? QByteArray(namelessZone) : namedIana_;
+}
+
 const TzZoneDatabase::LocalSubkey& TzZoneDatabase::Local() const {
-    YearOf(localIana_);  // a new year may part the machine's zone from its name
-    if (!local_) {
-        local_ = MakeLocalSubkey();
+    const QByteArray iana = LocalIana();  // a new year may part the machine's zone from its name
+    if (!local_ || local_->Iana != iana) {
+        local_ = MakeLocalSubkey(iana);
     }
     return *local_;
 }
 
-TzZoneDatabase::LocalSubkey TzZoneDatabase::MakeLocalSubkey() const {
-    const QString name = TzWindowsName(localIana_);
+TzZoneDatabase::LocalSubkey TzZoneDatabase::MakeLocalSubkey(const QByteArray& iana) const {
+    const QString name = TzWindowsName(iana);
     if (index_.contains(name)) {
-        const TzYear own = YearOf(localIana_);
+        const TzYear own = YearOf(iana);
         if (own == YearOf(TzDefaultIana(name)))
-            return {name, false};
+            return {name, iana, false};
     }
-    const QString city = CityOf(localIana_);
-    return {index_.contains(city) ? city.left(longestSubkey - 8) + u" (local)"_s : city, true};
+    const QString city = CityOf(iana);
+    return {index_.contains(city) ? city.left(longestSubkey - 8) + u" (local)"_s : city, iana,
+            true};
 }
 
 }  // namespace platform

@@ -19,10 +19,13 @@ namespace platform {
 ///
 /// The machine's own zone goes by its CLDR name where the zone behind that name keeps the same time
 /// all through the year. Where it does not, or where there is no such name, the database ends with
-/// one more subkey, named by the zone's city ("Vancouver"), so that the local clock is right.
+/// one more subkey, named by the zone's city ("Vancouver"), so that the local clock is right. A
+/// machine whose zone can't be named keeps the wall clock's present offset as "Local time".
 class TzZoneDatabase : public ZoneDatabase {
 public:
-    /// @param localIana the machine's zone; empty for the real one. One that is unknown is UTC.
+    /// @param localIana the machine's zone; empty for the real one. One that is unknown is UTC
+    /// while the wall clock shows that, else "Local time"; so is the real one, when its name does
+    /// not keep the offset of the wall clock at any time of the year.
     explicit TzZoneDatabase(const WallClock& clock, QByteArray localIana = {});
 
     ZoneRoot Open() const override { return ZoneRoot::Opened; }
@@ -30,30 +33,34 @@ public:
     std::optional<QString> TextValue(const QString& subkey, const QString& name) const override;
     std::optional<QByteArray> TziValue(const QString& subkey) const override;
 
-    /// Result 0 for a zone that keeps one offset through the present year, else 1 or 2. Both names
-    /// are those of the machine's subkey.
+    /// Result 0 for a zone that keeps one offset through the present year, else 1 or 2; 1 for
+    /// "Local time". Both names are those of the machine's subkey.
     TimeZoneInformation GetTimeZoneInformation() const override;
     QString LocalStandardName() const override;
     bool IsWindowsNT() const override { return true; }
 
-    /// The tz identifier behind a subkey; empty for a name that is no subkey.
+    /// The tz identifier behind a subkey, "Local time" for itself; empty for a name that is no
+    /// subkey.
     QByteArray IanaOf(const QString& subkey) const;
 
 private:
     struct LocalSubkey {
         QString Name;
+        QByteArray Iana;
         bool IsExtra = false;
     };
 
     qint64 Present() const;
     const TzYear& YearOf(const QByteArray& iana) const;
     const LocalSubkey& Local() const;
-    LocalSubkey MakeLocalSubkey() const;
+    LocalSubkey MakeLocalSubkey(const QByteArray& iana) const;
+    QByteArray LocalIana() const;
     TzRule RuleOf(const QByteArray& iana) const;
     QString CitiesOf(const QString& subkey) const;
 
     const WallClock& clock_;
-    QByteArray localIana_;
+    QByteArray namedIana_;
+    bool mayBeNameless_ = false;
     std::vector<TzWindowsZone> zones_;
     QHash<QString, std::size_t> index_;
 

@@ -61,6 +61,19 @@ QStringList Subkeys(const TzZoneDatabase& zones) {
 
 const SYSTEMTIME None;
 
+/// A clock whose offset is of no zone.
+struct OffsetClock final : platform::WallClock {
+    explicit OffsetClock(int offset) : Offset(offset) {}
+
+    QDateTime Now() const override {
+        return QDateTime(QDate(2026, 6, 15), QTime(12, 0), Qt::UTC).addSecs(Offset);
+    }
+    int OffsetFromGmt() const override { return Offset; }
+    std::unique_ptr<platform::Ticker> MakeTicker(std::function<void()>) override { return {}; }
+
+    int Offset;
+};
+
 }  // namespace
 
 class tst_TzZoneDatabase : public QObject {
@@ -92,6 +105,10 @@ private Q_SLOTS:
     void ExtraSubkeyGoesWithItsYear();
     void UnusableLocalZoneIsUtc_data();
     void UnusableLocalZoneIsUtc();
+    void NamelessLocalZone_data();
+    void NamelessLocalZone();
+    void NamelessZoneFollowsTheClock();
+    void MachineUnderAWrongName();
 };
 
 void tst_TzZoneDatabase::HoldsEveryNamedZone() {
@@ -461,6 +478,70 @@ void tst_TzZoneDatabase::UnusableLocalZoneIsUtc() {
     QTEST(zones.LocalStandardName(), "name");
     const TzZoneDatabase machine(clock);
     QVERIFY(Subkeys(machine).contains(machine.LocalStandardName()));
+}
+
+void tst_TzZoneDatabase::NamelessLocalZone_data() {
+    QTest::addColumn<QByteArray>("iana");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<int>("bias");
+    QTest::addColumn<QString>("display");
+    QTest::newRow("copy of a zone's file")
+        << ":/copy/of/zonefile"_ba << 3600 << -60 << u"(GMT+01:00) Local time"_s;
+    QTest::newRow("unknown, west")
+        << "Nowhere/Land"_ba << -12600 << 210 << u"(GMT-03:30) Local time"_s;
+    QTest::newRow("garbage") << "\xff\x01/.."_ba << 20700 << -345 << u"(GMT+05:45) Local time"_s;
+    QTest::newRow("farther than any zone")
+        << "Nowhere/Land"_ba << 72000 << -1200 << u"(GMT+20:00) Local time"_s;
+}
+
+void tst_TzZoneDatabase::NamelessLocalZone() {
+    QFETCH(QByteArray, iana);
+    QFETCH(int, offset);
+    const OffsetClock clock(offset);
+    const TzZoneDatabase zones(clock, iana);
+    const platform::TimeZoneInformation information = zones.GetTimeZoneInformation();
+    QCOMPARE(information.Result, 1);
+    QTEST(static_cast<int>(information.Bias), "bias");
+    QCOMPARE(information.StandardBias, 0);
+    QCOMPARE(information.StandardDate, None);
+    QCOMPARE(information.StandardName, u"Local time"_s);
+    QCOMPARE(zones.LocalStandardName(), u"Local time"_s);
+    QCOMPARE(zones.SubkeyName(139), u"Local time"_s);
+    QTEST(TziOf(zones, u"Local time"_s).Bias, "bias");
+    QTEST(zones.TextValue(u"Local time"_s, u"Display"_s).value_or(QString()), "display");
+    QCOMPARE(TziOf(zones, u"Tokyo Standard Time"_s).Bias, -540);
+}
+
+// Nothing but the clock knows when such a zone keeps daylight time.
+void tst_TzZoneDatabase::NamelessZoneFollowsTheClock() {
+    OffsetClock clock(0);
+    const TzZoneDatabase zones(clock, "CET-1CEST");
+    QCOMPARE(zones.LocalStandardName(), u"UTC"_s);
+    QCOMPARE(zones.GetTimeZoneInformation().Result, 0);
+    for (const int hours : {1, 2}) {
+        clock.Offset = hours * 3600;
+        QCOMPARE(zones.LocalStandardName(), u"Local time"_s);
+        QCOMPARE(zones.GetTimeZoneInformation().Bias, -60 * hours);
+    }
+    clock.Offset = 0;
+    QCOMPARE(zones.LocalStandardName(), u"UTC"_s);
+    QVERIFY(!zones.SubkeyName(139));
+}
+
+// A copied zone file leaves the machine's zone under a name of another time, such as "UTC".
+void tst_TzZoneDatabase::MachineUnderAWrongName() {
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", "Asia/Tokyo");
+    OffsetClock clock(32400);
+    const TzZoneDatabase zones(clock);
+    qputenv("TZ", before);
+    if (before.isEmpty()) {
+        qunsetenv("TZ");
+    }
+    QCOMPARE(zones.LocalStandardName(), u"Tokyo Standard Time"_s);
+    clock.Offset = 3600;
+    QCOMPARE(zones.LocalStandardName(), u"Local time"_s);
+    QCOMPARE(zones.GetTimeZoneInformation().Bias, -60);
 }
 
 QTEST_GUILESS_MAIN(tst_TzZoneDatabase)
