@@ -400,6 +400,18 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(desk.Machine.AppFolder() + u"/tester/TimeZones/ .ini"_s));
     }
 
+    void CommandLineNamesAClock() {
+        Desk desk;
+        desk.Module.CommandLine = u" Tokyo Standard Time "_s;
+        QVERIFY(desk.Start());
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"Tokyo Standard Time"_s});
+        desk.Stop();
+        desk.Module.CommandLine = u"/s"_s;
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Clocks(), QStringList());
+    }
+
     void RefusedNameOfTheCommandLineIsTold() {
         Desk desk;
         desk.Module.CommandLine = u"../../etc/passwd"_s;

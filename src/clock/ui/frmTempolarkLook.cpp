@@ -149,7 +149,7 @@ void frmTempolark::SaveCurrentStyle() {
 void frmTempolark::SetClockStyle(const QString& styleFile) {
     const platform::Files& files = program_.Services.FileSystem;
     ClockProperties style;
-    if (!files.FileExists(styleFile) || !mduLib::ReadPropertyFile(files, styleFile, style)) {
+    if (!files.Exists(styleFile) || !mduLib::ReadPropertyFile(files, styleFile, style)) {
         return;
     }
     for (const QString& key : mduTimeZones::ZoneKeys()) {

@@ -81,13 +81,23 @@ bool frmMain::Load() {
                                 program_.Module.Paths.OpenedFormsFile());
     lastOpened_.FillLastOpenedMenu(fileItem_, program_.Services.FileSystem, program_.Module.Paths);
     ApplyCentralProperties(false);
-    const bool launchedAny = shell::LaunchAutoStartClocks(
+    bool launchedAny = shell::LaunchAutoStartClocks(
         program_.Module.AutoStartList,
         [this](const QString& name) { return LaunchTempolark(name) != 0; });
+    launchedAny = LaunchNamedClock() || launchedAny;
     SetHeaderVisible(!launchedAny);
     timerCtrl_->SetInterval(BusyInterval);
     ShowAtStart();
     return true;
+}
+
+// A zone that the command line names is what the user wants to see, too.
+bool frmMain::LaunchNamedClock() {
+    const QString name = program_.Module.CommandLine.trimmed();
+    const QString screenSaverRun = u"/s"_s;
+    return !name.isEmpty() && name != screenSaverRun && mduLib::ZoneNameProblem(name).isEmpty() &&
+           mduLib::GetPropertyRaw(name, program_.Module.AutoStartList) != name &&
+           LaunchTempolark(name) != 0;
 }
 
 bool frmMain::ConfigSetup() {
@@ -252,7 +262,7 @@ bool frmMain::SaveOpenedForms() {
 }
 
 QString frmMain::AppEXEName() const {
-    return program_.Module.Paths.AppFolder + u"/TempolarkCentral.exe"_s;
+    return program_.Module.Paths.AppEXEName();
 }
 
 void frmMain::SetWindowState(int state) {

@@ -65,6 +65,7 @@ private:
     // Start and stop (frmMain.cpp)
     void MakeInnerParts();
     void ApplyCentralProperties(bool keepPlacement);
+    bool LaunchNamedClock();
     void TellUnreadableLists();
     void ApplyPlacement();
     int StoredWindowState() const;
