@@ -9,7 +9,7 @@ class MemoryFiles final : public platform::Files {
 public:
     QMap<QString, QByteArray> Contents;
 
-    bool FileExists(const QString& path) const override { return Contents.contains(path); }
+    bool Exists(const QString& path) const override { return Contents.contains(path); }
     bool FolderExists(const QString&) const override { return false; }
     bool MakeFolder(const QString&) override { return false; }
     std::optional<QByteArray> Read(const QString& path) const override {
@@ -24,6 +24,7 @@ public:
     }
     bool Delete(const QString& path) override { return Contents.remove(path) > 0; }
     bool Touch(const QString& path) override { return Contents.contains(path); }
+    bool SetModifiedSeconds(const QString& path, qint64) override { return Touch(path); }
     std::optional<qint64> ModifiedSeconds(const QString&) const override { return std::nullopt; }
     QStringList FileNames(const QString&) const override { return Contents.keys(); }
 };

@@ -23,7 +23,7 @@ bool IsControlCharacter(QChar character) {
 }
 
 bool IsPlainFile(const platform::Files& files, const QString& path) {
-    return !path.isEmpty() && files.FileExists(path) && !files.FolderExists(path);
+    return !path.isEmpty() && files.Exists(path) && !files.FolderExists(path);
 }
 
 }  // namespace

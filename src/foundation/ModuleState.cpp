@@ -22,3 +22,7 @@ QString PathTable::DefaultActionFile() const {
 QString PathTable::OpenedFormsFile() const {
     return (DataFolder.isEmpty() ? AppFolder : DataFolder) + u"/OpenedForms.txt"_s;
 }
+
+QString PathTable::AppEXEName() const {
+    return AppFolder + u"/TempolarkCentral.exe"_s;
+}

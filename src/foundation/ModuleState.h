@@ -29,6 +29,7 @@ struct PathTable {
     QString DefaultShortcutsFile() const;
     QString DefaultActionFile() const;
     QString OpenedFormsFile() const;
+    QString AppEXEName() const;  ///< the shell's executable, as the stored commands name it
 };
 
 /// What the shell and all clocks of the process share; one object, owned by `main`.
@@ -40,5 +41,6 @@ struct ModuleState {
     /// with `Paths.CurrentPropertyFile`.
     ClockProperties CurrentProperties;
     bool NewPropertyFileCreated = false;
-    QString CommandLine;  ///< one string; empty means the local zone, "/s" the screen-saver run
+    QString FailedSetupPath;  ///< where start-up ended with `SetupResult::Incomplete`; else empty
+    QString CommandLine;      ///< one string; empty means the local zone, "/s" the screen-saver run
 };

@@ -94,7 +94,7 @@ bool ReadPropertyFile(const platform::Files& files, const QString& path, ClockPr
 }
 
 bool MayRewrite(const platform::Files& files, const QString& path) {
-    if (!files.FileExists(path)) {
+    if (!files.Exists(path)) {
         return true;
     }
     const std::optional<QByteArray> content = files.Read(path);

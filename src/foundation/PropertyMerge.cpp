@@ -129,7 +129,7 @@ QStringList LinesOf(const std::optional<QByteArray>& content) {
 
 /// A user's file that can't be read, or is no text, is not replaced by the defaults.
 bool HoldsNothingOrText(const platform::Files& files, const QString& path) {
-    if (!files.FileExists(path)) {
+    if (!files.Exists(path)) {
         return true;
     }
     const std::optional<QByteArray> content = files.Read(path);

@@ -12,7 +12,7 @@ namespace mduMain {
 
 namespace {
 
-// A step that fails ends its routine without a word; what has been set stays set.
+// A step that fails ends its routine; what has been set stays set.
 enum class Step { Done, Failed };
 
 void LetEventsRun() {
@@ -43,11 +43,6 @@ QString AccountFolderName(const QString& userName) {
     return name == "."_L1 || name == ".."_L1 ? u"_"_s : name;
 }
 
-QString MakeFolder(platform::Files& files, const QString& folder) {
-    mduLib::EnsureFolder(files, folder);
-    return folder;
-}
-
 // A default file that is missing is no failure: the user's file then comes into being when it is
 // first saved.
 Step CopyUnlessThere(platform::Files& files, const QString& source, const QString& destination) {
@@ -70,11 +65,10 @@ Step SetShortcutsFile(PathTable& paths, platform::Files& files) {
     return Step::Done;
 }
 
-Step SetPathsOfUser(PathTable& paths, platform::Files& files, const QString& userName,
-                    const QString& zoneStem) {
-    paths.DataFolder = MakeFolder(files, paths.AppFolder + u'/' + AccountFolderName(userName));
-    paths.ZoneFileFolder = MakeFolder(files, paths.DataFolder + u"/TimeZones/"_s);
-    paths.TimersFolder = MakeFolder(files, paths.DataFolder + u"/Timers/"_s);
+Step SetPathsOfUser(PathTable& paths, platform::Files& files, const QString& zoneStem) {
+    for (const QString& folder : {paths.DataFolder, paths.ZoneFileFolder, paths.TimersFolder}) {
+        mduLib::EnsureFolder(files, folder);
+    }
     paths.TimerFile = paths.TimersFolder + zoneStem + u"Timer.txt"_s;
     paths.ActionFile = paths.DataFolder + u"/Action.txt"_s;
     if (CopyUnlessThere(files, paths.DefaultActionFile(), paths.ActionFile) == Step::Failed) {
@@ -85,14 +79,19 @@ Step SetPathsOfUser(PathTable& paths, platform::Files& files, const QString& use
 }
 
 void SetPathsWithoutUser(PathTable& paths) {
-    paths.ZoneFileFolder = paths.AppFolder + u"/TimeZones/"_s;
     paths.ShortcutsFile = paths.DefaultShortcutsFile();
     paths.ActionFile = paths.DefaultActionFile();
-    paths.TimersFolder = paths.AppFolder + u"/Timer/"_s;
     paths.AutoStartFile = paths.AppFolder + u"/AutoStart.txt"_s;
 }
 
 enum class DefaultFile { There, Lost, CopyFailed };
+
+// A copy as old as its source: were it newer, every other zone's file would be merged with it.
+bool CopyWithTime(platform::Files& files, const QString& source, const QString& destination) {
+    const std::optional<qint64> seconds = files.ModifiedSeconds(source);
+    return mduLib::CopyFileTo(files, source, destination, true) && seconds &&
+           files.SetModifiedSeconds(destination, *seconds);
+}
 
 // A lost default comes back from the user's own file.
 DefaultFile GuardDefaultFile(const PathTable& paths, platform::Files& files) {
@@ -103,9 +102,8 @@ DefaultFile GuardDefaultFile(const PathTable& paths, platform::Files& files) {
     if (!mduLib::FileExists(files, paths.CurrentPropertyFile)) {
         return DefaultFile::Lost;
     }
-    return mduLib::CopyFileTo(files, paths.CurrentPropertyFile, defaultFile, true)
-               ? DefaultFile::There
-               : DefaultFile::CopyFailed;
+    return CopyWithTime(files, paths.CurrentPropertyFile, defaultFile) ? DefaultFile::There
+                                                                       : DefaultFile::CopyFailed;
 }
 
 SetupResult ReportLostDefault(const PathTable& paths, platform::Dialogs& dialogs) {
@@ -115,7 +113,18 @@ SetupResult ReportLostDefault(const PathTable& paths, platform::Dialogs& dialogs
     return SetupResult::DefaultFileLost;
 }
 
-enum class Refreshed { Nothing, Created, Merged };
+// A folder that could not be made tells more than the file that was to lie in it.
+SetupResult EndAt(ModuleState& state, const platform::Files& files, const QString& path) {
+    state.FailedSetupPath = path;
+    for (const QString& folder : {state.Paths.ZoneFileFolder, state.Paths.DataFolder}) {
+        if (path.startsWith(folder) && !folder.isEmpty() && !files.FolderExists(folder)) {
+            state.FailedSetupPath = folder;
+        }
+    }
+    return SetupResult::Incomplete;
+}
+
+enum class Refreshed { Nothing, Created, Merged, Failed };
 
 // File names of the system know no letter case, so that without a user the zone folder is the
 // folder of profiles, which exists by now; where they do, it is a folder of its own.
@@ -126,7 +135,7 @@ Refreshed BringUpToDate(const PathTable& paths, platform::Files& files, const QS
             mduLib::EnsureFolder(files, paths.ZoneFileFolder);
         }
         return mduLib::CopyFileTo(files, defaultFile, file, false) ? Refreshed::Created
-                                                                   : Refreshed::Nothing;
+                                                                   : Refreshed::Failed;
     }
     return mduLib::IsOlderThan(files, file, defaultFile) && Merge(files, file, defaultFile)
                ? Refreshed::Merged
@@ -143,12 +152,16 @@ SetupResult SetCurrentPropertyFile(ModuleState& state, const platform::Services&
         case DefaultFile::Lost:
             return ReportLostDefault(paths, services.Dialog);
         case DefaultFile::CopyFailed:
-            return SetupResult::Done;
+            return EndAt(state, files, paths.ZoneDefaultFile());
         case DefaultFile::There:
             break;
     }
-    if (BringUpToDate(paths, files, paths.CurrentPropertyFile, paths.ZoneDefaultFile()) ==
-        Refreshed::Created) {
+    const Refreshed refreshed =
+        BringUpToDate(paths, files, paths.CurrentPropertyFile, paths.ZoneDefaultFile());
+    if (refreshed == Refreshed::Failed) {
+        return EndAt(state, files, paths.CurrentPropertyFile);
+    }
+    if (refreshed == Refreshed::Created) {
         state.NewPropertyFileCreated = true;
     }
     return SetupResult::Done;
@@ -169,6 +182,14 @@ void NameProgramFolders(PathTable& paths) {
     paths.MusicFolder = paths.AppFolder + u"/Music/"_s;
 }
 
+void NameUserFolders(PathTable& paths, const QString& userName) {
+    const bool known = !userName.isEmpty();
+    paths.DataFolder = known ? paths.AppFolder + u'/' + AccountFolderName(userName) : QString();
+    const QString& folder = known ? paths.DataFolder : paths.AppFolder;
+    paths.ZoneFileFolder = folder + u"/TimeZones/"_s;
+    paths.TimersFolder = folder + (known ? u"/Timers/"_s : u"/Timer/"_s);
+}
+
 // Sounds and pictures come with the program: their folders are never made.
 SetupResult SetupPaths(ModuleState& state, const platform::Services& services, QString& zoneName) {
     zoneName = zoneName.trimmed();
@@ -185,11 +206,15 @@ SetupResult SetupUserFiles(ModuleState& state, const platform::Services& service
                            const QString& userName, const QString& zoneName) {
     const bool usable = mduLib::ZoneNameProblem(zoneName).isEmpty();
     const QString zoneStem = usable ? mduLib::ZoneFileStem(zoneName) : QString();
+    PathTable& paths = state.Paths;
+    state.FailedSetupPath.clear();
+    NameUserFolders(paths, userName);
     if (userName.isEmpty()) {
-        SetPathsWithoutUser(state.Paths);
-    } else if (SetPathsOfUser(state.Paths, services.FileSystem, userName, zoneStem) ==
-               Step::Failed) {
-        return SetupResult::Done;
+        SetPathsWithoutUser(paths);
+    } else if (SetPathsOfUser(paths, services.FileSystem, zoneStem) == Step::Failed) {
+        // The paths are set one after the other: the last one is that of the failure.
+        return EndAt(state, services.FileSystem,
+                     paths.ShortcutsFile.isEmpty() ? paths.ActionFile : paths.ShortcutsFile);
     }
     return SetCurrentPropertyFile(state, services, zoneStem);
 }
@@ -203,7 +228,7 @@ bool RefreshCurrentPropertyFile(ModuleState& state, const platform::Services& se
 SetupResult SetupFiles(ModuleState& state, const platform::Services& services, QString zoneName,
                        ClockProperties& centralProperties) {
     const SetupResult result = SetupPaths(state, services, zoneName);
-    if (result != SetupResult::Done) {
+    if (result == SetupResult::DefaultFileLost) {
         return result;
     }
     PathTable& paths = state.Paths;

@@ -13,11 +13,17 @@ inline const QString CentralExeName = QStringLiteral("TempolarkCentral");
 
 enum class SetupResult {
     Done,
+    Incomplete,      ///< a file of the user can't be made: what was set till then stays set, the
+                     ///< paths behind it are empty; `ModuleState::FailedSetupPath` names it
     DefaultFileLost  ///< `ZoneDefaultFile` is gone and nothing can restore it: the program must end
 };
 
 /// Names the folders that stand beside the executable, from `AppFolder`; makes none.
 void NameProgramFolders(PathTable& paths);
+
+/// Names the folders of the account @p userName, or those that serve without one, below
+/// `AppFolder`; makes none.
+void NameUserFolders(PathTable& paths, const QString& userName);
 
 /// Fills the path table for `state.Paths.AppFolder` and the user, makes the folders, and brings the
 /// user's files into being or up to date. @p zoneName is trimmed in place.

@@ -13,7 +13,7 @@ class Files {
 public:
     virtual ~Files() = default;
 
-    virtual bool FileExists(const QString& path) const = 0;    ///< a file or a folder of that name
+    virtual bool Exists(const QString& path) const = 0;        ///< a file or a folder of that name
     virtual bool FolderExists(const QString& path) const = 0;  ///< a folder of that name
 
     /// Makes one level of a folder; the parent must exist. False if it can't.
@@ -34,6 +34,9 @@ public:
 
     /// Makes the present the file's last-modified time. False if it can't.
     virtual bool Touch(const QString& path) = 0;
+
+    /// Sets the file's last-modified time, in whole seconds since the epoch. False if it can't.
+    virtual bool SetModifiedSeconds(const QString& path, qint64 seconds) = 0;
 
     /// Last-modified time in whole seconds since the epoch; nothing if there is no such file.
     virtual std::optional<qint64> ModifiedSeconds(const QString& path) const = 0;

@@ -9,7 +9,17 @@
 
 namespace platform {
 
-bool LocalFiles::FileExists(const QString& path) const {
+namespace {
+
+bool SetTime(const QString& path, const QDateTime& time) {
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
+           file.setFileTime(time, QFileDevice::FileModificationTime);
+}
+
+}  // namespace
+
+bool LocalFiles::Exists(const QString& path) const {
     return QFileInfo::exists(path);
 }
 
@@ -52,9 +62,11 @@ bool LocalFiles::Delete(const QString& path) {
 }
 
 bool LocalFiles::Touch(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
-           file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
+    return SetTime(path, QDateTime::currentDateTimeUtc());
+}
+
+bool LocalFiles::SetModifiedSeconds(const QString& path, qint64 seconds) {
+    return SetTime(path, QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC));
 }
 
 std::optional<qint64> LocalFiles::ModifiedSeconds(const QString& path) const {

@@ -63,6 +63,11 @@ private Q_SLOTS:
     void mergesAnOlderZoneFile();
     void tellsOfANewZoneFile();
     void restoresALostDefault();
+    void mergesNoOtherZoneWithARestoredDefault();
+    void tellsOfADefaultThatCantBeRestored();
+    void tellsOfAZoneFileThatCantBeMade();
+    void namesFoldersWithoutMakingThem_data();
+    void namesFoldersWithoutMakingThem();
     void endsWithoutAnyDefault();
     void refreshesTheCurrentFile();
     void survivesADataFolderThatCantBeMade();
@@ -224,6 +229,65 @@ void tst_SetupPaths::restoresALostDefault() {
     QVERIFY(app.Machine.Dialogs.Boxes.empty());
 }
 
+void tst_SetupPaths::mergesNoOtherZoneWithARestoredDefault() {
+    Installed app;
+    app.WriteOld(u"tester/TimeZones/Tokyo.ini"_s, "Zone=Tokyo\r\n");
+    app.WriteOld(u"tester/TimeZones/Oslo.ini"_s, "Own=1\r\n");
+    const qint64 aged =
+        QFileInfo(app.Below(u"tester/TimeZones/Tokyo.ini"_s)).lastModified().toSecsSinceEpoch();
+    QFile::remove(app.Below(u"ini/Tempolark.ini"_s));
+    app.Setup(u"Tokyo"_s);
+    QCOMPARE(QFileInfo(app.Below(u"ini/Tempolark.ini"_s)).lastModified().toSecsSinceEpoch(), aged);
+    app.State.Paths.CurrentPropertyFile = app.Below(u"tester/TimeZones/Oslo.ini"_s);
+    QVERIFY(!mduMain::RefreshCurrentPropertyFile(app.State, app.Machine.Services));
+    QCOMPARE(app.Machine.ReadFile(u"tester/TimeZones/Oslo.ini"_s), "Own=1\r\n"_ba);
+}
+
+void tst_SetupPaths::tellsOfADefaultThatCantBeRestored() {
+    Installed app;
+    app.WriteOld(u"tester/TimeZones/Tokyo.ini"_s, "Mine=1\r\n");
+    QFile::remove(app.Below(u"ini/Tempolark.ini"_s));
+    app.Machine.Files.Unwritable = {app.Below(u"ini/Tempolark.ini"_s)};
+    QCOMPARE(app.Setup(u"Tokyo"_s), mduMain::SetupResult::Incomplete);
+    QCOMPARE(app.State.FailedSetupPath, app.Below(u"ini/Tempolark.ini"_s));
+}
+
+void tst_SetupPaths::tellsOfAZoneFileThatCantBeMade() {
+    Installed app;
+    const QString file = app.Below(u"tester/TimeZones/Tokyo.ini"_s);
+    app.Machine.Files.Unwritable = {file};
+    QCOMPARE(app.SetupAll(u"Tokyo"_s), mduMain::SetupResult::Incomplete);
+    QCOMPARE(app.State.FailedSetupPath, file);
+    QVERIFY(!app.State.NewPropertyFileCreated);
+    QCOMPARE(app.State.Paths.CentralFile, app.Below(u"tester/TempolarkCentral.ini"_s));
+    app.Machine.Files.Unwritable.clear();
+    QCOMPARE(app.SetupAll(u"Tokyo"_s), mduMain::SetupResult::Done);
+    QCOMPARE(app.State.FailedSetupPath, QString());
+}
+
+void tst_SetupPaths::namesFoldersWithoutMakingThem_data() {
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QString>("data");
+    QTest::addColumn<QString>("zones");
+    QTest::addColumn<QString>("timers");
+    QTest::newRow("user") << u"bob"_s << u"/p/bob"_s << u"/p/bob/TimeZones/"_s
+                          << u"/p/bob/Timers/"_s;
+    QTest::newRow("separator") << u"D\\bob"_s << u"/p/D_bob"_s << u"/p/D_bob/TimeZones/"_s
+                               << u"/p/D_bob/Timers/"_s;
+    QTest::newRow("none") << QString() << QString() << u"/p/TimeZones/"_s << u"/p/Timer/"_s;
+}
+
+void tst_SetupPaths::namesFoldersWithoutMakingThem() {
+    PathTable paths;
+    paths.AppFolder = u"/p"_s;
+    QFETCH(QString, user);
+    mduMain::NameUserFolders(paths, user);
+    QTEST(paths.DataFolder, "data");
+    QTEST(paths.ZoneFileFolder, "zones");
+    QTEST(paths.TimersFolder, "timers");
+    QVERIFY(!QFileInfo::exists(u"/p"_s));
+}
+
 void tst_SetupPaths::endsWithoutAnyDefault() {
     Installed app;
     QFile::remove(app.Below(u"ini/Tempolark.ini"_s));
@@ -256,7 +320,8 @@ void tst_SetupPaths::refreshesTheCurrentFile() {
 void tst_SetupPaths::survivesADataFolderThatCantBeMade() {
     Installed app;
     app.Machine.WriteFile(u"tester"_s, "a plain file");
-    QCOMPARE(app.SetupAll(u"Tokyo"_s), mduMain::SetupResult::Done);
+    QCOMPARE(app.SetupAll(u"Tokyo"_s), mduMain::SetupResult::Incomplete);
+    QCOMPARE(app.State.FailedSetupPath, app.Below(u"tester"_s));
     QCOMPARE(app.State.Paths.ZoneFileFolder, app.Below(u"tester/TimeZones/"_s));
     QCOMPARE(app.State.Paths.ActionFile, app.Below(u"tester/Action.txt"_s));
     QCOMPARE(app.State.Paths.AutoStartFile, QString());  // the copy of the actions has failed
@@ -268,7 +333,8 @@ void tst_SetupPaths::survivesADataFolderThatCantBeMade() {
 void tst_SetupPaths::stopsWhereAStepFails() {
     Installed app;
     app.Machine.Files.Unwritable = {app.Below(u"tester/Shortcuts.txt"_s)};
-    QCOMPARE(app.Setup(u"Tokyo"_s), mduMain::SetupResult::Done);
+    QCOMPARE(app.Setup(u"Tokyo"_s), mduMain::SetupResult::Incomplete);
+    QCOMPARE(app.State.FailedSetupPath, app.Below(u"tester/Shortcuts.txt"_s));
     QCOMPARE(app.State.Paths.ShortcutsFile, app.Below(u"tester/Shortcuts.txt"_s));
     QCOMPARE(app.State.Paths.CurrentPropertyFile, QString());
     QVERIFY(app.Machine.Dialogs.Boxes.empty());

@@ -91,7 +91,7 @@ public:
     QStringList Unwritable;
     QStringList Writes;  ///< every path written, in order
 
-    bool FileExists(const QString& path) const override { return local_.FileExists(path); }
+    bool Exists(const QString& path) const override { return local_.Exists(path); }
     bool FolderExists(const QString& path) const override { return local_.FolderExists(path); }
     bool MakeFolder(const QString& path) override;
     std::optional<QByteArray> Read(const QString& path) const override;
@@ -100,6 +100,9 @@ public:
     bool Delete(const QString& path) override { return local_.Delete(path); }
     bool Touch(const QString& path) override {
         return !Unwritable.contains(path) && local_.Touch(path);
+    }
+    bool SetModifiedSeconds(const QString& path, qint64 seconds) override {
+        return !Unwritable.contains(path) && local_.SetModifiedSeconds(path, seconds);
     }
     std::optional<qint64> ModifiedSeconds(const QString& path) const override {
         return local_.ModifiedSeconds(path);
