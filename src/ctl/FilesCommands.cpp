@@ -1,9 +1,8 @@
 #include <QJsonObject>
 
 #include "ctl/Command.h"
-#include "foundation/FileHelpers.h"
 #include "foundation/SetupPaths.h"
-#include "timezones/ZoneSources.h"
+#include "timezones/StartZone.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,24 +31,25 @@ QJsonObject PathsAsJson(const PathTable& paths) {
             {u"CentralDefaultFile"_s, paths.CentralDefaultFile()},
             {u"DefaultShortcutsFile"_s, paths.DefaultShortcutsFile()},
             {u"DefaultActionFile"_s, paths.DefaultActionFile()},
-            {u"OpenedFormsFile"_s, paths.OpenedFormsFile()}};
+            {u"OpenedFormsFile"_s, paths.OpenedFormsFile()},
+            {u"AppEXEName"_s, paths.AppEXEName()}};
 }
 
 int Setup(Context& context) {
-    QString zoneName = context.Arguments.value(0);
-    if (zoneName.isEmpty()) {
-        zoneName = mduTimeZones::GetLocalZone(context.Services).StandardName;
-    }
-    const QString problem = mduLib::ZoneNameProblem(zoneName.trimmed());
-    if (!problem.isEmpty()) {
-        Complain(problem);
-    }
     context.State.CommandLine = context.Arguments.value(0);
+    const mduTimeZones::StartZone zone =
+        mduTimeZones::ChooseStartZone(context.Services, context.State.CommandLine);
+    if (!zone.Problem.isEmpty()) {
+        Complain(zone.Problem);
+    }
     ClockProperties centralProperties;
     const mduMain::SetupResult result =
-        mduMain::SetupFiles(context.State, context.Services, zoneName, centralProperties);
+        mduMain::SetupFiles(context.State, context.Services, zone.Name, centralProperties);
+    if (result == mduMain::SetupResult::Incomplete) {
+        Complain(context.State.FailedSetupPath + u" can't be made"_s);
+    }
     PrintJson(QJsonDocument(PathsAsJson(context.State.Paths)));
-    return result == mduMain::SetupResult::Done && problem.isEmpty() ? Done : OperationFailed;
+    return result == mduMain::SetupResult::Done && zone.Problem.isEmpty() ? Done : OperationFailed;
 }
 
 }  // namespace

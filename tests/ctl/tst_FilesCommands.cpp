@@ -14,6 +14,7 @@ private Q_SLOTS:
     void setsUpTheScreenSaver();
     void refusesANameThatIsNoFileName();
     void tellsOfALostDefault();
+    void tellsOfADataFolderThatCantBeMade();
     void writesNothingOutsideTheProgramFolder();
 
 private:
@@ -53,6 +54,7 @@ void tst_FilesCommands::setsUpAZone() {
     QCOMPARE(PathOf(answer, u"CentralFile"_s), Below(u"bob/TempolarkCentral.ini"_s));
     QCOMPARE(PathOf(answer, u"OpenedFormsFile"_s), Below(u"bob/OpenedForms.txt"_s));
     QCOMPARE(PathOf(answer, u"ZoneDefaultFile"_s), Below(u"ini/Tempolark.ini"_s));
+    QCOMPARE(PathOf(answer, u"AppEXEName"_s), Below(u"TempolarkCentral.exe"_s));
     QCOMPARE(companion_->Read(u"app/bob/TimeZones/Tokyo Standard Time.ini"_s),
              "Clocks=Analogue\r\n"_ba);
     QCOMPARE(companion_->Read(u"app/bob/TempolarkCentral.ini"_s), "Status Bar=Yes\r\n"_ba);
@@ -107,6 +109,16 @@ void tst_FilesCommands::tellsOfALostDefault() {
     QCOMPARE(answer.Messages, ("Tempolark System Error: " + Below(u"ini/Tempolark.ini"_s).toUtf8() +
                                " is not found\n"));
     QCOMPARE(PathOf(answer, u"CurrentPropertyFile"_s), Below(u"bob/TimeZones/Oslo.ini"_s));
+}
+
+void tst_FilesCommands::tellsOfADataFolderThatCantBeMade() {
+    companion_->Write(u"app/bob"_s, "a plain file");
+    const CompanionAnswer answer = Setup({u"--user"_s, u"bob"_s}, {u"Oslo"_s});
+    QCOMPARE(answer.Status, 1);
+    QCOMPARE(answer.Messages, Below(u"bob"_s).toUtf8() + " can't be made\n");
+    QCOMPARE(PathOf(answer, u"DataFolder"_s), Below(u"bob"_s));
+    QCOMPARE(PathOf(answer, u"AutoStartFile"_s), QString());
+    QCOMPARE(companion_->Read(u"app/bob"_s), "a plain file"_ba);
 }
 
 void tst_FilesCommands::writesNothingOutsideTheProgramFolder() {

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/Services.h"
+
+namespace mduTimeZones {
+
+/// The zone that the program starts with.
+struct StartZone {
+    QString Name;     ///< the command line as it stands, or the machine's own zone
+    QString Problem;  ///< why the name can't name a file, for a message; empty when it can
+};
+
+/// An empty @p commandLine means the zone that the machine's settings select.
+StartZone ChooseStartZone(const platform::Services& services, const QString& commandLine);
+
+}  // namespace mduTimeZones
