@@ -38,6 +38,11 @@ std::unique_ptr<frmTempolark> DrawnClock(const Program& program, const QString& 
     return clock;
 }
 
+void PrintPicture(const QSize& size, const QString& mode) {
+    PrintJson(QJsonDocument(
+        QJsonObject{{u"width"_s, size.width()}, {u"height"_s, size.height()}, {u"mode"_s, mode}}));
+}
+
 int Render(Context& context) {
     const QString file = context.Arguments[0];
     const std::optional<QSize> size = ReadSize(context.Option(u"--size"_s));
@@ -49,6 +54,7 @@ int Render(Context& context) {
     }
     if (!context.Services.FileSystem.Read(file)) {
         Complain(file + u" can't be read"_s);
+        PrintPicture(*size, u"0"_s);
         return OperationFailed;
     }
     Forms windows;
@@ -59,9 +65,7 @@ int Render(Context& context) {
     if (!saved) {
         Complain(context.Arguments[1] + u" can't be written"_s);
     }
-    PrintJson(QJsonDocument(QJsonObject{{u"width"_s, image.width()},
-                                        {u"height"_s, image.height()},
-                                        {u"mode"_s, clock->Data().Tag}}));
+    PrintPicture(image.size(), clock->Data().Tag);
     return saved ? Done : OperationFailed;
 }
 
