@@ -23,6 +23,13 @@ std::optional<int> Context::Integer(int index) const {
     return ok ? std::optional(value) : std::nullopt;
 }
 
+std::vector<Command> WithoutAppFolder(std::vector<Command> commands) {
+    for (Command& command : commands) {
+        command.UsesAppFolder = false;
+    }
+    return commands;
+}
+
 std::vector<Command> AllCommands() {
     std::vector<Command> commands;
     for (const auto& group : {PropertiesCommands(), ValuesCommands(), FilesCommands(),

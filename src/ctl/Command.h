@@ -45,7 +45,11 @@ struct Command {
     QStringList Options;
     int (*Run)(Context& context) = nullptr;  ///< gives an `ExitStatus` back
     bool DrawsPictures = false;  ///< runs with windows, on the platform without a screen
+    bool UsesAppFolder = true;   ///< else no program folder is looked for, or filled
 };
+
+/// The commands of a group that works with the named files alone.
+std::vector<Command> WithoutAppFolder(std::vector<Command> commands);
 
 std::vector<Command> PropertiesCommands();
 std::vector<Command> ValuesCommands();

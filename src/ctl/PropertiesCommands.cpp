@@ -121,7 +121,7 @@ int Sort(Context& context) {
 std::vector<Command> PropertiesCommands() {
     const QString group = u"properties"_s;
     const QStringList category = {u"--category="_s};
-    return {
+    return WithoutAppFolder({
         {group, u"read"_s, u"FILE"_s, 1, 1, {}, Read},
         {group, u"write"_s, u"FILE OUT"_s, 2, 2, {}, Write},
         {group, u"get"_s, u"FILE NAME [--category C]"_s, 2, 2, category, Get},
@@ -130,7 +130,7 @@ std::vector<Command> PropertiesCommands() {
         {group, u"put"_s, u"FILE NAME VALUE [--category C]"_s, 3, 3, category, Put},
         {group, u"merge"_s, u"OLD NEW OUT"_s, 3, 3, {}, Merge},
         {group, u"sort"_s, u"FILE COLUMN DIRECTION"_s, 3, 3, {}, Sort},
-    };
+    });
 }
 
 }  // namespace ctl

@@ -28,7 +28,7 @@ int PushOpened(Context& context) {
 }  // namespace
 
 std::vector<Command> ShellCommands() {
-    return {{u"shell"_s, u"push-opened"_s, u"FILE NAME"_s, 2, 2, {}, PushOpened}};
+    return WithoutAppFolder({{u"shell"_s, u"push-opened"_s, u"FILE NAME"_s, 2, 2, {}, PushOpened}});
 }
 
 }  // namespace ctl

@@ -44,12 +44,12 @@ int Wrap(Context& context) {
 
 std::vector<Command> ValuesCommands() {
     const QString group = u"values"_s;
-    return {
+    return WithoutAppFolder({
         {group, u"colour"_s, u"TEXT"_s, 1, 1, {}, Colour},
         {group, u"colour-name"_s, u"NUMBER"_s, 1, 1, {}, ColourName},
         {group, u"yes-no"_s, u"TEXT"_s, 1, 1, {}, YesNo},
         {group, u"wrap"_s, u"TEXT WIDTH"_s, 2, 2, {}, Wrap},
-    };
+    });
 }
 
 }  // namespace ctl

@@ -26,14 +26,18 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv, bool d
     return std::make_unique<QApplication>(argc, argv);
 }
 
-QString AppFolderOf(const ctl::GlobalOptions& options) {
-    return options.AppFolder ? QDir::cleanPath(QDir(*options.AppFolder).absolutePath())
-                             : platform::ChooseAppFolder(platform::FindAppFolderPlaces());
+// Choosing the program's own folder may fill it, so that only a command that needs one does.
+QString AppFolderOf(const ctl::CommandLine& line) {
+    if (line.Global.AppFolder) {
+        return QDir::cleanPath(QDir(*line.Global.AppFolder).absolutePath());
+    }
+    const platform::AppFolderPlaces places = platform::FindAppFolderPlaces();
+    return line.Chosen->UsesAppFolder ? platform::ChooseAppFolder(places) : places.ExecutableFolder;
 }
 
 int Run(const ctl::CommandLine& line) {
     ModuleState state;
-    state.Paths.AppFolder = AppFolderOf(line.Global);
+    state.Paths.AppFolder = AppFolderOf(line);
     mduMain::NameProgramFolders(state.Paths);
     const ctl::ScriptMachine machine(line.Global, state.Paths.AppFolder);
     ctl::Context context{line.Global, machine.Services(), state, line.Arguments, line.Options};

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void takesOptionsInBothForms();
     void takesNothingForAnOptionBehindTwoDashes();
     void printsOneDocument();
+    void fillsNoProgramFolderThatItDoesNotUse();
 };
 
 void tst_CommandLine::answersQuestions() {
@@ -93,6 +94,17 @@ void tst_CommandLine::printsOneDocument() {
     QCOMPARE(answer.Output,
              "{\"value\":\"Gr\xC3\xB6\xC3\x9F"
              "e \xE2\x82\xAC\"}\n"_ba);
+}
+
+void tst_CommandLine::fillsNoProgramFolderThatItDoesNotUse() {
+    const Companion companion;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(companion.Folder.filePath(u"xdg"_s)));
+    const QString file = companion.Write(u"a.ini"_s, "N=1\n");
+    QCOMPARE(companion.Run({u"values"_s, u"yes-no"_s, u"no"_s}).Status, 0);
+    QCOMPARE(companion.Run({u"properties"_s, u"read"_s, file}).Status, 0);
+    QCOMPARE(companion.Run({u"shell"_s, u"push-opened"_s, file, u"Oslo"_s}).Status, 0);
+    QVERIFY(!QFileInfo::exists(companion.Folder.filePath(u"xdg"_s)));
+    qunsetenv("XDG_DATA_HOME");
 }
 
 QTEST_GUILESS_MAIN(tst_CommandLine)
