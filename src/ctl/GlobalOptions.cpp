@@ -9,12 +9,8 @@ namespace ctl {
 namespace {
 
 QString SetNow(const QString& text, GlobalOptions& options) {
-    QDateTime now = QDateTime::fromString(text, u"yyyy-MM-dd'T'HH:mm:ss"_s);
-    if (!now.isValid()) {
-        return u"--now wants YYYY-MM-DDTHH:MM:SS, not "_s + text;
-    }
-    options.Now = QDateTime(now.date(), now.time(), Qt::UTC);
-    return {};
+    options.Now = ParseWallTime(text);
+    return options.Now ? QString() : u"--now wants YYYY-MM-DDTHH:MM:SS, not "_s + text;
 }
 
 QString SetLocalZone(const QString& text, GlobalOptions& options) {
@@ -85,6 +81,18 @@ QString TakeOptionWithValue(const QString& argument, QStringList& arguments,
 }
 
 }  // namespace
+
+// Date and time are read apart: together they would have to be a moment of the process's own zone,
+// which has none for the hour that its spring leaves out.
+std::optional<QDateTime> ParseWallTime(const QString& text) {
+    constexpr qsizetype separator = 10;
+    const QDate date = QDate::fromString(text.left(separator), u"yyyy-MM-dd"_s);
+    const QTime time = QTime::fromString(text.mid(separator), u"'T'HH:mm:ss"_s);
+    if (!date.isValid() || !time.isValid()) {
+        return std::nullopt;
+    }
+    return QDateTime(date, time, Qt::UTC);
+}
 
 QString TakeGlobalOptions(QStringList& arguments, GlobalOptions& options) {
     while (!arguments.isEmpty() && arguments.first().startsWith("--"_L1)) {

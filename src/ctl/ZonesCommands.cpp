@@ -111,14 +111,12 @@ int Show(Context& context) {
 }
 
 int NameAt(Context& context) {
-    const QString text = context.Arguments[1];
-    QDateTime moment = QDateTime::fromString(text, u"yyyy-MM-dd'T'HH:mm:ss"_s);
-    if (!moment.isValid()) {
+    const std::optional<QDateTime> moment = ParseWallTime(context.Arguments[1]);
+    if (!moment) {
         return WrongArguments;
     }
-    moment = QDateTime(moment.date(), moment.time(), Qt::UTC);
     TimeZoneRecord record = Find(context);
-    const QString name = mduTimeZones::ZoneNameAtTime(moment, context.Services.Clock.Now(), record,
+    const QString name = mduTimeZones::ZoneNameAtTime(*moment, context.Services.Clock.Now(), record,
                                                       LocalHours(context));
     PrintJson(QJsonDocument(QJsonObject{{u"name"_s, name}}));
     return Done;

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void ListsSelectedZones();
     void TellsNames_data();
     void TellsNames();
+    void TakesTimesOfAnyZone();
     void TellsRuleDates();
     void RefusesOtherArguments_data();
     void RefusesOtherArguments();
@@ -187,6 +188,26 @@ void tst_ZonesCommands::TellsNames() {
     QTEST(answer.Output, "output");
 }
 
+// The process's own zone has no 2:30 on that day.
+void tst_ZonesCommands::TakesTimesOfAnyZone() {
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", "America/New_York");
+    const QStringList atNow = {u"--now"_s, u"2026-03-08T02:30:00"_s, u"--local-zone"_s,
+                               u"Asia/Kolkata"_s, u"zones"_s};
+    const CompanionAnswer name =
+        Companion().Run(atNow + QStringList{u"name-at"_s, u"UTC"_s, u"2026-03-08T02:30:00"_s});
+    const CompanionAnswer date =
+        Companion().Run(atNow + QStringList{u"rule"_s, u"1"_s, u"0"_s, u"4"_s});
+    if (before.isNull()) {
+        qunsetenv("TZ");
+    } else {
+        qputenv("TZ", before);
+    }
+    QCOMPARE(name.Status, 0);
+    QCOMPARE(name.Output, QByteArray("{\"name\":\"UTC\"}\n"));
+    QCOMPARE(date.Output, QByteArray("{\"date\":\"2026-04-05\"}\n"));
+}
+
 void tst_ZonesCommands::TellsRuleDates() {
     const CompanionAnswer answer = Companion().Run(
         {u"--now"_s, u"2008-12-31T00:00:00"_s, u"zones"_s, u"rule"_s, u"1"_s, u"0"_s, u"4"_s});
@@ -203,6 +224,10 @@ void tst_ZonesCommands::RefusesOtherArguments_data() {
         << QStringList{u"show"_s, u"UTC"_s, u"--file"_s, QString()};
     QTest::newRow("moment") << QStringList{u"name-at"_s, u"UTC"_s, u"noon"_s};
     QTest::newRow("no such day") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-30T00:00:00"_s};
+    QTest::newRow("no such hour") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-03T24:00:00"_s};
+    QTest::newRow("short year") << QStringList{u"name-at"_s, u"UTC"_s, u"26-02-03T12:00:00"_s};
+    QTest::newRow("one digit") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-03T2:00:00"_s};
+    QTest::newRow("a tail") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-03T12:00:00Z"_s};
     QTest::newRow("rule of words") << QStringList{u"rule"_s, u"first"_s, u"0"_s, u"4"_s};
     QTest::newRow("beyond 16 bits") << QStringList{u"rule"_s, u"70000"_s, u"0"_s, u"4"_s};
 }
