@@ -4,6 +4,7 @@
 
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
 #include "timezones/TransitionText.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
@@ -29,18 +30,17 @@ QString ProfileDisplay(std::int32_t minutes, const QString& name) {
 
 TimeZoneRecord ProfileRecord(const ClockProperties& properties, const QString& name, bool isNT,
                              const QDate& today) {
-    const auto date = [&](const QString& key) {
-        return ParseTransitionDate(ZoneKeyValue(properties, key), isNT, today);
+    const auto text = [&](qsizetype key) {
+        return mduLib::GetProperty(ZoneKeys()[key], properties).trimmed();
     };
-    const QStringList& keys = ZoneKeys();
     TimeZoneRecord record;
-    record.StandardName = ZoneKeyValue(properties, keys[0]);
-    record.StandardDate = date(keys[1]);
-    record.DaylightName = ZoneKeyValue(properties, keys[3]);
-    record.DaylightDate = date(keys[4]);
+    record.StandardName = text(0);
+    record.StandardDate = ParseTransitionDate(text(1), isNT, today);
+    record.DaylightName = text(3);
+    record.DaylightDate = ParseTransitionDate(text(4), isNT, today);
 
-    const QString standard = ZoneKeyValue(properties, keys[2]);
-    const QString daylight = ZoneKeyValue(properties, keys[5]);
+    const QString standard = text(2);
+    const QString daylight = text(5);
     const bool numeric = mduAPILib::IsNumeric(standard);
     record.StandardBias = numeric ? mduAPILib::IntegerValue(standard) : 0;
     record.DisplayName = numeric ? ProfileDisplay(record.StandardBias, name) : name;

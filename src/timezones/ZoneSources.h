@@ -19,7 +19,8 @@ std::array<QString, 3> ReadZoneValues(const platform::ZoneDatabase& zones, const
                                       const std::array<QString, 3>& names);
 
 /// One record for each profile file of a folder, from index 1, in file-name order. A file that
-/// can't be read leaves an empty record.
+/// can't be read leaves an empty record. A key that is missing reads "0", as everywhere but in
+/// `ReadZoneKeys`: a profile without keys lists as "(GMT-00:00) Name" with `StandardName` "0".
 TimeZoneRecords ListProfileTimeZones(const platform::Services& services, const QString& folder);
 
 /// The machine's own zone with its derived fields; `HoursFromLocal` equals `CurrentGMTHours` here.

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void BuildsDisplay();
     void DisplayWithoutNumber_data();
     void DisplayWithoutNumber();
+    void MissingKeysReadZero();
     void RuleFormIsNoDaylightTime();
     void OtherPlatformsReadNoDates();
     void TakesProfilesOnly();
@@ -101,7 +102,6 @@ void tst_ProfileZones::DisplayWithoutNumber_data() {
     QTest::newRow("text") << Profile("N", "soon");
     QTest::newRow("number with a tail") << Profile("N", "60 minutes");
     QTest::newRow("empty") << Profile("N", "");
-    QTest::newRow("no line") << QByteArray("Time Zone Standard Name=N\r\n");
 }
 
 void tst_ProfileZones::DisplayWithoutNumber() {
@@ -113,6 +113,17 @@ void tst_ProfileZones::DisplayWithoutNumber() {
     QCOMPARE(records[1].DisplayName, u"Name"_s);
     QCOMPARE(records[1].StandardBias, 0);
     QCOMPARE(records[1].DaylightBias, 0);
+}
+
+void tst_ProfileZones::MissingKeysReadZero() {
+    FakeServices fake;
+    const QString path = fake.WriteFile(u"Timezones/Name.ini"_s, "Look:Clocks=Digital\r\n");
+    TimeZoneRecord expected;
+    expected.KeyName = path;
+    expected.StandardName = u"0"_s;
+    expected.DaylightName = u"0"_s;
+    expected.DisplayName = u"(GMT-00:00) Name"_s;
+    QCOMPARE(List(fake)[1], expected);
 }
 
 void tst_ProfileZones::RuleFormIsNoDaylightTime() {
