@@ -1,7 +1,5 @@
 #include "timezones/ZoneKeys.h"
 
-#include <functional>
-
 #include "foundation/Dates.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/Numbers.h"
@@ -18,9 +16,6 @@ namespace mduTimeZones {
 namespace {
 
 using platform::SYSTEMTIME;
-
-/// Stores a key's text: in the array, or in the file as well.
-using Store = std::function<void(const QString& key, const QString& text)>;
 
 /// The text of a key, by its place in `ZoneKeys`, for a record.
 QString KeyText(const TimeZoneRecord& record, qsizetype key, const QDate& today) {
@@ -67,12 +62,20 @@ void RollDaylightBack(TimeZoneRecord& record, const QDateTime& now) {
     }
 }
 
+/// Stores a key's text untrimmed, as `mduLib::SavePropertyNow` does.
+void PutWhole(const QString& key, const QString& text, ClockProperties& properties) {
+    if (mduLib::FindPropertyRow(key, properties) == 0) {
+        mduLib::PutPropertyRaw(key, {}, properties);
+    }
+    properties[mduLib::FindPropertyRow(key, properties)].Value = text;
+}
+
 /// Reads the texts of the six keys over a record, in the order of the table.
 class KeyReader {
 public:
-    KeyReader(TimeZoneRecord& record, const ClockProperties& properties, const QDateTime& now,
-              const Store& store)
-        : record_(record), properties_(properties), now_(now), store_(store) {}
+    KeyReader(TimeZoneRecord& record, ClockProperties& properties, const QDateTime& now,
+              const std::function<void()>& onFilledIn)
+        : record_(record), properties_(properties), now_(now), onFilledIn_(onFilledIn) {}
 
     QStringList Read() {
         const QDate today = now_.date();
@@ -101,15 +104,16 @@ private:
         if (!present.isEmpty()) {
             return present;
         }
-        store_(name, KeyText(record_, key, now_.date()));
+        PutWhole(name, KeyText(record_, key, now_.date()), properties_);
         filledIn_.append(name);
+        onFilledIn_();
         return ZoneKeyValue(properties_, name);
     }
 
     TimeZoneRecord& record_;
-    const ClockProperties& properties_;
+    ClockProperties& properties_;
     const QDateTime& now_;
-    const Store& store_;
+    const std::function<void()>& onFilledIn_;
     QStringList filledIn_;
 };
 
@@ -157,20 +161,17 @@ QString ZoneKeyValue(const ClockProperties& properties, const QString& key) {
 }
 
 QStringList OverlayZoneKeys(TimeZoneRecord& record, ClockProperties& properties,
-                            const QDateTime& now) {
-    const Store store = [&](const QString& key, const QString& text) {
-        mduLib::PutPropertyRaw(key, text, properties);
-    };
-    return KeyReader(record, properties, now, store).Read();
+                            const QDateTime& now, const std::function<void()>& onFilledIn) {
+    return KeyReader(record, properties, now, onFilledIn).Read();
 }
 
 bool ReadZoneKeys(const platform::Services& services, TimeZoneRecord& record,
                   ClockProperties& properties, const QString& path) {
     bool saved = true;
-    const Store store = [&](const QString& key, const QString& text) {
-        saved = mduLib::SavePropertyNow(services.FileSystem, key, text, properties, path) && saved;
+    const auto save = [&] {
+        saved = mduLib::WritePropertyFile(services.FileSystem, properties, path) && saved;
     };
-    KeyReader(record, properties, services.Clock.Now(), store).Read();
+    OverlayZoneKeys(record, properties, services.Clock.Now(), save);
     return saved;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 
 #include "foundation/ClockProperty.h"
 #include "foundation/ModuleState.h"
@@ -17,9 +18,10 @@ const QStringList& ZoneKeys();
 QString ZoneKeyValue(const ClockProperties& properties, const QString& key);
 
 /// Lays the six keys of @p properties over @p record. An empty key is filled in from the record
-/// first. @return the names of the keys that were filled in.
-QStringList OverlayZoneKeys(TimeZoneRecord& record, ClockProperties& properties,
-                            const QDateTime& now);
+/// first; @p onFilledIn is called after each. @return the names of the keys that were filled in.
+QStringList OverlayZoneKeys(
+    TimeZoneRecord& record, ClockProperties& properties, const QDateTime& now,
+    const std::function<void()>& onFilledIn = [] {});
 
 /// `OverlayZoneKeys`, with the file saved after each key that was filled in. @return false when the
 /// file could not be written.

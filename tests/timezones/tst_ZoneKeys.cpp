@@ -97,6 +97,7 @@ private Q_SLOTS:
     void NoRollbackWithoutDates();
     void RollsBackBeforeTheLastKey();
     void SavesWhatItFillsIn();
+    void StoresTextsWhole();
     void LeavesAFullFileAlone();
     void TellsWhenItCannotSave();
     void WritesAZone();
@@ -381,6 +382,23 @@ void tst_ZoneKeys::SavesWhatItFillsIn() {
     QCOMPARE(record.StandardBias, 300);
     QCOMPARE(record.StandardDate, (SYSTEMTIME{2026, 10, 0, 25, 3, 0, 0, 0}));
     QCOMPARE(machine.Fake.Files.Writes, QStringList(4, path));
+}
+
+void tst_ZoneKeys::StoresTextsWhole() {
+    Machine machine;
+    TimeZoneRecord record = Eastern();
+    record.StandardName = u" East, or so "_s;
+    TimeZoneRecord same = record;
+    ClockProperties properties;
+    ClockProperties saved;
+    OverlayZoneKeys(record, properties, Now);
+    QCOMPARE(ValueOf(properties, u"Standard Name"_s), u" East, or so "_s);
+    QCOMPARE(record.StandardName, u"East"_s);
+    QVERIFY(ReadZoneKeys(machine.Fake.Services, same, saved,
+                         machine.Fake.AppFolder() + u"/zone.ini"_s));
+    QVERIFY(machine.Fake.ReadFile(u"zone.ini"_s)
+                .startsWith("Time Zone Standard Name= East, or so \r\n"));
+    QCOMPARE(same.StandardName, u"East"_s);
 }
 
 void tst_ZoneKeys::LeavesAFullFileAlone() {
