@@ -2,9 +2,9 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QRegularExpression>
 
 #include "foundation/Numbers.h"
+#include "foundation/SetupPaths.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
@@ -35,15 +35,11 @@ TimeZoneRecord Find(const Context& context) {
     return mduTimeZones::FindTimeZone(context.Services, context.State.Paths, context.Arguments[0]);
 }
 
-/// The folder of the user's zone files; a separator in the account's name is none in the folder's.
+/// The folder of the user's zone files.
 QString SelectedFolder(const Context& context) {
-    const PathTable& paths = context.State.Paths;
-    if (!paths.ZoneFileFolder.isEmpty()) {
-        return paths.ZoneFileFolder;
-    }
-    QString user = context.Services.User.UserName().trimmed();
-    user.replace(QRegularExpression(u"[/\\\\\\x00-\\x1f]|^\\.\\.?$"_s), u"_"_s);
-    return paths.AppFolder + (user.isEmpty() ? QString() : u'/' + user) + u"/TimeZones/"_s;
+    PathTable paths = context.State.Paths;
+    mduMain::NameUserFolders(paths, context.Services.User.UserName().trimmed());
+    return paths.ZoneFileFolder;
 }
 
 std::optional<TimeZoneRecords> RecordsOfSource(const Context& context, const QString& source) {
