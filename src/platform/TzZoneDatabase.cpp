@@ -10,8 +10,6 @@ namespace platform {
 
 namespace {
 
-constexpr qsizetype longestSubkey = 31;
-
 /// Stands for the identifier of a zone that has none, and names its subkey.
 constexpr char namelessZone[] = "Local time";
 
@@ -37,7 +35,7 @@ bool KeepsOffset(const TzYear& year, int offset) {
 /// "America/North_Dakota/New_Salem" gives "New Salem".
 QString CityOf(const QByteArray& iana) {
     const QString name = QString::fromUtf8(iana).section(u',', 0, 0);
-    return name.section(u'/', -1).replace(u'_', u' ').left(longestSubkey);
+    return name.section(u'/', -1).replace(u'_', u' ').left(LongestSubkey);
 }
 
 QString DaylightNameOf(QString standardName) {
@@ -184,7 +182,7 @@ TzZoneDatabase::LocalSubkey TzZoneDatabase::MakeLocalSubkey(const QByteArray& ia
             return {name, iana, false};
     }
     const QString city = CityOf(iana);
-    return {index_.contains(city) ? city.left(longestSubkey - 8) + u" (local)"_s : city, iana,
+    return {index_.contains(city) ? city.left(LongestSubkey - 8) + u" (local)"_s : city, iana,
             true};
 }
 

@@ -41,6 +41,9 @@ struct TimeZoneInformation {
     std::int32_t DaylightBias = 0;
 };
 
+/// A longer name of a subkey does not fit the buffer of 32 characters with its terminator.
+inline constexpr qsizetype LongestSubkey = 31;
+
 /// The outcome of opening the zone database.
 enum class ZoneRoot {
     Opened,

@@ -6,6 +6,7 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "timezones/TransitionText.h"
+#include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -80,7 +81,7 @@ TimeZoneRecords ListProfileTimeZones(const platform::Services& services, const Q
         TimeZoneRecord& record = records[number];
         record = ProfileRecord(properties, name.chopped(4), services.Zones.IsWindowsNT(), today);
         record.KeyName = path;
-        record.CurrentGMTHours = static_cast<float>(record.StandardBias / 60.0);
+        record.CurrentGMTHours = Hours(record.StandardBias);
         record.HoursFromLocal = localHours - record.CurrentGMTHours;
     }
     return records;

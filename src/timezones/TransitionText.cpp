@@ -16,13 +16,6 @@ std::int16_t Field(int value) {
     return static_cast<std::int16_t>(value);
 }
 
-// time = hour ":" two-digit minute ":" two-digit second
-QString TimeText(const SYSTEMTIME& time) {
-    return u"%1:%2:%3"_s.arg(time.wHour)
-        .arg(time.wMinute, 2, 10, QChar(u'0'))
-        .arg(time.wSecond, 2, 10, QChar(u'0'));
-}
-
 /// Takes the numbers of a text from left to right.
 class NumberCutter {
 public:

@@ -22,10 +22,6 @@ QDateTime CutToSecond(const QDateTime& moment) {
     return moment.addMSecs(-moment.time().msec());
 }
 
-float Hours(std::int32_t minutes) {
-    return static_cast<float>(minutes / 60.0);
-}
-
 QDateTime RuleMoment(const SYSTEMTIME& rule, const QDate& today) {
     const QDate date = RuleTransitionDate(rule.wDay, rule.wDayOfWeek, rule.wMonth, today);
     return mduAPILib::MomentAt(date, rule.wHour, rule.wMinute, rule.wSecond);
@@ -71,6 +67,16 @@ bool BeginsAsStandard(TimeZoneRecord& record, const QDateTime& localMoment, cons
 
 }  // namespace
 
+float Hours(std::int32_t minutes) {
+    return static_cast<float>(minutes / 60.0);
+}
+
+QString TimeText(const SYSTEMTIME& time) {
+    return u"%1:%2:%3"_s.arg(time.wHour)
+        .arg(time.wMinute, 2, 10, QChar(u'0'))
+        .arg(time.wSecond, 2, 10, QChar(u'0'));
+}
+
 bool HasDaylightRule(const TimeZoneRecord& record) {
     return record.DaylightDate.wMonth != 0 && record.DaylightDate.wDay != 0;
 }
@@ -100,11 +106,8 @@ QDateTime TransitionValue(const SYSTEMTIME& transition, const QDate& today) {
     if (transition.wYear >= 1) {
         return AbsoluteMoment(transition, today);
     }
-    const QString text = u"%1/%2 %3:%4:%5"_s.arg(transition.wDay)
-                             .arg(transition.wMonth)
-                             .arg(transition.wHour)
-                             .arg(transition.wMinute, 2, 10, QChar(u'0'))
-                             .arg(transition.wSecond, 2, 10, QChar(u'0'));
+    const QString text =
+        u"%1/%2 "_s.arg(transition.wDay).arg(transition.wMonth) + TimeText(transition);
     const auto parsed = mduAPILib::ParseMoment(text, today.year());
     return parsed ? parsed->Moment : QDateTime();
 }

@@ -8,6 +8,12 @@
 /// comparisons have a resolution of one second.
 namespace mduTimeZones {
 
+/// A bias in hours, as the derived fields tell it.
+float Hours(std::int32_t minutes);
+
+/// The time of day of a transition, as "2:00:00": the hour has no leading zero.
+QString TimeText(const platform::SYSTEMTIME& time);
+
 /// Whether the zone keeps daylight time: `DaylightDate.wMonth` and `.wDay` are both non-zero.
 bool HasDaylightRule(const TimeZoneRecord& record);
 

@@ -3,6 +3,8 @@
 #include <QtEndian>
 #include <algorithm>
 
+#include "timezones/ZoneArithmetic.h"
+
 using namespace Qt::StringLiterals;
 
 namespace mduTimeZones {
@@ -13,14 +15,13 @@ using platform::SYSTEMTIME;
 using platform::ZoneDatabase;
 using platform::ZoneRoot;
 
-constexpr qsizetype LongestSubkey = 31;  // a buffer of 32 with the terminator
 constexpr qsizetype LongestText = 255;
 constexpr qsizetype TziSize = 44;
 
 /// The subkey at an index; a name that does not fit the buffer ends the list.
 std::optional<QString> Subkey(const ZoneDatabase& zones, int index) {
     std::optional<QString> name = zones.SubkeyName(index);
-    return name && name->size() <= LongestSubkey ? name : std::nullopt;
+    return name && name->size() <= platform::LongestSubkey ? name : std::nullopt;
 }
 
 QString TextOf(const ZoneDatabase& zones, const QString& subkey, const QString& name) {
@@ -42,10 +43,6 @@ SYSTEMTIME TransitionAt(const QByteArray& bytes, qsizetype offset) {
 /// The sum as 32 bits hold it, whatever the bytes were.
 std::int32_t Total(std::int32_t bias, std::int32_t relative) {
     return static_cast<std::int32_t>(std::int64_t{bias} + relative);
-}
-
-float Hours(std::int32_t minutes) {
-    return static_cast<float>(minutes / 60.0);
 }
 
 TimeZoneRecord RecordOfSubkey(const ZoneDatabase& zones, const QString& subkey) {
