@@ -68,8 +68,11 @@ void ClockFiles::ReadProperties() {
 void ClockFiles::FillZone(const QString& zoneName) {
     const QString name = mduLib::StripIniExtension(zoneName);
     if (mayWrite_) {
+        bool written = true;
         data_.Zone = mduTimeZones::LoadZone(program_.Services, program_.Module.Paths, name,
-                                            data_.EditProperties(), data_.PropertyFileName);
+                                            data_.EditProperties(), data_.PropertyFileName,
+                                            &written);
+        ReportUnless(written);
         return;
     }
     ClockProperties copy = data_.Properties();
@@ -82,9 +85,7 @@ void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
         mduTimeZones::WriteZoneKeys(program_.Services, program_.Module.Paths,
                                     data_.EditProperties(), zoneName, data_.PropertyFileName,
                                     &written);
-        if (!written) {
-            report_(u"%1 can't be written"_s.arg(data_.PropertyFileName));
-        }
+        ReportUnless(written);
     }
     program_.Module.CurrentProperties = data_.Properties();
 }
@@ -105,6 +106,10 @@ void ClockFiles::SavePosition(const QRectF& twips) {
                                           data_.EditProperties(), data_.PropertyFileName) &&
                   written;
     }
+    ReportUnless(written);
+}
+
+void ClockFiles::ReportUnless(bool written) const {
     if (!written) {
         report_(u"%1 can't be written"_s.arg(data_.PropertyFileName));
     }

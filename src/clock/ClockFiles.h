@@ -52,6 +52,7 @@ public:
 
 private:
     void ReadProperties();
+    void ReportUnless(bool written) const;
 
     ClockData& data_;
     Program program_;

@@ -400,6 +400,20 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(desk.Machine.AppFolder() + u"/tester/TimeZones/ .ini"_s));
     }
 
+    /// A plain file stands where the user's folder should be.
+    void DataFolderThatCantBeMadeIsTold() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester"_s, "in the way");
+        QVERIFY(desk.Start());
+        QVERIFY(desk.Shell->isVisible());
+        QVERIFY2(desk.Status().contains(desk.Machine.AppFolder() + u"/tester"_s),
+                 qPrintable(desk.Status()));
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Settle();
+        desk.Stop();
+        QCOMPARE(desk.Machine.ReadFile(u"tester"_s), QByteArray("in the way"));
+    }
+
     void CommandLineNamesAClock() {
         Desk desk;
         desk.Module.CommandLine = u" Tokyo Standard Time "_s;

@@ -18,7 +18,7 @@
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/ui/MessagePanel.h"
-#include "timezones/ZoneSources.h"
+#include "timezones/StartZone.h"
 
 using namespace Qt::StringLiterals;
 
@@ -101,16 +101,16 @@ bool frmMain::LaunchNamedClock() {
 }
 
 bool frmMain::ConfigSetup() {
-    QString zoneName = program_.Module.CommandLine;
-    if (zoneName.isEmpty()) {
-        zoneName = mduTimeZones::GetLocalZone(program_.Services).StandardName;
-    }
-    const QString problem = mduLib::ZoneNameProblem(zoneName);
-    if (!problem.isEmpty()) {
-        ShowStatusMsg(problem);
+    const mduTimeZones::StartZone zone =
+        mduTimeZones::ChooseStartZone(program_.Services, program_.Module.CommandLine);
+    if (!zone.Problem.isEmpty()) {
+        ShowStatusMsg(zone.Problem);
     }
     const mduMain::SetupResult result =
-        mduMain::SetupFiles(program_.Module, program_.Services, zoneName, centralProperties_);
+        mduMain::SetupFiles(program_.Module, program_.Services, zone.Name, centralProperties_);
+    if (result == mduMain::SetupResult::Incomplete) {
+        ShowStatusMsg(u"%1 can't be made"_s.arg(program_.Module.FailedSetupPath));
+    }
     TellUnreadableLists();
     return result != mduMain::SetupResult::DefaultFileLost;
 }
