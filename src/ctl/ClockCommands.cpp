@@ -4,6 +4,7 @@
 
 #include "clock/ui/frmTempolark.h"
 #include "ctl/Command.h"
+#include "ctl/ReadOnlyFiles.h"
 #include "foundation/FileHelpers.h"
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,11 @@ std::optional<QSize> ReadSize(const QString& text) {
     const bool fits = size.width() >= 1 && size.height() >= 1 && size.width() <= LargestSide &&
                       size.height() <= LargestSide;
     return match.hasMatch() && fits ? std::optional(size) : std::nullopt;
+}
+
+platform::Services WithFiles(const platform::Services& all, platform::Files& files) {
+    return {all.Clock, all.Zones, files,      all.User,     all.Settings, all.Actions, all.Speech,
+            all.Media, all.Sound, all.Dialog, all.TrayIcon, all.Help,     all.Random};
 }
 
 /// A clock of that size with that file, after its first tick, its redraw and some normal ticks.
@@ -58,7 +64,9 @@ int Render(Context& context) {
         return OperationFailed;
     }
     Forms windows;
-    const Program program{context.Services, context.State, windows};
+    ReadOnlyFiles files(context.Services.FileSystem);
+    const platform::Services services = WithFiles(context.Services, files);
+    const Program program{services, context.State, windows};
     const std::unique_ptr<frmTempolark> clock = DrawnClock(program, file, *size, ticks);
     const QImage& image = clock->PaintedSurface().Image();
     const bool saved = image.save(context.Arguments[1], "PNG");

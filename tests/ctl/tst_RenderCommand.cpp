@@ -50,6 +50,17 @@ private Q_SLOTS:
         QCOMPARE(image.pixel(0, 0), qRgb(255, 255, 0));
     }
 
+    void LeavesTheFileAsItIs() {
+        const Companion companion;
+        WriteClock(companion, "Time Zone Standard Name=\r\n");
+        const QByteArray before = companion.Read(u"UTC.ini"_s);
+        companion.Run(RenderAt(companion, u"2026-03-04T15:00:30"_s) +
+                      QStringList{u"--size"_s, u"20x20"_s});
+        QCOMPARE(companion.Read(u"UTC.ini"_s), before);
+        QCOMPARE(QDir(companion.Folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 (QStringList{u"UTC.ini"_s, u"out.png"_s}));
+    }
+
     void BackwardStandsMirrored() {
         const Companion companion;
         WriteClock(companion, "Clock Special=Analogue Backward\r\n");

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Files.h"
+
+namespace ctl {
+
+/// Files that can be read and are never written: a picture of a clock leaves its file as it is.
+class ReadOnlyFiles final : public platform::Files {
+public:
+    explicit ReadOnlyFiles(platform::Files& files) : files_(files) {}
+
+    bool Exists(const QString& path) const override { return files_.Exists(path); }
+    bool FolderExists(const QString& path) const override { return files_.FolderExists(path); }
+    std::optional<QByteArray> Read(const QString& path) const override { return files_.Read(path); }
+    std::optional<qint64> ModifiedSeconds(const QString& path) const override {
+        return files_.ModifiedSeconds(path);
+    }
+    QStringList FileNames(const QString& folder) const override { return files_.FileNames(folder); }
+
+    bool MakeFolder(const QString&) override { return false; }
+    bool Write(const QString&, const QByteArray&) override { return false; }
+    bool Copy(const QString&, const QString&) override { return false; }
+    bool Delete(const QString&) override { return false; }
+    bool Touch(const QString&) override { return false; }
+    bool SetModifiedSeconds(const QString&, qint64) override { return false; }
+
+private:
+    platform::Files& files_;
+};
+
+}  // namespace ctl
