@@ -58,7 +58,7 @@ private Q_SLOTS:
                       QStringList{u"--size"_s, u"20x20"_s});
         QCOMPARE(companion.Read(u"UTC.ini"_s), before);
         QCOMPARE(QDir(companion.Folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-                 (QStringList{u"UTC.ini"_s, u"out.png"_s}));
+                 (QStringList{u"out.png"_s, u"UTC.ini"_s}));
     }
 
     void BackwardStandsMirrored() {
