@@ -1,5 +1,5 @@
 #!/bin/bash
-# Runs each fuzz target of build/fuzz for some seconds, from the seeds that lie beside its source.
+# Runs each fuzz target of build/fuzz for some seconds, from seeds that lie beside its source.
 #
 #   tools/fuzz.sh seconds
 #
@@ -12,7 +12,7 @@ findings=build/fuzz/findings
 mkdir -p "$findings"
 export QT_QPA_PLATFORM=offscreen
 
-# Fuzz TARGET: new inputs go to a corpus in the build folder, never among the seeds.
+# Fuzz TARGET: new inputs go to a corpus in the build folder, never beside its source.
 Fuzz() {
     local name corpus
     name=$(basename "$1")

@@ -20,7 +20,7 @@ struct GlobalOptions {
 };
 
 /// A wall-clock reading from "YYYY-MM-DDTHH:MM:SS", the same in whatever zone the process runs,
-/// with `Qt::UTC` as its time specification. Nothing for any other text.
+/// that carries `Qt::UTC`. Nothing for any other text.
 std::optional<QDateTime> ParseWallTime(const QString& text);
 
 /// Takes the global options off the front of @p arguments. @return why they can't be understood;

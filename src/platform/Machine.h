@@ -110,7 +110,7 @@ public:
 class RandomNumbers {
 public:
     virtual ~RandomNumbers() = default;
-    virtual void Seed() = 0;    ///< starts a new sequence, from the clock or from the seed chosen
+    virtual void Seed() = 0;    ///< starts a new sequence, from the clock or from a chosen seed
     virtual double Next() = 0;  ///< the next number, from 0 up to but not including 1
 };
 

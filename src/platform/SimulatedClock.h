@@ -12,7 +12,7 @@ namespace platform {
 /// that fall due on the way are called in order of their moments.
 class SimulatedClock final : public WallClock {
 public:
-    /// @param now the local wall-clock reading to begin with (its own time specification is
+    /// @param now the local wall-clock reading to begin with (its own zone is
     /// ignored)
     /// @param zone the machine's zone, which gives `OffsetFromGmt`
     SimulatedClock(const QDateTime& now, const QTimeZone& zone);

@@ -26,7 +26,7 @@ public:
     virtual ~WallClock() = default;
 
     /// The machine's local date and time, to the millisecond. It is a wall-clock reading: the value
-    /// carries `Qt::UTC` as its time specification, so that arithmetic on it is plain and never
+    /// carries `Qt::UTC`, so that arithmetic on it is plain and never
     /// consults a zone.
     virtual QDateTime Now() const = 0;
 

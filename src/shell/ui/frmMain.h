@@ -64,20 +64,22 @@ protected:
 private:
     // Start and stop (frmMain.cpp)
     void MakeInnerParts();
-    void ApplyCentralProperties(bool keepPlacement);
     bool LaunchNamedClock();
     void TellUnreadableLists();
+    void SetHeaderVisible(bool visible);
+    void PlaceHeader();
+    void ExitShell();
+    bool SaveOpenedForms();
+    void TimerCtrl();
+    void RefreshPanels();
+
+    // Settings (frmMainSettings.cpp)
+    void ApplyCentralProperties(bool keepPlacement);
     void ApplyPlacement();
     int StoredWindowState() const;
     void ShowAtStart();
     void SetBackgroundColour(const QString& colourName);
-    void SetHeaderVisible(bool visible);
-    void PlaceHeader();
-    void ExitShell();
     void SaveWindowPlacement();
-    bool SaveOpenedForms();
-    void TimerCtrl();
-    void RefreshPanels();
 
     // Menus and commands (frmMainMenus.cpp)
     void MakeToolbar();
