@@ -5,7 +5,9 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SetupPaths.h"
+#include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
+#include "timezones/ZoneSources.h"
 
 using namespace Qt::StringLiterals;
 
@@ -69,14 +71,27 @@ void ClockFiles::FillZone(const QString& zoneName) {
     const QString name = mduLib::StripIniExtension(zoneName);
     if (mayWrite_) {
         bool written = true;
-        data_.Zone = mduTimeZones::LoadZone(program_.Services, program_.Module.Paths, name,
-                                            data_.EditProperties(), data_.PropertyFileName,
-                                            &written);
+        data_.Zone =
+            mduTimeZones::LoadZone(program_.Services, program_.Module.Paths, name,
+                                   data_.EditProperties(), data_.PropertyFileName, &written);
         ReportUnless(written);
         return;
     }
     ClockProperties copy = data_.Properties();
     data_.Zone = mduTimeZones::LoadZone(program_.Services, program_.Module.Paths, name, copy, {});
+}
+
+void ClockFiles::RefreshZone() {
+    const platform::Services& services = program_.Services;
+    if (mayWrite_) {
+        ReportUnless(mduTimeZones::ReadZoneKeys(services, data_.Zone, data_.EditProperties(),
+                                                data_.PropertyFileName));
+    } else {
+        ClockProperties copy = data_.Properties();
+        mduTimeZones::OverlayZoneKeys(data_.Zone, copy, services.Clock.Now());
+    }
+    mduTimeZones::ApplyCurrentOffset(data_.Zone, services.Clock.Now(),
+                                     mduTimeZones::GetLocalZone(services).CurrentGMTHours);
 }
 
 void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {

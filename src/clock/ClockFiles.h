@@ -36,6 +36,9 @@ public:
     /// offset.
     void FillZone(const QString& zoneName);
 
+    /// Lays the properties' zone keys over the zone once more and works its present offset out.
+    void RefreshZone();
+
     /// Rewrites the zone keys of the file from the zone's present rules and publishes the
     /// properties.
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);

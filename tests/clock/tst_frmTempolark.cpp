@@ -303,6 +303,20 @@ private Q_SLOTS:
                  u"Analogue Backward"_s);
     }
 
+    void RefreshTakesTheExchangeSlot() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        mduLib::PutProperty(u"Time Zone Standard GMT (Minutes)"_s, u"-90"_s,
+                            desk.Module.CurrentProperties);
+        mduLib::PutProperty(u"Window Background Colour"_s, u"Red"_s, desk.Module.CurrentProperties);
+        clock->RefreshForm({});
+        QCOMPARE(clock->Data().State, ClockState::RedrawRequested);
+        QCOMPARE(clock->Data().Zone.HoursFromLocal, 1.5F);
+        desk.Machine.Clock.Advance(2000);
+        QCOMPARE(clock->Controls().lblClock(1).Caption, u"13:30:02"_s);
+        QCOMPARE(clock->PaintedSurface().Image().pixel(1, 1), qRgb(255, 0, 0));
+    }
+
     void AnotherClockIsSizedLikeThisOne() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);

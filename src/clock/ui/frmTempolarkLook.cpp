@@ -9,9 +9,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
-#include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
-#include "timezones/ZoneSources.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;
@@ -166,11 +164,7 @@ void frmTempolark::RefreshForm(const QString& fileName) {
         program_.Module.Paths.CurrentPropertyFile = fileName;
     }
     voice_.PrepareSpeaker();
-    const QDateTime now = program_.Services.Clock.Now();
-    mduTimeZones::ReadZoneKeys(program_.Services, data_.Zone, data_.EditProperties(),
-                               data_.PropertyFileName);
-    mduTimeZones::ApplyCurrentOffset(data_.Zone, now,
-                                     mduTimeZones::GetLocalZone(program_.Services).CurrentGMTHours);
+    files_.RefreshZone();
     data_.State = ClockState::RedrawRequested;
     placement_.SetClockCaption();
     placement_.ApplyWindowRect();
