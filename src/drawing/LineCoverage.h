@@ -39,30 +39,40 @@ public:
             return {bounds_.left(), bounds_.right()};
         }
         const float middle = x1_ + (static_cast<float>(y) - y1_) * ux_ / uy_;
-        const float half = reach_ / std::abs(uy_) + reach_ + 1;
+        const float half = reach_ / std::abs(uy_) + 1;  // the ends lie within the strip, too
         return {std::max(bounds_.left(), static_cast<int>(std::floor(middle - half))),
                 std::min(bounds_.right(), static_cast<int>(std::ceil(middle + half)))};
     }
 
-    /// The covered part of a pixel, of 256.
-    unsigned At(int x, int y) const {
-        const float px = static_cast<float>(x) - x1_;
-        const float py = static_cast<float>(y) - y1_;
-        const float across = std::abs(px * uy_ - py * ux_);
-        const float along = px * ux_ + py * uy_;
-        const float beyond = std::max({-along, along - length_, 0.0F});
-        float part = 0;
-        if (beyond == 0.0F) {
-            part = reach_ - across;
-        } else if (round_) {
-            part = reach_ - std::sqrt(across * across + beyond * beyond);
-        } else {
-            part = std::min(reach_ - across, reach_ - beyond);
+    /// One row of pixels.
+    class Row {
+    public:
+        Row(const LineCoverage& line, int y)
+            : line_(line),
+              across_(-line.x1_ * line.uy_ - (static_cast<float>(y) - line.y1_) * line.ux_),
+              along_(-line.x1_ * line.ux_ + (static_cast<float>(y) - line.y1_) * line.uy_) {}
+
+        /// The covered part of a pixel, of 256.
+        unsigned At(int x) const {
+            const float at = static_cast<float>(x);
+            const float across = std::abs(across_ + at * line_.uy_);
+            const float along = along_ + at * line_.ux_;
+            const float beyond = std::max(-along, along - line_.length_);
+            const float part = line_.reach_ - (beyond <= 0 ? across : line_.End(across, beyond));
+            return part >= 1 ? 256 : part <= 0 ? 0 : static_cast<unsigned>(part * 256);
         }
-        return static_cast<unsigned>(std::clamp(part, 0.0F, 1.0F) * 256);
-    }
+
+    private:
+        const LineCoverage& line_;
+        float across_, along_;  // of the row's pixel 0
+    };
 
 private:
+    /// The distance of a pixel that lies @p beyond an end.
+    float End(float across, float beyond) const {
+        return round_ ? std::sqrt(across * across + beyond * beyond) : std::max(across, beyond);
+    }
+
     float x1_, y1_;
     bool round_;
     float reach_;  // half the width and half a pixel

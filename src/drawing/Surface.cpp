@@ -57,9 +57,10 @@ void Surface::Line(int x1, int y1, int x2, int y2, int colour, int drawWidth) {
     for (int y = reach.top(); y <= reach.bottom(); ++y) {
         const auto [from, to] = line.Span(y);
         const int last = std::min(to, reach.right());
+        const LineCoverage::Row coverage(line, y);
         QRgb* row = ScanLine(y);
         for (int x = std::max(from, reach.left()); x <= last; ++x) {
-            const unsigned part = line.At(x, y);
+            const unsigned part = coverage.At(x);
             row[x] = part >= 256 ? rgb : Blend(row[x], rgb, part);
         }
     }
