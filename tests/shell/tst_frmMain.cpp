@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QTest>
+#include <QToolBar>
 #include <QToolButton>
 
 #include "foundation/PropertyFile.h"
@@ -424,6 +425,21 @@ private Q_SLOTS:
         desk.Module.CommandLine = u"/s"_s;
         QVERIFY(desk.Start());
         QCOMPARE(desk.Clocks(), QStringList());
+        desk.Stop();
+    }
+
+    void ScreenSaverRunTakesTheScreen() {
+        Desk desk;
+        desk.Module.CommandLine = u"/s"_s;
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Shell->WindowState(), 2);
+        QVERIFY(desk.Shell->windowFlags() & Qt::WindowStaysOnTopHint);
+        QVERIFY(!desk.Shell->findChild<QToolBar*>()->isVisible());
+        QVERIFY(!desk.Shell->findChild<MessagePanel*>()->isVisible());
+        QCOMPARE(desk.Shell->pos(), QPoint(0, 0));
+        desk.Stop();
+        QVERIFY(desk.User(u"TempolarkCentral.ini"_s).contains("Window Left=-1\r\n"));
+        QVERIFY(desk.User(u"TimeZones/s.ini"_s).contains("Clocks="));
     }
 
     void RefusedNameOfTheCommandLineIsTold() {

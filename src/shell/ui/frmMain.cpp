@@ -75,6 +75,9 @@ bool frmMain::Load() {
                                 program_.Module.Paths.OpenedFormsFile());
     lastOpened_.FillLastOpenedMenu(fileItem_, program_.Services.FileSystem, program_.Module.Paths);
     ApplyCentralProperties(false);
+    if (IsScreenSaverRun()) {
+        ApplyScreenSaverLook();
+    }
     bool launchedAny = shell::LaunchAutoStartClocks(
         program_.Module.AutoStartList,
         [this](const QString& name) { return LaunchTempolark(name) != 0; });
@@ -88,8 +91,7 @@ bool frmMain::Load() {
 // A zone that the command line names is what the user wants to see, too.
 bool frmMain::LaunchNamedClock() {
     const QString name = program_.Module.CommandLine.trimmed();
-    const QString screenSaverRun = u"/s"_s;
-    return !name.isEmpty() && name != screenSaverRun && mduLib::ZoneNameProblem(name).isEmpty() &&
+    return !name.isEmpty() && !IsScreenSaverRun() && mduLib::ZoneNameProblem(name).isEmpty() &&
            mduLib::GetPropertyRaw(name, program_.Module.AutoStartList) != name &&
            LaunchTempolark(name) != 0;
 }

@@ -77,6 +77,8 @@ private:
     void ApplyCentralProperties(bool keepPlacement);
     void ApplyPlacement();
     int StoredWindowState() const;
+    bool IsScreenSaverRun() const;
+    void ApplyScreenSaverLook();
     void ShowAtStart();
     void SetBackgroundColour(const QString& colourName);
     void SaveWindowPlacement();

@@ -3,6 +3,7 @@
 #include <QLayout>
 #include <QScreen>
 #include <QStatusBar>
+#include <QToolBar>
 
 #include "drawing/Surface.h"
 #include "foundation/NamedValues.h"
@@ -54,7 +55,24 @@ int frmMain::StoredWindowState() const {
     return mduUILib::WindowStateValue(mduLib::GetProperty(u"Window State"_s, centralProperties_));
 }
 
+bool frmMain::IsScreenSaverRun() const {
+    return program_.Module.CommandLine == u"/s"_s;
+}
+
+// Over everything, as large as the screen, with nothing around the clocks.
+void frmMain::ApplyScreenSaverLook() {
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+    findChild<QToolBar*>()->hide();
+    statusBar()->hide();
+    setGeometry(screen()->geometry());
+    layout()->activate();
+}
+
 void frmMain::ShowAtStart() {
+    if (IsScreenSaverRun()) {
+        SetWindowState(2);
+        return;
+    }
     resize(normalSize_);
     SetWindowState(StoredWindowState());
 }
