@@ -344,9 +344,36 @@ private Q_SLOTS:
         QVERIFY(desk.Start());
         desk.Settle();
         QCOMPARE(desk.Shell->WindowState(), 2);
-        // A quarter of a screen of 800 by 800, not of the shell's 400 by 400.
-        const QRect clock = desk.Shell->findChild<QMdiArea*>()->subWindowList().first()->geometry();
+        // A quarter of a screen of 800 by 800, not of the shell's 400 by 400, and in its middle.
+        const auto* area = desk.Shell->findChild<QMdiArea*>();
+        const QRect clock = area->subWindowList().first()->geometry();
         QVERIFY(qAbs(clock.width() - 200) <= 1);
+        // The title of the window, of which nothing is known before it is shown, takes some height.
+        const QPoint middle = area->viewport()->rect().center();
+        QVERIFY(qAbs(clock.center().x() - middle.x()) <= 20);
+        QVERIFY(qAbs(clock.center().y() - middle.y()) <= 20);
+    }
+
+    void AutoStartedClockStandsInTheMiddle_data() {
+        QTest::addColumn<QString>("commandLine");
+        QTest::newRow("normal") << QString();
+        QTest::newRow("screen saver") << u"/s"_s;
+    }
+
+    void AutoStartedClockStandsInTheMiddle() {
+        QFETCH(QString, commandLine);
+        Desk desk;
+        desk.Module.CommandLine = commandLine;
+        desk.Machine.WriteFile(u"tester/AutoStart.txt"_s, "UTC=UTC\r\n");
+        QVERIFY(desk.Start());
+        desk.Settle();
+        const auto* area = desk.Shell->findChild<QMdiArea*>();
+        const QPoint clock = area->subWindowList().first()->geometry().center();
+        const QPoint middle = area->viewport()->rect().center();
+        QVERIFY2(
+            qAbs(clock.x() - middle.x()) <= 2 && qAbs(clock.y() - middle.y()) <= 2,
+            qPrintable(
+                u"%1,%2 of %3,%4"_s.arg(clock.x()).arg(clock.y()).arg(middle.x()).arg(middle.y())));
     }
 
     void TwoClocksOfOneZone() {

@@ -77,6 +77,7 @@ private:
     void ApplyCentralProperties(bool keepPlacement);
     void ApplyPlacement();
     int StoredWindowState() const;
+    void LayOutHidden();
     bool IsScreenSaverRun() const;
     void ApplyScreenSaverLook();
     void ShowAtStart();

@@ -1,6 +1,5 @@
 // The shell's own settings: what it applies at its start and keeps at its end.
 #include <QLabel>
-#include <QLayout>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -48,11 +47,17 @@ void frmMain::ApplyPlacement() {
     if (StoredWindowState() == 2) {
         resize(whole.size());
     }
-    layout()->activate();
+    LayOutHidden();
 }
 
 int frmMain::StoredWindowState() const {
     return mduUILib::WindowStateValue(mduLib::GetProperty(u"Window State"_s, centralProperties_));
+}
+
+// A hidden window gives its inner parts no size until it has to be drawn. The clocks that start by
+// themselves are placed before it is shown, so that it is drawn here, by a pixel.
+void frmMain::LayOutHidden() {
+    grab(QRect(0, 0, 1, 1));
 }
 
 bool frmMain::IsScreenSaverRun() const {
@@ -65,7 +70,7 @@ void frmMain::ApplyScreenSaverLook() {
     findChild<QToolBar*>()->hide();
     statusBar()->hide();
     setGeometry(screen()->geometry());
-    layout()->activate();
+    LayOutHidden();
 }
 
 void frmMain::ShowAtStart() {
