@@ -78,6 +78,7 @@ bool frmMain::Load() {
     if (IsScreenSaverRun()) {
         ApplyScreenSaverLook();
     }
+    LayOutHidden();
     bool launchedAny = shell::LaunchAutoStartClocks(
         program_.Module.AutoStartList,
         [this](const QString& name) { return LaunchTempolark(name) != 0; });

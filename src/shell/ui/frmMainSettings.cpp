@@ -47,7 +47,6 @@ void frmMain::ApplyPlacement() {
     if (StoredWindowState() == 2) {
         resize(whole.size());
     }
-    LayOutHidden();
 }
 
 int frmMain::StoredWindowState() const {
@@ -70,7 +69,6 @@ void frmMain::ApplyScreenSaverLook() {
     findChild<QToolBar*>()->hide();
     statusBar()->hide();
     setGeometry(screen()->geometry());
-    LayOutHidden();
 }
 
 void frmMain::ShowAtStart() {
