@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clock/Canvas.h"
+#include "drawing/Canvas.h"
 #include "clock/ClockData.h"
 #include "clock/ClockWindow.h"
 #include "drawing/AnalogueFace.h"

@@ -1,5 +1,6 @@
 #include "drawing/Surface.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -69,6 +70,33 @@ void Surface::Line(int x1, int y1, int x2, int y2, int colour, int drawWidth) {
 void Surface::SetPixel(int x, int y, int colour) {
     if (clip_.contains(x, y)) {
         ScanLine(y)[x] = ToRgb(colour);
+    }
+}
+
+void Surface::FillSpan(int y, int x1, int x2, int colour) {
+    const int from = std::max(x1, clip_.left());
+    const int to = std::min(x2, clip_.right());
+    if (y >= clip_.top() && y <= clip_.bottom() && from <= to) {
+        std::fill(ScanLine(y) + from, ScanLine(y) + to + 1, ToRgb(colour));
+    }
+}
+
+// A view on the same pixels, so that the bitmap never moves, whoever shares it.
+void Surface::Paint(const std::function<void(QPainter&)>& paint) {
+    QImage view(reinterpret_cast<uchar*>(pixels_), image_.width(), image_.height(),
+                image_.bytesPerLine(), QImage::Format_RGB32);
+    QPainter painter(&view);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (clip_ != whole_) {
+        painter.setClipRect(clip_);
+    }
+    paint(painter);
+}
+
+void Surface::CopyFrom(const QImage& image) {
+    for (int y = clip_.top(); y <= clip_.bottom(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        std::copy(from + clip_.left(), from + clip_.right() + 1, ScanLine(y) + clip_.left());
     }
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QImage>
+#include <functional>
 
 #include "foundation/Twips.h"
+
+class QPainter;
 
 namespace drawing {
 
@@ -15,6 +18,10 @@ public:
 
     int ScaleWidth() const { return image_.width(); }
     int ScaleHeight() const { return image_.height(); }
+    double DevicePixelRatio() const { return devicePixelRatio_; }
+    /// The surface's height in logical pixels, which sizes in points and properties in pixels
+    /// relate to.
+    double LogicalHeight() const { return ScaleHeight() / devicePixelRatio_; }
     double TwipsPerDevicePixel() const { return TwipsPerPixel / devicePixelRatio_; }
 
     /// The window's outer height in twips; it differs from the surface's where there is a frame.
@@ -30,8 +37,18 @@ public:
 
     void SetPixel(int x, int y, int colour);
 
+    /// Fills the pixels @p x1 to @p x2 of a row, both included.
+    void FillSpan(int y, int x1, int x2, int colour);
+
+    /// Lets the toolkit's painter draw what is beyond single pixels: text and pictures.
+    void Paint(const std::function<void(QPainter&)>& paint);
+
     /// Limits all drawing to a rectangle of the surface; a null one means no limit.
     void SetClip(const QRect& rect);
+    const QRect& Clip() const { return clip_; }
+
+    /// Copies the pixels within the clip from a bitmap of the same size and form.
+    void CopyFrom(const QImage& image);
 
     /// The live bitmap: a copy of it shares the pixels and sees what is drawn later.
     const QImage& Image() const { return image_; }

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "foundation/ClockProperty.h"
+#include "foundation/PictureStore.h"
 
 /// Where every file lies. Paths are native; folders other than `AppFolder` and `DataFolder` end
 /// with a separator.
@@ -42,5 +43,6 @@ struct ModuleState {
     ClockProperties CurrentProperties;
     bool NewPropertyFileCreated = false;
     QString FailedSetupPath;  ///< where start-up ended with `SetupResult::Incomplete`; else empty
+    mduUILib::PictureStore Pictures;
     QString CommandLine;      ///< one string; empty means the local zone, "/s" the screen-saver run
 };

@@ -41,6 +41,9 @@ public:
     /// Last-modified time in whole seconds since the epoch; nothing if there is no such file.
     virtual std::optional<qint64> ModifiedSeconds(const QString& path) const = 0;
 
+    /// The size of a plain file in bytes; nothing if there is none.
+    virtual std::optional<qint64> Size(const QString& path) const = 0;
+
     /// The names (no folder) of the plain files in a folder, in directory order.
     virtual QStringList FileNames(const QString& folder) const = 0;
 };

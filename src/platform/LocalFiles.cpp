@@ -77,6 +77,11 @@ std::optional<qint64> LocalFiles::ModifiedSeconds(const QString& path) const {
     return info.lastModified().toSecsSinceEpoch();
 }
 
+std::optional<qint64> LocalFiles::Size(const QString& path) const {
+    const QFileInfo info(path);
+    return info.isFile() ? std::optional(info.size()) : std::nullopt;
+}
+
 QStringList LocalFiles::FileNames(const QString& folder) const {
     QStringList names;
     QDirIterator entries(folder, QDir::Files | QDir::Hidden);

@@ -107,6 +107,7 @@ public:
     std::optional<qint64> ModifiedSeconds(const QString& path) const override {
         return local_.ModifiedSeconds(path);
     }
+    std::optional<qint64> Size(const QString& path) const override { return local_.Size(path); }
     QStringList FileNames(const QString& folder) const override { return local_.FileNames(folder); }
 
 private:

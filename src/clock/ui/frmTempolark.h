@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "clock/Canvas.h"
+#include "drawing/Canvas.h"
 #include "clock/ClockData.h"
 #include "clock/ClockFiles.h"
 #include "clock/ClockTick.h"

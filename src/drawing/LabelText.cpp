@@ -1,0 +1,60 @@
+#include "drawing/LabelText.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/Surface.h"
+
+namespace drawing {
+
+namespace {
+
+constexpr double PixelsPerPoint = 96.0 / 72;
+constexpr double SmallestFont = 1;  // in pixels; the toolkit refuses 0
+constexpr double LargestFont = 4000;
+
+QRectF RectOf(const mduUILib::Control& control) {
+    return {static_cast<qreal>(control.Left), static_cast<qreal>(control.Top),
+            static_cast<qreal>(control.Width), static_cast<qreal>(control.Height)};
+}
+
+}  // namespace
+
+QFont PixelFont(const QFont& font, double devicePixelRatio) {
+    QFont inPixels(font);
+    const double pixels = font.pointSizeF() * PixelsPerPoint * devicePixelRatio;
+    inPixels.setPixelSize(
+        static_cast<int>(std::nearbyint(std::clamp(pixels, SmallestFont, LargestFont))));
+    return inPixels;
+}
+
+QSizeF TextSize(const QFont& font, const QString& text, double devicePixelRatio) {
+    const QFontMetricsF metrics(PixelFont(font, devicePixelRatio));
+    return {std::ceil(metrics.horizontalAdvance(text)), std::ceil(metrics.height())};
+}
+
+void AutoSize(mduUILib::Control& label, double devicePixelRatio) {
+    const QSizeF size = TextSize(label.Font, label.Caption, devicePixelRatio);
+    label.Width = static_cast<float>(size.width());
+    label.Height = static_cast<float>(size.height());
+}
+
+void PaintLabel(QPainter& painter, const mduUILib::Control& label, double devicePixelRatio) {
+    if (!label.Visible || label.Caption.isEmpty()) {
+        return;
+    }
+    painter.setFont(PixelFont(label.Font, devicePixelRatio));
+    painter.setPen(QColor::fromRgb(ToRgb(label.ForeColor)));
+    painter.drawText(RectOf(label), Qt::AlignCenter | Qt::TextDontClip, label.Caption);
+}
+
+void PaintImage(QPainter& painter, const mduUILib::Control& image) {
+    if (image.Visible && image.Picture && !image.Picture->isNull()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(RectOf(image), *image.Picture);
+    }
+}
+
+}  // namespace drawing

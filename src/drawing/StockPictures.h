@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QImage>
+#include <memory>
+
+/// The stored pictures of a clock, drawn once for the whole program at a size that suits a large
+/// clock on a fine screen; whoever shows one scales it down. All have a transparent background.
+namespace drawing {
+
+enum class StockPicture {
+    SpeakerIdle = 3,
+    SpeakerMuted = 4,
+    SpeakerTalking = 5,
+    SpotRight = 10,  ///< the mark of the minutes 1 to 30 and 60
+    SpotLeft = 11,   ///< the mark of the minutes 31 to 59
+    Sun = 20,
+    Moon = 21,
+    Handle = 22,  ///< stands for a transparent window
+    Clock = 23    ///< the window's own icon
+};
+
+std::shared_ptr<const QImage> GetStockPicture(StockPicture picture);
+
+}  // namespace drawing
