@@ -1,0 +1,118 @@
+#include <QPainter>
+#include <QTest>
+
+#include "drawing/StockPictures.h"
+
+using drawing::GetStockPicture;
+using drawing::StockPicture;
+
+Q_DECLARE_METATYPE(drawing::StockPicture)
+
+namespace {
+
+/// The picture at a size, on a ground of one colour.
+QImage Shown(StockPicture picture, int side, const QColor& ground) {
+    QImage shown(side, side, QImage::Format_RGB32);
+    shown.fill(ground);
+    QPainter(&shown).drawImage(0, 0,
+                               GetStockPicture(picture)->scaled(side, side, Qt::IgnoreAspectRatio,
+                                                                Qt::SmoothTransformation));
+    return shown;
+}
+
+/// How far the brightness of a picture's pixels lies apart, of 255.
+int Contrast(const QImage& image) {
+    int least = 255;
+    int most = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int grey = qGray(image.pixel(x, y));
+            least = qMin(least, grey);
+            most = qMax(most, grey);
+        }
+    }
+    return most - least;
+}
+
+}  // namespace
+
+class tst_StockPictures : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EachIsThere_data() {
+        QTest::addColumn<StockPicture>("picture");
+        QTest::newRow("idle") << StockPicture::SpeakerIdle;
+        QTest::newRow("muted") << StockPicture::SpeakerMuted;
+        QTest::newRow("talking") << StockPicture::SpeakerTalking;
+        QTest::newRow("right spot") << StockPicture::SpotRight;
+        QTest::newRow("left spot") << StockPicture::SpotLeft;
+        QTest::newRow("sun") << StockPicture::Sun;
+        QTest::newRow("moon") << StockPicture::Moon;
+        QTest::newRow("handle") << StockPicture::Handle;
+        QTest::newRow("clock") << StockPicture::Clock;
+    }
+    void EachIsThere() {
+        QFETCH(StockPicture, picture);
+        const auto image = GetStockPicture(picture);
+        QVERIFY(image);
+        QCOMPARE(image->size(), QSize(256, 256));
+        QCOMPARE(image->format(), QImage::Format_ARGB32_Premultiplied);
+        QCOMPARE(qAlpha(image->pixel(1, 1)), 0);
+        QCOMPARE(qAlpha(image->pixel(254, 254)), 0);
+    }
+
+    void EachReadsOnAnyGround_data() { EachIsThere_data(); }
+    void EachReadsOnAnyGround() {
+        QFETCH(StockPicture, picture);
+        QVERIFY(Contrast(Shown(picture, 16, Qt::white)) > 60);
+        QVERIFY(Contrast(Shown(picture, 16, QColor(128, 128, 128))) > 60);
+        QVERIFY(Contrast(Shown(picture, 16, Qt::black)) > 120);
+    }
+
+    void EachIsDrawnOnce() {
+        QCOMPARE(GetStockPicture(StockPicture::Sun), GetStockPicture(StockPicture::Sun));
+    }
+
+    void UnknownNumberHasNone() { QVERIFY(!GetStockPicture(static_cast<StockPicture>(99))); }
+
+    void NumbersOfTheImageList() {
+        QCOMPARE(static_cast<int>(StockPicture::SpeakerIdle), 3);
+        QCOMPARE(static_cast<int>(StockPicture::SpeakerMuted), 4);
+        QCOMPARE(static_cast<int>(StockPicture::SpeakerTalking), 5);
+    }
+
+    void NoTwoAreAlike() {
+        QVERIFY(*GetStockPicture(StockPicture::SpotRight) !=
+                *GetStockPicture(StockPicture::SpotLeft));
+        QVERIFY(*GetStockPicture(StockPicture::SpeakerIdle) !=
+                *GetStockPicture(StockPicture::SpeakerMuted));
+        QVERIFY(*GetStockPicture(StockPicture::SpeakerIdle) !=
+                *GetStockPicture(StockPicture::SpeakerTalking));
+    }
+
+    void SpotIsLitFromTheUpperLeft() {
+        const auto spot = GetStockPicture(StockPicture::SpotRight);
+        QVERIFY(qGray(spot->pixel(90, 84)) > qGray(spot->pixel(168, 172)) + 100);
+        // The rim is lighter than the body beside it.
+        QVERIFY(qGray(spot->pixel(128, 244)) > qGray(spot->pixel(128, 230)) + 100);
+    }
+
+    void SpotOfFourPixelsIsSeen() {
+        QVERIFY(qGray(Shown(StockPicture::SpotRight, 4, Qt::white).pixel(2, 2)) < 100);
+        QVERIFY(qGray(Shown(StockPicture::SpotRight, 4, Qt::black).pixel(1, 1)) > 60);
+    }
+
+    void OnlyTheMutedSpeakerIsCrossedInRed() {
+        const auto redAt = [](StockPicture picture) {
+            const QRgb pixel = GetStockPicture(picture)->pixel(187, 128);  // middle of the cross
+            return qRed(pixel) > 150 && qBlue(pixel) < 100;
+        };
+        QVERIFY(redAt(StockPicture::SpeakerMuted));
+        QVERIFY(!redAt(StockPicture::SpeakerIdle));
+        QVERIFY(!redAt(StockPicture::SpeakerTalking));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_StockPictures)
+#include "tst_StockPictures.moc"
