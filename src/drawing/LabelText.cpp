@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/FontText.h"
 #include "drawing/Surface.h"
+#include "foundation/Numbers.h"
 
 namespace drawing {
 
@@ -13,7 +15,11 @@ namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr double SmallestFont = 1;  // in pixels; the toolkit refuses 0
-constexpr double LargestFont = 4000;
+constexpr double LargestFont = LargestFontExtent;
+
+double Pixels(const QFont& font, double devicePixelRatio) {
+    return font.pointSizeF() * PixelsPerPoint * devicePixelRatio;
+}
 
 QRectF RectOf(const mduUILib::Control& control) {
     return {static_cast<qreal>(control.Left), static_cast<qreal>(control.Top),
@@ -24,9 +30,9 @@ QRectF RectOf(const mduUILib::Control& control) {
 
 QFont PixelFont(const QFont& font, double devicePixelRatio) {
     QFont inPixels(font);
-    const double pixels = font.pointSizeF() * PixelsPerPoint * devicePixelRatio;
-    inPixels.setPixelSize(
-        static_cast<int>(std::nearbyint(std::clamp(pixels, SmallestFont, LargestFont))));
+    inPixels.setFamily(InstalledFamily(font.family()));
+    const double pixels = std::clamp(Pixels(font, devicePixelRatio), SmallestFont, LargestFont);
+    inPixels.setPixelSize(mduAPILib::RoundToInteger(pixels));
     return inPixels;
 }
 
@@ -42,7 +48,8 @@ void AutoSize(mduUILib::Control& label, double devicePixelRatio) {
 }
 
 void PaintLabel(QPainter& painter, const mduUILib::Control& label, double devicePixelRatio) {
-    if (!label.Visible || label.Caption.isEmpty()) {
+    if (!label.Visible || label.Caption.isEmpty() ||
+        Pixels(label.Font, devicePixelRatio) > LargestFont) {
         return;
     }
     painter.setFont(PixelFont(label.Font, devicePixelRatio));

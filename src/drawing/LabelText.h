@@ -11,7 +11,8 @@ class QPainter;
 /// 96/72 logical pixels, whatever the screen says of its own resolution.
 namespace drawing {
 
-/// The control's font in device pixels.
+/// The control's font in whole device pixels, from 1 to `LargestFontExtent`; a family that is not
+/// installed is replaced as `InstalledFamily` tells.
 QFont PixelFont(const QFont& font, double devicePixelRatio);
 
 /// The size of a line of text in that font, in device pixels: the advance of its characters, and
@@ -22,7 +23,7 @@ QSizeF TextSize(const QFont& font, const QString& text, double devicePixelRatio)
 void AutoSize(mduUILib::Control& label, double devicePixelRatio);
 
 /// Paints a label's caption, centred in its rectangle, in its colour. An invisible or empty label
-/// paints nothing.
+/// paints nothing, nor does one whose font is larger than `LargestFontExtent`.
 void PaintLabel(QPainter& painter, const mduUILib::Control& label, double devicePixelRatio);
 
 /// Paints an image control: its picture stretched over its rectangle.
