@@ -13,6 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
+std::array<std::pair<QString, QString>, 4> PlaceValues(const QRectF& twips) {
+    const auto text = [](double value) { return mduAPILib::SingleText(static_cast<float>(value)); };
+    return {{{u"Window Top"_s, text(twips.top())},
+             {u"Window Left"_s, text(twips.left())},
+             {u"Window Height"_s, text(twips.height())},
+             {u"Window Width"_s, text(twips.width())}}};
+}
+
 bool ClockFiles::NameCurrentFile(const QString& zoneName) {
     const QString problem = zoneName.trimmed().isEmpty() ? u"The time zone has no name"_s
                                                          : mduLib::ZoneNameProblem(zoneName);
@@ -105,19 +113,20 @@ void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
     program_.Module.CurrentProperties = data_.Properties();
 }
 
+void ClockFiles::StorePosition(const QRectF& twips) {
+    for (const auto& [name, value] : PlaceValues(twips)) {
+        mduLib::PutProperty(name, value, data_.EditProperties());
+    }
+}
+
 void ClockFiles::SavePosition(const QRectF& twips) {
     ReadProperties();
     if (!mayWrite_) {
         return;
     }
-    const std::pair<QString, double> values[] = {{u"Window Top"_s, twips.top()},
-                                                 {u"Window Left"_s, twips.left()},
-                                                 {u"Window Height"_s, twips.height()},
-                                                 {u"Window Width"_s, twips.width()}};
     bool written = true;
-    for (const auto& [name, value] : values) {
-        written = mduLib::SavePropertyNow(program_.Services.FileSystem, name,
-                                          mduAPILib::SingleText(static_cast<float>(value)),
+    for (const auto& [name, value] : PlaceValues(twips)) {
+        written = mduLib::SavePropertyNow(program_.Services.FileSystem, name, value,
                                           data_.EditProperties(), data_.PropertyFileName) &&
                   written;
     }

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QRectF>
+#include <array>
 #include <functional>
 
 #include "clock/ClockData.h"
 #include "foundation/Program.h"
 
 namespace clockcore {
+
+/// The keys of a window's place, each with its value for a rectangle in twips.
+std::array<std::pair<QString, QString>, 4> PlaceValues(const QRectF& twips);
 
 /// What a clock reads from its files and leaves in them.
 class ClockFiles {
@@ -42,6 +46,9 @@ public:
     /// Rewrites the zone keys of the file from the zone's present rules and publishes the
     /// properties.
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);
+
+    /// Stores the window's rectangle, in twips, into the properties in memory.
+    void StorePosition(const QRectF& twips);
 
     /// Stores the window's rectangle, in twips, into the file as it now stands on disk.
     void SavePosition(const QRectF& twips);

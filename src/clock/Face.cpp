@@ -1,6 +1,5 @@
 #include "clock/Face.h"
 
-#include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
 #include "timezones/ZoneArithmetic.h"
 
@@ -24,22 +23,20 @@ QString HandCaption(const QTime& time) {
 
 }  // namespace
 
-Face::Face(ClockData& data, mduUILib::ClockControls& controls, Canvas& canvas, const Parts& parts,
-           const platform::WallClock& clock, platform::RandomNumbers& random)
+Face::Face(ClockData& data, mduUILib::ClockControls& controls, drawing::Canvas& canvas,
+           const Parts& parts, const platform::WallClock& clock, platform::RandomNumbers& random)
     : data_(data),
       controls_(controls),
       canvas_(canvas),
       parts_(parts),
       clock_(clock),
       random_(random),
-      analogue_(parts.Dial, parts.Background, random) {}
+      composer_(canvas, controls, parts.Dial, parts.Background) {}
 
 void Face::ApplyWindowBackground() {
-    QString colour = mduLib::GetProperty(u"Window Background Colour"_s, data_.Properties());
-    const int value = mduUILib::ColourValue(colour, random_);
-    const bool transparent = colour == u"transparent"_s;
-    canvas_.SetTransparent(transparent);
-    canvas_.SetBackColor(transparent ? canvas_.ParentBackColor() : value);
+    parts_.Background.ApplyTransparency();
+    controls_.picFrame(1).ForeColor = canvas_.BackColor();
+    StillChanged();
 }
 
 void Face::ReadDigitalFormat() {
@@ -47,21 +44,36 @@ void Face::ReadDigitalFormat() {
 }
 
 void Face::PrepareClockFace() {
-    Invalidate();
-    parts_.Dial.SetClockDial(data_.IsAnalogue(), {}, false, false);
+    const bool analogue = data_.IsAnalogue();
+    parts_.Dial.DrawDialNumbers(analogue, {}, false);
+    if (!analogue) {
+        hands_.reset();
+        parts_.Overlays.HideSunMoon();
+    }
+    if (!data_.Is(Analogue) && !data_.Is(Digital)) {
+        parts_.Overlays.HideLocationLabel();
+    }
+    PrepareReadOuts();
+    StillChanged();
+}
+
+void Face::PrepareReadOuts() {
     if (data_.Is(Digital) || data_.Is(AnalogueAndDigital)) {
+        ReadDigitalFormat();
         parts_.Digital.SetDigitalLayout();
     } else {
         parts_.Digital.HideDigitalClock();
     }
     if (data_.Is(Calculator)) {
         parts_.Calculator.SetCalculatorClock(true);
+    } else if (!data_.Is(CalculatorInput)) {
+        parts_.Calculator.HideCalculatorClock();
     }
 }
 
 void Face::DrawClockFace() {
     if (data_.Is(Analogue)) {
-        DrawAnalogue();
+        MoveHands();
         parts_.Overlays.SetSunMoon();
         parts_.Overlays.SetLocationLabel();
     } else if (data_.Is(Digital)) {
@@ -70,26 +82,49 @@ void Face::DrawClockFace() {
     } else if (data_.Is(Calculator)) {
         parts_.Calculator.DrawCalculatorClock();
     } else if (data_.Is(AnalogueAndDigital)) {
-        DrawAnalogue();
+        MoveHands();
         parts_.Overlays.SetSunMoon();
         parts_.Digital.DrawDigitalClock(data_.ClockFormat);
     }
+    ShowChanges();
 }
 
-void Face::DrawAnalogue() {
+void Face::ShowChanges() {
+    if (canvas_.CanBeSeen()) {
+        canvas_.Present(composer_.Compose(hands_));
+    } else {
+        Invalidate();
+    }
+}
+
+void Face::MoveHands() {
     const QDateTime time = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
     mduUILib::Control& lblClock = controls_.lblClock(1);
     lblClock.Caption = HandCaption(time.time());
     if (!canvas_.CanBeSeen()) {
-        Invalidate();
         return;
     }
     if (revisionRead_ != data_.Revision()) {
         revisionRead_ = data_.Revision();
         look_ = drawing::ReadAnalogueLook(data_.Properties());
     }
-    canvas_.Present(analogue_.DrawAnalogueClock(
-        canvas_.Surface(), look_, drawing::ReadHandTime(lblClock.Caption), canvas_.BackColor()));
+    RecolourNumbers();
+    hands_ = drawing::MakeHandsFrame(canvas_.Surface(), look_,
+                                     drawing::ReadHandTime(lblClock.Caption), random_);
+}
+
+// Numbers that take a colour by chance take another at each pass.
+void Face::RecolourNumbers() {
+    if (!parts_.Dial.NumbersAreRandom()) {
+        return;
+    }
+    if (parts_.Dial.NumbersArePainted()) {
+        parts_.Dial.DrawDialNumbers(true, {}, true);
+    }
+    if (look_.ClockSpecial == u"Analogue Hour Number Random Colour"_s) {
+        parts_.Dial.RecolourNumbers();
+    }
+    Invalidate();
 }
 
 }  // namespace clockcore

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "drawing/Canvas.h"
 #include "clock/ClockData.h"
 #include "clock/ClockWindow.h"
 #include "drawing/AnalogueFace.h"
+#include "drawing/Canvas.h"
+#include "drawing/FaceComposer.h"
 #include "foundation/Controls.h"
 #include "platform/WallClock.h"
 
@@ -20,27 +21,34 @@ public:
         drawing::Overlays& Overlays;
     };
 
-    Face(ClockData& data, mduUILib::ClockControls& controls, Canvas& canvas, const Parts& parts,
-         const platform::WallClock& clock, platform::RandomNumbers& random);
+    Face(ClockData& data, mduUILib::ClockControls& controls, drawing::Canvas& canvas,
+         const Parts& parts, const platform::WallClock& clock, platform::RandomNumbers& random);
 
     void ApplyWindowBackground() override;
     void ReadDigitalFormat() override;
     void PrepareClockFace() override;
     void DrawClockFace() override;
 
+    /// Paints and shows what has changed, with the hands where they are.
+    void ShowChanges();
     /// Makes the next repaint a whole one.
-    void Invalidate() { analogue_.Invalidate(); }
+    void Invalidate() { composer_.Invalidate(); }
+    /// Makes the next repaint begin with the still layer.
+    void StillChanged() { composer_.StillChanged(); }
 
 private:
-    void DrawAnalogue();
+    void PrepareReadOuts();
+    void MoveHands();
+    void RecolourNumbers();
 
     ClockData& data_;
     mduUILib::ClockControls& controls_;
-    Canvas& canvas_;
+    drawing::Canvas& canvas_;
     Parts parts_;
     const platform::WallClock& clock_;
     platform::RandomNumbers& random_;
-    drawing::AnalogueFace analogue_;
+    drawing::FaceComposer composer_;
+    std::optional<drawing::HandsFrame> hands_;
     drawing::AnalogueLook look_;
     int revisionRead_ = -1;
 };

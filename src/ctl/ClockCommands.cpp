@@ -40,6 +40,7 @@ std::unique_ptr<frmTempolark> DrawnClock(const Program& program, const QString& 
     clock->ShowMe(mduLib::FileBaseName(file, false), false, false);
     for (int tick = 0; tick < normalTicks + 2; ++tick) {
         clock->Tick();
+        clock->FinishMotions();  // a tick is over when what it set in motion has come to rest
     }
     return clock;
 }
@@ -68,7 +69,7 @@ int Render(Context& context) {
     const platform::Services services = WithFiles(context.Services, files);
     const Program program{services, context.State, windows};
     const std::unique_ptr<frmTempolark> clock = DrawnClock(program, file, *size, ticks);
-    const QImage& image = clock->PaintedSurface().Image();
+    const QImage image = clock->SeenPicture();
     const bool saved = image.save(context.Arguments[1], "PNG");
     if (!saved) {
         Complain(context.Arguments[1] + u" can't be written"_s);

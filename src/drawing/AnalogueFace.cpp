@@ -1,6 +1,7 @@
 #include "drawing/AnalogueFace.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
@@ -27,6 +28,23 @@ double CentreOf(double percent, int extent) {
     return percent == -1 ? extent / 2.0 : percent * extent / 100;
 }
 
+HandsFrame::Hand MakeHand(const HandLook& look, double angle, int diameter,
+                          platform::RandomNumbers& random) {
+    HandsFrame::Hand hand{look.Style, angle, 0, 0,
+                          mduUILib::ColourValue(QString(look.Colour), random)};
+    if (look.Style != HandStyle::Unknown) {
+        hand.LineWidth = std::min(look.LineWidth, LargestWidth);
+        hand.Length = ToPoint(look.LengthPercent * diameter / 200);
+    }
+    return hand;
+}
+
+QRect HubBounds(const HandsFrame& frame, double devicePixelRatio) {
+    const int reach =
+        static_cast<int>(std::ceil(CentrePointRings(frame.Height) * devicePixelRatio)) + 1;
+    return {frame.Cx - reach, frame.Cy - reach, 2 * reach + 1, 2 * reach + 1};
+}
+
 }  // namespace
 
 AnalogueLook ReadAnalogueLook(const ClockProperties& properties) {
@@ -44,85 +62,55 @@ QPointF ClockCentre(const AnalogueLook& look, int scaleWidth, int scaleHeight) {
     return {CentreOf(look.CentralX, scaleWidth), CentreOf(look.CentralY, scaleHeight)};
 }
 
-QRect AnalogueFace::DrawAnalogueClock(Surface& surface, const AnalogueLook& look,
-                                      const HandTime& time, int backColour) {
-    const Frame frame = MakeFrame(surface, look, time, backColour);
-    const std::optional<QRect> changed = ChangedPart(frame);
-    if (!changed || !changed->isEmpty()) {
-        surface.SetClip(changed.value_or(QRect()));
-        Paint(surface, frame);
-        surface.SetClip({});
-    }
-    if (look.ClockSpecial == u"Analogue Hour Number Random Colour"_s) {
-        dial_.RecolourNumbers();
-    }
-    last_ = frame;
-    return changed.value_or(QRect(QPoint(0, 0), frame.Size));
+QPointF ClockCentre(const ClockProperties& properties, int scaleWidth, int scaleHeight) {
+    const auto percent = [&](const QString& key) {
+        return mduAPILib::Val(mduLib::GetProperty(key, properties));
+    };
+    return {CentreOf(percent(u"Clock CentralX(%)"_s), scaleWidth),
+            CentreOf(percent(u"Clock CentralY(%)"_s), scaleHeight)};
 }
 
-AnalogueFace::Frame AnalogueFace::MakeFrame(const Surface& surface, const AnalogueLook& look,
-                                            const HandTime& time, int backColour) {
-    Frame frame;
-    frame.Size = {surface.ScaleWidth(), surface.ScaleHeight()};
-    const QPointF centre = ClockCentre(look, frame.Size.width(), frame.Size.height());
+HandsFrame MakeHandsFrame(const Surface& surface, const AnalogueLook& look, const HandTime& time,
+                          platform::RandomNumbers& random) {
+    HandsFrame frame;
+    const QPointF centre = ClockCentre(look, surface.ScaleWidth(), surface.ScaleHeight());
     frame.Cx = ToPoint(centre.x());
     frame.Cy = ToPoint(centre.y());
-    const int diameter = std::min(frame.Size.width(), frame.Size.height());
+    const int diameter = std::min(surface.ScaleWidth(), surface.ScaleHeight());
     const HandAngles angles = AnglesAt(time, look.ClockSpecial);
-    frame.Hands = {MakeHand(look.Hour, angles.Hour, diameter),
-                   MakeHand(look.Minute, angles.Minute, diameter),
-                   MakeHand(look.Second, angles.Second, diameter)};
-    frame.HeadColour = mduUILib::ColourValue(QString(look.HeadColour), random_);
-    frame.BackColour = backColour;
+    frame.Hands = {MakeHand(look.Hour, angles.Hour, diameter, random),
+                   MakeHand(look.Minute, angles.Minute, diameter, random),
+                   MakeHand(look.Second, angles.Second, diameter, random)};
+    frame.HeadColour = mduUILib::ColourValue(QString(look.HeadColour), random);
     frame.Height = surface.Height();
     return frame;
 }
 
-AnalogueFace::Hand AnalogueFace::MakeHand(const HandLook& look, double angle, int diameter) {
-    Hand hand{look.Style, angle, 0, 0, mduUILib::ColourValue(QString(look.Colour), random_)};
-    if (look.Style != HandStyle::Unknown) {
-        hand.LineWidth = std::min(look.LineWidth, LargestWidth);
-        hand.Length = ToPoint(look.LengthPercent * diameter / 200);
-    }
-    return hand;
-}
-
-// Nothing where the whole surface has to be painted.
-std::optional<QRect> AnalogueFace::ChangedPart(const Frame& frame) const {
-    if (!last_ || frame.Size != last_->Size || frame.Cx != last_->Cx || frame.Cy != last_->Cy ||
-        frame.HeadColour != last_->HeadColour || frame.BackColour != last_->BackColour ||
-        frame.Height != last_->Height || background_.HasClockPicture() ||
-        dial_.NumbersArePainted()) {
-        return std::nullopt;
-    }
-    QRect changed;
-    for (std::size_t i = 0; i < frame.Hands.size(); ++i) {
-        const Hand& now = frame.Hands[i];
-        const Hand& before = last_->Hands[i];
-        if (now != before) {
-            for (const Hand& hand : {now, before}) {
-                changed |= HandBounds(hand.Style, frame.Cx, frame.Cy, hand.Angle, hand.Length,
-                                      hand.LineWidth);
-            }
-        }
-    }
-    return changed & QRect(QPoint(0, 0), frame.Size);
-}
-
-void AnalogueFace::Paint(Surface& surface, const Frame& frame) {
-    if (background_.HasClockPicture()) {
-        background_.DrawBackgroundPicture();
-    } else {
-        surface.Cls(frame.BackColour);
-    }
-    if (dial_.NumbersArePainted()) {
-        dial_.DrawDialNumbers(true, {}, true);
-    }
-    for (const Hand& hand : frame.Hands) {
+void PaintHands(Surface& surface, const HandsFrame& frame) {
+    for (const HandsFrame::Hand& hand : frame.Hands) {
         DrawClockHand(surface, hand.Style, frame.Cx, frame.Cy, hand.Angle, hand.Length, hand.Colour,
                       hand.LineWidth);
     }
     DrawCentrePoint(surface, frame.Cx, frame.Cy, frame.HeadColour);
+}
+
+QRect HandsDifference(const HandsFrame& before, const HandsFrame& now, double devicePixelRatio) {
+    const bool moved = before.Cx != now.Cx || before.Cy != now.Cy;
+    QRect changed;
+    for (std::size_t i = 0; i < now.Hands.size(); ++i) {
+        if (!moved && before.Hands[i] == now.Hands[i]) {
+            continue;
+        }
+        for (const HandsFrame* frame : {&before, &now}) {
+            const HandsFrame::Hand& hand = frame->Hands[i];
+            changed |= HandBounds(hand.Style, frame->Cx, frame->Cy, hand.Angle, hand.Length,
+                                  hand.LineWidth, devicePixelRatio);
+        }
+    }
+    if (moved || before.HeadColour != now.HeadColour || before.Height != now.Height) {
+        changed |= HubBounds(before, devicePixelRatio) | HubBounds(now, devicePixelRatio);
+    }
+    return changed;
 }
 
 }  // namespace drawing

@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QPointF>
 #include <array>
-#include <optional>
 
 #include "drawing/Angles.h"
-#include "drawing/FaceParts.h"
 #include "drawing/Hands.h"
 #include "foundation/ClockProperty.h"
 #include "platform/Machine.h"
@@ -32,22 +31,10 @@ AnalogueLook ReadAnalogueLook(const ClockProperties& properties);
 
 /// The centre of the dial on a surface, before rounding.
 QPointF ClockCentre(const AnalogueLook& look, int scaleWidth, int scaleHeight);
+QPointF ClockCentre(const ClockProperties& properties, int scaleWidth, int scaleHeight);
 
-/// The analogue pass: background, numbers, hands, hub. Every pass leaves the surface as if it had
-/// been painted whole; where only hands have moved, no more than the pixels they touch is painted.
-class AnalogueFace {
-public:
-    AnalogueFace(Dial& dial, Background& background, platform::RandomNumbers& random)
-        : dial_(dial), background_(background), random_(random) {}
-
-    /// @return the part of the surface that may have changed
-    QRect DrawAnalogueClock(Surface& surface, const AnalogueLook& look, const HandTime& time,
-                            int backColour);
-
-    /// Makes the next pass a whole one: the surface has been touched by others.
-    void Invalidate() { last_.reset(); }
-
-private:
+/// All that hands and hub show; two equal frames give equal pixels.
+struct HandsFrame {
     struct Hand {
         HandStyle Style = HandStyle::Unknown;
         double Angle = Pi;
@@ -56,27 +43,21 @@ private:
         int Colour = 0;
         bool operator==(const Hand&) const = default;
     };
-
-    /// All that a pass draws; two equal frames give equal pixels.
-    struct Frame {
-        int Cx = 0, Cy = 0;
-        std::array<Hand, 3> Hands;
-        int HeadColour = 0;
-        int BackColour = 0;
-        int Height = 0;
-        QSize Size;
-    };
-
-    Frame MakeFrame(const Surface& surface, const AnalogueLook& look, const HandTime& time,
-                    int backColour);
-    Hand MakeHand(const HandLook& look, double angle, int diameter);
-    std::optional<QRect> ChangedPart(const Frame& frame) const;
-    void Paint(Surface& surface, const Frame& frame);
-
-    Dial& dial_;
-    Background& background_;
-    platform::RandomNumbers& random_;
-    std::optional<Frame> last_;
+    int Cx = 0, Cy = 0;
+    std::array<Hand, 3> Hands;  ///< hour, minute, second: in the order of painting
+    int HeadColour = 0;
+    int Height = 0;  ///< of the outer window, in twips
+    bool operator==(const HandsFrame&) const = default;
 };
+
+/// Works out where the hands stand at a time, and their colours for this pass.
+HandsFrame MakeHandsFrame(const Surface& surface, const AnalogueLook& look, const HandTime& time,
+                          platform::RandomNumbers& random);
+
+/// Draws the hands in their order, then the hub over their roots.
+void PaintHands(Surface& surface, const HandsFrame& frame);
+
+/// A rectangle that holds every pixel in which two frames may differ.
+QRect HandsDifference(const HandsFrame& before, const HandsFrame& now, double devicePixelRatio);
 
 }  // namespace drawing

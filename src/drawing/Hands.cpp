@@ -92,7 +92,8 @@ void DrawCentrePoint(Surface& surface, int cx, int cy, int colour) {
     }
 }
 
-QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth) {
+QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth,
+                 double /*devicePixelRatio*/) {
     if (length <= 0 || style == HandStyle::Unknown) {
         return {};
     }

@@ -46,6 +46,7 @@ int CentrePointRings(int windowHeightInTwips);
 int ToPoint(double value);
 
 /// A rectangle that holds every pixel of a hand.
-QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth);
+QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth,
+                 double devicePixelRatio = 1);
 
 }  // namespace drawing

@@ -100,6 +100,13 @@ void Surface::CopyFrom(const QImage& image) {
     }
 }
 
+void Surface::CopyTo(QImage& image) const {
+    if (image.size() != image_.size()) {
+        image = QImage(image_.size(), QImage::Format_RGB32);
+    }
+    std::copy_n(pixels_, stride_ * image_.height(), reinterpret_cast<QRgb*>(image.bits()));
+}
+
 void Surface::SetClip(const QRect& rect) {
     clip_ = rect.isNull() ? whole_ : rect & whole_;
 }

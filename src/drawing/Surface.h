@@ -49,6 +49,8 @@ public:
 
     /// Copies the pixels within the clip from a bitmap of the same size and form.
     void CopyFrom(const QImage& image);
+    /// Copies the whole bitmap; one of the right size is used again.
+    void CopyTo(QImage& image) const;
 
     /// The live bitmap: a copy of it shares the pixels and sees what is drawn later.
     const QImage& Image() const { return image_; }

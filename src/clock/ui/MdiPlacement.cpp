@@ -130,6 +130,10 @@ void MdiPlacement::SetWindowState(int state) {
     }
 }
 
+void MdiPlacement::SetWindowRgn(const QRegion& /*outline*/) {}
+
+void MdiPlacement::SetColourKey(bool /*on*/) {}
+
 void MdiPlacement::Show() {
     clock_.show();
     Outer().show();

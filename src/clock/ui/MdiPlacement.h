@@ -36,6 +36,11 @@ public:
     void SetOuterRect(const QRectF& twips);
     void SetOuterSize(const QSizeF& twips);
 
+    /// Gives the outer window an outline, in its device pixels; an empty one takes it away.
+    void SetWindowRgn(const QRegion& outline);
+    /// Whether a stand-alone window lets the desktop through; a child takes no notice.
+    void SetColourKey(bool on);
+
     QMdiSubWindow* Frame() const { return frame_; }
     QWidget& Outer() const;
 

@@ -30,17 +30,36 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       handle_(program.Windows.NewHandle()),
       surface_(std::make_unique<drawing::Surface>(1, 1, 1.0)),
       files_(data_, program, [this](const QString& text) { Status(text); }),
+      styles_(program),
       timClock_(program.Services.Clock.MakeTicker([this] { Tick(); })),
       placement_(*this, area, data_),
+      dial_(Context()),
+      digital_(Context()),
+      calculator_(Context()),
+      background_(Context()),
+      overlays_(Context()),
       face_(data_, controls_, *this, {dial_, digital_, calculator_, background_, overlays_},
             program.Services.Clock, program.Services.Random),
       tick_(data_,
             {*this, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
-             timers_, messages_, sounds_, voice_, spoken_, music_, menus_, styles_},
+             timers_, messages_, sounds_, voice_, spoken_, music_, menus_, *this},
             program.Module, program.Services.Clock) {
     setObjectName(ClockWindowName);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
     program_.Windows.Add(*this);
+}
+
+drawing::FaceContext frmTempolark::Context() {
+    return {data_.Properties(),
+            data_.Zone,
+            controls_,
+            *this,
+            program_.Services.Clock,
+            program_.Services.FileSystem,
+            program_.Services.Random,
+            program_.Module.Pictures,
+            program_.Module.Paths};
 }
 
 frmTempolark::~frmTempolark() {
@@ -130,7 +149,14 @@ void frmTempolark::Activate() {
 }
 
 void frmTempolark::ApplyEnable() {
-    EnableWindow(mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties())));
+    const bool enabled =
+        mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties()));
+    EnableWindow(enabled);
+    for (mduUILib::ControlArray* array : controls_.All()) {
+        for (mduUILib::Control& control : array->Members) {
+            control.Enabled = enabled;
+        }
+    }
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {

@@ -5,12 +5,18 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "drawing/Canvas.h"
 #include "clock/ClockData.h"
 #include "clock/ClockFiles.h"
 #include "clock/ClockTick.h"
 #include "clock/Face.h"
+#include "clock/StyleFiles.h"
 #include "clock/ui/MdiPlacement.h"
+#include "drawing/CalculatorLines.h"
+#include "drawing/Canvas.h"
+#include "drawing/ClockBackground.h"
+#include "drawing/ClockDial.h"
+#include "drawing/ClockOverlays.h"
+#include "drawing/DigitalReadOut.h"
 #include "foundation/Controls.h"
 #include "foundation/Program.h"
 
@@ -19,8 +25,9 @@
 /// window. It owns its parts and routes the tick to them; it decides nothing itself.
 class frmTempolark final : public QWidget,
                            public IClock,
-                           private clockcore::Canvas,
-                           private clockcore::ClockWindow {
+                           private drawing::Canvas,
+                           private clockcore::ClockWindow,
+                           private clockcore::ClockStyles {
 public:
     /// @param shell the shell, or null for a clock that stands alone
     /// @param area the shell's frame for its children; null for a clock that stands alone
@@ -47,9 +54,16 @@ public:
     void SetFocus() override;
     void Unload() override;
     void SetClocks(int mode) override;
+    /// Applies a style file; an empty name or "More" asks for one.
     void SetClockStyle(const QString& styleFile) override;
     void SetWindowBackColour(const QString& value, const QString& caption) override;
+    /// Asks for a colour and makes it the window's.
+    void PickWindowBackColour();
     void SaveCurrentStyle() override;
+    /// Asks for a name and writes the clock's look there, without its zone.
+    void SaveStyleAs();
+    /// Gives the clock's properties to the property window.
+    void SetProperty();
     void RefreshForm(const QString& fileName) override;
     void Refresh() override;
     void LayOutAgain() override;
@@ -69,12 +83,20 @@ public:
     const clockcore::ClockData& Data() const { return data_; }
     const mduUILib::ClockControls& Controls() const { return controls_; }
     const drawing::Surface& PaintedSurface() const { return *surface_; }
+    /// The surface as it is seen: transparent outside the window's outline and, for a clock that
+    /// stands alone, where the colour key lets the desktop through.
+    QImage SeenPicture() const;
+    /// Takes motions and wipes that are under way to their end.
+    void FinishMotions();
     /// One event of `timClock`, now.
     void Tick() { tick_.Tick(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    /// Tab belongs to the calculator.
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -90,9 +112,25 @@ private:
     drawing::Surface& Surface() override { return *surface_; }
     void Present(const QRegion& changed) override;
     bool CanBeSeen() const override;
+    void StillChanged() override { face_.StillChanged(); }
+    void ShowChanges() override { face_.ShowChanges(); }
     int BackColor() const override { return backColour_; }
     int ParentBackColor() const override;
+    bool IsTransparent() const override { return drawStyle_ == 1; }
     void SetTransparent(bool transparent) override { drawStyle_ = transparent ? 1 : 0; }
+    void SetColourKey(bool on) override;
+    QSizeF OuterSize() const override { return placement_.OuterRect().size(); }
+    QPoint SurfaceOffset() const override;
+    void SetWindowRgn(const QRegion& outline) override;
+    void SetIcon(const QImage& picture) override;
+    void ShowStatus(const QString& text) override { Status(text); }
+
+    // Styles.
+    void ApplyNextStyle() override;
+    void StoreFontState();
+    void RequestRedrawNow();
+    void LayOutFace();
+    drawing::FaceContext Context();
 
     // The window, as the tick sees it.
     bool IsMDIChild() const override { return area_ != nullptr; }
@@ -114,6 +152,8 @@ private:
     std::unique_ptr<drawing::Surface> surface_;
     int backColour_ = 0xFFFFFF;
     int drawStyle_ = 0;
+    bool colourKey_ = false;
+    QRegion outline_;  ///< of the outer window, in device pixels; empty for a plain rectangle
     bool locked_ = false;
     QRegion lockedChanges_;
     QRegion presented_;  ///< changes of our own that wait to be painted
@@ -121,14 +161,15 @@ private:
     clockcore::ClockData data_;
     mduUILib::ClockControls controls_;
     clockcore::ClockFiles files_;
+    clockcore::StyleFiles styles_;
     std::unique_ptr<platform::Ticker> timClock_;
 
     clockcore::MdiPlacement placement_;
-    drawing::Dial dial_;
-    drawing::DigitalClock digital_;
-    drawing::CalculatorClock calculator_;
-    drawing::Background background_;
-    drawing::Overlays overlays_;
+    drawing::ClockDial dial_;
+    drawing::DigitalReadOut digital_;
+    drawing::CalculatorLines calculator_;
+    drawing::ClockBackground background_;
+    drawing::ClockOverlays overlays_;
     timers::TimerSlots timers_;
     timers::MessageChannel messages_;
     timers::ClockSounds sounds_;
@@ -136,7 +177,6 @@ private:
     speech::SpokenTime spoken_;
     speech::ClockMusic music_;
     clockcore::ClockMenus menus_;
-    clockcore::ClockStyles styles_;
     clockcore::Face face_;
     clockcore::ClockTick tick_;
 };

@@ -1,18 +1,29 @@
-// The clock's window as a canvas, and the operations that change its look.
+// The clock's window as a canvas: its surface, and how that comes to the screen.
+#include <QBitmap>
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
+#include <QPixmap>
 
-#include "clock/ClockMode.h"
 #include "clock/ui/frmTempolark.h"
+#include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
-#include "foundation/PropertyFile.h"
-#include "foundation/PropertyLookup.h"
-#include "timezones/ZoneKeys.h"
 
-using namespace Qt::StringLiterals;
 using clockcore::ClockState;
+
+namespace {
+
+/// The picture with its pure white pixels see-through.
+QImage WithColourKey(const QImage& picture) {
+    QImage keyed = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < keyed.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(keyed.scanLine(y));
+        std::replace(row, row + keyed.width(), qRgb(255, 255, 255), qRgba(255, 255, 255, 0));
+    }
+    return keyed;
+}
+
+}  // namespace
 
 QSize frmTempolark::SurfaceSize() const {
     const double ratio = devicePixelRatioF();
@@ -25,13 +36,22 @@ void frmTempolark::resizeEvent(QResizeEvent*) {
     surface_ = std::make_unique<drawing::Surface>(size.width(), size.height(), devicePixelRatioF());
     surface_->SetHeight(mduAPILib::RoundToInteger(placement_.OuterRect().height()));
     surface_->Cls(backColour_);
-    face_.Invalidate();
+    face_.StillChanged();
     const bool running =
         data_.State == ClockState::Running || data_.State == ClockState::RedrawRequested;
     if (running) {
+        LayOutFace();
         tick_.RequestRedraw();
         face_.DrawClockFace();
     }
+}
+
+// So that the face follows the mouse that drags the window's edge; the redraw at the next tick
+// comes all the same.
+void frmTempolark::LayOutFace() {
+    background_.ApplySurface();
+    dial_.DrawDialNumbers(data_.IsAnalogue(), {}, false);
+    overlays_.LayOutOverlays();
 }
 
 // The surface holds the whole picture. A part that we did not change ourselves has come to light:
@@ -43,11 +63,30 @@ void frmTempolark::paintEvent(QPaintEvent* event) {
         tick_.RequestRedraw();
     }
     QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    const bool keyed = colourKey_ && !IsMDIChild();
+    const QImage seen = keyed ? WithColourKey(surface_->Image()) : QImage();
     const double ratio = devicePixelRatioF();
     for (const QRect& part : event->region()) {
         const QRectF source(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
-        painter.drawImage(QRectF(part), surface_->Image(), source);
+        painter.drawImage(QRectF(part), keyed ? seen : surface_->Image(), source);
     }
+}
+
+QImage frmTempolark::SeenPicture() const {
+    const QImage picture = colourKey_ && !IsMDIChild()
+                               ? WithColourKey(surface_->Image())
+                               : surface_->Image().convertToFormat(QImage::Format_ARGB32);
+    if (outline_.isEmpty()) {
+        return picture;
+    }
+    QImage seen(picture.size(), QImage::Format_ARGB32);
+    seen.fill(Qt::transparent);
+    QPainter painter(&seen);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.setClipRegion(outline_.translated(-SurfaceOffset()));
+    painter.drawImage(0, 0, picture);
+    return seen;
 }
 
 void frmTempolark::Present(const QRegion& changed) {
@@ -75,6 +114,28 @@ int frmTempolark::ParentBackColor() const {
     return shell_ != nullptr ? shell_->BackColor() : mduUILib::TransparentKey;
 }
 
+QPoint frmTempolark::SurfaceOffset() const {
+    const QWidget* frame = placement_.Frame();
+    return frame != nullptr ? (QPointF(mapTo(frame, QPoint(0, 0))) * devicePixelRatioF()).toPoint()
+                            : QPoint(0, 0);
+}
+
+void frmTempolark::SetWindowRgn(const QRegion& outline) {
+    outline_ = outline;
+    placement_.SetWindowRgn(outline);
+}
+
+void frmTempolark::SetColourKey(bool on) {
+    colourKey_ = on;
+    placement_.SetColourKey(on);
+}
+
+void frmTempolark::SetIcon(const QImage& picture) {
+    const QImage icon =
+        picture.isNull() ? *drawing::GetStockPicture(drawing::StockPicture::Clock) : picture;
+    placement_.Outer().setWindowIcon(QPixmap::fromImage(icon));
+}
+
 void frmTempolark::Cls() {
     surface_->Cls(backColour_);
     face_.Invalidate();
@@ -99,11 +160,11 @@ void frmTempolark::HideHandShapes() {
 
 void frmTempolark::SetBackColor(int colour) {
     backColour_ = colour;
-    face_.Invalidate();
+    face_.StillChanged();
 }
 
 void frmTempolark::Refresh() {
-    face_.Invalidate();
+    face_.StillChanged();
     face_.DrawClockFace();
 }
 
@@ -113,71 +174,7 @@ void frmTempolark::LayOutAgain() {
     }
 }
 
-void frmTempolark::SetClocks(int mode) {
-    data_.Tag = QString::number(mode);
-    mduLib::PutProperty(u"Clocks"_s, clockcore::ClockModeName(mode), data_.EditProperties());
-    background_.ApplyTransparency();
-    face_.PrepareClockFace();
-    face_.ReadDigitalFormat();
-    tick_.RequestRedraw();
-}
-
-void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
-    const QString colour = mduUILib::IsCustomColour(caption) ? value : caption;
-    mduLib::PutProperty(u"Window Background Colour"_s, colour, data_.EditProperties());
-    face_.ApplyWindowBackground();
-    controls_.picFrame(1).ForeColor = backColour_;
-    Refresh();
-}
-
-void frmTempolark::SaveCurrentStyle() {
-    program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
-    if (!files_.MayWrite()) {
-        return;
-    }
-    mduLib::PutProperty(u"Window State"_s, mduUILib::WindowStateName(WindowState()),
-                        data_.EditProperties());
-    mduLib::WritePropertyFile(program_.Services.FileSystem, data_.Properties(),
-                              data_.PropertyFileName);
-    if (WindowState() == 0) {
-        files_.SavePosition(placement_.OuterRect());
-    }
-}
-
-void frmTempolark::SetClockStyle(const QString& styleFile) {
-    const platform::Files& files = program_.Services.FileSystem;
-    ClockProperties style;
-    if (!files.Exists(styleFile) || !mduLib::ReadPropertyFile(files, styleFile, style)) {
-        return;
-    }
-    for (const QString& key : mduTimeZones::ZoneKeys()) {
-        mduLib::PutProperty(key, mduLib::GetProperty(key, data_.Properties()), style);
-    }
-    program_.Module.CurrentProperties = style;
-    SetWindowState(0);
-    RefreshForm({});
-}
-
-void frmTempolark::RefreshForm(const QString& fileName) {
-    data_.EditProperties() = program_.Module.CurrentProperties;
-    if (!fileName.isEmpty()) {
-        program_.Module.Paths.CurrentPropertyFile = fileName;
-    }
-    voice_.PrepareSpeaker();
-    files_.RefreshZone();
-    data_.State = ClockState::RedrawRequested;
-    placement_.SetClockCaption();
-    placement_.ApplyWindowRect();
-    placement_.ApplyWindowBorder();
-    placement_.ApplyTitleBar();
-    placement_.ApplyWindowState();
-    data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
-    face_.PrepareClockFace();
-    face_.ApplyWindowBackground();
-    background_.LoadClockPicture();
-    background_.SetWindowShape();
-    background_.SetClockShape();
-    ApplyEnable();
-    overlays_.LoadFlag();
-    overlays_.SetFlagPosition();
+void frmTempolark::FinishMotions() {
+    digital_.FinishMotion();
+    background_.FinishWipe();
 }

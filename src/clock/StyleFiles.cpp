@@ -1,0 +1,82 @@
+#include "clock/StyleFiles.h"
+
+#include "clock/ClockFiles.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "foundation/PropertyMerge.h"
+#include "timezones/ZoneKeys.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+namespace {
+
+/// Whether a file has anything of a clock's look in it: a text that has not would leave every
+/// value of the clock at 0.
+bool IsStyle(const ClockProperties& style) {
+    return mduLib::FindPropertyRow(u"Clocks"_s, style) > 0 ||
+           mduLib::FindPropertyRow(u"Hour Hand Style"_s, style) > 0 ||
+           mduLib::FindPropertyRow(u"Window Background Colour"_s, style) > 0;
+}
+
+const ClockProperties& WhicheverHas(const QString& key, const ClockProperties& first,
+                                    const ClockProperties& second) {
+    return mduLib::FindPropertyRow(key, first) > 0 ? first : second;
+}
+
+}  // namespace
+
+std::optional<ClockProperties> StyleFiles::Read(const QString& styleFile, const QString& clockFile,
+                                                const ClockProperties& present,
+                                                QString& problem) const {
+    platform::Files& files = program_.Services.FileSystem;
+    if (!mduLib::FileExists(files, styleFile)) {
+        return std::nullopt;
+    }
+    ClockProperties style;
+    const bool isText = mduLib::MayRewrite(files, styleFile);
+    if (!isText || !mduLib::ReadPropertyFile(files, styleFile, style) || !IsStyle(style)) {
+        problem = styleFile + u" is no clock style"_s;
+        return std::nullopt;
+    }
+    const QString defaults = program_.Module.Paths.ZoneDefaultFile();
+    if (mduLib::IsOlderThan(files, styleFile, defaults) &&
+        mduLib::MergePropertyFile(files, styleFile, defaults, styleFile)) {
+        style.Reset();
+        mduLib::ReadPropertyFile(files, styleFile, style);
+    }
+    ClockProperties own;
+    mduLib::ReadPropertyFile(files, clockFile, own);
+    for (const QString& key : mduTimeZones::ZoneKeys()) {
+        mduLib::PutProperty(key, mduLib::GetProperty(key, WhicheverHas(key, own, present)), style);
+    }
+    return style;
+}
+
+QString StyleFiles::SavePath(const QString& chosen) {
+    const QString native = mduLib::ToNativePath(chosen);
+    if (native.endsWith(u"/.ini"_s, Qt::CaseInsensitive)) {
+        return native.chopped(4) + u"unknown.ini"_s;
+    }
+    return mduLib::AddIniExtension(native);
+}
+
+bool StyleFiles::Write(const QString& path, ClockProperties look, const QRectF& twips) const {
+    for (const QString& key : mduTimeZones::ZoneKeys()) {
+        mduLib::PutProperty(key, {}, look);
+    }
+    for (const auto& [name, value] : PlaceValues(twips)) {
+        mduLib::PutProperty(name, value, look);
+    }
+    return mduLib::WritePropertyFile(program_.Services.FileSystem, look, path);
+}
+
+QStringList StyleFiles::Names() const {
+    return mduLib::ListFolderFiles(program_.Services.FileSystem, program_.Module.Paths.StylesFolder,
+                                   u".ini"_s, u"@"_s)
+        .split(u'@', Qt::SkipEmptyParts);
+}
+
+}  // namespace clockcore

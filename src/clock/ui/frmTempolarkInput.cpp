@@ -1,0 +1,64 @@
+// Keys of the clock's window.
+#include <QKeyEvent>
+
+#include "clock/ClockMode.h"
+#include "clock/ui/frmTempolark.h"
+
+namespace {
+
+/// The calculator's code of a key: that of a control key, or of the character typed. 0 for a key
+/// that means nothing to it.
+int CalculatorKey(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return 9;
+        case Qt::Key_Backspace:
+            return 8;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return 13;
+        case Qt::Key_Escape:
+            return 27;
+        case Qt::Key_Left:
+            return 37;
+        case Qt::Key_Right:
+            return 39;
+        case Qt::Key_Insert:
+            return 45;
+        case Qt::Key_Delete:
+            return 46;
+        default:
+            break;
+    }
+    // Four signs share their codes with keys above; no date or time needs them.
+    const QString text = event.text();
+    const int code = text.isEmpty() || !text[0].isPrint() ? 0 : text[0].unicode();
+    return code == 37 || code == 39 || code == 45 || code == 46 ? 0 : code;
+}
+
+bool IsPlain(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
+    return others == Qt::NoModifier || others == Qt::ShiftModifier;
+}
+
+}  // namespace
+
+void frmTempolark::keyPressEvent(QKeyEvent* event) {
+    const int key = IsPlain(*event) ? CalculatorKey(*event) : 0;
+    if (data_.Is(clockcore::CalculatorInput) && key != 0) {
+        if (!calculator_.EditCalculatorKey(key)) {
+            data_.Tag = QString::number(clockcore::Calculator);
+        }
+    } else if (data_.Is(clockcore::Calculator) && key == 9) {
+        data_.Tag = QString::number(clockcore::CalculatorInput);
+        calculator_.BeginInput();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+bool frmTempolark::focusNextPrevChild(bool next) {
+    const bool takesTab = data_.Is(clockcore::Calculator) || data_.Is(clockcore::CalculatorInput);
+    return !takesTab && QWidget::focusNextPrevChild(next);
+}

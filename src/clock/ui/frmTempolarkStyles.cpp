@@ -1,0 +1,184 @@
+// The operations that change a clock's look as a whole.
+#include "clock/ClockMode.h"
+#include "clock/ui/frmTempolark.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+
+using namespace Qt::StringLiterals;
+using clockcore::ClockState;
+
+namespace {
+
+const QString IniFilter = u"Ini File (*.ini)"_s;
+
+}  // namespace
+
+void frmTempolark::SetProperty() {
+    program_.Module.CurrentProperties = data_.Properties();
+}
+
+void frmTempolark::SetClocks(int mode) {
+    const QString name = clockcore::ClockModeName(mode);
+    if (name.isEmpty()) {
+        return;
+    }
+    data_.Tag = QString::number(mode);
+    mduLib::PutProperty(u"Clocks"_s, name, data_.EditProperties());
+    face_.ApplyWindowBackground();
+    face_.PrepareClockFace();
+    face_.ReadDigitalFormat();
+    overlays_.LayOutOverlays();
+    RequestRedrawNow();
+}
+
+// The face is shown at once; the redraw at the next tick comes all the same.
+void frmTempolark::RequestRedrawNow() {
+    if (data_.State == ClockState::Running || data_.State == ClockState::RedrawRequested) {
+        tick_.RequestRedraw();
+        face_.DrawClockFace();
+    }
+}
+
+void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
+    SetTransparent(false);
+    const QString colour = mduUILib::IsCustomColour(caption) ? value : caption;
+    mduLib::PutProperty(u"Window Background Colour"_s, colour, data_.EditProperties());
+    face_.ApplyWindowBackground();
+    dial_.DrawDialNumbers(data_.IsAnalogue(), {}, true);
+    Refresh();
+}
+
+void frmTempolark::PickWindowBackColour() {
+    const int colour = program_.Services.Dialog.PickColour(backColour_);
+    if (colour >= 0) {
+        SetWindowBackColour(QString::number(colour), u"Custom"_s);
+    }
+}
+
+void frmTempolark::SetClockStyle(const QString& styleFile) {
+    QString name = styleFile;
+    if (name.isEmpty() || name == u"More"_s) {
+        name = program_.Services.Dialog.OpenFile(u"Clock Styles"_s,
+                                                 program_.Module.Paths.StylesFolder, IniFilter);
+    }
+    QString problem;
+    const std::optional<ClockProperties> style =
+        styles_.Read(name, data_.PropertyFileName, data_.Properties(), problem);
+    if (!problem.isEmpty()) {
+        Status(problem);
+    }
+    // Without a style the steps below apply what the clock has.
+    program_.Module.CurrentProperties = style.value_or(data_.Properties());
+    SetWindowState(0);
+    RefreshForm({});
+    overlays_.LayOutOverlays();
+    if (data_.IsAnalogue()) {
+        dial_.DrawDialNumbers(true, {}, true);
+    }
+    RequestRedrawNow();
+}
+
+void frmTempolark::ApplyNextStyle() {
+    const QStringList names = styles_.Names();
+    if (names.isEmpty()) {
+        return;
+    }
+    int& index = data_.Dial.StyleIndex;
+    index = index + 1 >= names.size() ? 0 : index + 1;
+    SetClockStyle(program_.Module.Paths.StylesFolder + names[index]);
+}
+
+// "Clock Special" and all that was chosen by name is in the properties already; places and fonts
+// may have been changed on the face itself.
+void frmTempolark::StoreFontState() {
+    ClockProperties& properties = data_.EditProperties();
+    const mduUILib::Control& location = controls_.lblLocation(1);
+    const auto storePlace = [&](const QString& key, float place) {
+        if (mduAPILib::Val(mduLib::GetProperty(key, properties)) != -1) {
+            const double logical = static_cast<double>(place) / devicePixelRatioF();
+            mduLib::PutProperty(key, mduAPILib::SingleText(static_cast<float>(logical)),
+                                properties);
+        }
+    };
+    if (location.Visible) {
+        storePlace(u"Time Zone Name Left"_s, location.Left);
+        storePlace(u"Time Zone Name Top"_s, location.Top);
+    }
+    const QString numberFont = controls_.lblHour(60).Font.family();
+    if (data_.IsAnalogue() && controls_.lblHour(60).Visible && !numberFont.isEmpty()) {
+        mduLib::PutProperty(u"Hour Number Font"_s, numberFont, properties);
+    }
+}
+
+void frmTempolark::SaveCurrentStyle() {
+    program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
+    if (!files_.MayWrite()) {
+        Status(data_.PropertyFileName +
+               u" can't be read as a property file; it is left as it is"_s);
+        return;
+    }
+    mduLib::PutProperty(u"Window State"_s, mduUILib::WindowStateName(WindowState()),
+                        data_.EditProperties());
+    if (WindowState() == 0) {
+        files_.StorePosition(placement_.OuterRect());
+    }
+    StoreFontState();
+    if (!mduLib::WritePropertyFile(program_.Services.FileSystem, data_.Properties(),
+                                   data_.PropertyFileName)) {
+        Status(data_.PropertyFileName + u" can't be written"_s);
+        return;
+    }
+    if (WindowState() == 0) {
+        files_.SavePosition(placement_.OuterRect());
+    }
+}
+
+void frmTempolark::SaveStyleAs() {
+    const QString chosen = program_.Services.Dialog.SaveFile(
+        u"Save Style As"_s, program_.Module.Paths.StylesFolder, IniFilter);
+    if (chosen.isEmpty()) {
+        return;
+    }
+    const QString path = clockcore::StyleFiles::SavePath(chosen);
+    if (!styles_.Write(path, data_.Properties(), placement_.OuterRect())) {
+        Status(path + u" can't be written"_s);
+    }
+}
+
+void frmTempolark::RefreshForm(const QString& fileName) {
+    const bool loaded = data_.State != ClockState::FirstTickDue;
+    data_.EditProperties() = program_.Module.CurrentProperties;
+    if (!fileName.isEmpty()) {
+        program_.Module.Paths.CurrentPropertyFile = fileName;
+    }
+    voice_.PrepareSpeaker();
+    files_.RefreshZone();
+    controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
+    data_.State = ClockState::RedrawRequested;
+    placement_.SetClockCaption();
+    placement_.ApplyWindowRect();
+    placement_.ApplyWindowBorder();
+    placement_.ApplyTitleBar();
+    placement_.ApplyWindowState();
+    data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
+    face_.PrepareClockFace();
+    if (data_.Is(clockcore::Digital) || data_.Is(clockcore::AnalogueAndDigital)) {
+        digital_.SetDigitalLayout();
+    }
+    face_.ApplyWindowBackground();
+    background_.LoadClockPicture();
+    background_.LoadWindowPicture(true);
+    background_.SetWindowShape();
+    background_.SetClockShape();
+    ApplyEnable();
+    overlays_.LoadFlag();
+    overlays_.LayOutOverlays();
+    if (loaded) {
+        face_.DrawClockFace();
+    } else {
+        data_.State = ClockState::FirstTickDue;  // which still has to make the window
+    }
+}
