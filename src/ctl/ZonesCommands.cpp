@@ -6,6 +6,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/SetupPaths.h"
 #include "timezones/ZoneArithmetic.h"
+#include "timezones/ZoneConversion.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -118,6 +119,16 @@ int NameAt(Context& context) {
     return Done;
 }
 
+int Convert(Context& context) {
+    bool saved = true;
+    const TimeZoneRecord record = RecordAskedFor(context, saved);
+    const QString text =
+        mduTimeZones::ConvertZoneTime(context.Arguments[1], !context.HasOption(u"--from-zone"_s),
+                                      record, context.Services.Clock.Now());
+    PrintJson(QJsonDocument(QJsonObject{{u"text"_s, text}}));
+    return Done;
+}
+
 std::optional<int> ShortInteger(const Context& context, int index) {
     const std::optional<int> number = context.Integer(index);
     return number && *number == static_cast<std::int16_t>(*number) ? number : std::nullopt;
@@ -173,6 +184,7 @@ std::vector<Command> ZonesCommands() {
         {group, u"local"_s, {}, 0, 0, {}, Local},
         {group, u"show"_s, u"NAME [--file INI]"_s, 1, 1, {u"--file="_s}, Show},
         {group, u"name-at"_s, u"NAME DATETIME"_s, 2, 2, {}, NameAt},
+        {group, u"convert"_s, u"NAME TEXT [--from-zone]"_s, 2, 2, {u"--from-zone"_s}, Convert},
         {group, u"rule"_s, u"OCCURRENCE WEEKDAY MONTH"_s, 3, 3, {}, Rule},
     };
 }

@@ -1,22 +1,59 @@
 #pragma once
 
+#include <QTime>
+
+#include "drawing/Angles.h"
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
+#include "drawing/LabelMotion.h"
 
 namespace drawing {
 
-/// The digital read-out: six labels that are placed and moved each for itself.
+/// A time in the form of `lblClock`: "hh", "mm" and "ss" are two digits each, the hour from 00 to
+/// 23, and "ampm" is "AM" or "PM". A quarter past three in "hh:mm ampm" is "15:15 PM".
+QString DigitalCaption(const QString& format, const QTime& time);
+
+/// The digital read-out: six labels that are placed and moved each for itself. `lblClock`, which
+/// is never seen, gives them their text, font and place.
 class DigitalReadOut final : public DigitalClock {
 public:
-    explicit DigitalReadOut(const FaceContext& face) : face_(face) {}
+    explicit DigitalReadOut(const FaceContext& face);
 
     void DrawDigitalClock(const QString& format) override;
+
+    /// Fills the digits with the present time and lays them out by the properties. "Clock Special"
+    /// is read here, not at each second.
     void SetDigitalLayout() override;
+
     void HideDigitalClock() override;
     void FinishMotion() override;
 
+    /// The font size of the properties, in points: at least 4; -1 is worked out from the width of
+    /// the window.
+    int GetDigitalFontSize() const;
+
+    /// How far the labels bounce, in pixels.
+    int GetDigitalTravel() const;
+
 private:
+    QString Value(const QString& key) const;
+    HandTime WriteCaption(const QString& format);
+    void Fill(const QString& format);
+    void Show(int label, bool visible, const QString& caption);
+    void SetFonts();
+    void SetSizes();
+    void PlaceModel();
+    void LineUp(bool backward);
+    void Stack();
+    void Animate();
+    LabelSteps Steps(double amplitude, int pause, int mode) const;
+
+    mduUILib::Control& Model() const { return face_.Controls.lblClock(1); }
+    mduUILib::ControlArray& Labels() const { return face_.Controls.lblDigitalNumber; }
+
     FaceContext face_;
+    LabelMotion motion_;
+    QString special_;  ///< "Clock Special", as the layout has read it
 };
 
 }  // namespace drawing

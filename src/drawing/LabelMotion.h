@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QDateTime>
+#include <memory>
+#include <vector>
+
+#include "drawing/Canvas.h"
+#include "foundation/Controls.h"
+#include "platform/Machine.h"
+#include "platform/WallClock.h"
+
+namespace drawing {
+
+/// One step of a motion: after a pause, some labels take new places.
+struct LabelStep {
+    struct Place {
+        int Label = 1;
+        float Top = 0;
+        bool operator==(const Place&) const = default;
+    };
+
+    int Delay = 0;  ///< milliseconds since the step before
+    std::vector<Place> Places;
+    bool operator==(const LabelStep&) const = default;
+};
+
+using LabelSteps = std::vector<LabelStep>;
+
+/// The steps that move @p count labels up and down around @p base, @p pause milliseconds apart (a
+/// pause of 0 counts as 1). Seeds the random numbers.
+///
+/// | mode | motion |
+/// |---|---|
+/// | 0 | all to the base, at once |
+/// | 1 | one label a step, along an uneven arc |
+/// | 2 | each to a random place below the base, at once |
+/// | 3 | all together, one whole sine in 51 steps |
+/// | 4 | a wave travels through the row in 50 steps, of which the first comes at once |
+///
+/// Any other mode moves nothing.
+LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, int mode,
+                         platform::RandomNumbers& random);
+
+/// Plays the steps of a motion by the clock, each with `ShowChanges`. Steps that are overdue are
+/// played together, so that a busy machine does not lag behind.
+class LabelMotion {
+public:
+    LabelMotion(mduUILib::ControlArray& labels, Canvas& window, platform::WallClock& clock)
+        : labels_(labels), window_(window), clock_(clock) {}
+
+    /// Begins a motion; one that is under way is taken to its end first. Where nobody can see the
+    /// window the labels take their last places at once. What is due at once is left for the pass
+    /// that is under way to show.
+    void Play(LabelSteps steps);
+
+    /// Takes the motion to its last step at once, and shows nothing.
+    /// @return whether there was one
+    bool Finish();
+
+private:
+    void PlayDue();
+    void PlayNext();
+    void Wait();
+
+    mduUILib::ControlArray& labels_;
+    Canvas& window_;
+    platform::WallClock& clock_;
+    std::unique_ptr<platform::Ticker> ticker_;  // made for the first motion
+    LabelSteps steps_;
+    std::size_t next_ = 0;
+    QDateTime due_;  // of the next step
+};
+
+}  // namespace drawing
