@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+
+#include "drawing/Canvas.h"
+#include "drawing/DialNumbers.h"
+#include "foundation/ClockProperty.h"
+
+namespace drawing {
+
+/// The "Clock Special" that gives the numbers other colours at each pass.
+inline constexpr QLatin1StringView RandomNumberColour("Analogue Hour Number Random Colour");
+
+/// All that a dial's layout follows from, read once for each layout: the properties, and the size
+/// of the window. Measures are in device pixels unless told otherwise.
+struct DialLook {
+    NumberStyle Style;
+    QString ClockSpecial;
+    QString NumberColour;  ///< a colour name
+    QString NumberFont;
+    int NumberSize = -1;  ///< of captions, in points; -1 for a size that follows the surface
+    int NumberRadius = 0;
+    QString SpotStyle;
+    int SpotSize = 0;
+    int SpotRadius = 0;
+    QString SpotImageFile;  ///< as the property holds it
+    QPointF Centre;         ///< before rounding
+    double LogicalHeight = 0;
+    double OuterHeight = 0;  ///< of the window, in twips
+    double Ratio = 1;        ///< device pixels to a logical pixel
+
+    bool IsBackward() const;
+    bool IsRecoloured() const { return ClockSpecial == RandomNumberColour; }
+    bool IsRandomColour() const;  ///< the colour of the numbers is "Random"
+
+    /// The point of the number ring where an index stands. A shadow's ring lies 2 logical pixels to
+    /// the left and 3 down, less on small clocks.
+    QPointF NumberPoint(int index, bool shadow) const;
+
+    /// The square of a spot. Half of its size is taken off twice: spots stand up and to the left of
+    /// their ring.
+    QRectF SpotPlace(int index) const;
+
+private:
+    QPointF NumberCentre(bool shadow) const;
+};
+
+/// An empty @p style means that of the properties.
+DialLook ReadDialLook(const ClockProperties& properties, Canvas& window, const QString& style);
+
+}  // namespace drawing

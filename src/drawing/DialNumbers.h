@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+
+#include "drawing/FontText.h"
+
+/// Where everything on a dial stands, worked out from plain values. An index runs from 1 to 60 and
+/// stands at that minute, 60 at twelve o'clock; an hour runs from 1 to 12 and stands at index
+/// hour * 5. Special faces go by the exact value of "Clock Special".
+namespace drawing {
+
+/// What an "Hour Number Style" says. The words are sought anywhere in the text, letter case aside:
+/// how the numbers look ("True Roman", "Roman", "3D", in this order; else captions), and which of
+/// them there are ("12", "Cross 4", "Horizontal 2", "Vertical 2"). A text without a word of the
+/// second kind numbers nothing, nor does "No Numbers".
+class NumberStyle {
+public:
+    enum class Look { Caption, Roman, TrueRoman, Digits3D };
+
+    explicit NumberStyle(const QString& text);
+
+    Look NumberLook() const { return look_; }
+    bool IsPainted() const { return look_ != Look::Caption; }
+    bool HasShadow() const { return hasShadow_; }  ///< the text holds "3D"
+
+    /// Whether an index takes part. Those between the hours go with the nearest hour, half to even:
+    /// with "Cross 4" the indexes 13 to 17 take part with hour 3.
+    bool IsNumbered(int index) const;
+
+    /// Whether the caption of an hour may be seen.
+    bool ShowsCaption(int hour) const;
+
+private:
+    bool Has(QLatin1StringView word) const { return text_.contains(word, Qt::CaseInsensitive); }
+
+    QString text_;
+    bool isNone_;
+    bool hasShadow_;
+    Look look_;
+};
+
+/// The angle of an index, as in `Angles.h`. A special face folds or mirrors the dial as it does
+/// with the hands; which hour then stands where is not corrected.
+double DialAngle(int index, const QString& clockSpecial);
+
+/// The size of a caption in points. @p scaleHeight is the surface's height in logical pixels, which
+/// worked-out sizes follow, in whole points, 4 at least; @p hourNumberSize is used as it stands
+/// unless it is -1 or a special face has a size of its own.
+int CaptionSize(int index, const QString& clockSpecial, double scaleHeight, int hourNumberSize);
+
+/// Whether a "Minute Spot Style" wants a spot at an index.
+bool WantsSpot(const QString& style, int index);
+
+/// A spot's side in device pixels: @p minuteSpotSize in logical pixels, or by itself when that is
+/// -1. No spot has a size below 0.
+int SpotSize(int minuteSpotSize, int scaleHeight, double devicePixelRatio);
+
+/// The time a spot stands for: "1:12" at index 6.
+QString SpotTime(int index);
+
+/// A number that is painted as text.
+struct PaintedNumber {
+    QString Text;
+    double X = 0, Y = 0;  ///< where printing starts
+    LogFont Font;
+    int Colour = 0;
+};
+
+/// Places painted numbers. Their size follows the window's outer height, not the properties.
+class NumberPlacing {
+public:
+    /// @param height the window's outer height in twips
+    /// @param isBackward whether the dial is mirrored, which moves two numbers
+    NumberPlacing(const NumberStyle& style, double height, double devicePixelRatio,
+                  bool isBackward);
+
+    int Height() const { return height_; }  ///< of the font, in device pixels
+    int Width() const { return width_; }    ///< of the font, in device pixels
+
+    /// The number of an hour that stands at a point of the ring; its colour is left to the caller.
+    PaintedNumber Place(int hour, QPointF at) const;
+
+    /// The rectangle that takes the clicks for a number at that point.
+    QRectF ClickArea(QPointF at) const;
+
+private:
+    QPoint Base(QPointF at) const;
+
+    NumberStyle::Look look_;
+    int height_;
+    int width_;
+    bool isBackward_;
+};
+
+}  // namespace drawing
