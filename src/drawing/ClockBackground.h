@@ -1,15 +1,28 @@
 #pragma once
 
+#include <QPainterPath>
+#include <QSet>
+#include <optional>
+
+#include "drawing/BackgroundWipe.h"
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
+#include "drawing/Shapes.h"
+
+class QPainter;
 
 namespace drawing {
 
 /// What lies under and around the hands: colour, pictures, shapes, transparency, and the pictures
 /// that change by themselves.
+///
+/// The dial picture is `imgClock(1)`; `imgClock(0)` holds the next one while a wipe brings it in.
+/// The window's picture is `picFrame(1)`: a mat over the whole surface. A "Clock Shape" cuts the
+/// dial picture to that figure around the clock's centre.
 class ClockBackground final : public Background {
 public:
-    explicit ClockBackground(const FaceContext& face) : face_(face) {}
+    explicit ClockBackground(const FaceContext& face);
+    Q_DISABLE_COPY_MOVE(ClockBackground)
 
     void LoadClockPicture() override;
     void LoadWindowPicture(bool force) override;
@@ -23,7 +36,48 @@ public:
     void FinishWipe() override;
 
 private:
+    using Picture = std::shared_ptr<const QImage>;
+
+    /// How the dial picture lies on a surface of some size; read from the properties.
+    struct Placing {
+        QSize Surface;
+        QRect Box;          ///< of the picture
+        QPainterPath Hole;  ///< what is seen of it; empty means all
+        int Brightness = 100;
+    };
+
+    QString Property(const QString& name) const;
+    QString PathOf(const QString& name) const;
+    Picture LoadNamed(const QString& path);
+    void TakeClockPicture(const Picture& picture);
+    WindowMeasures Measures() const;
+    void UpdateColourKey();
+
+    void Place(const Surface& surface) const;
+    QRect PictureBox(const Surface& surface) const;
+    bool CoversAll(const Picture& picture) const;
+    void PaintWipe(QPainter& painter, double devicePixelRatio) const;
+    void PaintLayers(QPainter& painter, const Picture& dial, Picture& stretched) const;
+    void PaintDial(QPainter& painter, const Picture& dial, Picture& stretched) const;
+
+    struct Candidates {
+        QString Folder;
+        QStringList Names;
+    };
+    Candidates FindCandidates() const;
+    Picture NextPicture();
+    void WipeStepped();
+
     FaceContext face_;
+    BackgroundWipe wipe_;
+    QString shown_;       // the file of the dial picture
+    int wipeMode_ = 0;    // of the last change
+    QSet<QString> told_;  // the files that the user knows to be unreadable
+    std::optional<WindowMeasures> shaped_;
+
+    // What painting has worked out, kept so that a repaint is one copy.
+    mutable Placing placing_;
+    mutable Picture dial_, next_, mat_;
 };
 
 }  // namespace drawing
