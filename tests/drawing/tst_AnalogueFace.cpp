@@ -5,38 +5,22 @@
 #include "support/FakeServices.h"
 
 using namespace Qt::StringLiterals;
-using drawing::AnalogueFace;
 using drawing::AnalogueLook;
 using drawing::HandTime;
 using drawing::Surface;
 
 constexpr int White = 0xFFFFFF;
 
-/// Parts of the face that write down how they are called.
-struct RecordingDial final : drawing::Dial {
-    QStringList& Calls;
-    bool Painted = false;
-    explicit RecordingDial(QStringList& calls) : Calls(calls) {}
-    void DrawDialNumbers(bool, const QString&, bool) override { Calls += u"numbers"_s; }
-    void RecolourNumbers() override { Calls += u"recolour"_s; }
-    bool NumbersArePainted() const override { return Painted; }
-};
-
-struct RecordingBackground final : drawing::Background {
-    QStringList& Calls;
-    bool HasPicture = false;
-    explicit RecordingBackground(QStringList& calls) : Calls(calls) {}
-    bool HasClockPicture() const override { return HasPicture; }
-    void DrawBackgroundPicture() override { Calls += u"picture"_s; }
-};
-
 class tst_AnalogueFace : public QObject {
     Q_OBJECT
 
-    QStringList calls_;
-    RecordingDial dial_{calls_};
-    RecordingBackground background_{calls_};
     FakeRandom random_;
+
+    /// The hands and their hub on white.
+    void Draw(Surface& surface, const AnalogueLook& look, const HandTime& time) {
+        surface.Cls(White);
+        drawing::PaintHands(surface, drawing::MakeHandsFrame(surface, look, time, random_));
+    }
 
     static AnalogueLook Look() {
         AnalogueLook look;
@@ -49,12 +33,6 @@ class tst_AnalogueFace : public QObject {
     }
 
 private Q_SLOTS:
-    void init() {
-        calls_.clear();
-        dial_.Painted = false;
-        background_.HasPicture = false;
-    }
-
     void ReadsTheLook() {
         ClockProperties properties;
         mduLib::PutProperty(u"Hour Hand Style"_s, u"Frame"_s, properties);
@@ -93,11 +71,10 @@ private Q_SLOTS:
 
     void LengthIsOfTheRadius() {
         Surface surface(300, 200, 1.0);
-        AnalogueFace face(dial_, background_, random_);
         AnalogueLook look = Look();
         look.Hour.Style = look.Minute.Style = drawing::HandStyle::Unknown;
         look.Second.LengthPercent = 90;
-        face.DrawAnalogueClock(surface, look, {0, 0, 15}, White);
+        Draw(surface, look, {0, 0, 15});
         // Centre (150, 100), length 90: the tip stands at three, on (240, 100).
         QCOMPARE(surface.Image().pixel(240, 100), 0xFFFF0000U);
         QCOMPARE(surface.Image().pixel(241, 100), 0xFFFFFFFFU);
@@ -106,11 +83,10 @@ private Q_SLOTS:
 
     void SecondHandLiesOnTopAndHubOverAll() {
         Surface surface(200, 200, 1.0);
-        AnalogueFace face(dial_, background_, random_);
         AnalogueLook look = Look();
         look.Hour.Style = drawing::HandStyle::Line;
         look.Second.LineWidth = 9;
-        face.DrawAnalogueClock(surface, look, {0, 0, 0}, White);
+        Draw(surface, look, {0, 0, 0});
         QCOMPARE(surface.Image().pixel(100, 60), 0xFFFF0000U);
         QCOMPARE(surface.Image().pixel(100, 100), qRgb(0, 235, 0));  // the hub's first ring
     }
@@ -119,92 +95,26 @@ private Q_SLOTS:
         Surface with(200, 200, 1.0);
         AnalogueLook look = Look();
         look.Second = {};
-        AnalogueFace(dial_, background_, random_).DrawAnalogueClock(with, look, {6, 0, 15}, White);
+        Draw(with, look, {6, 0, 15});
         QCOMPARE(with.Image().pixel(170, 100), 0xFFFFFFFFU);
-    }
-
-    void OrderWithoutPicture() {
-        dial_.Painted = true;
-        Surface surface(50, 50, 1.0);
-        AnalogueFace(dial_, background_, random_)
-            .DrawAnalogueClock(surface, Look(), {1, 2, 3}, White);
-        QCOMPARE(calls_, QStringList{u"numbers"_s});
-    }
-
-    void OrderWithPicture() {
-        dial_.Painted = true;
-        background_.HasPicture = true;
-        Surface surface(50, 50, 1.0);
-        AnalogueLook look = Look();
-        look.ClockSpecial = u"Analogue Hour Number Random Colour"_s;
-        AnalogueFace(dial_, background_, random_)
-            .DrawAnalogueClock(surface, look, {1, 2, 3}, White);
-        QCOMPARE(calls_, (QStringList{u"picture"_s, u"numbers"_s, u"recolour"_s}));
     }
 
     void RandomHandChangesColour() {
         random_.Numbers = {0.1, 0.2, 0.3, 0.7, 0.8, 0.9};
         Surface surface(200, 200, 1.0);
-        AnalogueFace face(dial_, background_, random_);
         AnalogueLook look = Look();
         look.Second.Colour = u"Random"_s;
-        face.DrawAnalogueClock(surface, look, {0, 0, 15}, White);
+        Draw(surface, look, {0, 0, 15});
         const QRgb first = surface.Image().pixel(150, 100);
-        face.DrawAnalogueClock(surface, look, {0, 0, 15}, White);
+        Draw(surface, look, {0, 0, 15});
         // blue 0.1, green 0.2, red 0.3 of 255, cut; then 0.7, 0.8, 0.9
         QCOMPARE(first, qRgb(76, 51, 25));
         QCOMPARE(surface.Image().pixel(150, 100), qRgb(229, 204, 178));
     }
 
-    /// A pass that paints only what moved leaves the same pixels as a whole one: over two minutes
-    /// of seconds and over every minute of twelve hours.
-    void PartialPassEqualsWholePass_data() {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QString>("special");
-        QTest::newRow("250") << QSize(250, 250) << u"None"_s;
-        QTest::newRow("wide") << QSize(177, 90) << u"None"_s;
-        QTest::newRow("backward") << QSize(120, 121) << u"Analogue Backward"_s;
-        QTest::newRow("right half") << QSize(99, 140) << u"Analogue Right Half"_s;
-        QTest::newRow("tiny") << QSize(9, 7) << u"None"_s;
-    }
-
-    void PartialPassEqualsWholePass() {
-        QFETCH(QSize, size);
-        QFETCH(QString, special);
-        AnalogueLook look = Look();
-        look.ClockSpecial = special;
-        Surface kept(size.width(), size.height(), 1.0);
-        AnalogueFace face(dial_, background_, random_);
-        const auto check = [&](const HandTime& time) {
-            face.DrawAnalogueClock(kept, look, time, White);
-            Surface whole(size.width(), size.height(), 1.0);
-            AnalogueFace(dial_, background_, random_).DrawAnalogueClock(whole, look, time, White);
-            QVERIFY2(kept.Image() == whole.Image(),
-                     qPrintable(u"%1:%2:%3"_s.arg(time.Hour).arg(time.Minute).arg(time.Second)));
-        };
-        for (int second = 0; second < 120; ++second) {
-            check({10, 58 + second / 60, second % 60});
-        }
-        for (int minute = 0; minute < 720; minute += 7) {
-            check({minute / 60, minute % 60, 0});
-        }
-    }
-
-    void NumbersAreRecolouredAtEveryPass() {
-        Surface surface(50, 50, 1.0);
-        AnalogueFace face(dial_, background_, random_);
-        AnalogueLook look = Look();
-        look.ClockSpecial = u"Analogue Hour Number Random Colour"_s;
-        for (int pass = 0; pass < 3; ++pass) {
-            face.DrawAnalogueClock(surface, look, {1, 2, 3}, White);
-        }
-        QCOMPARE(calls_, (QStringList{u"recolour"_s, u"recolour"_s, u"recolour"_s}));
-    }
-
     /// Numbers without measure neither crash nor take their time.
     void OutrageousNumbers() {
         Surface surface(100, 100, 1.0);
-        AnalogueFace face(dial_, background_, random_);
         AnalogueLook look = Look();
         look.Hour.LengthPercent = 1e12;
         look.Hour.LineWidth = 2147483647;
@@ -212,20 +122,53 @@ private Q_SLOTS:
         look.Second.LineWidth = -2147483647;
         look.CentralX = 1e12;
         look.CentralY = -1e300;
-        face.DrawAnalogueClock(surface, look, {1, 2, 3}, White);
+        Draw(surface, look, {1, 2, 3});
         look.CentralX = look.CentralY = -1;
-        face.DrawAnalogueClock(surface, look, {1, 2, 4}, White);
+        Draw(surface, look, {1, 2, 4});
         // The hour hand is wider than the surface: nothing of the background is left.
         QCOMPARE(surface.Image().pixel(2, 2), qRgb(0, 0, 255));
     }
 
-    void AnEqualTimeChangesNothing() {
-        Surface surface(100, 100, 1.0);
-        AnalogueFace face(dial_, background_, random_);
-        QCOMPARE(face.DrawAnalogueClock(surface, Look(), {1, 2, 3}, White), QRect(0, 0, 100, 100));
-        QVERIFY(face.DrawAnalogueClock(surface, Look(), {1, 2, 3}, White).isEmpty());
-        face.Invalidate();
-        QCOMPARE(face.DrawAnalogueClock(surface, Look(), {1, 2, 3}, White), QRect(0, 0, 100, 100));
+    /// Every pixel in which two frames differ lies in their difference.
+    void DifferenceHoldsEveryChangedPixel_data() {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<double>("ratio");
+        for (const QString& style : {u"Line"_s, u"Frame"_s, u"3D Metal Simple"_s, u"3D Gold"_s}) {
+            QTest::newRow(qPrintable(style)) << style << 1.0;
+            QTest::newRow(qPrintable(style + u" fine"_s)) << style << 2.0;
+        }
+    }
+
+    void DifferenceHoldsEveryChangedPixel() {
+        QFETCH(QString, style);
+        QFETCH(double, ratio);
+        AnalogueLook look = Look();
+        look.Hour.Style = look.Minute.Style = look.Second.Style = drawing::ReadHandStyle(style);
+        Surface before(160, 150, ratio);
+        Surface after(160, 150, ratio);
+        for (int minute = 0; minute < 720; minute += 13) {
+            const HandTime first{minute / 60, minute % 60, minute % 60};
+            const HandTime second{first.Hour, first.Minute, (first.Second + 1) % 60};
+            Draw(before, look, first);
+            Draw(after, look, second);
+            const QRect difference = drawing::HandsDifference(
+                drawing::MakeHandsFrame(before, look, first, random_),
+                drawing::MakeHandsFrame(after, look, second, random_), ratio);
+            for (int y = 0; y < 150; ++y) {
+                for (int x = 0; x < 160; ++x) {
+                    QVERIFY(before.Image().pixel(x, y) == after.Image().pixel(x, y) ||
+                            difference.contains(x, y));
+                }
+            }
+        }
+    }
+
+    void EqualFramesDoNotDiffer() {
+        const Surface surface(100, 100, 1.0);
+        const auto frame = [&] {
+            return drawing::MakeHandsFrame(surface, Look(), {1, 2, 3}, random_);
+        };
+        QVERIFY(drawing::HandsDifference(frame(), frame(), 1).isEmpty());
     }
 };
 
