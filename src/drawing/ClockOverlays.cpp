@@ -1,23 +1,224 @@
 #include "drawing/ClockOverlays.h"
 
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "drawing/AnalogueFace.h"
+#include "drawing/Angles.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyLookup.h"
+#include "timezones/ZoneArithmetic.h"
+
+using namespace Qt::StringLiterals;
+
 namespace drawing {
 
-void ClockOverlays::LayOutOverlays() {}
+namespace {
 
-void ClockOverlays::LoadFlag() {}
+constexpr double Automatic = -1;
+constexpr double FlagHeight = 0.18;  // of the surface's height
+// Logical pixels.
+constexpr double SpeakerMargin = 4;
+constexpr double LeastSpeaker = 14, LargestSpeaker = 32;
+constexpr double SpeakerGrowth = 0.07;  // of the surface's height
+constexpr double HandleSide = 16;
 
-void ClockOverlays::SetFlagPosition() {}
+float Whole(double value) {
+    return static_cast<float>(mduAPILib::RoundToInteger(value));
+}
 
-void ClockOverlays::SetSunMoon() {}
+void SetSquare(mduUILib::Control& control, double left, double top, int side) {
+    control.Left = Whole(left);
+    control.Top = Whole(top);
+    control.Width = control.Height = static_cast<float>(side);
+}
 
-void ClockOverlays::SetSpeakerPosition() {}
+}  // namespace
 
-void ClockOverlays::SetTransparentIconPosition() {}
+void ClockOverlays::LayOutOverlays() {
+    ReadProperties();
+    SetFlagPosition();
+    SetSpeakerPosition();
+    SetTransparentIconPosition();
+    // Those that the mode does not show stay hidden.
+    if (face_.Controls.lblLocation(1).Visible) {
+        SetLocationLabel();
+    }
+    if (face_.Controls.imgSunMoon(0).Visible || face_.Controls.imgSunMoon(1).Visible) {
+        SetSunMoon();
+    }
+}
 
-void ClockOverlays::SetLocationLabel() {}
+void ClockOverlays::ReadProperties() {
+    sunMoonSize_ = mduAPILib::Val(mduLib::GetProperty(u"Sun Moon Size"_s, face_.Properties));
+    locationLook_ = ReadLocationLook(face_.Properties, face_.Random);
+    locationShown_.reset();
+}
 
-void ClockOverlays::HideSunMoon() {}
+double ClockOverlays::Pixels(const QString& key) const {
+    return mduAPILib::Val(mduLib::GetProperty(key, face_.Properties));
+}
 
-void ClockOverlays::HideLocationLabel() {}
+std::shared_ptr<const QImage> ClockOverlays::Stock(StockPicture picture, int side) const {
+    return face_.Pictures.Scaled(GetStockPicture(picture), {side, side});
+}
+
+void ClockOverlays::LoadFlag() {
+    const QString file = mduLib::GetProperty(u"Flag File"_s, face_.Properties).trimmed();
+    flag_ = mduUILib::IsNoneValue(file)
+                ? nullptr
+                : face_.Pictures.Load(face_.FileSystem,
+                                      mduLib::ResolveAppPath(file, face_.Paths.AppFolder));
+    if (flag_ && flag_->isNull()) {
+        flag_ = nullptr;
+    }
+    SetFlagPosition();
+}
+
+void ClockOverlays::SetFlagPosition() {
+    const QString position = mduLib::GetProperty(u"Flag Position"_s, face_.Properties);
+    face_.Controls.imgFlag(1).Visible = false;
+    if (position.contains(u"Icon"_s, Qt::CaseInsensitive)) {
+        ShowFlagAsIcon();
+        return;
+    }
+    ShowStoredIcon();
+    PlaceFlag(position);
+}
+
+void ClockOverlays::ShowFlagAsIcon() {
+    face_.Controls.imgFlag(1).Picture = flag_;
+    if (icon_ != flag_) {
+        icon_ = flag_;
+        face_.Window.SetIcon(flag_ ? *flag_ : QImage());
+    }
+}
+
+// A flag that goes to the dial leaves the window's icon.
+void ClockOverlays::ShowStoredIcon() {
+    if (icon_ && *icon_) {
+        icon_ = nullptr;
+        face_.Window.SetIcon({});
+    }
+}
+
+void ClockOverlays::PlaceFlag(const QString& position) {
+    mduUILib::Control& flag = face_.Controls.imgFlag(1);
+    const double scaleWidth = face_.Window.Surface().ScaleWidth();
+    const double scaleHeight = face_.Window.Surface().ScaleHeight();
+    const double height = scaleHeight * FlagHeight;
+    flag.Height = static_cast<float>(height);
+    flag.Picture = flag_;
+    flag.Visible = flag_ != nullptr;
+    if (!flag_) {
+        return;
+    }
+    const double width = height * flag_->width() / flag_->height();
+    flag.Width = static_cast<float>(width);
+    const bool bottom = position.contains(u"Bottom"_s, Qt::CaseInsensitive);
+    const bool left = position.contains(u"left"_s, Qt::CaseInsensitive);
+    flag.Top = static_cast<float>(bottom ? scaleHeight - height : 0);
+    flag.Left = static_cast<float>(left ? 0 : scaleWidth - width);
+    const QSize size(mduAPILib::RoundToInteger(width), mduAPILib::RoundToInteger(height));
+    if (!size.isEmpty() && size.width() <= mduUILib::PictureStore::LargestSide) {
+        flag.Picture = face_.Pictures.Scaled(flag_, size);
+    }
+}
+
+void ClockOverlays::SetSunMoon() {
+    if (!sunMoonSize_) {
+        ReadProperties();
+    }
+    const Surface& surface = face_.Window.Surface();
+    const int wanted = mduAPILib::RoundToInteger(*sunMoonSize_ * surface.DevicePixelRatio());
+    const int side = std::min({wanted, surface.ScaleWidth(), surface.ScaleHeight()});
+    if (side <= 0) {
+        HideSunMoon();
+        return;
+    }
+    const QTime time = mduTimeZones::GetClockTime(face_.Zone, face_.Clock.Now()).time();
+    float t = static_cast<float>(time.hour() + time.minute() / 60.0 + time.second() / 3600.0);
+    const int index = t >= 12 ? 1 : 0;
+    if (index == 1) {
+        t -= 12;
+    }
+    const double a = static_cast<double>(t) * Pi / 12;
+    const double halfWidth = (surface.ScaleWidth() - side) / 2.0;
+    const double halfHeight = (surface.ScaleHeight() - side) / 2.0;
+    const double left =
+        t < 6 ? halfWidth - halfWidth * std::cos(a) : halfWidth + halfWidth * std::cos(Pi - a);
+    const double top = halfHeight - halfHeight * std::sin(t < 6 ? a : Pi - a);
+    SetSquare(face_.Controls.imgSunMoon(index), left, top, side);
+    ShowOneOf(index, side);
+}
+
+void ClockOverlays::ShowOneOf(int index, int side) {
+    std::shared_ptr<const QImage>& picture = sunMoon_[index];
+    if (!picture || picture->width() != side) {
+        picture = Stock(index == 0 ? StockPicture::Sun : StockPicture::Moon, side);
+    }
+    face_.Controls.imgSunMoon(index).Picture = picture;
+    face_.Controls.imgSunMoon(index).Visible = true;
+    face_.Controls.imgSunMoon(1 - index).Visible = false;
+}
+
+void ClockOverlays::HideSunMoon() {
+    face_.Controls.imgSunMoon(0).Visible = false;
+    face_.Controls.imgSunMoon(1).Visible = false;
+}
+
+void ClockOverlays::SetSpeakerPosition() {
+    const Surface& surface = face_.Window.Surface();
+    const double ratio = surface.DevicePixelRatio();
+    const double size =
+        std::clamp(surface.LogicalHeight() * SpeakerGrowth, LeastSpeaker, LargestSpeaker);
+    const int side = mduAPILib::RoundToInteger(size * ratio);
+    const double left = Pixels(u"Speaker Image Left"_s);
+    const double top = Pixels(u"Speaker Image Top"_s);
+    const double margin = SpeakerMargin * ratio;
+    mduUILib::Control& speaker = face_.Controls.imgSpeaker(1);
+    SetSquare(speaker, left == Automatic ? margin : left * ratio,
+              top == Automatic ? surface.ScaleHeight() - margin - side : top * ratio, side);
+    if (!speaker.Picture || speaker.Picture == speakerIdle_) {
+        speaker.Picture = speakerIdle_ = Stock(StockPicture::SpeakerIdle, side);
+    }
+}
+
+void ClockOverlays::SetTransparentIconPosition() {
+    const double ratio = face_.Window.Surface().DevicePixelRatio();
+    const int side = mduAPILib::RoundToInteger(HandleSide * ratio);
+    const double left = Pixels(u"Transparent Icon Left"_s);
+    const double top = Pixels(u"Transparent Icon Top"_s);
+    mduUILib::Control& handle = face_.Controls.shpArea(1);
+    SetSquare(handle, left == Automatic ? 0 : left * ratio, top == Automatic ? 0 : top * ratio,
+              side);
+    handle.Visible = face_.Window.IsTransparent();
+    if (handle.Visible) {
+        handle.Picture = Stock(StockPicture::Handle, side);
+    }
+}
+
+void ClockOverlays::SetLocationLabel() {
+    if (!sunMoonSize_) {
+        ReadProperties();
+    }
+    mduUILib::Control& label = face_.Controls.lblLocation(1);
+    const Surface& surface = face_.Window.Surface();
+    LocationKey key{label.Caption, surface.ScaleWidth(), surface.ScaleHeight()};
+    if (locationShown_ == key) {
+        return;
+    }
+    locationShown_ = std::move(key);
+    PlaceLocationLabel(label, locationLook_, surface,
+                       ClockCentre(face_.Properties, surface.ScaleWidth(), surface.ScaleHeight()));
+}
+
+void ClockOverlays::HideLocationLabel() {
+    face_.Controls.lblLocation(1).Visible = false;
+    locationShown_.reset();
+}
 
 }  // namespace drawing

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPointF>
+
+#include "drawing/Surface.h"
+#include "foundation/ClockProperty.h"
+#include "foundation/Controls.h"
+#include "platform/Machine.h"
+
+namespace drawing {
+
+/// How the zone's name is shown, as the properties tell it.
+struct LocationLook {
+    double Points = -1;  ///< below 0: automatic; 0: not shown
+    double Left = -1;    ///< logical pixels; -1: automatic
+    double Top = -1;
+    int Colour = 0;
+    bool Digital = false;  ///< the read-out takes the middle of the surface
+};
+
+/// A colour by chance is drawn here, once for each reading.
+LocationLook ReadLocationLook(const ClockProperties& properties, platform::RandomNumbers& random);
+
+/// The automatic size, in points: between 6 and a twentieth of the surface's logical height, such
+/// that the name takes at most half of the width, or nine tenths below a read-out. 0 when the name
+/// is wider than the surface even at 6 points.
+double LocationPoints(const QString& name, const LocationLook& look, const Surface& surface);
+
+/// Lays the label out around its caption. The automatic place is the middle of the lower half of
+/// the dial around @p centre (0.2 of the smaller side below it), or 0.82 of the height below a
+/// read-out; whatever fits stays within the surface.
+void PlaceLocationLabel(mduUILib::Control& label, const LocationLook& look, const Surface& surface,
+                        const QPointF& centre);
+
+}  // namespace drawing
