@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 #include "drawing/Angles.h"
+#include "drawing/Hands3D.h"
 #include "drawing/PixelPrimitives.h"
 #include "foundation/Numbers.h"
 #include "foundation/TextHelpers.h"
@@ -16,6 +18,7 @@ namespace drawing {
 namespace {
 
 constexpr double TailRatio = 0.3;
+constexpr float TailRatio3D = 0.3F;
 constexpr double SideRatio = 0.02;
 
 /// A point at a distance from the centre.
@@ -32,6 +35,19 @@ std::array<QPoint, 4> FramePoints(int cx, int cy, double angle, int length) {
 
 void Connect(Surface& surface, const QPoint& from, const QPoint& to, int colour, int lineWidth) {
     surface.Line(from.x(), from.y(), to.x(), to.y(), colour, lineWidth);
+}
+
+/// A pen's width in device pixels.
+int PenWidth(int lineWidth, double devicePixelRatio) {
+    return mduAPILib::RoundToInteger(lineWidth * devicePixelRatio);
+}
+
+QRect Around(std::span<const QPoint> points, int margin) {
+    QRect bounds;
+    for (const QPoint& point : points) {
+        bounds |= QRect(point, QSize(1, 1));
+    }
+    return bounds.adjusted(-margin, -margin, margin, margin);
 }
 
 }  // namespace
@@ -52,12 +68,29 @@ void DrawClockHand(Surface& surface, HandStyle style, int cx, int cy, double ang
     if (length <= 0) {
         return;
     }
+    const double ratio = surface.DevicePixelRatio();
+    const int pen = PenWidth(lineWidth, ratio);
     switch (style) {
         case HandStyle::Line:
-            DrawSimpleLine(surface, cx, cy, angle, length, colour, lineWidth);
+            DrawSimpleLine(surface, cx, cy, angle, length, colour, pen);
             break;
         case HandStyle::Frame:
-            DrawFrame(surface, cx, cy, angle, length, colour, lineWidth);
+            DrawFrame(surface, cx, cy, angle, length, colour, pen);
+            break;
+        case HandStyle::MetalSimple:
+        case HandStyle::GoldSimple:
+            Draw3DSimpleLine(surface, cx, cy, angle, length, TailRatio3D,
+                             style == HandStyle::GoldSimple ? GoldTone : MetalTone,
+                             lineWidth * ratio);
+            break;
+        case HandStyle::Metal:
+            Draw3D(surface, cx, cy, angle, length, TailRatio3D, MetalTone, lineWidth);
+            break;
+        case HandStyle::Gold:
+            Draw3D(surface, cx, cy, angle, length, TailRatio3D, GoldTone, lineWidth);
+            break;
+        case HandStyle::Solid:
+            Draw3D(surface, cx, cy, angle, length, TailRatio3D, colour, lineWidth);
             break;
         default:
             break;
@@ -85,29 +118,40 @@ int CentrePointRings(int windowHeightInTwips) {
 void DrawCentrePoint(Surface& surface, int cx, int cy, int colour) {
     const mduLib::ColourParts parts = mduLib::SplitColour(colour);
     const int rings = CentrePointRings(surface.Height());
+    const double ratio = surface.DevicePixelRatio();
     for (int i = 1; i <= rings; ++i) {
         const auto darker = [i](int component) { return std::max(component - 20 * i, 0); };
         const int ring = darker(parts.Red) | darker(parts.Green) << 8 | darker(parts.Blue) << 16;
-        DrawPixelCircle(surface, cx, cy, i, 1, ring);
+        const int radius = mduAPILib::RoundToInteger(i * ratio);
+        const int lastRadius = mduAPILib::RoundToInteger((i - 1) * ratio);
+        DrawPixelCircle(surface, cx, cy, radius, radius - lastRadius, ring);
     }
 }
 
 QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth,
-                 double /*devicePixelRatio*/) {
-    if (length <= 0 || style == HandStyle::Unknown) {
+                 double devicePixelRatio) {
+    if (length <= 0) {
         return {};
     }
-    if (style != HandStyle::Line && style != HandStyle::Frame) {
-        // Not worked out for this style: all that it can reach, with its width and its shadow.
-        const int reach = 2 * length + std::max(0, lineWidth) + 8;
-        return {cx - reach, cy - reach, 2 * reach + 1, 2 * reach + 1};
+    // For a pen: its half and the soft edge.
+    const int margin = std::max(1, PenWidth(lineWidth, devicePixelRatio)) / 2 + 2;
+    const auto withShadow = [devicePixelRatio](const QRect& hand) {
+        return hand | hand.translated(ShadowOffset(devicePixelRatio));
+    };
+    switch (style) {
+        case HandStyle::Unknown:
+            return {};
+        case HandStyle::Line:
+            return Around(std::array{QPoint(cx, cy), PointAt(cx, cy, length, angle)}, margin);
+        case HandStyle::Frame:
+            return Around(FramePoints(cx, cy, angle, length), margin);
+        case HandStyle::MetalSimple:
+        case HandStyle::GoldSimple:
+            return withShadow(
+                BarBounds(cx, cy, angle, length, TailRatio3D, lineWidth * devicePixelRatio));
+        default:
+            return withShadow(KiteBounds(cx, cy, angle, length, TailRatio3D, lineWidth));
     }
-    QRect bounds(QPoint(cx, cy), QSize(1, 1));
-    for (const QPoint& point : FramePoints(cx, cy, angle, length)) {
-        bounds |= QRect(point, QSize(1, 1));
-    }
-    const int margin = std::max(1, lineWidth) / 2 + 2;  // the pen's half and the soft edge
-    return bounds.adjusted(-margin, -margin, margin, margin);
 }
 
 }  // namespace drawing

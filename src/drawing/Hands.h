@@ -4,7 +4,7 @@
 
 #include "drawing/Surface.h"
 
-/// The hands and the hub. Angles are as in `Angles.h`, lengths and widths in device pixels.
+/// The hands and the hub. Angles are as in `Angles.h`, lengths in device pixels.
 namespace drawing {
 
 /// How a hand is drawn, by its number.
@@ -24,10 +24,13 @@ enum class HandStyle {
 HandStyle ReadHandStyle(const QString& text);
 
 /// Draws one hand from the centre; nothing unless the length is above 0 and the style is known.
+/// @p lineWidth is the property's: the width of the pen for "Line" and "Frame" and half the width
+/// of the "Simple" hands, both in logical pixels, and a percentage of the length for the others.
 void DrawClockHand(Surface& surface, HandStyle style, int cx, int cy, double angle, int length,
                    int colour, int lineWidth);
 
-/// One straight line from the centre to the tip, without a tail.
+/// One straight line from the centre to the tip, without a tail. Here and in `DrawFrame` the pen's
+/// width is in device pixels.
 void DrawSimpleLine(Surface& surface, int cx, int cy, double angle, int length, int colour,
                     int lineWidth);
 
@@ -36,7 +39,7 @@ void DrawFrame(Surface& surface, int cx, int cy, double angle, int length, int c
                int lineWidth);
 
 /// The hub: a fading disc of pixel rings, one for each 1600 twips of the window's outer height, 20
-/// at most; each ring is darker by 20 than the last.
+/// at most; each ring is darker by 20 than the last. A ring is one logical pixel wide.
 void DrawCentrePoint(Surface& surface, int cx, int cy, int colour);
 
 /// The number of those rings.
@@ -45,7 +48,8 @@ int CentrePointRings(int windowHeightInTwips);
 /// A coordinate or length as drawing uses it: rounded half to even, within 16 bits.
 int ToPoint(double value);
 
-/// A rectangle that holds every pixel of a hand.
+/// A rectangle that holds every pixel of a hand with its shadow, closely for the shaded styles; the
+/// width is that of `DrawClockHand`.
 QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth,
                  double devicePixelRatio = 1);
 

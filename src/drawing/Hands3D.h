@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "drawing/Surface.h"
@@ -12,8 +13,9 @@ namespace drawing {
 inline constexpr int MetalTone = 1;
 inline constexpr int GoldTone = 2;
 
-/// A bar of parallel one-pixel lines with a pointed end, @p width pixels to each side of its axis.
-/// One side is lit, the other darker. @p tone is `MetalTone` or `GoldTone`.
+/// A bar of parallel one-pixel lines with a pointed end, @p width pixels to each side of its axis:
+/// at 0 a single line, below 0 nothing. One side is lit, the other darker. @p tone is `MetalTone`
+/// or `GoldTone`.
 void Draw3DSimpleLine(Surface& surface, int cx, int cy, double angle, int length, float tailRatio,
                       int tone, double width);
 
@@ -29,5 +31,16 @@ void Draw3DHand(Surface& surface, std::span<const QPoint, 4> points, int cx, int
 /// A fan of pixel lines from the first point to the edge between the other two, walked from point 3
 /// to point 2 by half pixels.
 void FillTriangle(Surface& surface, int x1, int y1, int x2, int y2, int x3, int y3, int colour);
+
+/// The points of a kite: tip, tail, side, other side.
+std::array<QPoint, 4> KitePoints(int cx, int cy, double angle, int length, float tailRatio,
+                                 int width);
+
+/// Rectangles that hold a bar's and a kite's pixels, without the shadow.
+QRect BarBounds(int cx, int cy, double angle, int length, float tailRatio, double width);
+QRect KiteBounds(int cx, int cy, double angle, int length, float tailRatio, int width);
+
+/// By how much a shadow is moved: (-2, 4) at a ratio of 1, whatever the size of the clock.
+QPoint ShadowOffset(double devicePixelRatio);
 
 }  // namespace drawing

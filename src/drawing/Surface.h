@@ -40,6 +40,11 @@ public:
     /// Fills the pixels @p x1 to @p x2 of a row, both included.
     void FillSpan(int y, int x1, int x2, int colour);
 
+    /// The raw pixels of a row and the pixels from one row to the next, for shapes that keep within
+    /// `Clip` by themselves.
+    QRgb* Row(int y) { return ScanLine(y); }
+    std::ptrdiff_t Stride() const { return stride_; }
+
     /// Lets the toolkit's painter draw what is beyond single pixels: text and pictures.
     void Paint(const std::function<void(QPainter&)>& paint);
 
