@@ -1,69 +1,9 @@
 #include <QApplication>
-#include <QMdiArea>
 #include <QTest>
 
-#include "clock/ui/frmTempolark.h"
-#include "foundation/PropertyFile.h"
-#include "foundation/PropertyLookup.h"
-#include "support/MachineWithZones.h"
+#include "ClockDesk.h"
 
-using namespace Qt::StringLiterals;
 using clockcore::ClockState;
-
-/// A shell that remembers what it is told.
-struct FakeShell final : IShell {
-    QStringList Messages;
-    int Colour = 0x804020;
-    void ShowStatusMsg(const QString& text) override { Messages += text; }
-    int ShowMsgbox(const QString&, int, const QString&) override { return 1; }
-    int RefreshForm(const QString&) override { return 0; }
-    void SpeakMessage(const QString&) override {}
-    void PurgeSpeech() override {}
-    void DoMenuItem(float, int) override {}
-    int BackColor() const override { return Colour; }
-};
-
-/// A frame of the shell with nothing in it.
-struct Desk : MachineWithZones {
-    FakeShell Shell;
-    QMdiArea Area;
-
-    Desk() {
-        ClockProperties central;
-        mduMain::SetupFiles(Module, Services, u"UTC"_s, central);
-        Area.resize(800, 600);
-        Area.show();
-    }
-
-    frmTempolark* Launch(const QString& zone) {
-        auto* clock = new frmTempolark(TheProgram, &Shell, &Area);
-        if (!clock->ShowMeMDIChild(zone)) {
-            delete clock;
-            return nullptr;
-        }
-        return clock;
-    }
-
-    /// A clock after its first tick and its redraw.
-    frmTempolark* Running(const QString& zone) {
-        frmTempolark* clock = Launch(zone);
-        Machine.Clock.Advance(30);
-        return clock;
-    }
-
-    QString Key(const QString& zone, const QString& name) const {
-        ClockProperties properties;
-        mduLib::ReadPropertyFile(Machine.Files, Path(zone), properties);
-        return mduLib::GetProperty(name, properties);
-    }
-    QString Path(const QString& zone) const {
-        return Machine.AppFolder() + u"/tester/TimeZones/"_s + zone + u".ini"_s;
-    }
-    void Close(frmTempolark* clock) {
-        clock->Unload();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-};
 
 class tst_frmTempolark : public QObject {
     Q_OBJECT

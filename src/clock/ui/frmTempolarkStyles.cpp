@@ -71,7 +71,10 @@ void frmTempolark::SetClockStyle(const QString& styleFile) {
         Status(problem);
     }
     // Without a style the steps below apply what the clock has.
-    program_.Module.CurrentProperties = style.value_or(data_.Properties());
+    if (style) {
+        data_.EditProperties() = *style;
+    }
+    SetProperty();
     SetWindowState(0);
     RefreshForm({});
     overlays_.LayOutOverlays();
