@@ -192,6 +192,12 @@ private Q_SLOTS:
         QVERIFY(!store_->Load(machine_->Files, path));
     }
 
+    void ATruncatedJpegDoesNoHarm() {
+        const QByteArray whole = Coded(Plain(800, 800, Qt::red), "jpg");
+        const auto picture = LoadBytes(u"a.jpg"_s, whole.left(whole.size() / 2));
+        QVERIFY(!picture || picture->size() == QSize(800, 800));
+    }
+
     void LargeJpegComesScaledDown() {
         const auto picture = LoadBytes(u"a.jpg"_s, Coded(Plain(6000, 1500, Qt::red), "jpg"));
         QVERIFY(picture);
