@@ -45,6 +45,8 @@ private Q_SLOTS:
     void TellsNames_data();
     void TellsNames();
     void TakesTimesOfAnyZone();
+    void Converts_data();
+    void Converts();
     void TellsRuleDates();
     void RefusesOtherArguments_data();
     void RefusesOtherArguments();
@@ -208,6 +210,32 @@ void tst_ZonesCommands::TakesTimesOfAnyZone() {
     QCOMPARE(date.Output, QByteArray("{\"date\":\"2026-04-05\"}\n"));
 }
 
+// Noon in Kolkata, where daylight time holds in London.
+void tst_ZonesCommands::Converts_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("output");
+    const QString london = u"GMT Standard Time"_s;
+    QTest::newRow("a time of today")
+        << QStringList{london, u"12:30"_s} << "{\"text\":\"01/07/2026 8:00:00\"}\n"_ba;
+    QTest::newRow("over midnight")
+        << QStringList{london, u"25/12/2026 4:15"_s} << "{\"text\":\"24/12/2026 23:45:00\"}\n"_ba;
+    QTest::newRow("from the zone") << QStringList{london, u"8:00:07"_s, u"--from-zone"_s}
+                                   << "{\"text\":\"01/07/2026 12:30:07\"}\n"_ba;
+    QTest::newRow("three quarters") << QStringList{u"Nepal Standard Time"_s, u"12:00"_s}
+                                    << "{\"text\":\"01/07/2026 12:15:00\"}\n"_ba;
+    QTest::newRow("no date") << QStringList{london, u"noon"_s} << "{\"text\":\"\"}\n"_ba;
+    QTest::newRow("empty") << QStringList{london, QString()} << "{\"text\":\"\"}\n"_ba;
+    QTest::newRow("unknown zone") << QStringList{u"Nowhere"_s, u"12:30"_s}
+                                  << "{\"text\":\"01/07/2026 7:00:00\"}\n"_ba;
+}
+
+void tst_ZonesCommands::Converts() {
+    QFETCH(QStringList, arguments);
+    const CompanionAnswer answer = Run(Companion(), QStringList{u"convert"_s} + arguments);
+    QCOMPARE(answer.Status, 0);
+    QTEST(answer.Output, "output");
+}
+
 void tst_ZonesCommands::TellsRuleDates() {
     const CompanionAnswer answer = Companion().Run(
         {u"--now"_s, u"2008-12-31T00:00:00"_s, u"zones"_s, u"rule"_s, u"1"_s, u"0"_s, u"4"_s});
@@ -228,6 +256,8 @@ void tst_ZonesCommands::RefusesOtherArguments_data() {
     QTest::newRow("short year") << QStringList{u"name-at"_s, u"UTC"_s, u"26-02-03T12:00:00"_s};
     QTest::newRow("one digit") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-03T2:00:00"_s};
     QTest::newRow("a tail") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-03T12:00:00Z"_s};
+    QTest::newRow("convert without a text") << QStringList{u"convert"_s, u"UTC"_s};
+    QTest::newRow("convert of three") << QStringList{u"convert"_s, u"UTC"_s, u"1:00"_s, u"2:00"_s};
     QTest::newRow("rule of words") << QStringList{u"rule"_s, u"first"_s, u"0"_s, u"4"_s};
     QTest::newRow("beyond 16 bits") << QStringList{u"rule"_s, u"70000"_s, u"0"_s, u"4"_s};
 }

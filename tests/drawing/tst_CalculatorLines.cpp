@@ -1,0 +1,447 @@
+#include <QTest>
+
+#include "drawing/CalculatorLines.h"
+#include "drawing/LabelText.h"
+#include "support/FakeFace.h"
+
+using namespace Qt::StringLiterals;
+using drawing::CalculatorLines;
+
+namespace {
+
+/// A calculator of 600 by 200 pixels, whose zone is 5.5 hours ahead of GMT and keeps daylight time
+/// from 29 March to 25 October. It is noon of 15 June 2026 in GMT.
+struct Lines {
+    explicit Lines(double ratio = 1)
+        : Face(static_cast<int>(600 * ratio), static_cast<int>(200 * ratio), ratio),
+          Calculator(Face.Context()) {
+        Face.Zone.StandardName = u"Hill Standard Time"_s;
+        Face.Zone.DaylightName = u"Hill Daylight Time"_s;
+        Face.Zone.StandardBias = -270;
+        Face.Zone.DaylightBias = -330;
+        Face.Zone.DaylightDate = {0, 3, 0, 5, 2, 0, 0, 0};
+        Face.Zone.StandardDate = {0, 10, 0, 5, 2, 0, 0, 0};
+        Face.Zone.HoursFromLocal = 5.5F;
+        Face.Controls.lblLocation(1).Caption = u"Hill Daylight Time"_s;
+        for (const QString& line : {u"Calculator Local Time "_s, u"Calculator Time "_s}) {
+            Face.Set(line + u"Font"_s, u"Liberation Sans"_s);
+            Face.Set(line + u"Font Size"_s, u"12"_s);
+        }
+        Face.Set(u"Calculator Local Time Font Colour"_s, u"Red"_s);
+        Face.Set(u"Calculator Time Font Colour"_s, u"Blue"_s);
+    }
+
+    mduUILib::Control& Local() { return Face.Controls.lblTimeInput(1); }
+    mduUILib::Control& Zone() { return Face.Controls.lblTimeOutput(1); }
+
+    void Type(const QString& text) {
+        for (const QChar character : text) {
+            QVERIFY(Calculator.EditCalculatorKey(character.unicode()));
+        }
+    }
+
+    void Press(int key, int times = 1) {
+        for (int i = 0; i < times; ++i) {
+            Calculator.EditCalculatorKey(key);
+        }
+    }
+
+    FakeFace Face;
+    CalculatorLines Calculator;
+};
+
+/// A calculator whose input has begun with both lines blank.
+struct BlankLines : Lines {
+    BlankLines() {
+        Calculator.SetCalculatorClock(false);
+        Calculator.BeginInput();
+    }
+};
+
+}  // namespace
+
+class tst_CalculatorLines : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ShowsThePresentTime();
+    void FollowsTheClock();
+    void ShowsBlankLines();
+    void GivesColoursAndHidesTheDigits();
+    void Hides();
+    void GivesFontsAndSizes_data();
+    void GivesFontsAndSizes();
+    void StandsInTheMiddle();
+    void StandsStillWhileTheTimeRuns();
+    void KeepsLinesThatAreTooLongAtTheLeft();
+    void FillsTheWidth();
+    void FillsTheWidthAtHighResolution();
+    void FillsTheWidthByTheLongestLine();
+    void KeepsToTheHeight();
+    void BeginsInput();
+    void TabMovesTheCaret();
+    void ConvertsToTheZone();
+    void ConvertsToLocalTime();
+    void LeavesConversionsBlank_data();
+    void LeavesConversionsBlank();
+    void NamesTheZoneAtTheTypedTime();
+    void NamesTheZoneByTheMachinesOffset();
+    void MovingTheCaretConvertsNothing();
+    void EscGivesTheTextsBack();
+    void EnterTakesTheCaretAway();
+    void EnterInABlankLineChangesNothing();
+    void IgnoresOtherKeys();
+    void CapsTheText();
+    void BeginsAnewInTheLocalLine();
+    void SurvivesBadInput_data();
+    void SurvivesBadInput();
+};
+
+void tst_CalculatorLines::ShowsThePresentTime() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00"_s);
+    QCOMPARE(lines.Local().Tag, u"15/06/2026 12:00:00"_s);
+    QCOMPARE(lines.Zone().Tag, u"15/06/2026 17:30:00"_s);
+    QVERIFY(lines.Local().Visible);
+    QVERIFY(lines.Zone().Visible);
+}
+
+void tst_CalculatorLines::FollowsTheClock() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Face.Machine.Clock.SetNow(QDateTime(QDate(2026, 12, 31), QTime(22, 9, 5, 990), Qt::UTC));
+    lines.Calculator.DrawCalculatorClock();
+    QCOMPARE(lines.Local().Caption, u"Local Time: 31/12/2026 22:09:05"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 01/01/2027 3:39:05"_s);
+}
+
+void tst_CalculatorLines::ShowsBlankLines() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(false);
+    QCOMPARE(lines.Local().Caption, u"Local Time: "_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: "_s);
+    QCOMPARE(lines.Local().Tag, QString());
+    QCOMPARE(lines.Zone().Tag, QString());
+    QVERIFY(lines.Local().Visible);
+}
+
+void tst_CalculatorLines::GivesColoursAndHidesTheDigits() {
+    Lines lines;
+    lines.Face.Controls.lblDigitalNumber(3).Visible = true;
+    lines.Calculator.SetCalculatorClock(true);
+    QCOMPARE(lines.Local().ForeColor, 0x0000FF);
+    QCOMPARE(lines.Zone().ForeColor, 0xFF0000);
+    QVERIFY(!lines.Face.Controls.lblDigitalNumber(3).Visible);
+}
+
+void tst_CalculatorLines::Hides() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.HideCalculatorClock();
+    QVERIFY(!lines.Local().Visible);
+    QVERIFY(!lines.Zone().Visible);
+}
+
+void tst_CalculatorLines::GivesFontsAndSizes_data() {
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<double>("size");
+    QTest::newRow("as it stands") << u"12"_s << 12.0;
+    QTest::newRow("2") << u"2"_s << 4.0;
+    QTest::newRow("-2") << u"-2"_s << 4.0;
+    QTest::newRow("text") << u"big"_s << 4.0;
+    QTest::newRow("too large to fit") << u"72"_s << 72.0;
+    QTest::newRow("out of all bounds") << u"100000"_s << 3000.0;
+}
+
+void tst_CalculatorLines::GivesFontsAndSizes() {
+    QFETCH(QString, value);
+    Lines lines;
+    lines.Face.Set(u"Calculator Time Font"_s, u"Liberation Mono"_s);
+    lines.Face.Set(u"Calculator Time Font Size"_s, value);
+    lines.Calculator.SetCalculatorLayout();
+    QCOMPARE(lines.Local().Font.family(), u"Liberation Sans"_s);
+    QCOMPARE(lines.Local().Font.pointSizeF(), 12.0);
+    QCOMPARE(lines.Zone().Font.family(), u"Liberation Mono"_s);
+    QTEST(lines.Zone().Font.pointSizeF(), "size");
+}
+
+void tst_CalculatorLines::StandsInTheMiddle() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    for (const mduUILib::Control* line : {&lines.Local(), &lines.Zone()}) {
+        const float middle = line->Left + line->Width / 2;
+        QVERIFY2(qAbs(middle - 300) < 2, qPrintable(QString::number(middle)));
+    }
+    const float top = lines.Local().Top;
+    const float bottom = lines.Zone().Top + lines.Zone().Height;
+    QVERIFY(qAbs(top - (200 - bottom)) <= 1);
+    const float gap = lines.Zone().Top - (lines.Local().Top + lines.Local().Height);
+    QVERIFY(gap >= 5 && gap <= 10);
+}
+
+void tst_CalculatorLines::StandsStillWhileTheTimeRuns() {
+    Lines lines;
+    lines.Face.Machine.Clock.SetNow(QDateTime(QDate(2026, 6, 15), QTime(9, 59, 59), Qt::UTC));
+    lines.Calculator.SetCalculatorClock(true);
+    const float left = lines.Local().Left;
+    const float width = lines.Local().Width;
+    lines.Face.Machine.Clock.Advance(1000);
+    lines.Calculator.DrawCalculatorClock();
+    QCOMPARE(lines.Local().Tag, u"15/06/2026 10:00:00"_s);
+    QVERIFY(lines.Local().Width > width);
+    QCOMPARE(lines.Local().Left, left);
+}
+
+void tst_CalculatorLines::KeepsLinesThatAreTooLongAtTheLeft() {
+    Lines lines;
+    lines.Face.Window.Resize(100, 100);
+    lines.Calculator.SetCalculatorClock(true);
+    QCOMPARE(lines.Local().Left, 4.0F);
+    QCOMPARE(lines.Zone().Left, 4.0F);
+    QVERIFY(lines.Zone().Width > 100);
+}
+
+void tst_CalculatorLines::FillsTheWidth() {
+    Lines lines;
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
+    lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
+    lines.Calculator.SetCalculatorClock(true);
+    QVERIFY(lines.Zone().Width > 500);
+    QVERIFY(lines.Zone().Width <= 592);
+    QCOMPARE(lines.Local().Font.pointSizeF(), lines.Zone().Font.pointSizeF());
+}
+
+void tst_CalculatorLines::FillsTheWidthAtHighResolution() {
+    Lines lines(2);
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
+    lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
+    lines.Calculator.SetCalculatorClock(true);
+    QVERIFY(lines.Zone().Width > 1000);
+    QVERIFY(lines.Zone().Width <= 1184);
+}
+
+void tst_CalculatorLines::FillsTheWidthByTheLongestLine() {
+    Lines lines;
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
+    lines.Calculator.SetCalculatorClock(true);
+    QVERIFY(lines.Local().Width > 500);
+    QVERIFY(lines.Local().Width <= 592);
+    QCOMPARE(lines.Zone().Font.pointSizeF(), 12.0);
+}
+
+void tst_CalculatorLines::KeepsToTheHeight() {
+    Lines lines;
+    lines.Face.Window.Resize(600, 30);
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
+    lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
+    lines.Calculator.SetCalculatorClock(true);
+    QVERIFY(lines.Local().Top >= 0);
+    QVERIFY(lines.Zone().Top + lines.Zone().Height <= 30);
+    QVERIFY(lines.Local().Top + lines.Local().Height <= lines.Zone().Top);
+}
+
+void tst_CalculatorLines::BeginsInput() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    QVERIFY(!lines.Calculator.EditingZoneLine());
+    QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00 _"_s);
+    QCOMPARE(lines.Local().Tag, u"15/06/2026 12:00:00"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00"_s);
+    QCOMPARE(lines.Face.Window.Shows, 1);
+}
+
+void tst_CalculatorLines::TabMovesTheCaret() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    QVERIFY(lines.Calculator.EditCalculatorKey(9));
+    QVERIFY(lines.Calculator.EditingZoneLine());
+    QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00 _"_s);
+    QCOMPARE(lines.Face.Window.Shows, 2);
+    QVERIFY(lines.Calculator.EditCalculatorKey(9));
+    QVERIFY(!lines.Calculator.EditingZoneLine());
+    QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00 _"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00"_s);
+}
+
+void tst_CalculatorLines::ConvertsToTheZone() {
+    BlankLines lines;
+    lines.Type(u"12:"_s);
+    QCOMPARE(lines.Zone().Tag, QString());
+    QCOMPARE(lines.Local().Caption, u"Local Time: 12: _"_s);
+    lines.Type(u"30"_s);
+    QCOMPARE(lines.Local().Caption, u"Local Time: 12:30 _"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 18:00:00"_s);
+    lines.Press(37, 4);
+    lines.Press(8);
+    QCOMPARE(lines.Local().Caption, u"Local Time: _:30"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 8:00:00"_s);
+}
+
+void tst_CalculatorLines::ConvertsToLocalTime() {
+    BlankLines lines;
+    lines.Press(9);
+    lines.Type(u"1/7/2026 2:15"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 1/7/2026 2:15 _"_s);
+    QCOMPARE(lines.Local().Caption, u"Local Time: 30/06/2026 20:45:00"_s);
+    lines.Press(46);
+    QCOMPARE(lines.Local().Tag, u"30/06/2026 20:45:00"_s);
+    lines.Press(8, 13);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time:  _"_s);
+    QCOMPARE(lines.Local().Caption, u"Local Time: "_s);
+}
+
+void tst_CalculatorLines::LeavesConversionsBlank_data() {
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a word") << u"noon"_s;
+    QTest::newRow("a number") << u"12"_s;
+    QTest::newRow("no such day") << u"30/2/2026"_s;
+    QTest::newRow("behind the last year") << u"31/12/9999 23:00"_s;
+}
+
+void tst_CalculatorLines::LeavesConversionsBlank() {
+    QFETCH(QString, text);
+    BlankLines lines;
+    lines.Type(text);
+    QCOMPARE(lines.Local().Tag, text);
+    QCOMPARE(lines.Zone().Tag, QString());
+    QVERIFY(lines.Zone().Caption.endsWith(u" Time: "_s));
+    QVERIFY(lines.Face.Window.Status.isEmpty());
+}
+
+void tst_CalculatorLines::NamesTheZoneAtTheTypedTime() {
+    BlankLines lines;
+    lines.Type(u"15/1/2026 12:00"_s);
+    QCOMPARE(lines.Face.Controls.lblLocation(1).Caption, u"Hill Standard Time"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Standard Time: 15/01/2026 17:30:00"_s);
+    lines.Press(9);
+    lines.Press(8, 19);
+    QCOMPARE(lines.Zone().Caption, u"Hill Standard Time:  _"_s);
+    lines.Type(u"15/7/2026 12:00"_s);
+    QCOMPARE(lines.Face.Controls.lblLocation(1).Caption, u"Hill Daylight Time"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/7/2026 12:00 _"_s);
+    QCOMPARE(lines.Face.Zone.CurrentName, QString());
+}
+
+// The zone's clock shows two in standard time, 4:30 ahead of GMT, when it is 16:30 of the day
+// before in a place five hours behind GMT.
+void tst_CalculatorLines::NamesTheZoneByTheMachinesOffset() {
+    BlankLines lines;
+    lines.Face.Machine.Clock.SetZone(QTimeZone(-5 * 3600));
+    lines.Type(u"28/3/2026 16:30:00"_s);
+    QCOMPARE(lines.Face.Controls.lblLocation(1).Caption, u"Hill Standard Time"_s);
+    lines.Press(8);
+    lines.Type(u"1"_s);
+    QCOMPARE(lines.Local().Tag, u"28/3/2026 16:30:01"_s);
+    QCOMPARE(lines.Face.Controls.lblLocation(1).Caption, u"Hill Daylight Time"_s);
+}
+
+void tst_CalculatorLines::MovingTheCaretConvertsNothing() {
+    BlankLines lines;
+    lines.Type(u"noon"_s);
+    lines.Press(9);
+    lines.Press(37);
+    lines.Press(39);
+    lines.Press(45);
+    QCOMPARE(lines.Local().Tag, u"noon"_s);
+}
+
+void tst_CalculatorLines::EscGivesTheTextsBack() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    lines.Press(8, 19);
+    lines.Type(u"15/1/2026 10:00"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Standard Time: 15/01/2026 15:30:00"_s);
+    QVERIFY(!lines.Calculator.EditCalculatorKey(27));
+    QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00"_s);
+    QCOMPARE(lines.Face.Controls.lblLocation(1).Caption, u"Hill Daylight Time"_s);
+}
+
+void tst_CalculatorLines::EnterTakesTheCaretAway() {
+    BlankLines lines;
+    lines.Type(u"12:30"_s);
+    QVERIFY(lines.Calculator.EditCalculatorKey(13));
+    QCOMPARE(lines.Local().Caption, u"Local Time: 12:30"_s);
+    QCOMPARE(lines.Zone().Tag, u"15/06/2026 18:00:00"_s);
+    lines.Press(37);
+    QCOMPARE(lines.Local().Caption, u"Local Time: 12:3_"_s);
+}
+
+void tst_CalculatorLines::EnterInABlankLineChangesNothing() {
+    BlankLines lines;
+    QVERIFY(lines.Calculator.EditCalculatorKey(13));
+    QCOMPARE(lines.Local().Caption, u"Local Time:  _"_s);
+}
+
+void tst_CalculatorLines::IgnoresOtherKeys() {
+    BlankLines lines;
+    for (const int key : {-1, 0, 1, 16, 17, 31, 127, 0x110000}) {
+        QVERIFY(lines.Calculator.EditCalculatorKey(key));
+        QCOMPARE(lines.Local().Tag, QString());
+    }
+}
+
+void tst_CalculatorLines::CapsTheText() {
+    BlankLines lines;
+    lines.Type(QString(60, u'1'));
+    QCOMPARE(lines.Local().Tag, QString(40, u'1'));
+    QCOMPARE(lines.Zone().Tag, QString());
+}
+
+void tst_CalculatorLines::BeginsAnewInTheLocalLine() {
+    Lines lines;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    lines.Press(9);
+    lines.Press(45);
+    lines.Press(27);
+    lines.Calculator.BeginInput();
+    QVERIFY(!lines.Calculator.EditingZoneLine());
+    QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00 _"_s);
+    QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00"_s);
+    lines.Press(37);
+    lines.Type(u"1"_s);
+    QCOMPARE(lines.Local().Tag, u"15/06/2026 12:00:010"_s);
+}
+
+void tst_CalculatorLines::SurvivesBadInput_data() {
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<QSize>("size");
+    for (const QString& number :
+         {u"-1"_s, u"0"_s, u"1"_s, u"100000"_s, u"-100000"_s, u"1e308"_s, u"text"_s, QString()}) {
+        for (const QSize& size : {QSize(1, 1), QSize(600, 200), QSize(4000, 4000)}) {
+            QTest::addRow("%s at %d", qPrintable(number), size.width()) << number << size;
+        }
+    }
+}
+
+void tst_CalculatorLines::SurvivesBadInput() {
+    QFETCH(QString, number);
+    QFETCH(QSize, size);
+    Lines lines;
+    lines.Face.Window.Resize(size.width(), size.height());
+    for (const QString& line : {u"Calculator Local Time "_s, u"Calculator Time "_s}) {
+        for (const QString& key : {u"Font"_s, u"Font Size"_s, u"Font Colour"_s}) {
+            lines.Face.Set(line + key, number);
+        }
+    }
+    lines.Face.Zone.HoursFromLocal = 1e9F;
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    lines.Press('1', 50);
+    lines.Face.Window.Drawn.Paint([&](QPainter& painter) {
+        drawing::PaintLabel(painter, lines.Local(), 1);
+        drawing::PaintLabel(painter, lines.Zone(), 1);
+    });
+    QVERIFY(lines.Local().Left >= 4);
+    QVERIFY(lines.Local().Height > 0 && lines.Local().Height < 8000);
+}
+
+QTEST_MAIN(tst_CalculatorLines)
+#include "tst_CalculatorLines.moc"
