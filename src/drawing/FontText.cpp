@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRawFont>
-#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -28,7 +27,7 @@ constexpr StandIn StandIns[] = {{"Times New Roman"_L1, "Liberation Serif"_L1},
 
 QFont::Weight WeightOf(int weight, const QString& family) {
     if (weight <= HeaviestKnown) {
-        return static_cast<QFont::Weight>(std::clamp(weight, 1, HeaviestKnown));
+        return weight > 0 ? static_cast<QFont::Weight>(weight) : QFont::Normal;
     }
     return QFontDatabase::styles(family).contains("Black"_L1) ? QFont::Black : QFont::Bold;
 }

@@ -11,7 +11,7 @@ struct LogFont {
     int Height = 0;      ///< of the character cell, in device pixels; 0 is the default height
     int Width = 0;       ///< average character width, in device pixels; 0 is the font's own
     int Escapement = 0;  ///< tenths of a degree, counter-clockwise
-    int Weight = 400;    ///< above 1000: as heavy as there is
+    int Weight = 400;    ///< 0 is the normal one; above 1000: as heavy as there is
     bool Italic = false;
     bool Underline = false;
     bool StrikeOut = false;
@@ -32,7 +32,7 @@ QString InstalledFamily(const QString& name);
 /// Prints a text whose character cell begins with its top left corner at (x, y) and is turned
 /// around that point. The cell is as high as the font's ascent and descent together; the average
 /// width is the mean of the small letters and the blank, by their frequency in English text. The
-/// width is a real horizontal scale of the letters: a "I" at half the font's own width is half as
+/// width is a real horizontal scale of the letters: at half the font's own width an "I" is half as
 /// thick.
 ///
 /// Example: at (100, 50) with an escapement of 900 the text runs upward from there, the tops of
