@@ -9,8 +9,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 out=${1:?usage: tools/contact_sheets.sh OUTDIR [FOLDER]}
 ctl=${2:-build/release/bin}/tempolarkctl
-export QT_QPA_PLATFORM=offscreen
 work=$(mktemp -d)
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$out" "$work/app" "$work/tiles"
 cp -r data/. "$work/app"
@@ -36,16 +36,16 @@ Choices() {
     sed -n "s/^[^=]*:$1=[^,]*,//p" data/ini/Tempolark.ini | tr -d '\r' | tr , '\n'
 }
 
-# Sheet NAME COLUMNS [SIDE]: puts the tiles together, in the order of their names, which begin with
-# a number that is not shown.
+# Sheet NAME COLUMNS POINTS: puts the tiles together, in the order of their names, which begin with
+# a number that is not shown; the rest stands below them in letters of that size.
 Sheet() {
     local tile arguments=()
     for tile in "$work"/tiles/*.png; do
         name=$(basename "$tile" .png)
         arguments+=(-label "${name#*~}" "$tile")
     done
-    montage -font DejaVu-Sans -pointsize 14 -background '#f4f4f2' -fill '#222222' \
-        "${arguments[@]}" -tile "$2x" -geometry "${3:-+8+6}" "$out/$1.png"
+    montage -font DejaVu-Sans -pointsize "$3" -background '#f4f4f2' -fill '#222222' \
+        "${arguments[@]}" -tile "$2x" -geometry +8+6 "$out/$1.png"
     rm -f "$work"/tiles/*.png
     echo "$out/$1.png"
 }
@@ -54,11 +54,11 @@ number=100
 for file in data/Styles/*.ini; do
     Draw "$file" "$((number += 1))~$(basename "$file" .ini)" 10:08:42 300x300
 done
-Sheet styles 6
+Sheet styles 6 14
 
 number=100
 while read -r style; do
-    width=(6 4 2)
+    width=(9 6 3)
     [[ "$style" == *Simple ]] && width=(4 3 1)
     [[ "$style" == Frame ]] && width=(2 2 1)
     With hands data/ini/Tempolark.ini "Hour Hand Style=$style" "Minute Hand Style=$style" \
@@ -68,26 +68,27 @@ while read -r style; do
         "Minute Hand Colour=7876139" "Time Zone Label Size=0" "Sun Moon Size=0" \
         "Hour Number Style=No Numbers" "Speaker=No"
     for hour in {00..11}; do
-        Draw "$work/hands.ini" "$((number += 1))~$style $hour:24:41" "$hour:24:41" 150x150
+        Draw "$work/hands.ini" "$((number += 1))~$style $hour:24:41" "$hour:24:41" 180x180
     done
 done < <(Choices 'Hour Hand Style')
-Sheet hands 12 +4+4
+Sheet hands 12 11
 
 number=100
 while read -r style; do
     With numbers data/Styles/"Marble Roman.ini" "Hour Number Style=$style"
     Draw "$work/numbers.ini" "$((number += 1))~$style" 10:08:42 300x300
 done < <(Choices 'Hour Number Style')
-Sheet numbers 6
+Sheet numbers 6 14
 
 number=100
 while read -r special; do
     file=data/ini/Tempolark.ini kind=Analogue
     [[ "$special" == Digital* ]] && kind=Digital
-    [[ "$special" == "World Map" ]] && file="data/Styles/World Map.ini" kind="Analogue and Digital"
-    With special "$file" "Clock Special=$special" "Clocks=$kind"
+    [[ "$special" == "World Map" ]] && file="data/Styles/World Map.ini" kind=Digital
+    With special "$file" "Clock Special=$special" "Clocks=$kind" \
+        "Time Zone Label Size=0"
     for time in 00:00:00 03:07:20 06:30:45 10:08:42 15:15:15 21:52:36; do
         Draw "$work/special.ini" "$((number += 1))~${special} $time" "$time" 200x200
     done
 done < <(Choices 'Clock Special')
-Sheet specials 6 +6+6
+Sheet specials 6 9

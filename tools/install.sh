@@ -14,7 +14,7 @@ packages=(
     qt6-base-dev qt6-declarative-dev qt6-multimedia-dev qt6-speech-dev qt6-svg-dev
     # Running: platforms, the zone database, flags, fonts and those that the styles are set in.
     fonts-dejavu-core fonts-liberation iso-flags-svg libqt6gui6 libqt6svg6 qt6-qpa-plugins tzdata
-    fonts-bebas-neue fonts-cantarell fonts-comfortaa fonts-dseg fonts-ebgaramond fonts-lato
+    fonts-bebas-neue fonts-cantarell fonts-comfortaa fonts-dseg fonts-lato
     fonts-league-spartan fonts-oldstandard
     # Running without a display: a screen, a window manager, and a camera.
     imagemagick openbox x11-utils xdotool xvfb

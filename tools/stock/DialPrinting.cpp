@@ -30,9 +30,12 @@ Colour Framed(double x, double y, const BezelShape& bezel, const Colour& ground,
     const double lit = Soft(-1.0, 1.0, facing);
     const double glint = Hill(0.62, 0.16, facing) + 0.35 * Hill(-0.55, 0.12, facing);
     const Colour ring = Mix(bezel.Dark, bezel.Light, lit) + bezel.Light * (0.38 * glint);
-    // The ring throws its shadow on the dial at the upper left, and on the ground at the lower right.
-    const double sunk = Soft(bezel.Inner - 0.05, bezel.Inner + 0.03, std::hypot(x - 0.02, y - 0.024));
-    const double cast = Soft(bezel.Outer + 0.06, bezel.Outer - 0.02, std::hypot(x - 0.02, y - 0.03));
+    // The ring throws its shadow on the dial at the upper left, and on the ground at the lower
+    // right.
+    const double sunk =
+        Soft(bezel.Inner - 0.05, bezel.Inner + 0.03, std::hypot(x - 0.02, y - 0.024));
+    const double cast =
+        Soft(bezel.Outer + 0.06, bezel.Outer - 0.02, std::hypot(x - 0.02, y - 0.03));
     const Colour inside = dial * (1 - 0.42 * sunk);
     const Colour outside = ground * (1 - 0.55 * cast);
     const Colour near = Mix(inside, ring, Soft(bezel.Inner - Edge, bezel.Inner + Edge, radius));

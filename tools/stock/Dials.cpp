@@ -22,8 +22,8 @@ double Glaze(double x, double y) {
 Colour CirclesBrushed(double x, double y) {
     const double radius = std::hypot(x, y);
     const double bearing = std::atan2(y, x);
-    const double groove = Noise(radius * 230, 7.5, 141) * 0.5 +
-                          Noise(radius * 330, std::cos(bearing) * 2, 142) * 0.5;
+    const double groove =
+        Noise(radius * 230, 7.5, 141) * 0.5 + Noise(radius * 330, std::cos(bearing) * 2, 142) * 0.5;
     const double turn = bearing + 0.72 + 0.03 * groove;
     const double fan = std::exp(4.5 * (std::cos(2 * turn) - 1)) +
                        0.32 * std::exp(8 * (std::cos(2 * (turn - 1.45)) - 1));
@@ -63,7 +63,8 @@ QImage BrushedSteelDial() {
             const double rim = Soft(0.797, 0.803, radius);
             const Colour field = CirclesBrushed(x, y);
             Colour dial = Mix(field, field * 0.82, rim);
-            dial = dial * (1 - 0.3 * Hill(0.8, 0.004, radius)) + Grey(0.16 * Hill(0.807, 0.003, radius));
+            dial = dial * (1 - 0.3 * Hill(0.8, 0.004, radius)) +
+                   Grey(0.16 * Hill(0.807, 0.003, radius));
             return Framed(x, y, SteelBezel, Hex(0x24272b) * Vignette(x, y, 0.3), dial);
         },
         140);
@@ -79,7 +80,8 @@ QImage BlackEnamelDial() {
             const double gloss = Hill(0, 0.75, std::hypot(x + 0.45, y + 0.62));
             const double arc = Soft(0.86, 0.845, std::hypot(x, y)) *
                                Soft(0.93, 0.99, std::hypot(x - 0.33, y - 0.45));
-            const Colour enamel = Mix(Hex(0x08090b), Hex(0x2a2d33), 0.8 * gloss) + Grey(0.022 * arc);
+            const Colour enamel =
+                Mix(Hex(0x08090b), Hex(0x2a2d33), 0.8 * gloss) + Grey(0.022 * arc);
             return Framed(x, y, GoldBezel, Hex(0x0e0d0c), enamel * Vignette(x, y, 0.3));
         },
         150);
@@ -94,7 +96,8 @@ QImage BlackEnamelDial() {
 QImage IvoryEnamelDial() {
     QImage image = Render(
         [](double x, double y) {
-            const Colour enamel = Mix(Hex(0xf8f1de), Hex(0xe9dcbd), Soft(0.3, 1.05, std::hypot(x, y)));
+            const Colour enamel =
+                Mix(Hex(0xf8f1de), Hex(0xe9dcbd), Soft(0.3, 1.05, std::hypot(x, y)));
             return Framed(x, y, GoldBezel, Hex(0x2b1d12), enamel * Glaze(x, y));
         },
         160);
@@ -145,7 +148,8 @@ QImage StationDial() {
 QImage WalnutCase() {
     QImage image = Render(
         [](double x, double y) {
-            const Colour enamel = Mix(Hex(0xf7f1e4), Hex(0xe4d8c0), Soft(0.25, 0.95, std::hypot(x, y)));
+            const Colour enamel =
+                Mix(Hex(0xf7f1e4), Hex(0xe4d8c0), Soft(0.25, 0.95, std::hypot(x, y)));
             return Framed(x, y, BrassBezel, Walnut(x, y), enamel * Glaze(x, y));
         },
         190);
@@ -163,7 +167,8 @@ QImage SlateDial() {
             const double cleft = Layered(x * 2.2 + 4, y * 3.4, 6, 201);
             const double slopes = Layered((x + 0.004) * 2.2 + 4, (y + 0.004) * 3.4, 6, 201) - cleft;
             Colour stone = Mix(Hex(0x3a4148), Hex(0x4e565e), 0.5 + 0.6 * cleft);
-            stone = stone * (1 - 3.4 * slopes) * (1 + 0.1 * Hill(0, 0.8, std::hypot(x + 0.4, y + 0.5)));
+            stone =
+                stone * (1 - 3.4 * slopes) * (1 + 0.1 * Hill(0, 0.8, std::hypot(x + 0.4, y + 0.5)));
             return stone * Vignette(x, y, 0.45);
         },
         200);

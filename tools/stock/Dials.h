@@ -14,7 +14,8 @@ struct BezelShape {
     Colour Dark, Light;
 };
 
-/// The colour of a place: @p ground outside, the ring, and inside it @p dial with the ring's shadow.
+/// The colour of a place: @p ground outside, the ring, and inside it @p dial with the ring's
+/// shadow.
 Colour Framed(double x, double y, const BezelShape& bezel, const Colour& ground,
               const Colour& dial);
 

@@ -26,8 +26,8 @@ Colour Walnut(double x, double y) {
     const double phase = ring - std::floor(ring);
     const double late = Soft(0.1, 0.8, phase) * (1 - Soft(0.8, 1.0, phase));
     const double strength = 0.55 + 0.45 * Hash(static_cast<int>(std::floor(ring)), 0, 17);
-    const double fibre = Noise(x * 95 + warp * 60, y * 2.6, 13) * 0.6 +
-                         Noise(x * 210 + warp * 90, y * 6, 14) * 0.4;
+    const double fibre =
+        Noise(x * 95 + warp * 60, y * 2.6, 13) * 0.6 + Noise(x * 210 + warp * 90, y * 6, 14) * 0.4;
     const double pore = Soft(0.42, 0.9, Noise(x * 190 + warp * 90, y * 7.5, 15));
     const double cloud = Layered(x * 1.1, y * 0.6, 3, 16);
     Colour wood = Mix(Hex(0x6b4630), Hex(0x3a2318), late * strength * 0.85);
@@ -95,16 +95,17 @@ Colour CarbonFibre(double x, double y) {
     const double round = 1 - 2.6 * across * across;
     const double glance = lengthwise ? 0.62 : 0.34;
     const double sheen = 0.45 + 0.75 * Hill(-0.35, 0.8, (x + y) / 2);
-    const double level = 0.05 + 0.16 * glance * round * (0.55 + 0.45 * rise) * sheen *
-                                    (1 + 0.28 * strand) * 1.5;
+    const double level =
+        0.05 + 0.16 * glance * round * (0.55 + 0.45 * rise) * sheen * (1 + 0.28 * strand) * 1.5;
     return Colour{level * 0.97, level, level * 1.05} * Vignette(x, y, 0.4);
 }
 
 Colour FrostedGlass(double x, double y) {
     const double grain = Hash(static_cast<int>((x + 2) * 500), static_cast<int>((y + 2) * 500), 61);
     const double jx = x + 0.035 * (grain - 0.5);
-    const double jy = y + 0.035 * (Hash(static_cast<int>((y + 2) * 500),
-                                        static_cast<int>((x + 2) * 500), 62) - 0.5);
+    const double jy =
+        y +
+        0.035 * (Hash(static_cast<int>((y + 2) * 500), static_cast<int>((x + 2) * 500), 62) - 0.5);
     Colour view = Mix(Hex(0xdfeaee), Hex(0xb9cdd6), Soft(-1, 1, jy + 0.2 * jx));
     view = Mix(view, Hex(0x9fc3c8), 0.75 * Hill(0, 0.55, std::hypot(jx + 0.55, jy - 0.45)));
     view = Mix(view, Hex(0xf6ead6), 0.85 * Hill(0, 0.5, std::hypot(jx - 0.5, jy + 0.5)));
@@ -118,8 +119,7 @@ Colour CopperPatina(double x, double y) {
     const double du = 0.35 * Layered(x * 1.6, y * 1.6, 4, 71);
     const double dv = 0.35 * Layered(x * 1.6 + 8, y * 1.6, 4, 72);
     const double field = Layered(x * 1.5 + du, y * 1.1 + dv, 6, 73) +
-                         0.3 * Layered(x * 9, y * 2.2, 3, 74) +
-                         0.5 * (std::hypot(x, y) - 0.98);
+                         0.3 * Layered(x * 9, y * 2.2, 3, 74) + 0.5 * (std::hypot(x, y) - 0.98);
     const double fine = Layered(x * 40, y * 40, 3, 75);
     const double green = Soft(-0.06, 0.5, field + 0.14 * fine);
     const double brush = Noise(x * 4, y * 170, 76) * 0.5 + Noise(x * 10, y * 330, 77) * 0.35;

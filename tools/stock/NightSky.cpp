@@ -21,15 +21,14 @@ Colour Sky(double x, double y) {
     const double dust = Soft(0.5, 0.82, Crests(x * 1.7 + 3, y * 1.7, 5, 113)) *
                         Hill(0, 0.2, 0.77 * x + 0.64 * y + 0.15);
     Colour sky = Mix(Hex(0x070b18), Hex(0x16223f), Soft(-1.1, 1.1, y - 0.25 * x));
-    sky = sky + Hex(0x5c6a96) * (0.34 * band * cloud) + Hex(0x9a7f86) * (0.12 * band * band * cloud);
+    sky =
+        sky + Hex(0x5c6a96) * (0.34 * band * cloud) + Hex(0x9a7f86) * (0.12 * band * band * cloud);
     sky = sky * (1 - 0.42 * dust);
     return sky * Vignette(x, y, 0.35);
 }
 
 Colour StarTint(double chance) {
-    return chance < 0.2   ? Hex(0xffe3c2)
-           : chance < 0.4 ? Hex(0xc9d8ff)
-                          : Hex(0xf6f7ff);
+    return chance < 0.2 ? Hex(0xffe3c2) : chance < 0.4 ? Hex(0xc9d8ff) : Hex(0xf6f7ff);
 }
 
 void DrawStar(QPainter& painter, QPointF place, double size, const Colour& tint, double strength) {

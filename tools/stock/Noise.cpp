@@ -40,8 +40,7 @@ double Noise(double x, double y, std::uint32_t seed) {
     const double dx = x - left;
     const double dy = y - top;
     const double u = Fade(dx);
-    const double upper =
-        std::lerp(Slope(i, j, dx, dy, seed), Slope(i + 1, j, dx - 1, dy, seed), u);
+    const double upper = std::lerp(Slope(i, j, dx, dy, seed), Slope(i + 1, j, dx - 1, dy, seed), u);
     const double lower =
         std::lerp(Slope(i, j + 1, dx, dy - 1, seed), Slope(i + 1, j + 1, dx - 1, dy - 1, seed), u);
     return 1.5 * std::lerp(upper, lower, Fade(dy));
@@ -64,8 +63,7 @@ double Crests(double x, double y, int octaves, std::uint32_t seed) {
     double sum = 0;
     double weight = 0.5;
     for (int octave = 0; octave < octaves; ++octave) {
-        sum += weight *
-               (1 - std::abs(Noise(x, y, seed + static_cast<std::uint32_t>(octave))));
+        sum += weight * (1 - std::abs(Noise(x, y, seed + static_cast<std::uint32_t>(octave))));
         x = x * 2.03 + 17.1;
         y = y * 2.03 - 9.7;
         weight /= 2;

@@ -75,9 +75,9 @@ QImage Render(const Shader& shader, std::uint32_t seed) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(row));
         for (int column = 0; column < PictureSize; ++column) {
             const Colour colour = Sample(shader, column, row);
-            line[column] = qRgb(Level(colour.Red, column, row, seed),
-                                Level(colour.Green, column, row, seed),
-                                Level(colour.Blue, column, row, seed));
+            line[column] =
+                qRgb(Level(colour.Red, column, row, seed), Level(colour.Green, column, row, seed),
+                     Level(colour.Blue, column, row, seed));
         }
     }
     return image;

@@ -102,10 +102,14 @@ void OnyxDot(QPainter& painter) {
 }
 
 using Mark = void (*)(QPainter&);
-const std::map<QString, Mark> Marks{
-    {u"Ruby"_s, Ruby},           {u"Sapphire"_s, Sapphire},    {u"Pearl"_s, Pearl},
-    {u"Brass Stud"_s, BrassStud}, {u"Silver Pin"_s, SilverPin}, {u"Star"_s, Star},
-    {u"Diamond"_s, Diamond},     {u"Onyx Dot"_s, OnyxDot}};
+const std::map<QString, Mark> Marks{{u"Ruby"_s, Ruby},
+                                    {u"Sapphire"_s, Sapphire},
+                                    {u"Pearl"_s, Pearl},
+                                    {u"Brass Stud"_s, BrassStud},
+                                    {u"Silver Pin"_s, SilverPin},
+                                    {u"Star"_s, Star},
+                                    {u"Diamond"_s, Diamond},
+                                    {u"Onyx Dot"_s, OnyxDot}};
 
 }  // namespace
 

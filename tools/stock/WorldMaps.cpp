@@ -68,8 +68,8 @@ QImage PolarWorld() {
             Colour dial = Mix(Hex(0x1d4b66), Hex(0x0b2233), Soft(0.0, 0.75, radius));
             dial = dial + Grey(0.05 * Hill(0, 0.5, std::hypot(x + 0.3, y + 0.4)));
             const Colour chapter = Hex(0xe9e1cb) * (1 - 0.06 * Soft(0.7, 0.95, radius));
-            dial = Mix(dial, chapter, Soft(0.698, 0.702, radius));
-            dial = dial * (1 - 0.35 * Hill(0.695, 0.008, radius));
+            dial = Mix(dial, chapter, Soft(0.658, 0.662, radius));
+            dial = dial * (1 - 0.35 * Hill(0.655, 0.008, radius));
             return Framed(x, y, bezel, Hex(0x14110c), dial);
         },
         220);
@@ -78,7 +78,7 @@ QImage PolarWorld() {
     painter.setPen(Qt::NoPen);
     const Colour land = Hex(0xd8c48f);
     for (double latitude = 84.5; latitude > -56; latitude -= 2.35) {
-        const double radius = (90 - latitude) / 148 * 0.68;
+        const double radius = (90 - latitude) / 148 * 0.645;
         const int count = std::max(static_cast<int>(radius * 2 * 180 * Degree / 0.0108), 1);
         for (int dot = 0; dot < count; ++dot) {
             const double longitude = dot * 360.0 / count - 180;

@@ -20,7 +20,6 @@ namespace {
 constexpr QSize FlagSize(320, 240);
 
 QString CountryName(const QString& code) {
-    // The name's plain letters: a property file's reader may meet a system without the others.
     const auto territory = QLocale::codeToTerritory(code.toUpper());
     QString name = QLocale::territoryToString(territory);
     if (territory == QLocale::AnyTerritory || territory == QLocale::World || name.isEmpty()) {

@@ -4,8 +4,8 @@
 //
 // Writes FOLDER/Background/NAME.jpg for each picture and FOLDER/NAME.ico for each mark; with names,
 // those alone. The same program draws the same pictures every time.
-#include <QGuiApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <cstdio>
 #include <functional>
 #include <vector>
