@@ -24,14 +24,15 @@ int ToPixels(double twips) {
 
 }  // namespace
 
-MdiPlacement::MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data)
-    : clock_(clock), area_(area), data_(data) {}
+MdiPlacement::MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data,
+                           platform::WallClock* time)
+    : clock_(clock), area_(area), data_(data), time_(time), ownOutline_(clock) {}
 
 void MdiPlacement::MakeFrame() {
     if (area_ == nullptr) {
         return;
     }
-    frame_ = new QMdiSubWindow(area_);
+    frame_ = new ClockFrame(area_);
     frame_->setAttribute(Qt::WA_DeleteOnClose);
     frame_->setWidget(&clock_);
     frame_->setVisible(false);
@@ -60,6 +61,10 @@ void MdiPlacement::PlaceInTheMiddle() {
 }
 
 void MdiPlacement::ApplyWindowState() {
+    if (data_.Is(Wrapper)) {
+        MaximiseWrapper();
+        return;
+    }
     const QString state = mduLib::GetProperty(u"Window State"_s, data_.Properties());
     stateWhenShown_ = mduUILib::WindowStateValue(state);
     if (Outer().isVisible()) {
@@ -96,14 +101,36 @@ void MdiPlacement::SetClockCaption() {
                                             : u"Tempolark "_s + QStringLiteral(TEMPOLARK_VERSION));
 }
 
-void MdiPlacement::ShowClockWindow(bool show) {
-    if (!show) {
-        Outer().hide();
-        return;
+void MdiPlacement::MoveTo(const QString& caption, ClockData& data) {
+    const auto says = [&caption](const QString& word) { return caption.contains(word); };
+    const auto store = [&data](const QString& key) {
+        mduLib::PutProperty(key, u"-1"_s, data.EditProperties());
+    };
+    const QSizeF container = ContainerSize();
+    QRectF rect = OuterRect();
+    if (says(u"Top"_s)) {
+        rect.moveTop(0);
     }
-    Show();
-    if (stateWhenShown_ != 0) {
-        SetWindowState(stateWhenShown_);
+    if (says(u"Bottom"_s)) {
+        rect.moveTop(container.height() - rect.height());
+    }
+    if (says(u"Left"_s)) {
+        rect.moveLeft(0);
+    }
+    if (says(u"Right"_s)) {
+        rect.moveLeft(container.width() - rect.width());
+    }
+    if (says(u"Centre"_s)) {
+        rect.moveCenter({container.width() / 2, container.height() / 2});
+        store(u"Window Top"_s);
+        store(u"Window Left"_s);
+    }
+    if (says(u"Auto Size"_s)) {
+        store(u"Window Width"_s);
+        store(u"Window Height"_s);
+    }
+    if (WindowState() == 0) {
+        SetOuterRect(rect);
     }
 }
 
@@ -129,10 +156,6 @@ void MdiPlacement::SetWindowState(int state) {
             outer.showNormal();
     }
 }
-
-void MdiPlacement::SetWindowRgn(const QRegion& /*outline*/) {}
-
-void MdiPlacement::SetColourKey(bool /*on*/) {}
 
 void MdiPlacement::Show() {
     clock_.show();

@@ -1,21 +1,27 @@
 #pragma once
 
 #include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPointer>
 #include <QWidget>
+#include <optional>
 
 #include "clock/ClockData.h"
 #include "clock/ClockWindow.h"
+#include "clock/ui/ClockFrame.h"
+#include "clock/ui/WindowReveal.h"
 
 namespace clockcore {
 
-/// Where a clock's window stands: in a frame of the shell, or by itself on the screen. Measures are
-/// twips of the outer window, 15 to a logical pixel, relative to the inner area of the shell or to
-/// the screen.
+/// Where a clock's window stands and how it is framed: in the shell, or by itself on the screen.
+/// Measures are twips of the outer window, 15 to a logical pixel, relative to the inner area of the
+/// shell or to the screen.
+///
+/// A window that has a figure ("Window Shape") or is a wrapper has neither border nor title bar.
 class MdiPlacement final : public ClockPlacement {
 public:
-    MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data);
+    /// @param time runs the animation of opening and closing; without it there is none
+    MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data,
+                 platform::WallClock* time = nullptr);
 
     /// Makes the frame around the clock; invisible and, until the first tick, of no size.
     void MakeFrame();
@@ -23,10 +29,26 @@ public:
     /// A quarter of the shell's size, in the middle of its inner area.
     void PlaceInTheMiddle();
 
+    /// A wrapper goes to its whole container, without a frame, and is shown.
     void ApplyWindowState() override;
     void ApplyWindowRect() override;
+    void ApplyWindowBorder() override;
+    void ApplyTitleBar() override;
     void SetClockCaption() override;
+    /// A clock that opens grows from its centre and is in its place from the first step on. One
+    /// that closes is gone at once; in the shell its image shrinks to the centre.
     void ShowClockWindow(bool show) override;
+
+    /// An entry of the position menu: each word of its caption acts by itself. "Centre" and
+    /// "Auto Size" store -1 in @p data, which is the clock's.
+    void MoveTo(const QString& caption, ClockData& data);
+
+    /// The outline of the outer window, in device pixels; an empty region takes it away.
+    void SetWindowRgn(const QRegion& outline);
+    /// Where the clock begins within the outer window, in device pixels.
+    QPoint SurfaceOffset() const;
+    /// Lets what the clock does not paint be see-through; a clock in the shell takes no notice.
+    void SetColourKey(bool on);
 
     int WindowState() const;  ///< 0 normal, 1 minimised, 2 maximised
     void SetWindowState(int state);
@@ -36,21 +58,28 @@ public:
     void SetOuterRect(const QRectF& twips);
     void SetOuterSize(const QSizeF& twips);
 
-    /// Gives the outer window an outline, in its device pixels; an empty one takes it away.
-    void SetWindowRgn(const QRegion& outline);
-    /// Whether a stand-alone window lets the desktop through; a child takes no notice.
-    void SetColourKey(bool on);
-
-    QMdiSubWindow* Frame() const { return frame_; }
+    ClockFrame* Frame() const { return frame_; }
     QWidget& Outer() const;
 
 private:
+    QString Property(const QString& key) const;
     QSizeF ContainerSize() const;
+    WindowOutline& Outline();
+    int AnimationRate() const;
+    void Open();
+    void MaximiseWrapper();
+    void ApplyLook();
+    void ApplyFlags(Qt::WindowFlags flags);
+    void MakeWindowAnew(Qt::WindowFlags flags);
 
     QWidget& clock_;
     QMdiArea* area_;
     const ClockData& data_;
-    QPointer<QMdiSubWindow> frame_;
+    platform::WallClock* time_;
+    QPointer<ClockFrame> frame_;
+    WindowOutline ownOutline_;  ///< of a clock that stands alone
+    std::optional<WindowReveal> opening_;
+    FrameLook look_;  ///< as the properties have it
     int stateWhenShown_ = 0;
 };
 

@@ -1,0 +1,155 @@
+#include "clock/ui/ClockFrame.h"
+
+#include <qdrawutil.h>
+#include <QEvent>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QResizeEvent>
+#include <QStyleOption>
+
+namespace clockcore {
+
+namespace {
+
+constexpr int PlainBorder = 7;
+constexpr int NoBorder = 1;
+constexpr int PlainWidth = 1;
+
+/// Frames as the clocks in them want them; one style serves all clocks of a shell.
+class FrameStyle final : public QProxyStyle {
+public:
+    explicit FrameStyle(QObject* parent) { setParent(parent); }
+
+    // Without a title bar the border goes on along the upper edge.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        const auto* frame = qobject_cast<const ClockFrame*>(widget);
+        const bool bar = metric == PM_TitleBarHeight;
+        if (frame == nullptr || (bar && frame->ShowsTitleBar()) ||
+            (!bar && metric != PM_MdiSubWindowFrameWidth)) {
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+        switch (frame->ShownBorder()) {
+            case NoBorder:
+                return 0;
+            case PlainBorder:
+                return PlainWidth;
+            default:
+                return QProxyStyle::pixelMetric(PM_MdiSubWindowFrameWidth, option, widget);
+        }
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        const auto* frame = qobject_cast<const ClockFrame*>(widget);
+        if (frame != nullptr && !frame->ShowsTitleBar()) {
+            if (hint == SH_TitleBar_NoBorder) {
+                return 1;
+            }
+            if (hint == SH_WindowFrame_Mask) {  // its corners are those of a title bar
+                return 0;
+            }
+        }
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        const auto* frame = qobject_cast<const ClockFrame*>(widget);
+        if (frame == nullptr || control != CC_TitleBar || frame->ShowsTitleBar()) {
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const auto* frame = qobject_cast<const ClockFrame*>(widget);
+        const bool own = frame != nullptr && element == PE_FrameWindow;
+        const int border = own ? frame->ShownBorder() : 0;
+        if (border == PlainBorder) {
+            painter->setPen(option->palette.color(QPalette::Dark));
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        } else if (own && border != NoBorder && !frame->ShowsTitleBar()) {
+            const int width = pixelMetric(PM_MdiSubWindowFrameWidth, option, widget);
+            qDrawWinPanel(painter, option->rect, option->palette);
+            qDrawPlainRect(painter, option->rect.adjusted(2, 2, -2, -2),
+                           option->palette.color(QPalette::Window), width - 2);
+        } else if (border != NoBorder) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+};
+
+QStyle* StyleOf(QMdiArea* area) {
+    constexpr QLatin1StringView name("ClockFrames");
+    auto* style = area->findChild<QStyle*>(name, Qt::FindDirectChildrenOnly);
+    if (style == nullptr) {
+        style = new FrameStyle(area);
+        style->setObjectName(name);
+    }
+    return style;
+}
+
+// A minimised clock has the buttons that bring it back.
+Qt::WindowFlags FlagsOf(const ClockFrame& frame) {
+    Qt::WindowFlags flags = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowSystemMenuHint |
+                            Qt::WindowCloseButtonHint;
+    flags.setFlag(Qt::WindowTitleHint, frame.ShowsTitleBar());
+    flags.setFlag(Qt::WindowMinMaxButtonsHint, frame.isMinimized());
+    return flags;
+}
+
+}  // namespace
+
+ClockFrame::ClockFrame(QMdiArea* area) {
+    setStyle(StyleOf(area));
+    setWindowFlags(FlagsOf(*this));
+}
+
+// The flags' setter also takes the frame's measures anew, and may enlarge the window.
+void ClockFrame::SetLook(const FrameLook& look) {
+    if (look_ == look) {
+        return;
+    }
+    look_ = look;
+    const QRect place = geometry();
+    setWindowFlags(FlagsOf(*this));
+    if (geometry() != place) {
+        setGeometry(place);
+    }
+    outline_.Apply();
+    update();
+}
+
+void ClockFrame::ApplyFlags() {
+    if (const Qt::WindowFlags flags = FlagsOf(*this); windowFlags() != flags) {
+        setWindowFlags(flags);
+    }
+}
+
+void ClockFrame::RestoreMask() {
+    QResizeEvent same(size(), size());
+    QMdiSubWindow::resizeEvent(&same);
+}
+
+// The base class clears the mask in each of these.
+
+void ClockFrame::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    outline_.Apply();
+}
+
+void ClockFrame::showEvent(QShowEvent* event) {
+    QMdiSubWindow::showEvent(event);
+    outline_.Apply();
+}
+
+void ClockFrame::changeEvent(QEvent* event) {
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        ApplyFlags();
+    }
+    outline_.Apply();
+}
+
+}  // namespace clockcore

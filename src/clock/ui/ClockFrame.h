@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include "clock/ui/WindowOutline.h"
+
+namespace clockcore {
+
+/// What frames a clock's window.
+struct FrameLook {
+    int Border = 3;  ///< 1 none, 3 raised, 7 a plain line
+    bool TitleBar = true;
+    bool operator==(const FrameLook&) const = default;
+};
+
+/// The frame of a clock in the shell: with or without a title bar, with three kinds of borders, and
+/// with an outline of its own. Changing the look keeps place, size, state and visibility. A
+/// minimised clock is its title bar, whatever its look is.
+class ClockFrame final : public QMdiSubWindow {
+    Q_OBJECT
+
+public:
+    explicit ClockFrame(QMdiArea* area);
+
+    const FrameLook& Look() const { return look_; }
+    void SetLook(const FrameLook& look);
+
+    WindowOutline& Outline() { return outline_; }
+
+    /// Whether the title bar is there at this moment.
+    bool ShowsTitleBar() const { return look_.TitleBar || isMinimized(); }
+    /// The border at this moment; a minimised clock has the raised one.
+    int ShownBorder() const { return isMinimized() ? FrameLook().Border : look_.Border; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void ApplyFlags();
+    void RestoreMask();
+
+    FrameLook look_;
+    WindowOutline outline_{*this, [this] { RestoreMask(); }};
+};
+
+}  // namespace clockcore
