@@ -26,6 +26,10 @@ public:
     bool Touch(const QString& path) override { return Contents.contains(path); }
     bool SetModifiedSeconds(const QString& path, qint64) override { return Touch(path); }
     std::optional<qint64> ModifiedSeconds(const QString&) const override { return std::nullopt; }
+    std::optional<qint64> Size(const QString& path) const override {
+        return Contents.contains(path) ? std::optional<qint64>(Contents[path].size())
+                                       : std::nullopt;
+    }
     QStringList FileNames(const QString&) const override { return Contents.keys(); }
 };
 

@@ -112,6 +112,7 @@ void ClockBackground::ApplySurface() {
     if (shaped_ != Measures()) {
         SetWindowShape();
     }
+    LoadWindowPicture(false);
     SetClockShape();
 }
 

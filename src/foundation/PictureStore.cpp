@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -26,6 +27,21 @@ bool IsTooLarge(const QSize& size, bool isJpeg) {
     return !size.isValid() || size.isEmpty() ||
            std::max(size.width(), size.height()) > LargestCodedSide ||
            Area(size) > (isJpeg ? LargestJpegArea : LargestArea);
+}
+
+/// Whether every block of a PNG file lies within it; the decoder takes as much memory as a block
+/// claims to need. A block is its length, its name, its bytes, and a check sum of 4.
+bool PngIsWhole(const QByteArray& content) {
+    constexpr qint64 around = 12;
+    qint64 at = 8;  // behind the signature
+    while (at + around <= content.size()) {
+        const qint64 end = at + around + qFromBigEndian<quint32>(content.constData() + at);
+        if (end > content.size() || content.sliced(at + 4, 4) == "IEND") {
+            return end <= content.size();
+        }
+        at = end;
+    }
+    return false;
 }
 
 QImage InPaintingForm(QImage image) {
@@ -102,6 +118,9 @@ QImage DecodePicture(const QByteArray& content) {
     if (content.size() > (isDrawing ? LargestDrawing : LargestFile) ||
         !(isJpeg || isDrawing || kind == "png" || kind == "bmp" || kind == "gif" ||
           kind == "ico")) {
+        return {};
+    }
+    if (kind == "png" && !PngIsWhole(content)) {
         return {};
     }
     const QSize size = reader.size();

@@ -209,6 +209,12 @@ private Q_SLOTS:
         QCOMPARE(PixelAt(100, 100), Blue);
     }
 
+    void MatComesWithTheSurface() {
+        face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
+        background_->ApplySurface();
+        QCOMPARE(PixelAt(0, 0), Green);
+    }
+
     void AForcedLoadReadsTheFileOnceMore() {
         face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
         face_->Machine.SetAge(u"mat.bmp"_s, 100);

@@ -152,6 +152,9 @@ private Q_SLOTS:
         QTest::newRow("three bytes of a JPEG") << QByteArray::fromHex("FFD8FF");
         QTest::newRow("head of a PNG") << png.left(20);
         QTest::newRow("half a PNG's header") << png.left(33);
+        QTest::newRow("PNG with a block beyond its end")
+            << png.left(33) + BigEndian(0x7E000025) + "tEXt" + png.mid(33);
+        QTest::newRow("PNG without an end") << png.chopped(12);
         QTest::newRow("broken drawing")
             << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\"><rect");
         QTest::newRow("huge PNG") << PngHeader(20000, 20000);
@@ -178,6 +181,11 @@ private Q_SLOTS:
         const QString path = machine_->WriteFile(u"a.bmp"_s, Coded(Plain(2, 2, Qt::red), "bmp"));
         QVERIFY(QFile::resize(path, 64LL * 1024 * 1024 + 1));
         QVERIFY(!store_->Load(machine_->Files, path));
+    }
+
+    void BytesBehindAPngDoNoHarm() {
+        const QByteArray png = Coded(Plain(30, 20, Qt::red), "png");
+        QVERIFY(LoadBytes(u"a.png"_s, png + "more"));
     }
 
     void NoSuchFile() {
