@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QTest>
 
 #include "ClockDesk.h"
@@ -280,6 +282,45 @@ private Q_SLOTS:
         desk.Machine.Clock.Advance(1000);
         QVERIFY(clock->Controls().lblTimeInput(1).Caption.startsWith(
             u"Local Time: 15/06/2026 12:00:0"_s));
+    }
+
+    /// A right click offers the kinds, the styles of the folder and the colours.
+    void MenuOfTheLook() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        WriteStyle(desk, u"Fish & Chips.ini"_s,
+                   {{"Background Colour=White", "Background Colour=Cyan"}});
+        WriteStyle(desk, u"Ale.ini"_s, {});
+        const auto open = [clock] {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5},
+                                    clock->mapToGlobal(QPoint{5, 5}));
+            QApplication::sendEvent(clock, &event);
+            return clock->findChildren<QMenu*>(u"FormPopup"_s).constLast();
+        };
+        const auto choose = [&](const QString& subMenu, const QString& caption) {
+            for (QAction* action : open()->findChild<QMenu*>(subMenu)->actions()) {
+                if (action->text() == caption) {
+                    action->trigger();
+                    return true;
+                }
+            }
+            return false;
+        };
+        QStringList styles;
+        for (const QAction* action : open()->findChild<QMenu*>(u"ClockStyles"_s)->actions()) {
+            styles += action->text();
+        }
+        QCOMPARE(styles, (QStringList{u"Ale"_s, u"Fish && Chips"_s, u""_s, u"More"_s}));
+        QVERIFY(choose(u"ClockStyles"_s, u"Fish && Chips"_s));
+        QCOMPARE(Corner(clock), qRgb(0, 255, 255));
+        QVERIFY(choose(u"ClocksMenu"_s, u"Calculator"_s));
+        QCOMPARE(clock->Data().Tag, u"3"_s);
+        QVERIFY(open()->findChild<QMenu*>(u"ClocksMenu"_s)->actions()[2]->isChecked());
+        QVERIFY(choose(u"ClockColourMenu"_s, u"Magenta"_s));
+        QCOMPARE(Corner(clock), qRgb(255, 0, 255));
+        desk.Machine.Dialogs.ColourAnswers = {0x102030};
+        QVERIFY(choose(u"ClockColourMenu"_s, u"Custom"_s));
+        QCOMPARE(Value(clock, u"Window Background Colour"_s), u"1056816"_s);
     }
 
     void SharedPictureIsHeldOnce() {

@@ -95,6 +95,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     /// Tab belongs to the calculator.
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;

@@ -1,8 +1,13 @@
-// Keys of the clock's window.
+// Keys and the right mouse button of the clock's window.
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 #include "clock/ClockMode.h"
+#include "clock/ui/LookMenu.h"
 #include "clock/ui/frmTempolark.h"
+#include "foundation/NamedValues.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -56,6 +61,25 @@ void frmTempolark::keyPressEvent(QKeyEvent* event) {
     } else {
         QWidget::keyPressEvent(event);
     }
+}
+
+void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {
+    files_.MakeCurrent();
+    const auto setStyle = [this](const QString& name) {
+        SetClockStyle(name == u"More"_s ? name : program_.Module.Paths.StylesFolder + name);
+    };
+    const auto setColour = [this](const QString& name) {
+        if (mduUILib::IsCustomColour(name)) {
+            PickWindowBackColour();
+        } else {
+            SetWindowBackColour({}, name);
+        }
+    };
+    QMenu* menu = clockcore::MakeLookMenu(
+        this, clockcore::GetClockType(data_.Properties()), styles_.Names(),
+        {[this](int mode) { SetClocks(mode); }, setStyle, setColour, [this] { SaveCurrentStyle(); },
+         [this] { SaveStyleAs(); }, [this] { Unload(); }});
+    menu->popup(event->globalPos());
 }
 
 bool frmTempolark::focusNextPrevChild(bool next) {

@@ -1,0 +1,63 @@
+#include "clock/ui/LookMenu.h"
+
+#include "clock/ClockMode.h"
+#include "foundation/FileHelpers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+namespace {
+
+void AddModes(QMenu& menu, int present, const std::function<void(int)>& choose) {
+    QMenu* modes = menu.addMenu(u"Clocks"_s);
+    modes->setObjectName(u"ClocksMenu"_s);
+    for (int mode = Analogue; mode <= AnalogueAndDigital; ++mode) {
+        QAction* action =
+            modes->addAction(ClockModeName(mode), &menu, [choose, mode] { choose(mode); });
+        action->setCheckable(true);
+        action->setChecked(mode == present);
+    }
+}
+
+void AddStyles(QMenu& menu, QStringList files, const std::function<void(const QString&)>& choose) {
+    QMenu* styles = menu.addMenu(u"Clock Style"_s);
+    styles->setObjectName(u"ClockStyles"_s);
+    files.sort(Qt::CaseInsensitive);
+    for (const QString& file : files) {
+        QString caption = mduLib::FileBaseName(file, false);
+        styles->addAction(caption.replace(u"&"_s, u"&&"_s), &menu,
+                          [choose, file] { choose(file); });
+    }
+    styles->addSeparator();
+    styles->addAction(u"More"_s, &menu, [choose] { choose(u"More"_s); });
+}
+
+void AddColours(QMenu& menu, const std::function<void(const QString&)>& choose) {
+    QMenu* colours = menu.addMenu(u"Clock Colour"_s);
+    colours->setObjectName(u"ClockColourMenu"_s);
+    for (const QString& name : {u"Black"_s, u"Blue"_s, u"Cyan"_s, u"Green"_s, u"Magenta"_s,
+                                u"Red"_s, u"White"_s, u"Yellow"_s, u"Transparent"_s, u"Custom"_s}) {
+        colours->addAction(name, &menu, [choose, name] { choose(name); });
+    }
+}
+
+}  // namespace
+
+QMenu* MakeLookMenu(QWidget* clock, int mode, const QStringList& styleFiles,
+                    const LookCommands& commands) {
+    auto* menu = new QMenu(clock);
+    menu->setObjectName(u"FormPopup"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    AddModes(*menu, mode, commands.SetClocks);
+    AddStyles(*menu, styleFiles, commands.SetClockStyle);
+    AddColours(*menu, commands.SetColour);
+    menu->addSeparator();
+    menu->addAction(u"Save Current Style"_s, menu, commands.SaveCurrentStyle);
+    menu->addAction(u"Save Style As"_s, menu, commands.SaveStyleAs);
+    menu->addSeparator();
+    menu->addAction(u"Close"_s, menu, commands.Close);
+    return menu;
+}
+
+}  // namespace clockcore

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QMenu>
+#include <QStringList>
+#include <functional>
+
+namespace clockcore {
+
+/// What a right click on a clock offers of its look.
+struct LookCommands {
+    std::function<void(int mode)> SetClocks;
+    std::function<void(const QString& name)> SetClockStyle;  ///< "More" asks for a file
+    std::function<void(const QString& colour)> SetColour;    ///< a name, or "Custom"
+    std::function<void()> SaveCurrentStyle;
+    std::function<void()> SaveStyleAs;
+    std::function<void()> Close;
+};
+
+/// The pop-up menu of a clock's look, made at the moment of opening: the kind of clock (@p mode is
+/// ticked), the style files by their names, the colours of the window. It deletes itself when it
+/// closes.
+QMenu* MakeLookMenu(QWidget* clock, int mode, const QStringList& styleFiles,
+                    const LookCommands& commands);
+
+}  // namespace clockcore
