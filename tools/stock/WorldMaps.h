@@ -7,7 +7,7 @@ namespace stock {
 /// The whole earth across the picture, land as dots.
 QImage WorldMap();
 
-/// The earth seen from above the north pole, land as dots, in a ring of 24 hours.
+/// The earth seen from above the north pole, land as dots, in a ring for the numbers.
 QImage PolarWorld();
 
 }  // namespace stock
