@@ -6,8 +6,6 @@
 
 #include "drawing/AnalogueFace.h"
 #include "drawing/Angles.h"
-#include "foundation/FileHelpers.h"
-#include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "timezones/ZoneArithmetic.h"
@@ -19,7 +17,6 @@ namespace drawing {
 namespace {
 
 constexpr double Automatic = -1;
-constexpr double FlagHeight = 0.18;  // of the surface's height
 // Logical pixels.
 constexpr double SpeakerMargin = 4;
 constexpr double LeastSpeaker = 14, LargestSpeaker = 32;
@@ -64,68 +61,6 @@ double ClockOverlays::Pixels(const QString& key) const {
 
 std::shared_ptr<const QImage> ClockOverlays::Stock(StockPicture picture, int side) const {
     return face_.Pictures.Scaled(GetStockPicture(picture), {side, side});
-}
-
-void ClockOverlays::LoadFlag() {
-    const QString file = mduLib::GetProperty(u"Flag File"_s, face_.Properties).trimmed();
-    flag_ = mduUILib::IsNoneValue(file)
-                ? nullptr
-                : face_.Pictures.Load(face_.FileSystem,
-                                      mduLib::ResolveAppPath(file, face_.Paths.AppFolder));
-    if (flag_ && flag_->isNull()) {
-        flag_ = nullptr;
-    }
-    SetFlagPosition();
-}
-
-void ClockOverlays::SetFlagPosition() {
-    const QString position = mduLib::GetProperty(u"Flag Position"_s, face_.Properties);
-    face_.Controls.imgFlag(1).Visible = false;
-    if (position.contains(u"Icon"_s, Qt::CaseInsensitive)) {
-        ShowFlagAsIcon();
-        return;
-    }
-    ShowStoredIcon();
-    PlaceFlag(position);
-}
-
-void ClockOverlays::ShowFlagAsIcon() {
-    face_.Controls.imgFlag(1).Picture = flag_;
-    if (icon_ != flag_) {
-        icon_ = flag_;
-        face_.Window.SetIcon(flag_ ? *flag_ : QImage());
-    }
-}
-
-// A flag that goes to the dial leaves the window's icon.
-void ClockOverlays::ShowStoredIcon() {
-    if (icon_ && *icon_) {
-        icon_ = nullptr;
-        face_.Window.SetIcon({});
-    }
-}
-
-void ClockOverlays::PlaceFlag(const QString& position) {
-    mduUILib::Control& flag = face_.Controls.imgFlag(1);
-    const double scaleWidth = face_.Window.Surface().ScaleWidth();
-    const double scaleHeight = face_.Window.Surface().ScaleHeight();
-    const double height = scaleHeight * FlagHeight;
-    flag.Height = static_cast<float>(height);
-    flag.Picture = flag_;
-    flag.Visible = flag_ != nullptr;
-    if (!flag_) {
-        return;
-    }
-    const double width = height * flag_->width() / flag_->height();
-    flag.Width = static_cast<float>(width);
-    const bool bottom = position.contains(u"Bottom"_s, Qt::CaseInsensitive);
-    const bool left = position.contains(u"left"_s, Qt::CaseInsensitive);
-    flag.Top = static_cast<float>(bottom ? scaleHeight - height : 0);
-    flag.Left = static_cast<float>(left ? 0 : scaleWidth - width);
-    const QSize size(mduAPILib::RoundToInteger(width), mduAPILib::RoundToInteger(height));
-    if (!size.isEmpty() && size.width() <= mduUILib::PictureStore::LargestSide) {
-        flag.Picture = face_.Pictures.Scaled(flag_, size);
-    }
 }
 
 void ClockOverlays::SetSunMoon() {

@@ -286,6 +286,25 @@ private Q_SLOTS:
         QCOMPARE(CentredPart(QRect(0, 0, 200, 100), part), rect);
     }
 
+    void LogicalPixels() {
+        const QRegion device = QRegion(20, 0, 100, 50) + QRegion(0, 50, 30, 7);
+        QCOMPARE(clockcore::ToLogicalPixels(device, 1), device);
+        QCOMPARE(clockcore::ToLogicalPixels(device, 2),
+                 QRegion(10, 0, 50, 25) + QRegion(0, 25, 15, 3));
+        QVERIFY(clockcore::ToLogicalPixels({}, 2).isEmpty());
+    }
+
+    void BordersAreDrawnAllRound() {
+        Child child;
+        child.Place.ShowClockWindow(true);
+        child.Frame(u"Classic"_s, u"No"_s);
+        const QImage frame = child.Frame().grab().toImage();
+        QCOMPARE(frame.pixel(100, 0), frame.pixel(0, 75));
+        QCOMPARE(frame.pixel(100, 149), frame.pixel(199, 75));
+        QCOMPARE(frame.pixel(100, 149), frame.pixel(0, 75));
+        QVERIFY(frame.pixel(100, 0) != frame.pixel(100, 75));
+    }
+
     void OpensAtOnceWithoutARate_data() {
         QTest::addColumn<QString>("rate");
         QTest::newRow("0") << u"0"_s;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int PlainBorder = 7;
 constexpr int NoBorder = 1;
+constexpr int RaisedBorder = 3;
 constexpr int PlainWidth = 1;
 
 /// Frames as the clocks in them want them; one style serves all clocks of a shell.
@@ -53,11 +54,14 @@ public:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
 
+    // The strip of the title bar is not the frame's to paint: the border comes from here.
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override {
         const auto* frame = qobject_cast<const ClockFrame*>(widget);
         if (frame == nullptr || control != CC_TitleBar || frame->ShowsTitleBar()) {
             QProxyStyle::drawComplexControl(control, option, painter, widget);
+        } else {
+            DrawBorder(*frame, *painter);
         }
     }
 
@@ -65,17 +69,24 @@ public:
                        const QWidget* widget) const override {
         const auto* frame = qobject_cast<const ClockFrame*>(widget);
         const bool own = frame != nullptr && element == PE_FrameWindow;
-        const int border = own ? frame->ShownBorder() : 0;
-        if (border == PlainBorder) {
-            painter->setPen(option->palette.color(QPalette::Dark));
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-        } else if (own && border != NoBorder && !frame->ShowsTitleBar()) {
-            const int width = pixelMetric(PM_MdiSubWindowFrameWidth, option, widget);
-            qDrawWinPanel(painter, option->rect, option->palette);
-            qDrawPlainRect(painter, option->rect.adjusted(2, 2, -2, -2),
-                           option->palette.color(QPalette::Window), width - 2);
-        } else if (border != NoBorder) {
+        const bool asEver = own && frame->ShowsTitleBar() && frame->ShownBorder() == RaisedBorder;
+        if (!own || asEver) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
+        } else {
+            DrawBorder(*frame, *painter);
+        }
+    }
+
+private:
+    void DrawBorder(const ClockFrame& frame, QPainter& painter) const {
+        const QRect rect = frame.rect();
+        const QPalette& palette = frame.palette();
+        if (frame.ShownBorder() == PlainBorder) {
+            qDrawPlainRect(&painter, rect, palette.color(QPalette::Shadow), PlainWidth);
+        } else if (frame.ShownBorder() == RaisedBorder) {
+            const int width = pixelMetric(PM_MdiSubWindowFrameWidth, nullptr, &frame);
+            qDrawPlainRect(&painter, rect, palette.color(QPalette::Window), width);
+            qDrawWinPanel(&painter, rect, palette);
         }
     }
 };

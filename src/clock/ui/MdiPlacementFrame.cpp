@@ -20,20 +20,6 @@ bool IsFigure(const QString& shape) {
     return figures.contains(shape);
 }
 
-QRegion ToLogical(const QRegion& devicePixels, double ratio) {
-    if (ratio == 1.0) {
-        return devicePixels;
-    }
-    QRegion logical;
-    for (const QRect& part : devicePixels) {
-        const auto edge = [ratio](int value) { return mduAPILib::RoundToInteger(value / ratio); };
-        const QPoint first(edge(part.left()), edge(part.top()));
-        const QPoint behind(edge(part.right() + 1), edge(part.bottom() + 1));
-        logical += QRect(first, behind - QPoint(1, 1));
-    }
-    return logical;
-}
-
 }  // namespace
 
 QString MdiPlacement::Property(const QString& key) const {
@@ -96,7 +82,7 @@ WindowOutline& MdiPlacement::Outline() {
 }
 
 void MdiPlacement::SetWindowRgn(const QRegion& outline) {
-    Outline().SetFigure(ToLogical(outline, clock_.devicePixelRatioF()));
+    Outline().SetFigure(ToLogicalPixels(outline, clock_.devicePixelRatioF()));
 }
 
 QPoint MdiPlacement::SurfaceOffset() const {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "foundation/Numbers.h"
+
 namespace clockcore {
 
 QRect CentredPart(const QRect& whole, double part) {
@@ -12,6 +14,20 @@ QRect CentredPart(const QRect& whole, double part) {
     QRect middle(0, 0, extent(whole.width()), extent(whole.height()));
     middle.moveCenter(whole.center());
     return middle;
+}
+
+QRegion ToLogicalPixels(const QRegion& devicePixels, double ratio) {
+    if (ratio == 1.0) {
+        return devicePixels;
+    }
+    QRegion logical;
+    for (const QRect& part : devicePixels) {
+        const auto edge = [ratio](int value) { return mduAPILib::RoundToInteger(value / ratio); };
+        const QPoint first(edge(part.left()), edge(part.top()));
+        const QPoint behind(edge(part.right() + 1), edge(part.bottom() + 1));
+        logical += QRect(first, behind - QPoint(1, 1));
+    }
+    return logical;
 }
 
 void WindowOutline::SetFigure(const QRegion& figure) {

@@ -36,4 +36,7 @@ private:
 /// empty.
 QRect CentredPart(const QRect& whole, double part);
 
+/// A region of device pixels in logical ones; edges that fall between two are rounded.
+QRegion ToLogicalPixels(const QRegion& devicePixels, double ratio);
+
 }  // namespace clockcore
