@@ -106,12 +106,27 @@ private:
 
     /// Draws from @p t on while it has not passed @p end; returns the next.
     float DrawSide(Surface& surface, const QPoint& offset, int colour, float t, float end) const {
+        const auto [least, most] = VisiblePart(surface.Clip().translated(-offset));
         LineBundle bundle(surface, colour, Noise());
         for (; t <= end; t += 0.1F) {
-            const auto [x1, y1, x2, y2] = LineAt(t);
-            bundle.Add(x1 + offset.x(), y1 + offset.y(), x2 + offset.x(), y2 + offset.y());
+            if (t >= least && t <= most) {
+                const auto [x1, y1, x2, y2] = LineAt(t);
+                bundle.Add(x1 + offset.x(), y1 + offset.y(), x2 + offset.x(), y2 + offset.y());
+            }
         }
         return t;
+    }
+
+    /// The distances from the axis at which lines may touch a rectangle.
+    std::pair<double, double> VisiblePart(const QRect& rect) const {
+        const auto distance = [this](int x, int y) {
+            return (x - cx_) * acrossX_ + (y - cy_) * acrossY_;
+        };
+        const auto [least, most] = std::minmax(
+            {distance(rect.left(), rect.top()), distance(rect.right(), rect.top()),
+             distance(rect.left(), rect.bottom()), distance(rect.right(), rect.bottom())});
+        constexpr double roundedAway = 2;
+        return {least - roundedAway, most + roundedAway};
     }
 
     struct Ends {

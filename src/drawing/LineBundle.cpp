@@ -3,19 +3,37 @@
 #include <cmath>
 
 #include "drawing/PixelPrimitives.h"
+#include "foundation/Numbers.h"
 
 namespace drawing {
 
 void LineBundle::Add(double x1, double y1, double x2, double y2) {
     const StepLine line(x1, y1, x2, y2);
-    if (!line.Regular) {
+    if (!line.StepsAreExact) {
         DrawPixelLine(surface_, x1, y1, x2, y2, 1, colour_);
+        return;
+    }
+    if (line.StartsHalfWay) {
+        PlotHalfWay(line, line.YDrives ? y1 : x1);
         return;
     }
     if (!lines_.empty() && !lines_.back().IsAlike(line)) {
         Flush();
     }
     lines_.push_back(line);
+}
+
+// Such a line steps on even rows (or columns) only, where two steps meet.
+void LineBundle::PlotHalfWay(const StepLine& line, double from) {
+    PixelGrid grid(surface_, line.YDrives, colour_);
+    const auto [first, last] = grid.StepsWithin(line.Start, line.Step, line.Steps);
+    for (int k = std::max(0, first - 1); k <= std::min(line.Steps, last + 1); ++k) {
+        const int major = mduAPILib::RoundToInteger(from + line.Step * k);
+        if (major >= grid.MajorFirst && major <= grid.MajorLast) {
+            const int minor = line.At(k);
+            grid.Fill(major, minor, minor);
+        }
+    }
 }
 
 void LineBundle::Flush() {

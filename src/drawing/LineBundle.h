@@ -24,6 +24,7 @@ public:
     void Add(double x1, double y1, double x2, double y2);
 
 private:
+    void PlotHalfWay(const StepLine& line, double from);
     void Flush();
     bool IsOutside(const PixelGrid& grid, int first, int last) const;
     void FillStep(PixelGrid& grid, int k) const;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double FarAway = 1 << 20;
 
-bool StepsAreExact(double from) {
+bool KeepsItsDigits(double from) {
     return (from + FarAway) - FarAway == from && (from - FarAway) + FarAway == from;
 }
 
@@ -43,7 +43,8 @@ StepLine::StepLine(double x1, double y1, double x2, double y2)
     Step = to >= from ? 1 : -1;
     Start = mduAPILib::RoundToInteger(from);
     Steps = StepsBetween(from, to, Step);
-    Regular = StepsAreExact(from) && !IsHalfWay(from);
+    StartsHalfWay = IsHalfWay(from);
+    StepsAreExact = KeepsItsDigits(from);
     slope_ = otherSpan_ == 0 ? 0 : Step * otherSpan_ / span_;
 }
 

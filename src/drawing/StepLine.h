@@ -19,7 +19,8 @@ public:
     int Step = 1;
     int Start = 0;
     int Steps = 0;  ///< the number of the last pixel; the first is 0
-    bool Regular = true;
+    bool StartsHalfWay = false;
+    bool StepsAreExact = true;
 
     /// Where the line crosses, to within a billionth of a pixel.
     double Crossing(int k) const { return otherFrom_ + k * slope_; }

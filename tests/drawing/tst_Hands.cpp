@@ -145,6 +145,28 @@ private Q_SLOTS:
         QCOMPARE(surface.Image().pixel(52, 50), BlackPixel);
     }
 
+    void PensGrowWithTheRatio() {
+        Surface surface(101, 101, 2.0);
+        surface.Cls(White);
+        drawing::DrawClockHand(surface, HandStyle::Line, 50, 50, drawing::Pi / 2, 30, Black, 3);
+        QCOMPARE(surface.Image().pixel(65, 48), BlackPixel);  // six pixels wide
+        QCOMPARE(surface.Image().pixel(65, 52), BlackPixel);
+        QCOMPARE(surface.Image().pixel(65, 54), WhitePixel);
+    }
+
+    void HubGrowsWithTheRatio() {
+        Surface surface(101, 101, 2.0);
+        surface.Cls(White);
+        surface.SetHeight(4800);
+        drawing::DrawCentrePoint(surface, 50, 50, 0x6496C8);
+        QCOMPARE(surface.Image().pixel(51, 50), qRgb(180, 130, 80));
+        QCOMPARE(surface.Image().pixel(52, 50), qRgb(160, 110, 60));
+        QCOMPARE(surface.Image().pixel(53, 50), qRgb(160, 110, 60));
+        QCOMPARE(surface.Image().pixel(54, 50), qRgb(140, 90, 40));
+        QCOMPARE(surface.Image().pixel(56, 50), qRgb(140, 90, 40));
+        QCOMPARE(surface.Image().pixel(57, 50), WhitePixel);
+    }
+
     void BoundsHoldEveryPixel_data() {
         QTest::addColumn<int>("style");
         QTest::addColumn<int>("width");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -59,14 +60,15 @@ inline void Draw3D(drawing::Surface& surface, int cx, int cy, double a, int leng
     const std::array<std::pair<std::size_t, std::size_t>, 4> triangles = {
         {{1, 3}, {1, 4}, {2, 3}, {2, 4}}};
     for (const auto& [p, q] : triangles) {
-        FillTriangle(surface, x[p] - 2, y[p] + 4, x[q] - 2, y[q] + 4, cx - 2, cy + 4, 0x646464);
+        naive::FillTriangle(surface, x[p] - 2, y[p] + 4, x[q] - 2, y[q] + 4, cx - 2, cy + 4,
+                            0x646464);
     }
     for (std::size_t i = 0; i < 4; ++i) {
         const auto [p, q] = triangles[i];
         const int m = Rounded(metal[i]);
         const int g = Rounded(gold[i]);
         const int colour = tone == 1 ? Rgb(m + 1, m, m) : tone == 2 ? Rgb(g, g, 0) : tone;
-        FillTriangle(surface, x[p], y[p], x[q], y[q], cx, cy, colour);
+        naive::FillTriangle(surface, x[p], y[p], x[q], y[q], cx, cy, colour);
     }
 }
 
