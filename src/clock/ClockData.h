@@ -26,7 +26,6 @@ struct DialState {
     QStringList BackgroundList;
     int MessageCursor = 0;
     std::int16_t MusicIndex = 0;
-    bool EditingZoneLine = false;
 };
 
 /// The fields of one clock.

@@ -118,11 +118,10 @@ void Face::RecolourNumbers() {
     if (!parts_.Dial.NumbersAreRandom()) {
         return;
     }
-    if (parts_.Dial.NumbersArePainted()) {
-        parts_.Dial.DrawDialNumbers(true, {}, true);
-    }
     if (look_.ClockSpecial == u"Analogue Hour Number Random Colour"_s) {
         parts_.Dial.RecolourNumbers();
+    } else {
+        parts_.Dial.DrawDialNumbers(true, {}, true);
     }
     Invalidate();
 }

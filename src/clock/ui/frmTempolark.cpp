@@ -32,7 +32,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       files_(data_, program, [this](const QString& text) { Status(text); }),
       styles_(program),
       timClock_(program.Services.Clock.MakeTicker([this] { Tick(); })),
-      placement_(*this, area, data_),
+      placement_(*this, area, data_, &program.Services.Clock),
       dial_(Context()),
       digital_(Context()),
       calculator_(Context()),

@@ -121,7 +121,7 @@ private:
     void SetTransparent(bool transparent) override { drawStyle_ = transparent ? 1 : 0; }
     void SetColourKey(bool on) override;
     QSizeF OuterSize() const override { return placement_.OuterRect().size(); }
-    QPoint SurfaceOffset() const override;
+    QPoint SurfaceOffset() const override { return placement_.SurfaceOffset(); }
     void SetWindowRgn(const QRegion& outline) override;
     void SetIcon(const QImage& picture) override;
     void ShowStatus(const QString& text) override { Status(text); }

@@ -114,12 +114,6 @@ int frmTempolark::ParentBackColor() const {
     return shell_ != nullptr ? shell_->BackColor() : mduUILib::TransparentKey;
 }
 
-QPoint frmTempolark::SurfaceOffset() const {
-    const QWidget* frame = placement_.Frame();
-    return frame != nullptr ? (QPointF(mapTo(frame, QPoint(0, 0))) * devicePixelRatioF()).toPoint()
-                            : QPoint(0, 0);
-}
-
 void frmTempolark::SetWindowRgn(const QRegion& outline) {
     outline_ = outline;
     placement_.SetWindowRgn(outline);
