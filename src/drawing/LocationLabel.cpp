@@ -55,7 +55,9 @@ LocationLook ReadLocationLook(const ClockProperties& properties, platform::Rando
 }
 
 double LocationPoints(const QString& name, const LocationLook& look, const Surface& surface) {
-    const double limit = surface.ScaleWidth() * (look.Digital ? WidthOnDigits : WidthOnDial);
+    const double limit = look.Digital
+                             ? surface.ScaleWidth() * WidthOnDigits
+                             : std::min(surface.ScaleWidth(), surface.ScaleHeight()) * WidthOnDial;
     double points = std::max(surface.LogicalHeight() * PointsPerHeight, SmallestPoints);
     const double widest = NameWidth(name, points, surface);
     if (widest > limit) {

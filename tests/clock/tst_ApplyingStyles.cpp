@@ -15,12 +15,13 @@ QString Value(const frmTempolark* clock, const QString& key) {
 
 /// A style like the default but for some values.
 QString WriteStyle(Desk& desk, const QString& name,
-                   const std::vector<std::pair<QByteArray, QByteArray>>& changes) {
-    QByteArray style = desk.Machine.ReadFile(u"ini/Tempolark.ini"_s);
-    for (const auto& [from, to] : changes) {
-        style.replace(from, to);
+                   const std::vector<std::pair<QString, QString>>& values) {
+    ClockProperties style;
+    mduLib::ReadPropertyFile(desk.Machine.Files, desk.Module.Paths.ZoneDefaultFile(), style);
+    for (const auto& [key, value] : values) {
+        mduLib::PutProperty(key, value, style);
     }
-    return desk.Machine.WriteFile(u"Styles/"_s + name, style);
+    return desk.Machine.WriteFile(u"Styles/"_s + name, mduLib::PropertyFileContent(style));
 }
 
 QRgb Corner(const frmTempolark* clock) {
@@ -36,13 +37,12 @@ private Q_SLOTS:
     void StyleBringsItsPlaceAndKeepsTheZone() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"Nepal Standard Time"_s);
-        const QString style =
-            WriteStyle(desk, u"Red.ini"_s,
-                       {{"Window Background Colour=White", "Window Background Colour=Red"},
-                        {"Window Left=-1", "Window Left=300"},
-                        {"Window Top=-1", "Window Top=150"},
-                        {"Window Width=-1", "Window Width=3000"},
-                        {"Window Height=-1", "Window Height=2250"}});
+        const QString style = WriteStyle(desk, u"Red.ini"_s,
+                                         {{u"Window Background Colour"_s, u"Red"_s},
+                                          {u"Window Left"_s, u"300"_s},
+                                          {u"Window Top"_s, u"150"_s},
+                                          {u"Window Width"_s, u"3000"_s},
+                                          {u"Window Height"_s, u"2250"_s}});
         clock->SetClockStyle(style);
         QCOMPARE(clock->parentWidget()->geometry(), QRect(20, 10, 200, 150));
         QCOMPARE(clock->Data().Zone.HoursFromLocal, 5.75F);
@@ -66,8 +66,8 @@ private Q_SLOTS:
     void EmptyNameAsksForAStyle() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
-        desk.Machine.Dialogs.FileAnswers = {WriteStyle(
-            desk, u"Blue.ini"_s, {{"Background Colour=White", "Background Colour=Blue"}})};
+        desk.Machine.Dialogs.FileAnswers = {
+            WriteStyle(desk, u"Blue.ini"_s, {{u"Window Background Colour"_s, u"Blue"_s}})};
         clock->SetClockStyle({});
         QCOMPARE(desk.Machine.Dialogs.PickerTitles, QStringList{u"Clock Styles"_s});
         QCOMPARE(desk.Machine.Dialogs.PickerFolders,
@@ -109,7 +109,7 @@ private Q_SLOTS:
     void StyleBeforeTheFirstTick() {
         Desk desk;
         frmTempolark* clock = desk.Launch(u"UTC"_s);
-        clock->SetClockStyle(WriteStyle(desk, u"D.ini"_s, {{"Clocks=Analogue", "Clocks=Digital"}}));
+        clock->SetClockStyle(WriteStyle(desk, u"D.ini"_s, {{u"Clocks"_s, u"Digital"_s}}));
         QCOMPARE(clock->Data().State, ClockState::FirstTickDue);
         desk.Machine.Clock.Advance(30);
         QCOMPARE(clock->Data().State, ClockState::Running);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         frmTempolark* clock = desk.Running(u"UTC"_s);
         desk.Machine.Dialogs.ColourAnswers = {-1, 0x00FF00};
         clock->PickWindowBackColour();  // cancelled
-        QCOMPARE(Value(clock, u"Window Background Colour"_s), u"White"_s);
+        QCOMPARE(Value(clock, u"Window Background Colour"_s), u"15397106"_s);
         clock->PickWindowBackColour();
         QCOMPARE(Value(clock, u"Window Background Colour"_s), u"65280"_s);
         QCOMPARE(Corner(clock), qRgb(0, 255, 0));
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(desk.Key(u"UTC"_s, u"Window Left"_s), u"150"_s);
         QCOMPARE(desk.Key(u"UTC"_s, u"Window Height"_s), u"2700"_s);
         QCOMPARE(desk.Key(u"UTC"_s, u"Time Zone Name Left"_s), u"-1"_s);  // stays automatic
-        QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Arial"_s);
+        QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Lato"_s);
         QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Path(u"UTC"_s));
     }
 
@@ -288,8 +288,7 @@ private Q_SLOTS:
     void MenuOfTheLook() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
-        WriteStyle(desk, u"Fish & Chips.ini"_s,
-                   {{"Background Colour=White", "Background Colour=Cyan"}});
+        WriteStyle(desk, u"Fish & Chips.ini"_s, {{u"Window Background Colour"_s, u"Cyan"_s}});
         WriteStyle(desk, u"Ale.ini"_s, {});
         const auto open = [clock] {
             QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5},

@@ -133,7 +133,7 @@ private Q_SLOTS:
             ClockProperties look = DefaultLook(desk);
             mduLib::PutProperty(key, u".\\Images\\"_s + name, look);
             Apply(desk, clock, look);
-            QCOMPARE(clock->PaintedSurface().Image().pixel(1, 1), qRgb(0xFD, 0xFF, 0xFF));
+            QCOMPARE(clock->PaintedSurface().Image().pixel(1, 1), qRgb(0xF2, 0xF0, 0xEA));
         }
     }
 

@@ -34,7 +34,7 @@ class tst_StyleFiles : public QObject {
 private Q_SLOTS:
     void StyleKeepsTheClocksZone() {
         StyleDesk desk;
-        const QString style = desk.Style("Hour Hand Style=Line,", "Hour Hand Style=3D Gold,");
+        const QString style = desk.Style("Hour Hand Style=3D,", "Hour Hand Style=3D Gold,");
         const QString clock =
             desk.Machine.WriteFile(u"c.ini"_s,
                                    "Time Zone:Time Zone Standard Name=Nepal Standard Time,x\r\n"

@@ -1,5 +1,4 @@
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QTest>
 #include <cmath>
 
@@ -497,8 +496,6 @@ private Q_SLOTS:
 
     void OddValues() {
         QFETCH(QString, value);
-        QElapsedTimer timer;
-        timer.start();
         for (const QString& style : {u"Number 12"_s, u"True Roman 12"_s, u"3D 12"_s}) {
             DialOnFace face(style);
             for (const QString& key :
@@ -514,7 +511,6 @@ private Q_SLOTS:
                 face.LaidOut().Pixels(Red);
             }
         }
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
     }
 
     void SizesBelowOnePaintNoCaption() {
@@ -541,14 +537,11 @@ private Q_SLOTS:
 
     void HugeSpotsAreQuick() {
         DialOnFace face(u"No Numbers"_s, 4000);
-        QElapsedTimer timer;
-        timer.start();
         for (const QString& size : {u"2000"_s, u"4000"_s, u"100000"_s}) {
             face.Set(u"Minute Spot Size"_s, size);
             face.LaidOut();
             face.Dial.PaintStill(face.Window.Drawn);
         }
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
     }
 };
 

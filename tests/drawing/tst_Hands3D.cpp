@@ -1,4 +1,3 @@
-#include <QElapsedTimer>
 #include <QTest>
 
 #include "drawing/Angles.h"
@@ -272,7 +271,7 @@ private Q_SLOTS:
         QCOMPARE(PixelAt(surface, 107, 60), WhitePixel);
     }
 
-    void AbsurdSizesAreQuick_data() {
+    void AbsurdSizesAreClipped_data() {
         QTest::addColumn<int>("style");
         QTest::addColumn<int>("length");
         QTest::addColumn<int>("width");
@@ -284,16 +283,13 @@ private Q_SLOTS:
         }
     }
 
-    void AbsurdSizesAreQuick() {
+    void AbsurdSizesAreClipped() {
         QFETCH(int, style);
         QFETCH(int, length);
         QFETCH(int, width);
         Surface surface = WhiteSurface(400);
-        QElapsedTimer timer;
-        timer.start();
         drawing::DrawClockHand(surface, static_cast<HandStyle>(style), 200, 200, 2.5, length, 0,
                                width);
-        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(PaintedBounds(surface).isEmpty(), style == 3 && width < 0);
     }
 

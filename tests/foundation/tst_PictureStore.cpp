@@ -1,5 +1,4 @@
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QTest>
 #include <QtEndian>
 
@@ -171,10 +170,7 @@ private Q_SLOTS:
 
     void NotAPicture() {
         QFETCH(QByteArray, bytes);
-        QElapsedTimer time;
-        time.start();
         QVERIFY(!LoadBytes(u"a.jpg"_s, bytes));
-        QVERIFY(time.elapsed() < 500);
     }
 
     void TooLargeAFile() {
