@@ -13,10 +13,10 @@ Check "the build" tools/build.sh debug
 Say "Unit and widget tests"
 Count "unit and widget tests" tools/run_tests.sh debug
 
-if [[ -x tests/e2e/run.sh ]]; then
-    Say "End-to-end tests"
-    Count "end-to-end tests" tools/with_display.sh tests/e2e/run.sh build/debug/bin
-fi
+Say "End-to-end tests"
+for script in run styles; do
+    Count "end-to-end tests, $script" tools/with_display.sh "tests/e2e/$script.sh" build/debug/bin
+done
 
 Say "Rules of the house"
 Count "rules of the house" tools/check_style.sh

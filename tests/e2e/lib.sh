@@ -51,3 +51,24 @@ Pixel() { import -window root -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A
 
 # Value FILE NAME: what a property file says.
 Value() { tr -d '\r' <"$1" | sed -n "s/^\([^=:]*:\)\?$2=\(.*\)$/\2/p" | head -n 1; }
+
+# Start: the program of $bin with the program folder $folder; its process, its output and in the end
+# its exit status are kept in $scratch.
+Start() {
+    rm -f "$scratch/status"
+    { "$bin/TempolarkCentral" --app-folder "$folder" >>"$scratch/output" 2>&1 &
+      echo $! >"$scratch/pid"
+      wait $! && echo 0 >"$scratch/status" || echo $? >"$scratch/status"; } >/dev/null 2>&1 &
+    WaitFor 20 HasShell && sleep 0.5
+}
+
+StopProgram() {
+    [[ -s "$scratch/pid" ]] && kill -9 "$(<"$scratch/pid")" 2>/dev/null || true
+}
+
+CloseWithMouse() {
+    local frame x y w
+    read -r x y w _ < <(Box "$(ShellWindow)")
+    ClickAt $((x + w - 10)) $((y - 10)) # the window manager's close button
+    WaitFor 10 test -s "$scratch/status" && [[ "$(<"$scratch/status")" == 0 ]]
+}

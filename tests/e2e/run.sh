@@ -11,11 +11,7 @@ bin=$(cd "$1" && pwd)
 export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
 
 scratch=$(mktemp -d)
-cleanUp() {
-    [[ -s "$scratch/pid" ]] && kill -9 "$(<"$scratch/pid")" 2>/dev/null || true
-    rm -rf "$scratch"
-}
-trap cleanUp EXIT
+trap 'StopProgram; rm -rf "$scratch"' EXIT
 
 user=$(id -un)
 folder=$scratch/app
@@ -29,14 +25,6 @@ Prepare() {
     for name in "${names[@]}"; do
         cp "$folder/ini/Tempolark.ini" "$zones/$name.ini"
     done
-}
-
-Start() {
-    rm -f "$scratch/status"
-    { "$bin/TempolarkCentral" --app-folder "$folder" >>"$scratch/output" 2>&1 &
-      echo $! >"$scratch/pid"
-      wait $! && echo 0 >"$scratch/status" || echo $? >"$scratch/status"; } >/dev/null 2>&1 &
-    WaitFor 20 HasShell && sleep 0.5
 }
 
 # OpenZone ROW: Launch, Open, the row.
@@ -71,13 +59,6 @@ MoveTopClock() {
         xdotool mousemove $((x + w / 2 - step)) $((title - step / 2)) sleep 0.05
     done
     xdotool mouseup 1
-}
-
-CloseWithMouse() {
-    local frame x y w
-    read -r x y w _ < <(Box "$(ShellWindow)")
-    ClickAt $((x + w - 10)) $((y - 10)) # the window manager's close button
-    WaitFor 10 test -s "$scratch/status" && [[ "$(<"$scratch/status")" == 0 ]]
 }
 
 Moved() {

@@ -1,0 +1,88 @@
+#!/bin/bash
+# Drives the real program with a real mouse and keyboard: puts a style on a clock from its pop-up
+# menu, saves it, types into the calculator, and finds the look again at the next start. Needs a
+# display with a window manager.
+#
+#   tests/e2e/styles.sh FOLDER      where FOLDER holds TempolarkCentral and its data
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+. "$here/../../tools/tally.sh"
+. "$here/lib.sh"
+bin=$(cd "$1" && pwd)
+export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+
+scratch=$(mktemp -d)
+trap 'StopProgram; rm -rf "$scratch"' EXIT
+folder=$scratch/app
+zone="Nepal Standard Time"
+file=$folder/$(id -un)/TimeZones/$zone.ini
+
+# Two styles, "Blue" and "Red"; the clock stands at the upper left of the shell.
+Prepare() {
+    mkdir -p "$(dirname "$file")" "$folder/Styles"
+    cp -rp "$bin/ini" "$folder"
+    local place='s/Window Left=-1/Window Left=300/; s/Window Top=-1/Window Top=300/
+        s/Window Width=-1/Window Width=4500/; s/Window Height=-1/Window Height=4500/'
+    sed "$place" "$folder/ini/Tempolark.ini" >"$file"
+    for style in Blue Red; do
+        sed "$place; s/Window Background Colour=[^,]*/Window Background Colour=$style/" \
+            "$folder/ini/Tempolark.ini" >"$folder/Styles/$style.ini"
+    done
+    echo "$zone=$zone" >"$folder/$(id -un)/AutoStart.txt"
+}
+
+# ClockAt X Y: a point of the clock's window, on the screen.
+ClockPoint() {
+    local x y
+    read -r x y _ < <(Box "$(ShellWindow)")
+    echo $((x + 20 + $1)) $((y + 32 + 20 + $2))
+}
+Shows() { [[ "$(Pixel $(ClockPoint 20 60))" == "$1" ]]; }
+
+# Choose KEYS...: opens the clock's menu and goes through it with the keyboard.
+Choose() {
+    xdotool mousemove $(ClockPoint 60 150) sleep 0.1 click 3
+    WaitFor 5 HasPopups 1 && sleep 0.2
+    local key
+    for key in "$@"; do
+        xdotool key "$key" sleep 0.2
+    done
+    WaitFor 5 HasPopups 0
+}
+
+Is() { [[ "$(Value "$file" "$1" | cut -d, -f1)" == "$2" ]]; }
+Save() { Choose Down Down Down Down Return; }
+Differ() { ! cmp -s "$@"; }
+Picture() { import -window "$(ShellWindow)" -crop "290x250+25+85" "$scratch/$1.png"; }
+Type() { xdotool key Tab sleep 0.2 && xdotool type --delay 30 "x" && sleep 0.3; }
+
+Prepare
+Check "the shell appears" Start
+Check "the clock shows the default look" WaitFor 10 Shows "#F2F0EA"
+Check "the second style is chosen" Choose Down Down Right Down Return
+Check "the clock is red at once" WaitFor 2 Shows "#FF0000"
+Check "the file waits for the save" Is "Window Background Colour" 15397106
+Check "the look is saved" Save
+Check "now the file says red" WaitFor 5 Is "Window Background Colour" Red
+Check "the zone stayed" Is "Time Zone Standard Name" "$zone"
+Check "the first style is chosen" Choose Down Down Right Return
+Check "the clock is blue" WaitFor 2 Shows "#0000FF"
+Check "it becomes a calculator" Choose Down Right Down Down Return
+sleep 1.2
+Check "Tab and a key go to its line" Type
+Picture typed
+sleep 2.2
+Picture later
+Check "the lines stand still while typing" cmp "$scratch/typed.png" "$scratch/later.png"
+Check "Esc gives them back to the time" xdotool key Escape
+sleep 2.2
+Picture running
+Check "the lines run again" Differ "$scratch/typed.png" "$scratch/running.png"
+Check "a calculator is saved" Save
+Check "the file says so" WaitFor 5 Is "Clocks" Calculator
+Check "the mouse closes the program" CloseWithMouse
+Check "the shell starts again" Start
+Check "the clock is blue again" WaitFor 10 Shows "#0000FF"
+Check "the mouse closes the program again" CloseWithMouse
+Check "nothing was complained about" test ! -s <(grep -v XDG_RUNTIME_DIR "$scratch/output")
+Finish
