@@ -44,5 +44,5 @@ struct ModuleState {
     bool NewPropertyFileCreated = false;
     QString FailedSetupPath;  ///< where start-up ended with `SetupResult::Incomplete`; else empty
     mduUILib::PictureStore Pictures;
-    QString CommandLine;      ///< one string; empty means the local zone, "/s" the screen-saver run
+    QString CommandLine;  ///< one string; empty means the local zone, "/s" the screen-saver run
 };
