@@ -107,6 +107,9 @@ void Face::MoveHands() {
     if (revisionRead_ != data_.Revision()) {
         revisionRead_ = data_.Revision();
         look_ = drawing::ReadAnalogueLook(data_.Properties());
+        if (parts_.Dial.NumbersArePainted()) {
+            parts_.Dial.DrawDialNumbers(true, {}, true);
+        }
     }
     RecolourNumbers();
     hands_ = drawing::MakeHandsFrame(canvas_.Surface(), look_,

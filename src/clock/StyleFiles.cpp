@@ -63,12 +63,15 @@ QString StyleFiles::SavePath(const QString& chosen) {
     return mduLib::AddIniExtension(native);
 }
 
-bool StyleFiles::Write(const QString& path, ClockProperties look, const QRectF& twips) const {
+bool StyleFiles::Write(const QString& path, ClockProperties look,
+                       const std::optional<QRectF>& twips) const {
     for (const QString& key : mduTimeZones::ZoneKeys()) {
         mduLib::PutProperty(key, {}, look);
     }
-    for (const auto& [name, value] : PlaceValues(twips)) {
-        mduLib::PutProperty(name, value, look);
+    if (twips) {
+        for (const auto& [name, value] : PlaceValues(*twips)) {
+            mduLib::PutProperty(name, value, look);
+        }
     }
     return mduLib::WritePropertyFile(program_.Services.FileSystem, look, path);
 }

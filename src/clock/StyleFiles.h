@@ -25,9 +25,9 @@ public:
     /// "unknown.ini", one without ".ini" gains it.
     static QString SavePath(const QString& chosen);
 
-    /// Writes a look as a style, with empty zone keys and the window's rectangle in twips.
-    /// @return false when the file can't be written
-    bool Write(const QString& path, ClockProperties look, const QRectF& twips) const;
+    /// Writes a look as a style, with empty zone keys and the window's rectangle in twips, where
+    /// the window has its normal size. @return false when the file can't be written
+    bool Write(const QString& path, ClockProperties look, const std::optional<QRectF>& twips) const;
 
     /// The names of the style files, in directory order.
     QStringList Names() const;

@@ -6,6 +6,7 @@
 #include "ctl/Command.h"
 #include "ctl/ReadOnlyFiles.h"
 #include "foundation/FileHelpers.h"
+#include "foundation/PropertyFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,8 +60,10 @@ int Render(Context& context) {
     if (!size || !ticksAreNumber || ticks < 0) {
         return WrongArguments;
     }
-    if (!context.Services.FileSystem.Read(file)) {
-        Complain(file + u" can't be read"_s);
+    ClockProperties properties;
+    if (!mduLib::MayRewrite(context.Services.FileSystem, file) ||
+        !mduLib::ReadPropertyFile(context.Services.FileSystem, file, properties)) {
+        Complain(file + u" can't be read as a property file"_s);
         PrintPicture(*size, u"0"_s);
         return OperationFailed;
     }

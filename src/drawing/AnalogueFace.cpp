@@ -22,7 +22,7 @@ HandLook ReadHand(const QString& hand, const ClockProperties& properties) {
             mduAPILib::IntegerValue(value(u" Line Width"_s))};
 }
 
-constexpr int LargestWidth = 4096;  // of a pen, in pixels: wider than any clock
+constexpr int LargestPen = 4096;  // pixels: wider than any clock
 
 double CentreOf(double percent, int extent) {
     return percent == -1 ? extent / 2.0 : percent * extent / 100;
@@ -33,7 +33,8 @@ HandsFrame::Hand MakeHand(const HandLook& look, double angle, int diameter,
     HandsFrame::Hand hand{look.Style, angle, 0, 0,
                           mduUILib::ColourValue(QString(look.Colour), random)};
     if (look.Style != HandStyle::Unknown) {
-        hand.LineWidth = std::min(look.LineWidth, LargestWidth);
+        const bool isPen = look.Style == HandStyle::Line || look.Style == HandStyle::Frame;
+        hand.LineWidth = isPen ? std::min(look.LineWidth, LargestPen) : look.LineWidth;
         hand.Length = ToPoint(look.LengthPercent * diameter / 200);
     }
     return hand;

@@ -56,12 +56,8 @@ void ClockBackground::TakeClockPicture(const Picture& picture) {
     face_.Window.StillChanged();
 }
 
-void ClockBackground::LoadWindowPicture(bool force) {
-    const QString path = PathOf(u"Window Background File"_s);
-    if (force) {
-        face_.Pictures.Forget(path);
-    }
-    face_.Controls.picFrame(1).Picture = LoadNamed(path);
+void ClockBackground::LoadWindowPicture() {
+    face_.Controls.picFrame(1).Picture = LoadNamed(PathOf(u"Window Background File"_s));
     face_.Window.StillChanged();
 }
 
@@ -112,7 +108,7 @@ void ClockBackground::ApplySurface() {
     if (shaped_ != Measures()) {
         SetWindowShape();
     }
-    LoadWindowPicture(false);
+    LoadWindowPicture();
     SetClockShape();
 }
 

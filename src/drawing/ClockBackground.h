@@ -25,7 +25,7 @@ public:
     Q_DISABLE_COPY_MOVE(ClockBackground)
 
     void LoadClockPicture() override;
-    void LoadWindowPicture(bool force) override;
+    void LoadWindowPicture() override;
     bool HasClockPicture() const override;
     void DrawBackgroundPicture(Surface& surface) const override;
     void ApplyTransparency() override;

@@ -68,8 +68,8 @@ QRect ClockBackground::PictureBox(const Surface& surface) const {
     const int smallest = RoundToInteger(LeastSide * surface.DevicePixelRatio());
     int margin = 0;
     if (HasClockPicture()) {
-        const double percent = std::clamp(mduAPILib::Val(Property(u"Clock Image Size(%)"_s)),
-                                          -MostPercent, MostPercent);
+        const double percent = std::clamp<double>(
+            mduAPILib::IntegerValue(Property(u"Clock Image Size(%)"_s)), -MostPercent, MostPercent);
         margin = RoundToInteger((1 - percent / 100) * surface.ScaleHeight() / 2);
     }
     return {margin, margin, std::max(surface.ScaleWidth() - 2 * margin, smallest),

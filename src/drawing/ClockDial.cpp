@@ -184,10 +184,6 @@ int ClockDial::PickNumberColour(const QString& name) const {
                                               : colour;
 }
 
-int ClockDial::RandomColour() const {
-    return mduUILib::ColourValue(u"random"_s, face_.Random);
-}
-
 void ClockDial::ShowMinuteSpots(int /*hour*/) {
     bool hasChanged = false;
     for (Control& spot : face_.Controls.imgClockNumber.Members) {
@@ -209,7 +205,7 @@ void ClockDial::ApplyClockSpecial() {
 void ClockDial::RecolourNumbers() {
     over_ = numbers_;
     for (PaintedNumber& number : over_) {
-        number.Colour = RandomColour();
+        number.Colour = PickNumberColour(u"random"_s);
     }
     if (!isPainted_ && isShown_) {
         RecolourCaptions();
@@ -218,7 +214,7 @@ void ClockDial::RecolourNumbers() {
 
 void ClockDial::RecolourCaptions() {
     for (int hour = 1; hour <= Hours; ++hour) {
-        face_.Controls.lblHour(hour * 5).ForeColor = RandomColour();
+        face_.Controls.lblHour(hour * 5).ForeColor = PickNumberColour(u"random"_s);
     }
     face_.Window.StillChanged();
 }

@@ -55,7 +55,6 @@ private:
     std::shared_ptr<const QImage> SpotPicture(const QString& path) const;
     void RecolourCaptions();
     int PickNumberColour(const QString& name) const;
-    int RandomColour() const;
 
     FaceContext face_;
     PaintedNumbers shadows_, numbers_;

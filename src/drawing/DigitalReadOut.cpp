@@ -80,16 +80,17 @@ void DigitalReadOut::DrawDigitalClock(const QString& format) {
 
 void DigitalReadOut::SetDigitalLayout() {
     motion_.Finish();
-    special_ = Value(u"Clock Special"_s).trimmed();
+    const QString special = Special();
     Fill(Value(u"Digital Clock Format"_s));
     SetFonts();
     SetSizes();
     PlaceModel();
-    if (special_ == u"Digital Vertical"_s) {
+    if (special == u"Digital Vertical"_s) {
         Stack();
     } else {
-        LineUp(special_ == u"Digital Backward"_s);
+        LineUp(special == u"Digital Backward"_s);
     }
+    face_.Window.ShowChanges();
 }
 
 void DigitalReadOut::HideDigitalClock() {
@@ -115,6 +116,10 @@ int DigitalReadOut::GetDigitalFontSize() const {
 int DigitalReadOut::GetDigitalTravel() const {
     const double height = static_cast<double>(Labels()(1).Height);
     return mduAPILib::RoundToInteger(face_.Window.Surface().ScaleHeight() - height / 2);
+}
+
+QString DigitalReadOut::Special() const {
+    return Value(u"Clock Special"_s).trimmed();
 }
 
 QString DigitalReadOut::Value(const QString& key) const {
@@ -176,7 +181,7 @@ void DigitalReadOut::SetSizes() {
     const float colon = widthOf(u":"_s);
     const float mark = std::max(widthOf(u"AM"_s), widthOf(u"PM"_s));
     const float column = std::max(digits, mark);
-    const bool stacked = special_ == u"Digital Vertical"_s;
+    const bool stacked = Special() == u"Digital Vertical"_s;
     const std::array<float, 6> widths = {digits, colon, digits, colon, digits, mark};
     for (std::size_t i = 0; i < widths.size(); ++i) {
         Control& label = Labels().Members[i];
@@ -242,14 +247,15 @@ LabelSteps DigitalReadOut::Steps(double amplitude, int pause, int mode) const {
 
 void DigitalReadOut::Animate() {
     const double travel = GetDigitalTravel();
-    if (special_ == u"Digital Up Down"_s) {
+    const QString special = Special();
+    if (special == u"Digital Up Down"_s) {
         LabelSteps steps = Steps(travel, 80, 1);
         const LabelSteps back = Steps(0, 3, 1);
         steps.insert(steps.end(), back.begin(), back.end());
         motion_.Play(std::move(steps));
-    } else if (special_ == u"Digital Up Down Wave"_s) {
+    } else if (special == u"Digital Up Down Wave"_s) {
         motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 5), 1, 3));
-    } else if (special_ == u"Digital Wave"_s) {
+    } else if (special == u"Digital Wave"_s) {
         motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 8), 0, 4));
     }
 }

@@ -36,6 +36,7 @@ public:
     int GetDigitalTravel() const;
 
 private:
+    QString Special() const;  ///< the effect of "Clock Special"
     QString Value(const QString& key) const;
     HandTime WriteCaption(const QString& format);
     void Fill(const QString& format);
@@ -53,7 +54,6 @@ private:
 
     FaceContext face_;
     LabelMotion motion_;
-    QString special_;  ///< "Clock Special", as the layout has read it
 };
 
 }  // namespace drawing

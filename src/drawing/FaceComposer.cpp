@@ -24,9 +24,7 @@ bool ShowsSomething(const Control& control, bool isImage) {
 
 /// The rectangle of a control and, around a label, what its letters may reach beyond it.
 QRect PaintedRect(const Control& control, bool isImage) {
-    const QRect rect = QRectF(static_cast<qreal>(control.Left), static_cast<qreal>(control.Top),
-                              static_cast<qreal>(control.Width), static_cast<qreal>(control.Height))
-                           .toAlignedRect();
+    const QRect rect = control.Rect().toAlignedRect();
     const int beyond = isImage ? 1 : 2 + rect.height() / 4;
     return rect.adjusted(-beyond, -beyond, beyond, beyond);
 }

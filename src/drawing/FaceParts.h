@@ -18,6 +18,7 @@ public:
                               bool /*numbersOnly*/) {}
     /// Lays the hour numbers out, with their shadow where the style has one.
     virtual void DrawDialNumbers(bool /*show*/, const QString& /*style*/, bool /*numbersOnly*/) {}
+    /// Shows the spots that the layout wants. @p hour is that of the clock; no style goes by it.
     virtual void ShowMinuteSpots(int /*hour*/) {}
     virtual void ApplyClockSpecial() {}
     /// Gives every hour number a fresh random colour, painted or as a caption.
@@ -70,8 +71,8 @@ public:
 
     /// Loads "Clock Image File" into `imgClock(1)`.
     virtual void LoadClockPicture() {}
-    /// Loads "Window Background File" into `picFrame`; @p force reads the file once more.
-    virtual void LoadWindowPicture(bool /*force*/) {}
+    /// Loads "Window Background File" into `picFrame`; a file that has changed is read anew.
+    virtual void LoadWindowPicture() {}
     /// Whether a dial picture lies under the hands.
     virtual bool HasClockPicture() const { return false; }
     /// Paints colour and pictures on the whole surface: the bottom of the still layer.

@@ -21,11 +21,6 @@ double Pixels(const QFont& font, double devicePixelRatio) {
     return font.pointSizeF() * PixelsPerPoint * devicePixelRatio;
 }
 
-QRectF RectOf(const mduUILib::Control& control) {
-    return {static_cast<qreal>(control.Left), static_cast<qreal>(control.Top),
-            static_cast<qreal>(control.Width), static_cast<qreal>(control.Height)};
-}
-
 }  // namespace
 
 QFont PixelFont(const QFont& font, double devicePixelRatio) {
@@ -54,13 +49,13 @@ void PaintLabel(QPainter& painter, const mduUILib::Control& label, double device
     }
     painter.setFont(PixelFont(label.Font, devicePixelRatio));
     painter.setPen(QColor::fromRgb(ToRgb(label.ForeColor)));
-    painter.drawText(RectOf(label), Qt::AlignCenter | Qt::TextDontClip, label.Caption);
+    painter.drawText(label.Rect(), Qt::AlignCenter | Qt::TextDontClip, label.Caption);
 }
 
 void PaintImage(QPainter& painter, const mduUILib::Control& image) {
     if (image.Visible && image.Picture && !image.Picture->isNull()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(RectOf(image), *image.Picture);
+        painter.drawImage(image.Rect(), *image.Picture);
     }
 }
 

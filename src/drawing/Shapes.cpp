@@ -26,7 +26,7 @@ constexpr Figure Figures[] = {
 const Figure* FindFigure(const QString& shape) {
     const QString name = shape.trimmed();
     for (const Figure& figure : Figures) {
-        if (name.compare(figure.Name, Qt::CaseInsensitive) == 0) {
+        if (name == figure.Name) {
             return &figure;
         }
     }

@@ -73,14 +73,6 @@ void Surface::SetPixel(int x, int y, int colour) {
     }
 }
 
-void Surface::FillSpan(int y, int x1, int x2, int colour) {
-    const int from = std::max(x1, clip_.left());
-    const int to = std::min(x2, clip_.right());
-    if (y >= clip_.top() && y <= clip_.bottom() && from <= to) {
-        std::fill(ScanLine(y) + from, ScanLine(y) + to + 1, ToRgb(colour));
-    }
-}
-
 // A view on the same pixels, so that the bitmap never moves, whoever shares it.
 void Surface::Paint(const std::function<void(QPainter&)>& paint) {
     QImage view(reinterpret_cast<uchar*>(pixels_), image_.width(), image_.height(),

@@ -37,9 +37,6 @@ public:
 
     void SetPixel(int x, int y, int colour);
 
-    /// Fills the pixels @p x1 to @p x2 of a row, both included.
-    void FillSpan(int y, int x1, int x2, int colour);
-
     /// The raw pixels of a row and the pixels from one row to the next, for shapes that keep within
     /// `Clip` by themselves.
     QRgb* Row(int y) { return ScanLine(y); }

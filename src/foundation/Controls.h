@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QRectF>
 #include <QString>
 #include <memory>
 #include <vector>
@@ -23,6 +24,11 @@ struct Control {
     QString ToolTipText;
     QFont Font;
     std::shared_ptr<const QImage> Picture;  ///< shared between clocks; null for none
+
+    QRectF Rect() const {
+        return {static_cast<qreal>(Left), static_cast<qreal>(Top), static_cast<qreal>(Width),
+                static_cast<qreal>(Height)};
+    }
 };
 
 /// A control array: members of one name and kind, numbered from `First`.

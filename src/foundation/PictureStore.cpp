@@ -12,21 +12,19 @@ namespace mduUILib {
 namespace {
 
 constexpr qint64 LargestFile = 64LL * 1024 * 1024;
-constexpr qint64 LargestDrawing = 1024LL * 1024;  // a drawing of more lines takes too long
-constexpr qint64 LargestJpegArea = 64'000'000;
+constexpr qint64 LargestQuickArea = 64'000'000;  // of a kind that is scaled down as it is read
 constexpr qint64 LargestArea = 16'000'000;
 constexpr int LargestCodedSide = 32'767;
-constexpr int DrawingSide = 1024;  // pixels that a drawing, which has no size of its own, is given
 
 qint64 Area(const QSize& size) {
     return static_cast<qint64>(size.width()) * size.height();
 }
 
 /// Refuses by what the header says, before memory is taken.
-bool IsTooLarge(const QSize& size, bool isJpeg) {
+bool IsTooLarge(const QSize& size, bool isQuick) {
     return !size.isValid() || size.isEmpty() ||
            std::max(size.width(), size.height()) > LargestCodedSide ||
-           Area(size) > (isJpeg ? LargestJpegArea : LargestArea);
+           Area(size) > (isQuick ? LargestQuickArea : LargestArea);
 }
 
 /// Whether every block of a PNG file lies within it; the decoder takes as much memory as a block
@@ -42,6 +40,22 @@ bool PngIsWhole(const QByteArray& content) {
         at = end;
     }
     return false;
+}
+
+/// Whether a JPEG file is progressive: it is decoded whole before it can be scaled down. Each
+/// segment is 0xFF, its name, and its length with the two bytes that tell it.
+bool JpegHasManyPasses(const QByteArray& content) {
+    qint64 at = 2;  // behind the mark of the beginning
+    while (at + 4 <= content.size()) {
+        const auto name = static_cast<quint8>(content[at + 1]);
+        const bool isFrame =
+            name >= 0xC0 && name <= 0xCF && name != 0xC4 && name != 0xC8 && name != 0xCC;
+        if (isFrame) {
+            return name != 0xC0 && name != 0xC1;  // baseline, and the same with more bits
+        }
+        at += 2 + qFromBigEndian<quint16>(content.constData() + at + 2);
+    }
+    return true;
 }
 
 QImage InPaintingForm(QImage image) {
@@ -114,17 +128,15 @@ QImage DecodePicture(const QByteArray& content) {
     reader.setAutoTransform(true);
     const QByteArray kind = reader.format();
     const bool isJpeg = kind == "jpeg";
-    const bool isDrawing = kind == "svg";
-    if (content.size() > (isDrawing ? LargestDrawing : LargestFile) ||
-        !(isJpeg || isDrawing || kind == "png" || kind == "bmp" || kind == "gif" ||
-          kind == "ico")) {
+    if (content.size() > LargestFile ||
+        !(isJpeg || kind == "png" || kind == "bmp" || kind == "gif" || kind == "ico")) {
         return {};
     }
     if (kind == "png" && !PngIsWhole(content)) {
         return {};
     }
     const QSize size = reader.size();
-    if (IsTooLarge(size, isJpeg)) {
+    if (IsTooLarge(size, isJpeg && !JpegHasManyPasses(content))) {
         return {};
     }
     const int longest = std::max(size.width(), size.height());
@@ -132,9 +144,6 @@ QImage DecodePicture(const QByteArray& content) {
         reader.setScaledSize(
             size.scaled(PictureStore::LargestSide, PictureStore::LargestSide, Qt::KeepAspectRatio)
                 .expandedTo({1, 1}));
-    } else if (isDrawing) {
-        reader.setScaledSize(
-            size.scaled(DrawingSide, DrawingSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
     }
     QImage image;
     return reader.read(&image) ? InPaintingForm(std::move(image)) : QImage();
@@ -189,10 +198,6 @@ std::shared_ptr<const QImage> PictureStore::Scaled(const std::shared_ptr<const Q
     std::erase_if(scaled_, [](const auto& entry) { return entry.second.expired(); });
     scaled_.insert_or_assign(key, made);
     return made;
-}
-
-void PictureStore::Forget(const QString& path) {
-    files_.erase(path);
 }
 
 }  // namespace mduUILib

@@ -28,9 +28,6 @@ public:
     std::shared_ptr<const QImage> Scaled(const std::shared_ptr<const QImage>& picture,
                                          const QSize& size, int brightness = 100);
 
-    /// Forgets a file, so that it is read anew.
-    void Forget(const QString& path);
-
     static constexpr int LargestSide = 4000;          ///< pixels
     static constexpr int LargestScaledSide = 16'000;  ///< pixels
     static constexpr qint64 LargestScaledArea = 64'000'000;

@@ -111,6 +111,7 @@ private Q_SLOTS:
         frmTempolark* clock = desk.Launch(u"UTC"_s);
         clock->SetClockStyle(WriteStyle(desk, u"D.ini"_s, {{u"Clocks"_s, u"Digital"_s}}));
         QCOMPARE(clock->Data().State, ClockState::FirstTickDue);
+        QVERIFY(!clock->isVisible());
         desk.Machine.Clock.Advance(30);
         QCOMPARE(clock->Data().State, ClockState::Running);
         QVERIFY(clock->isVisible());
@@ -201,9 +202,11 @@ private Q_SLOTS:
         clock->SetWindowBackColour({}, u"Transparent"_s);
         QCOMPARE(clock->DrawStyle(), 1);
         QCOMPARE(Corner(clock), qRgb(0x20, 0x40, 0x80));  // the shell's colour
+        QVERIFY(clock->Controls().shpArea(1).Visible);    // the handle
         clock->SetWindowBackColour({}, u"Yellow"_s);
         QCOMPARE(clock->DrawStyle(), 0);
         QCOMPARE(Corner(clock), qRgb(255, 255, 0));
+        QVERIFY(!clock->Controls().shpArea(1).Visible);
     }
 
     void SaveCurrentStyleWritesTheState() {
@@ -246,6 +249,18 @@ private Q_SLOTS:
         QVERIFY(desk.Shell.Messages.isEmpty());
     }
 
+    void SaveStyleAsOfAMaximisedClockKeepsTheStoredPlace() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->SetWindowState(2);
+        const QString path = desk.Machine.AppFolder() + u"/Mine.ini"_s;
+        desk.Machine.Dialogs.FileAnswers = {path};
+        clock->SaveStyleAs();
+        ClockProperties style;
+        QVERIFY(mduLib::ReadPropertyFile(desk.Machine.Files, path, style));
+        QCOMPARE(mduLib::GetProperty(u"Window Width"_s, style), u"-1"_s);
+    }
+
     void SaveStyleAsTellsOfAFailure() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
@@ -277,6 +292,10 @@ private Q_SLOTS:
                  u"Nepal Standard Time: 01/02/2026 16:00:00"_s);
         QTest::keyClick(clock, Qt::Key_C, Qt::ControlModifier);  // not for the calculator
         QCOMPARE(clock->Controls().lblTimeInput(1).Caption, u"Local Time: 1/2/2026 10:15 _"_s);
+        clock->SetClocks(1);  // leaves the input state
+        QCOMPARE(clock->GetLocation(), u"Nepal Standard Time"_s);
+        clock->SetClocks(3);
+        QTest::keyClick(clock, Qt::Key_Tab);
         QTest::keyClick(clock, Qt::Key_Escape);
         QCOMPARE(clock->Data().Tag, u"3"_s);
         desk.Machine.Clock.Advance(1000);

@@ -341,9 +341,9 @@ private Q_SLOTS:
         Child child;
         child.Set(Rate, u"100000"_s);
         child.Place.ShowClockWindow(true);
-        child.Machine.Clock.Advance(1990);
+        child.Machine.Clock.Advance(9900);
         QVERIFY(!child.IsWhole());
-        child.Machine.Clock.Advance(20);
+        child.Machine.Clock.Advance(120);
         QVERIFY(child.IsWhole());
     }
 

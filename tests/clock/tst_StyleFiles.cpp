@@ -139,7 +139,7 @@ private Q_SLOTS:
         mduLib::PutProperty(u"Time Zone Standard Name"_s, u"Nepal Standard Time"_s, look);
         mduLib::PutProperty(u"Time Zone Daylight GMT (Minutes)"_s, u"60"_s, look);
         const QString path = desk.Machine.AppFolder() + u"/Mine.ini"_s;
-        QVERIFY(desk.Styles.Write(path, look, {15, 30.5, 4500, 3000}));
+        QVERIFY(desk.Styles.Write(path, look, QRectF(15, 30.5, 4500, 3000)));
         ClockProperties written;
         QVERIFY(mduLib::ReadPropertyFile(desk.Machine.Files, path, written));
         QCOMPARE(mduLib::GetPropertyRaw(u"Time Zone Standard Name"_s, written), u""_s);
@@ -153,7 +153,8 @@ private Q_SLOTS:
 
     void TellsOfAFileThatCannotBeWritten() {
         StyleDesk desk;
-        QVERIFY(!desk.Styles.Write(desk.Machine.AppFolder() + u"/none/Mine.ini"_s, {}, {}));
+        QVERIFY(
+            !desk.Styles.Write(desk.Machine.AppFolder() + u"/none/Mine.ini"_s, {}, std::nullopt));
     }
 
     void NamesTheStylesOfTheFolder() {

@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 
 #include "ClockDesk.h"
 
@@ -241,6 +243,48 @@ private Q_SLOTS:
         clock->SetBackward();
         QCOMPARE(mduLib::GetProperty(u"Clock Special"_s, clock->Data().Properties()),
                  u"Analogue Backward"_s);
+    }
+
+    void SpotsTellTheirTime() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        const auto hover = [clock](const QPoint& position) {
+            QHelpEvent event(QEvent::ToolTip, position, clock->mapToGlobal(position));
+            QApplication::sendEvent(clock, &event);
+            return QToolTip::text();
+        };
+        const mduUILib::ControlArray& spots = clock->Controls().imgClockNumber;
+        QCOMPARE(hover(spots(6).Rect().center().toPoint()), u"1:12"_s);
+        QCOMPARE(hover(spots(45).Rect().center().toPoint()), u"9:00"_s);
+        hover(clock->rect().center());
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void TheMouseShowsTheMarkOfANumber() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        QTest::mouseMove(clock, clock->Controls().lblHour(15).Rect().center().toPoint());
+        QCOMPARE(clock->cursor().shape(), Qt::BitmapCursor);
+        QTest::mouseMove(clock, {1, 1});
+        QCOMPARE(clock->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void PaintedNumbersFollowTheSpecialAtTheNextPass() {
+        Desk desk;
+        QByteArray file = desk.Machine.ReadFile(u"ini/Tempolark.ini"_s);
+        file.replace("Hour Number Style=Number 12", "Hour Number Style=True Roman 12");
+        file.replace("Minute Spot Style=Spot 60", "Minute Spot Style=No Spots");
+        desk.Machine.WriteFile(u"tester/TimeZones/UTC.ini"_s, file);
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        const QImage forward = clock->PaintedSurface().Image().copy();
+        clock->SetBackward();
+        QVERIFY(clock->PaintedSurface().Image() == forward);  // draws nothing itself
+        clock->Tick();
+        const QImage next = clock->PaintedSurface().Image().copy();
+        desk.Module.CurrentProperties = clock->Data().Properties();
+        clock->RefreshForm({});
+        clock->Tick();
+        QVERIFY(clock->PaintedSurface().Image() == next);
     }
 
     void RefreshTakesTheExchangeSlot() {

@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -26,6 +27,7 @@ public:
     CompanionAnswer Run(const QStringList& arguments) const {
         QProcess process;
         process.setWorkingDirectory(Folder.path());
+        process.setProcessEnvironment(Environment);
         process.start(QStringLiteral(TEMPOLARK_BIN_DIR "/tempolarkctl"), arguments);
         if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
             return {};
@@ -50,4 +52,5 @@ public:
     }
 
     QTemporaryDir Folder;
+    QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
 };

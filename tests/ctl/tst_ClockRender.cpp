@@ -18,7 +18,7 @@ void tst_ClockRender::tellsOfAFileThatCantBeRead() {
                        u"out.png"_s, u"--size"_s, u"300x200"_s});
     QCOMPARE(answer.Status, 1);
     QCOMPARE(answer.Output, "{\"height\":200,\"mode\":\"0\",\"width\":300}\n"_ba);
-    QVERIFY(answer.Messages.contains("missing.ini can't be read"));
+    QVERIFY(answer.Messages.contains("missing.ini can't be read as a property file"));
     QVERIFY(!QFileInfo::exists(companion.Folder.filePath(u"out.png"_s)));
 }
 

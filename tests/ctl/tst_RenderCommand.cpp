@@ -50,6 +50,34 @@ private Q_SLOTS:
         QCOMPARE(image.pixel(0, 0), qRgb(255, 255, 0));
     }
 
+    /// On a screen of twice the resolution the picture has twice the pixels and shows the same.
+    void TwiceTheResolution() {
+        Companion companion;
+        WriteClock(companion);
+        companion.Environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+        const CompanionAnswer answer = companion.Run(RenderAt(companion, u"2026-03-04T15:00:30"_s) +
+                                                     QStringList{u"--size"_s, u"201x201"_s});
+        QCOMPARE(answer.Output.trimmed(), "{\"height\":402,\"mode\":\"1\",\"width\":402}");
+        const QImage image(companion.Folder.filePath(u"out.png"_s));
+        QCOMPARE(image.size(), QSize(402, 402));
+        // The centre is 201. Hour at three, length 80, six pixels wide; second at six, 181.
+        QCOMPARE(image.pixel(280, 201), qRgb(0, 0, 255));
+        QCOMPARE(image.pixel(270, 203), qRgb(0, 0, 255));
+        QCOMPARE(image.pixel(270, 206), qRgb(255, 255, 0));
+        QCOMPARE(image.pixel(201, 380), qRgb(255, 0, 0));
+        QCOMPARE(image.pixel(201, 386), qRgb(255, 255, 0));
+    }
+
+    void RefusesAFileThatIsNoPropertyFile() {
+        const Companion companion;
+        companion.Write(u"UTC.ini"_s, QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
+        const CompanionAnswer answer = companion.Run(RenderAt(companion, u"2026-03-04T15:00:30"_s) +
+                                                     QStringList{u"--size"_s, u"20x20"_s});
+        QCOMPARE(answer.Status, 1);
+        QVERIFY(answer.Messages.contains("can't be read as a property file"));
+        QVERIFY(!QFileInfo::exists(companion.Folder.filePath(u"out.png"_s)));
+    }
+
     void LeavesTheFileAsItIs() {
         const Companion companion;
         WriteClock(companion, "Time Zone Standard Name=\r\n");

@@ -191,7 +191,7 @@ private Q_SLOTS:
     void TheSpeckOfATransparentWindow() {
         face_->Window.Transparent = true;
         face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
-        background_->LoadWindowPicture(false);
+        background_->LoadWindowPicture();
         Holder().Picture = std::make_shared<const QImage>(9, 9, QImage::Format_RGB32);
         background_->ApplySurface();
         QCOMPARE(Shown().Picture.get(), face_->Controls.picFrame(1).Picture.get());
@@ -200,7 +200,7 @@ private Q_SLOTS:
 
     void MatBehindAll() {
         face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
-        background_->LoadWindowPicture(false);
+        background_->LoadWindowPicture();
         QCOMPARE(PixelAt(0, 0), Green);
         face_->Set(u"Clock Image Size(%)"_s, u"80"_s);
         LoadDial(Blue);
@@ -214,15 +214,13 @@ private Q_SLOTS:
         QCOMPARE(PixelAt(0, 0), Green);
     }
 
-    void AForcedLoadReadsTheFileOnceMore() {
+    void AChangedFileIsReadAnew() {
         face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
         face_->Machine.SetAge(u"mat.bmp"_s, 100);
-        background_->LoadWindowPicture(false);
+        background_->LoadWindowPicture();
         WriteBitmap(u"mat.bmp"_s, Blue);
-        face_->Machine.SetAge(u"mat.bmp"_s, 100);
-        background_->LoadWindowPicture(false);
-        QCOMPARE(PixelAt(0, 0), Green);
-        background_->LoadWindowPicture(true);
+        face_->Machine.SetAge(u"mat.bmp"_s, 50);
+        background_->LoadWindowPicture();
         QCOMPARE(PixelAt(0, 0), Blue);
     }
 
@@ -366,7 +364,7 @@ private Q_SLOTS:
         QCOMPARE(face_->Window.Status, QStringList(path + u" can't be read as a picture"_s));
         QVERIFY(!background_->HasClockPicture());
         face_->Set(u"Window Background File"_s, path);
-        background_->LoadWindowPicture(true);
+        background_->LoadWindowPicture();
         QVERIFY(!face_->Controls.picFrame(1).Picture);
     }
 
@@ -572,7 +570,7 @@ private Q_SLOTS:
         face_->Set(u"Clock Shape"_s, u"Octagon"_s);
         face_->Set(u"Window Shape"_s, u"Circle"_s);
         face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
-        background_->LoadWindowPicture(true);
+        background_->LoadWindowPicture();
         LoadDial(Blue);
         background_->ApplySurface();
         QCOMPARE(PixelAt(size.width() / 2, size.height() / 2), Blue);

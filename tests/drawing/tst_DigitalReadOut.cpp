@@ -86,7 +86,8 @@ private Q_SLOTS:
     void GoesUpAndDown();
     void WavesUpAndDown();
     void Waves();
-    void ReadsTheSpecialWithTheLayout();
+    void ReadsTheSpecialAtEachSecond();
+    void ShowsANewLayoutAtOnce();
     void BeginsEachSecondWhereTheLastEnds();
     void FinishesTheMotion();
     void StopsTheMotionWhenHidden();
@@ -366,6 +367,7 @@ void tst_DigitalReadOut::GoesUpAndDown() {
     digits.Face.Set(u"Clock Special"_s, u"Digital Up Down"_s);
     digits.Face.Set(u"Digital Clock CentralY(%)"_s, u"30.2"_s);
     digits.ReadOut.SetDigitalLayout();
+    digits.Face.Window.Shows = 0;
     digits.Label(1).Height = 30;
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     digits.Face.Machine.Clock.Advance(79);
@@ -390,6 +392,7 @@ void tst_DigitalReadOut::WavesUpAndDown() {
     digits.Face.Set(u"Clock Special"_s, u"Digital Up Down Wave"_s);
     digits.Face.Set(u"Digital Clock CentralY(%)"_s, u"30"_s);
     digits.ReadOut.SetDigitalLayout();
+    digits.Face.Window.Shows = 0;
     digits.Label(1).Height = 30;
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     digits.Face.Machine.Clock.Advance(13);  // k is -13
@@ -410,6 +413,7 @@ void tst_DigitalReadOut::Waves() {
     digits.Face.Set(u"Clock Special"_s, u"Digital Wave"_s);
     digits.Face.Set(u"Digital Clock CentralY(%)"_s, u"30"_s);
     digits.ReadOut.SetDigitalLayout();
+    digits.Face.Window.Shows = 0;
     digits.Label(1).Height = 30;
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     QVERIFY(qAbs(digits.Label(1).Top - 81.198F) < 0.01F);  // 60 + 23 sin(6.28/6 + 6.28/50)
@@ -421,13 +425,30 @@ void tst_DigitalReadOut::Waves() {
     QVERIFY(qAbs(digits.Label(6).Top - 59.853F) < 0.01F);  // 60 + 23 sin(6.28 + 6.28)
 }
 
-void tst_DigitalReadOut::ReadsTheSpecialWithTheLayout() {
+void tst_DigitalReadOut::ReadsTheSpecialAtEachSecond() {
     Digits digits;
     digits.ReadOut.SetDigitalLayout();
-    digits.Face.Set(u"Clock Special"_s, u"Digital Wave"_s);
+    digits.Face.Window.Shows = 0;
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     digits.Face.Machine.Clock.Advance(900);
     QCOMPARE(digits.Face.Window.Shows, 0);
+    digits.Face.Set(u"Clock Special"_s, u"Digital Wave"_s);
+    digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
+    digits.Face.Machine.Clock.Advance(900);
+    QVERIFY(digits.Face.Window.Shows > 0);
+}
+
+// Whoever lays out in the middle of a motion has stopped it.
+void tst_DigitalReadOut::ShowsANewLayoutAtOnce() {
+    Digits digits;
+    digits.Face.Set(u"Clock Special"_s, u"Digital Wave"_s);
+    digits.ReadOut.SetDigitalLayout();
+    digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
+    digits.Face.Machine.Clock.Advance(10);
+    digits.Face.Window.Shows = 0;
+    digits.ReadOut.SetDigitalLayout();
+    QCOMPARE(digits.Face.Window.Shows, 1);
+    QCOMPARE(digits.Label(1).Top, digits.Label(6).Top);
 }
 
 void tst_DigitalReadOut::BeginsEachSecondWhereTheLastEnds() {
@@ -447,6 +468,7 @@ void tst_DigitalReadOut::FinishesTheMotion() {
     digits.Face.Set(u"Clock Special"_s, u"Digital Up Down"_s);
     digits.Face.Set(u"Digital Clock CentralY(%)"_s, u"30"_s);
     digits.ReadOut.SetDigitalLayout();
+    digits.Face.Window.Shows = 0;
     digits.ReadOut.FinishMotion();
     QCOMPARE(digits.Face.Window.Shows, 0);
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
@@ -460,6 +482,7 @@ void tst_DigitalReadOut::StopsTheMotionWhenHidden() {
     Digits digits;
     digits.Face.Set(u"Clock Special"_s, u"Digital Up Down"_s);
     digits.ReadOut.SetDigitalLayout();
+    digits.Face.Window.Shows = 0;
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     digits.ReadOut.HideDigitalClock();
     digits.Face.Machine.Clock.Advance(900);

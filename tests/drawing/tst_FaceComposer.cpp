@@ -17,7 +17,9 @@ struct PaperBackground final : drawing::Background {
     void DrawBackgroundPicture(Surface& surface) const override {
         ++Painted;
         surface.Cls(Paper);
-        surface.FillSpan(10, 0, surface.ScaleWidth() - 1, 0);
+        for (int x = 0; x < surface.ScaleWidth(); ++x) {
+            surface.SetPixel(x, 10, 0);
+        }
     }
 };
 

@@ -104,9 +104,10 @@ private Q_SLOTS:
         QVERIFY(!drawing::WindowFigure(shape, Framed()));
     }
 
-    void NamesAreTrimmed() {
-        QVERIFY(drawing::IsShape(u" hexagon "_s));
-        QCOMPARE(drawing::ShapeRegion(u" OCTAGON "_s, Box),
+    void NamesAreTrimmedAndElseLiteral() {
+        QVERIFY(drawing::IsShape(u" Hexagon "_s));
+        QVERIFY(!drawing::IsShape(u"hexagon"_s));
+        QCOMPARE(drawing::ShapeRegion(u" Octagon "_s, Box),
                  drawing::ShapeRegion(u"Octagon"_s, Box));
     }
 

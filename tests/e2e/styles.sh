@@ -17,13 +17,14 @@ folder=$scratch/app
 zone="Nepal Standard Time"
 file=$folder/$(id -un)/TimeZones/$zone.ini
 
-# Two styles, "Blue" and "Red"; the clock stands at the upper left of the shell.
+# Two styles, "Blue" and "Red"; the clock stands at the upper left of the shell and opens from its
+# middle.
 Prepare() {
     mkdir -p "$(dirname "$file")" "$folder/Styles"
     cp -rp "$bin/ini" "$folder"
     local place='s/Window Left=-1/Window Left=300/; s/Window Top=-1/Window Top=300/
         s/Window Width=-1/Window Width=4500/; s/Window Height=-1/Window Height=4500/'
-    sed "$place" "$folder/ini/Tempolark.ini" >"$file"
+    sed "$place; s/Animation Rate=[^,]*/Animation Rate=300/" "$folder/ini/Tempolark.ini" >"$file"
     for style in Blue Red; do
         sed "$place; s/Window Background Colour=[^,]*/Window Background Colour=$style/" \
             "$folder/ini/Tempolark.ini" >"$folder/Styles/$style.ini"

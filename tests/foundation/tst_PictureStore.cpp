@@ -1,4 +1,5 @@
 #include <QBuffer>
+#include <QImageWriter>
 #include <QTest>
 #include <QtEndian>
 
@@ -120,16 +121,6 @@ private Q_SLOTS:
         QCOMPARE(picture->pixel(0, 0), 0xFFFFFFFF);
     }
 
-    void DrawingsTakeALargeSize() {
-        const auto picture =
-            LoadBytes(u"a.svg"_s,
-                      "<svg xmlns='http://www.w3.org/2000/svg' width='20' height='10'>"
-                      "<rect width='20' height='10' fill='#0000ff'/></svg>");
-        QVERIFY(picture);
-        QCOMPARE(picture->size(), QSize(1024, 512));
-        QCOMPARE(picture->pixel(500, 250), 0xFF0000FF);
-    }
-
     void Forms() {
         QImage glass(4, 4, QImage::Format_ARGB32);
         glass.fill(QColor(255, 0, 0, 128));
@@ -154,8 +145,9 @@ private Q_SLOTS:
         QTest::newRow("PNG with a block beyond its end")
             << png.left(33) + BigEndian(0x7E000025) + "tEXt" + png.mid(33);
         QTest::newRow("PNG without an end") << png.chopped(12);
-        QTest::newRow("broken drawing")
-            << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\"><rect");
+        QTest::newRow("drawing") << QByteArray(
+            "<svg xmlns='http://www.w3.org/2000/svg' width='20' height='10'>"
+            "<rect width='20' height='10' fill='#0000ff'/></svg>");
         QTest::newRow("huge PNG") << PngHeader(20000, 20000);
         QTest::newRow("endless PNG") << PngHeader(0x7FFFFFFF, 1);
         QTest::newRow("wide PNG") << PngHeader(32768, 16);
@@ -171,6 +163,23 @@ private Q_SLOTS:
     void NotAPicture() {
         QFETCH(QByteArray, bytes);
         QVERIFY(!LoadBytes(u"a.jpg"_s, bytes));
+    }
+
+    /// 16.4 million pixels: more than is read of a kind that can't be scaled down on the way.
+    void AJpegOfManyPassesIsHeldToLess() {
+        QImage grey(4100, 4000, QImage::Format_Grayscale8);
+        grey.fill(100);
+        const auto coded = [&grey](bool progressive) {
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            QImageWriter writer(&buffer, "jpg");
+            writer.setProgressiveScanWrite(progressive);
+            return writer.write(grey) ? bytes : QByteArray();
+        };
+        QVERIFY(LoadBytes(u"a.jpg"_s, coded(false)));
+        QVERIFY(!LoadBytes(u"b.jpg"_s, coded(true)));
+        grey = grey.scaled(400, 300);
+        QVERIFY(LoadBytes(u"c.jpg"_s, coded(true)));
     }
 
     void TooLargeAFile() {
@@ -238,17 +247,6 @@ private Q_SLOTS:
         const auto second = store_->Load(machine_->Files, path);
         QCOMPARE(first->pixel(0, 0), 0xFFFF0000);
         QCOMPARE(second->pixel(0, 0), 0xFF0000FF);
-    }
-
-    void ReadAnewWhenForgotten() {
-        const QString path = machine_->WriteFile(u"a.bmp"_s, Coded(Plain(4, 4, Qt::red), "bmp"));
-        machine_->SetAge(u"a.bmp"_s, 100);
-        const auto first = store_->Load(machine_->Files, path);
-        machine_->WriteFile(u"a.bmp"_s, Coded(Plain(4, 4, Qt::blue), "bmp"));
-        machine_->SetAge(u"a.bmp"_s, 100);
-        QCOMPARE(store_->Load(machine_->Files, path)->pixel(0, 0), 0xFFFF0000);
-        store_->Forget(path);
-        QCOMPARE(store_->Load(machine_->Files, path)->pixel(0, 0), 0xFF0000FF);
     }
 
     void ABrokenFileIsTriedOnce() {

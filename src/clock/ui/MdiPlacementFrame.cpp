@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "clock/ui/MdiPlacement.h"
+#include "drawing/Shapes.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -13,12 +14,6 @@ namespace clockcore {
 namespace {
 
 constexpr int NoBorder = 1;
-
-bool IsFigure(const QString& shape) {
-    static const QStringList figures = {u"Circle"_s,   u"Ellips"_s,  u"Diamond"_s,
-                                        u"Pentagon"_s, u"Hexagon"_s, u"Octagon"_s};
-    return figures.contains(shape);
-}
 
 }  // namespace
 
@@ -42,7 +37,7 @@ void MdiPlacement::ApplyTitleBar() {
 }
 
 void MdiPlacement::ApplyLook() {
-    const bool bare = data_.Is(Wrapper) || IsFigure(Property(u"Window Shape"_s));
+    const bool bare = data_.Is(Wrapper) || drawing::IsShape(Property(u"Window Shape"_s));
     const FrameLook look = bare ? FrameLook{NoBorder, false} : look_;
     if (frame_) {
         frame_->SetLook(look);

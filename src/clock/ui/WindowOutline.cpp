@@ -59,6 +59,16 @@ void WindowOutline::Apply() {
         if (restore_) {
             restore_();
         }
+    } else {
+        return;
+    }
+    UpdateChildren();
+}
+
+// The toolkit paints a window anew where its mask has grown, but not the opaque children in it.
+void WindowOutline::UpdateChildren() {
+    for (QWidget* child : window_.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        child->update();
     }
 }
 

@@ -26,6 +26,8 @@ public:
 
 private:
     QWidget& window_;
+    void UpdateChildren();
+
     std::function<void()> restore_;
     QRegion figure_;
     double revealed_ = 1;

@@ -10,7 +10,7 @@ class QWidget;
 
 namespace clockcore {
 
-inline constexpr int LongestReveal = 2000;  ///< milliseconds
+inline constexpr int LongestReveal = 10000;  ///< milliseconds
 
 /// Counts a time that is given in milliseconds, in steps, from 0 to 1.
 class WindowReveal {

@@ -47,6 +47,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
     setObjectName(ClockWindowName);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     program_.Windows.Add(*this);
 }
 

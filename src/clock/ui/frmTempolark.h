@@ -20,6 +20,8 @@
 #include "foundation/Controls.h"
 #include "foundation/Program.h"
 
+class QHelpEvent;
+
 /// One world clock: a window that shows a zone's time, driven by one property file. It is built in
 /// two halves: `ShowMeMDIChild` reads the file and fills the zone, and the first tick finishes the
 /// window. It owns its parts and routes the tick to them; it decides nothing itself.
@@ -94,6 +96,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     /// Tab belongs to the calculator.
@@ -107,6 +111,10 @@ private:
     void Activate();
     void ApplyEnable();
     QSize SurfaceSize() const;
+    void TakeSurface();
+    bool SurfaceFitsTheScreen() const;
+    void ShowToolTip(QHelpEvent& event);
+    mduUILib::Control* ControlAt(mduUILib::ControlArray& array, const QPoint& position) const;
     void Status(const QString& text);
 
     // The canvas.
@@ -114,7 +122,7 @@ private:
     void Present(const QRegion& changed) override;
     bool CanBeSeen() const override;
     void StillChanged() override { face_.StillChanged(); }
-    void ShowChanges() override { face_.ShowChanges(); }
+    void ShowChanges() override;
     int BackColor() const override { return backColour_; }
     int ParentBackColor() const override;
     bool IsTransparent() const override { return drawStyle_ == 1; }
@@ -154,6 +162,7 @@ private:
     int backColour_ = 0xFFFFFF;
     int drawStyle_ = 0;
     bool colourKey_ = false;
+    std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
     QRegion outline_;  ///< of the outer window, in device pixels; empty for a plain rectangle
     bool locked_ = false;
     QRegion lockedChanges_;

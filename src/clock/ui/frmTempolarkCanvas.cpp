@@ -31,7 +31,15 @@ QSize frmTempolark::SurfaceSize() const {
             mduAPILib::RoundToInteger(height() * ratio)};
 }
 
+bool frmTempolark::SurfaceFitsTheScreen() const {
+    return surface_->DevicePixelRatio() == devicePixelRatioF();
+}
+
 void frmTempolark::resizeEvent(QResizeEvent*) {
+    TakeSurface();
+}
+
+void frmTempolark::TakeSurface() {
     const QSize size = SurfaceSize();
     surface_ = std::make_unique<drawing::Surface>(size.width(), size.height(), devicePixelRatioF());
     surface_->SetHeight(mduAPILib::RoundToInteger(placement_.OuterRect().height()));
@@ -57,6 +65,9 @@ void frmTempolark::LayOutFace() {
 // The surface holds the whole picture. A part that we did not change ourselves has come to light:
 // the clock is asked to redraw itself at its next tick.
 void frmTempolark::paintEvent(QPaintEvent* event) {
+    if (!SurfaceFitsTheScreen()) {
+        TakeSurface();  // the window has come to another screen
+    }
     const QRegion exposed = event->region() - presented_;
     presented_ -= event->region();
     if (!exposed.isEmpty() && data_.State == ClockState::Running) {
@@ -103,6 +114,13 @@ void frmTempolark::Present(const QRegion& changed) {
     logical &= rect();
     presented_ += logical;
     update(logical);
+}
+
+// Until the first tick has laid the face out there is nothing to show.
+void frmTempolark::ShowChanges() {
+    if (data_.State == ClockState::Running || data_.State == ClockState::RedrawRequested) {
+        face_.ShowChanges();
+    }
 }
 
 bool frmTempolark::CanBeSeen() const {

@@ -1,6 +1,10 @@
-// Keys and the right mouse button of the clock's window.
+// Keys and the mouse of the clock's window.
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QToolTip>
 
 #include "clock/ClockMode.h"
 #include "clock/ui/LookMenu.h"
@@ -42,6 +46,8 @@ int CalculatorKey(const QKeyEvent& event) {
     return code == 37 || code == 39 || code == 45 || code == 46 ? 0 : code;
 }
 
+constexpr int CursorSide = 16;  // logical pixels
+
 bool IsPlain(const QKeyEvent& event) {
     const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
     return others == Qt::NoModifier || others == Qt::ShiftModifier;
@@ -61,6 +67,55 @@ void frmTempolark::keyPressEvent(QKeyEvent* event) {
     } else {
         QWidget::keyPressEvent(event);
     }
+}
+
+mduUILib::Control* frmTempolark::ControlAt(mduUILib::ControlArray& array,
+                                           const QPoint& position) const {
+    const QPointF point = QPointF(position) * devicePixelRatioF();
+    for (mduUILib::Control& control : array.Members) {
+        if (control.Visible && control.Rect().contains(point)) {
+            return &control;
+        }
+    }
+    return nullptr;
+}
+
+bool frmTempolark::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        ShowToolTip(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+// What lies above comes first.
+void frmTempolark::ShowToolTip(QHelpEvent& event) {
+    for (mduUILib::ControlArray* array : {&controls_.imgSpeaker, &controls_.imgClockNumber}) {
+        const mduUILib::Control* control = ControlAt(*array, event.pos());
+        if (control != nullptr && !control->ToolTipText.isEmpty()) {
+            QToolTip::showText(event.globalPos(), control->ToolTipText, this,
+                               QRect(event.pos() - QPoint(2, 2), QSize(5, 5)));
+            return;
+        }
+    }
+    QToolTip::hideText();
+    event.ignore();
+}
+
+// Over an hour number the mouse shows the number's own mark.
+void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
+    const mduUILib::Control* label = ControlAt(controls_.lblHour, event->position().toPoint());
+    const std::shared_ptr<const QImage> picture = label != nullptr ? label->Picture : nullptr;
+    if (picture != mouseIcon_) {
+        mouseIcon_ = picture;
+        if (picture && !picture->isNull()) {
+            setCursor(QCursor(QPixmap::fromImage(picture->scaled(
+                CursorSide, CursorSide, Qt::KeepAspectRatio, Qt::SmoothTransformation))));
+        } else {
+            unsetCursor();
+        }
+    }
+    QWidget::mouseMoveEvent(event);
 }
 
 void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {

@@ -26,6 +26,7 @@ void frmTempolark::SetClocks(int mode) {
         return;
     }
     data_.Tag = QString::number(mode);
+    controls_.lblLocation(1).Caption = data_.Zone.CurrentName;  // typing may have changed it
     mduLib::PutProperty(u"Clocks"_s, name, data_.EditProperties());
     face_.ApplyWindowBackground();
     face_.PrepareClockFace();
@@ -48,6 +49,7 @@ void frmTempolark::SetWindowBackColour(const QString& value, const QString& capt
     mduLib::PutProperty(u"Window Background Colour"_s, colour, data_.EditProperties());
     face_.ApplyWindowBackground();
     dial_.DrawDialNumbers(data_.IsAnalogue(), {}, true);
+    overlays_.SetTransparentIconPosition();
     Refresh();
 }
 
@@ -75,7 +77,9 @@ void frmTempolark::SetClockStyle(const QString& styleFile) {
         data_.EditProperties() = *style;
     }
     SetProperty();
-    SetWindowState(0);
+    if (placement_.Outer().isVisible()) {
+        SetWindowState(0);
+    }
     RefreshForm({});
     overlays_.LayOutOverlays();
     if (data_.IsAnalogue()) {
@@ -146,7 +150,9 @@ void frmTempolark::SaveStyleAs() {
         return;
     }
     const QString path = clockcore::StyleFiles::SavePath(chosen);
-    if (!styles_.Write(path, data_.Properties(), placement_.OuterRect())) {
+    const std::optional<QRectF> place =
+        WindowState() == 0 ? std::optional(placement_.OuterRect()) : std::nullopt;
+    if (!styles_.Write(path, data_.Properties(), place)) {
         Status(path + u" can't be written"_s);
     }
 }
@@ -173,7 +179,7 @@ void frmTempolark::RefreshForm(const QString& fileName) {
     }
     face_.ApplyWindowBackground();
     background_.LoadClockPicture();
-    background_.LoadWindowPicture(true);
+    background_.LoadWindowPicture();
     background_.SetWindowShape();
     background_.SetClockShape();
     ApplyEnable();
