@@ -1,0 +1,50 @@
+#pragma once
+
+#include "foundation/ClockProperty.h"
+#include "foundation/Controls.h"
+#include "foundation/ModuleState.h"
+#include "platform/Services.h"
+#include "timezones/TimeZoneRecord.h"
+
+namespace timers {
+
+/// What timers, messages and actions ask of the clock that they belong to.
+class TimerHost {
+public:
+    virtual ~TimerHost() = default;
+
+    virtual void SpeakMessage(const QString& text, int flags, bool force) = 0;
+    virtual void PurgeSpeech(bool force) = 0;
+    virtual void PlaySound(const QString& path) = 0;
+    virtual void StopMusic() = 0;
+
+    /// A text for the shell's status bar; nothing happens without a shell.
+    virtual void ShowStatus(const QString& text) = 0;
+    /// A box of the clock. @return the button pressed: 1 OK, 6 Yes, 7 No
+    virtual int ShowMsgbox(const QString& text, int flags, const QString& title) = 0;
+
+    /// Gives a label the size of its caption.
+    virtual void FitLabel(mduUILib::Control& label) = 0;
+    /// Moves the mark of a timer: @p spot is the number of the minute spot (0 and above),
+    /// @p place the place within it (1 to 12).
+    virtual void PlaceMark(int slot, int spot, int place) = 0;
+
+    virtual int TimerInterval() const = 0;  ///< of `timClock`, in milliseconds
+    virtual void SetTimerInterval(int milliseconds) = 0;
+    virtual int BackColor() const = 0;
+    virtual double DevicePixelRatio() const = 0;
+    virtual int ScaleHeight() const = 0;  ///< of the drawing surface, in device pixels
+    virtual ClockProperties& EditProperties() = 0;
+};
+
+/// What the timer parts of one clock share; all of it outlives them.
+struct TimerContext {
+    const ClockProperties& Properties;
+    const TimeZoneRecord& Zone;
+    mduUILib::ClockControls& Controls;
+    const platform::Services& Services;
+    const ModuleState& Module;
+    TimerHost& Host;
+};
+
+}  // namespace timers
