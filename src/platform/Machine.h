@@ -42,6 +42,8 @@ public:
     virtual void SetRate(int rate) = 0;      ///< -10 to 10
     virtual void SetVolume(int volume) = 0;  ///< 0 to 100
     virtual bool Speak(const QString& text, int flags) = 0;
+    /// Why the last text could not be spoken; empty when it could.
+    virtual QString LastError() const { return {}; }
 };
 
 class Voices {
@@ -60,6 +62,8 @@ public:
     virtual void Stop() = 0;
     virtual void Pause() = 0;
     virtual void SetVolume(int volume) = 0;  ///< 0 to 100
+    /// Why the present file can't be played; empty while nothing has failed.
+    virtual QString LastError() const { return {}; }
 };
 
 class MediaPlayers {
