@@ -57,6 +57,7 @@ std::vector<Command> FilesCommands();
 std::vector<Command> ClockCommands();
 std::vector<Command> ShellCommands();
 std::vector<Command> ZonesCommands();
+std::vector<Command> SpeechCommands();
 
 /// Every command, group by group. A new group is declared above and added there.
 std::vector<Command> AllCommands();

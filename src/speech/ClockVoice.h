@@ -22,6 +22,8 @@ public:
 
     /// Speaks the shortest unit whose pattern is due, unless a message or an action is showing.
     virtual void CheckSpokenTime() {}
+    /// Speaks the longest unit that has a pattern, due or not: a click on the speaker mark.
+    virtual void SpeakTimeNow() {}
 };
 
 /// The music and sounds of one clock.

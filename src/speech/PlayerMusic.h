@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QDateTime>
+#include <QHash>
+#include <cstdint>
+#include <memory>
+
+#include "speech/ClockVoice.h"
+#include "speech/SpeechContext.h"
+
+namespace speech {
+
+/// The path of the file with that number in a folder, counted from 0 in the order of the names;
+/// empty when there is none. Folders inside are not entered.
+QString NextFolderFile(const platform::Files& files, const QString& folder, int index);
+
+/// The sounds and the music of one clock, through the one player that it makes when something is
+/// first to be heard.
+///
+/// Music stops where "Music Volume" is below 1 and where an action counts down; sounds are let
+/// through, but never cut into what is playing. `MusicPlayer(1).Tag` holds `MusicHold`: once it is
+/// "1" no music starts until the clock is opened again. A file that exists and can't be played is
+/// told to the host, about once a minute at most.
+class PlayerMusic final : public ClockMusic {
+public:
+    explicit PlayerMusic(const SpeechContext& context) : context_(context) {}
+
+    /// One tick: starts the next piece of "Music File" where nothing plays, or stops the music.
+    void CheckMusic() override;
+
+    /// Plays a file at once, unless something is playing. A file that is missing is skipped.
+    void PlaySound(const QString& path) override;
+
+    /// Stops the music for an action that counts down, and holds it.
+    void StopMusic() override;
+
+    int MusicIndex() const { return index_; }  ///< the number of a folder's next file, from 0
+
+private:
+    bool IsPlaying() const;
+    QString MusicPath() const;
+    void StartNextPiece(int volume);
+    bool MakePlayer(const QString& path);
+    void TellFailure();
+    void Tell(const QString& reason);
+
+    SpeechContext context_;
+    std::unique_ptr<platform::MediaPlayer> player_;
+    std::int16_t index_ = 0;
+    bool isMusic_ = false;  ///< what the player was given last is music, not a sound
+    QString path_;          ///< what the player was given last
+    QHash<QString, QDateTime> told_;
+};
+
+}  // namespace speech

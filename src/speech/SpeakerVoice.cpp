@@ -1,0 +1,221 @@
+#include "speech/SpeakerVoice.h"
+
+#include <algorithm>
+
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyLookup.h"
+#include "foundation/TextHelpers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace speech {
+
+namespace {
+
+constexpr int IdlePicture = 3;
+constexpr int MutedPicture = 4;
+constexpr int SpeakingPicture = 5;
+constexpr int PurgeBeforeSpeak = 2;
+constexpr QStringView PurgeText = u".";
+constexpr QStringView SampleVoice = u"Sample TTS Voice";
+
+}  // namespace
+
+platform::Voice* SpeakerVoice::Voice() {
+    if (!voice_) {
+        voice_ = context_.Services.Speech.MakeVoice();
+    }
+    return voice_.get();
+}
+
+double SpeakerVoice::SpeakerLevel() const {
+    return mduAPILib::Val(context_.Controls.imgSpeaker(1).Tag);
+}
+
+void SpeakerVoice::PrepareSpeaker() {
+    mduUILib::Control& mark = context_.Controls.imgSpeaker(1);
+    const platform::Voice* voice = Voice();
+    missing_.clear();
+    if (voice == nullptr || voice->Descriptions().isEmpty()) {
+        const QString reason = voice == nullptr ? QString() : voice->LastError();
+        missing_ = reason.isEmpty() ? u"this machine has no voice"_s : reason;
+        mark.Visible = false;
+        mark.Tag = u"0"_s;
+        return;
+    }
+    mark.Visible = mduUILib::YesNoToBool(mduLib::GetProperty(u"Speaker"_s, context_.Properties));
+    mark.Tag = mduLib::GetProperty(u"Speaker Volume"_s, context_.Properties);
+    if (mark.Visible) {
+        context_.Host.SetSpeakerPicture(SpeakerLevel() <= 0 ? MutedPicture : IdlePicture);
+    }
+}
+
+void SpeakerVoice::FillVoiceMenu() {
+    if (menu_.size() == 1) {
+        FillEntries();
+    }
+    MarkVoice();
+    const auto marked = std::find_if(menu_.begin(), menu_.end(),
+                                     [](const VoiceEntry& entry) { return entry.Checked; });
+    if (marked != menu_.end()) {
+        Voice()->SetVoice(static_cast<int>(marked - menu_.begin()));
+    }
+}
+
+void SpeakerVoice::FillEntries() {
+    const platform::Voice* voice = Voice();
+    const QStringList descriptions = voice == nullptr ? QStringList() : voice->Descriptions();
+    std::vector<VoiceEntry> entries;
+    QString list;
+    for (int index = 0; index < descriptions.size(); ++index) {
+        const QString& description = descriptions[index];
+        if (description.isEmpty() || description == SampleVoice) {
+            continue;
+        }
+        entries.push_back({description, index});
+        list += description + u',';
+    }
+    if (!list.isEmpty()) {
+        menu_ = entries;
+        ListChoices(list);
+    }
+}
+
+void SpeakerVoice::ListChoices(const QString& list) {
+    const QString present =
+        mduLib::FirstListField(mduLib::GetPropertyRaw(u"Speaker Voice"_s, context_.Properties));
+    mduLib::PutPropertyRaw(u"Speaker Voice"_s, present + u',' + list,
+                           context_.Host.EditProperties());
+}
+
+void SpeakerVoice::MarkVoice() {
+    const QString chosen = mduLib::GetProperty(u"Speaker Voice"_s, context_.Properties).trimmed();
+    for (VoiceEntry& entry : menu_) {
+        entry.Checked = entry.Index >= 0 && entry.Caption.trimmed() == chosen;
+    }
+}
+
+void SpeakerVoice::SpeakMessage(const QString& text, int flags, bool force) {
+    if (!force && !context_.Host.IsActiveClock()) {
+        return;
+    }
+    if (text.isEmpty() || SpeakerLevel() <= 0) {
+        TellNoVoice(text, force);
+        return;
+    }
+    if (text != PurgeText) {
+        context_.Host.SetSpeakerPicture(SpeakingPicture);
+    }
+    context_.Host.ShowChanges();
+    Utter(text, flags < 1 ? PurgeBeforeSpeak : flags, force);
+    context_.Host.SetSpeakerPicture(IdlePicture);
+}
+
+void SpeakerVoice::PurgeSpeech(bool force) {
+    SpeakMessage(PurgeText.toString(), PurgeBeforeSpeak, force);
+}
+
+void SpeakerVoice::Utter(const QString& text, int flags, bool force) {
+    platform::Voice* voice = Voice();
+    ++speaking_;
+    const bool spoken = voice != nullptr && voice->Speak(text, flags);
+    --speaking_;
+    if (text == PurgeText) {
+        return;
+    }
+    if (spoken) {
+        told_.clear();
+        return;
+    }
+    const QString reason = voice == nullptr ? u"this machine has no voice"_s : voice->LastError();
+    TellWhy(reason.isEmpty() ? u"the voice failed"_s : reason, force);
+}
+
+// The level is 0 on a machine without voices, whatever volume the user has chosen.
+void SpeakerVoice::TellNoVoice(const QString& text, bool force) {
+    const double wanted =
+        mduAPILib::Val(mduLib::GetProperty(u"Speaker Volume"_s, context_.Properties));
+    if (!missing_.isEmpty() && !text.isEmpty() && text != PurgeText && wanted > 0) {
+        TellWhy(missing_, force);
+    }
+}
+
+// Patterns speak often: they tell of the first failure only.
+void SpeakerVoice::TellWhy(const QString& reason, bool force) {
+    if (told_.contains(reason) || (!force && !told_.isEmpty())) {
+        return;
+    }
+    told_ += reason;
+    context_.Host.ShowStatus(u"The clock can't speak: "_s + reason);
+}
+
+void SpeakerVoice::ClickSpeaker(SpokenTime& spoken) {
+    context_.Host.SetSpeakerPicture(SpeakingPicture);
+    PurgeSpeech(true);
+    spoken.SpeakTimeNow();
+    if (SpeakerLevel() <= 0) {
+        context_.Host.SetSpeakerPicture(MutedPicture);
+    }
+}
+
+void SpeakerVoice::SetVoiceByMenu(int entry) {
+    if (entry < 1 || entry > static_cast<int>(menu_.size()) ||
+        menu_[static_cast<std::size_t>(entry - 1)].Index < 0) {
+        return;
+    }
+    const VoiceEntry& chosen = menu_[static_cast<std::size_t>(entry - 1)];
+    Voice()->SetVoice(chosen.Index);
+
+    ClockProperties& properties = context_.Host.EditProperties();
+    const bool hasChoicesOnly =
+        mduLib::GetPropertyRaw(u"Speaker Voice"_s, properties).startsWith(u',');
+    if (hasChoicesOnly) {
+        mduLib::PutPropertyKeepChoices(u"Speaker Voice"_s, chosen.Caption, properties);
+    } else {
+        mduLib::PutProperty(u"Speaker Voice"_s, chosen.Caption, properties);
+    }
+    MarkVoice();
+}
+
+void SpeakerVoice::SetVolumeByMenu(const QString& caption) {
+    const double volume = mduAPILib::Val(caption);
+    if (platform::Voice* voice = Voice()) {
+        voice->SetVolume(std::clamp(mduAPILib::RoundToInteger(volume * 10), 0, 100));
+    }
+    mduLib::PutProperty(u"Speaker Volume"_s, QString::number(volume),
+                        context_.Host.EditProperties());
+    PrepareSpeaker();
+}
+
+void SpeakerVoice::SetRateByMenu(const QString& caption) {
+    const int rate = mduAPILib::IntegerValue(caption);
+    if (platform::Voice* voice = Voice()) {
+        voice->SetRate(rate);
+    }
+    mduLib::PutProperty(u"Speak Rate"_s, QString::number(rate), context_.Host.EditProperties());
+}
+
+QString SpeakerVoice::HintText() const {
+    struct Line {
+        QStringView Label;
+        QStringView Key;
+    };
+    constexpr Line lines[] = {
+        {u"Speech Day Pattern:", u"Speech Day Pattern"},
+        {u"Speech Hour Pattern: ", u"Speech Hour Pattern"},
+        {u"Speech Minute Pattern: ", u"Speech Minute Pattern"},
+        {u"Speech Second Pattern: ", u"Speech Second Pattern"},
+        {u"Speaker Volume: ", u"Speaker Volume"},
+        {u"Speak Timer Message: ", u"Speak Timer Message"},
+        {u"Speak Action Message: ", u"Speak Action Message"},
+    };
+    QString text;
+    for (const Line& line : lines) {
+        text += line.Label;
+        text += mduLib::GetProperty(line.Key.toString(), context_.Properties) + u"\r\n"_s;
+    }
+    return text;
+}
+
+}  // namespace speech

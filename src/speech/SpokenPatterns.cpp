@@ -1,0 +1,70 @@
+#include "speech/SpokenPatterns.h"
+
+#include <algorithm>
+
+#include "timezones/ZoneArithmetic.h"
+
+namespace speech {
+
+namespace {
+
+constexpr int DefaultFlags = 0;
+constexpr int PurgeBeforeSpeak = 2;
+
+}  // namespace
+
+void SpokenPatterns::ReadPatterns() {
+    for (int kind = SecondPattern; kind <= DayPattern; ++kind) {
+        patterns_[static_cast<std::size_t>(kind - 1)] = PatternOfKind(kind, context_.Properties);
+    }
+}
+
+bool SpokenPatterns::AnyPattern() const {
+    return std::any_of(patterns_.begin(), patterns_.end(),
+                       [](const SpeechPattern& pattern) { return pattern.IsOn(); });
+}
+
+QDateTime SpokenPatterns::ClockTime() const {
+    return mduTimeZones::GetClockTime(context_.Zone, context_.Services.Clock.Now());
+}
+
+bool SpokenPatterns::SpeakPatternOfKind(const QDateTime& clockTime, int kind, bool force,
+                                        int flags) {
+    const SpeechPattern pattern = patterns_[static_cast<std::size_t>(kind - 1)];
+    if (!pattern.IsOn() || (!force && !IsDue(pattern, kind, clockTime))) {
+        return false;
+    }
+    voice_.SpeakMessage(ExpandPattern(clockTime, pattern.Text, context_.Zone.CurrentName), flags,
+                        force);
+    return true;
+}
+
+void SpokenPatterns::CheckSpokenTime() {
+    if (!AnyPattern() || context_.Controls.lblMsg(1).Visible ||
+        context_.Controls.lblActionMsg(1).Visible) {
+        return;
+    }
+    const QDateTime now = ClockTime();
+    if (now == spokenAt_) {
+        return;
+    }
+    spokenAt_ = {};
+    for (int kind = SecondPattern; kind <= DayPattern; ++kind) {
+        if (SpeakPatternOfKind(now, kind, false, DefaultFlags)) {
+            spokenAt_ = now;
+            return;
+        }
+    }
+}
+
+void SpokenPatterns::SpeakTimeNow() {
+    ReadPatterns();
+    const QDateTime now = ClockTime();
+    for (int kind = DayPattern; kind >= SecondPattern; --kind) {
+        if (SpeakPatternOfKind(now, kind, true, PurgeBeforeSpeak)) {
+            return;
+        }
+    }
+}
+
+}  // namespace speech
