@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QStringList>
+#include <functional>
 
 #include "clock/ClockMode.h"
 #include "foundation/ClockProperty.h"
@@ -18,6 +19,27 @@ enum class ClockState : std::int16_t {
     Closing = 4           ///< nothing
 };
 
+/// The state of a clock, which may be watched from outside.
+class WatchedState {
+public:
+    using Watcher = std::function<void(ClockState from, ClockState to)>;
+
+    operator ClockState() const { return state_; }  // it is read as a state
+    WatchedState& operator=(ClockState state) {
+        const ClockState before = state_;
+        state_ = state;
+        if (before != state && watcher_) {
+            watcher_(before, state);
+        }
+        return *this;
+    }
+    void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
+
+private:
+    ClockState state_ = ClockState::Loading;
+    Watcher watcher_;
+};
+
 /// Working values of the face and the tick.
 struct DialState {
     std::int16_t LastSecond = -1;  ///< of the last check for the second's sound
@@ -31,7 +53,7 @@ struct DialState {
 class ClockData {
 public:
     TimeZoneRecord Zone;
-    ClockState State = ClockState::Loading;
+    WatchedState State;
     QDateTime StartTime;
     QString ClockFormat;
     QString PropertyFileName;

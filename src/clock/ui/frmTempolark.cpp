@@ -161,7 +161,8 @@ void frmTempolark::ApplyEnable() {
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {
-    const ClockState before = std::exchange(data_.State, ClockState::Closing);
+    const ClockState before = data_.State;
+    data_.State = ClockState::Closing;
     if (before == ClockState::Closing) {
         event->accept();
         return;

@@ -1,0 +1,55 @@
+#include "drawing/TimerMarks.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/AnalogueFace.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyLookup.h"
+
+using namespace Qt::StringLiterals;
+
+namespace drawing {
+
+namespace {
+
+constexpr double SidePart = 0.07;  // of the face's height
+constexpr double LeastSide = 12;   // logical pixels
+constexpr double MostSide = 28;
+
+QPointF OnTheRing(const Surface& surface, const ClockProperties& properties, int spot, int place,
+                  const QSizeF& mark) {
+    const int diameter = std::min(surface.ScaleWidth(), surface.ScaleHeight());
+    const int position =
+        mduAPILib::IntegerValue(mduLib::GetProperty(u"Minute Spot Position(%)"_s, properties));
+    const int radius = mduAPILib::ToInt16(diameter * 0.42 * position / 100);
+    const QPointF centre = ClockCentre(properties, surface.ScaleWidth(), surface.ScaleHeight());
+    const double angle = Pi - (place / 60.0 / 12 + spot / 60.0) * 2 * Pi;
+    const bool backward =
+        mduLib::GetProperty(u"Clock Special"_s, properties).trimmed() == u"Analogue Backward"_s;
+    const double across = radius * std::sin(angle) * (backward ? -1 : 1);
+    return {ToPoint(centre.x()) + across - mark.width(),
+            ToPoint(centre.y()) + radius * std::cos(angle) - mark.height()};
+}
+
+QPointF AlongTheBottom(const Surface& surface, int spot, const QSizeF& mark) {
+    const double x = surface.ScaleWidth() / 60.0 * spot;
+    return {x - mark.width() >= 0 ? x - 4 * mark.width() : x,
+            surface.ScaleHeight() - mark.height()};
+}
+
+}  // namespace
+
+double TimerMarkSide(const Surface& surface) {
+    return mduAPILib::RoundToInteger(
+        std::clamp(SidePart * surface.LogicalHeight(), LeastSide, MostSide) *
+        surface.DevicePixelRatio());
+}
+
+QPointF TimerMarkPlace(const Surface& surface, const ClockProperties& properties, bool isDial,
+                       int spot, int place, const QSizeF& mark) {
+    return isDial ? OnTheRing(surface, properties, spot, place, mark)
+                  : AlongTheBottom(surface, spot, mark);
+}
+
+}  // namespace drawing
