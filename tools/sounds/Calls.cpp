@@ -33,7 +33,7 @@ Wave Harp() {
     double time = 0;
     std::uint32_t seed = 60;
     for (const char* note : {"C4", "G4", "B4", "D5", "E5", "A5", "E6"}) {
-        Mix(run, Pluck(FrequencyOf(note), 2.8 - time, 0.45, 3, ++seed), time);
+        Mix(run, Pluck(FrequencyOf(note), 3.2 - time, 0.55, 6, ++seed), time);
         time += 0.11 + 0.004 * time;
     }
     return InRoom(run, {0.2, 0.08, 0.7});

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 #include <sstream>
 
 #include "Room.h"
@@ -12,7 +13,8 @@ namespace sounds {
 
 namespace {
 
-constexpr double MusicLevel = -18;  // dB of full scale; encoding adds a little to the peaks
+constexpr double MusicLevel =
+    -21;  // dB of full scale, over the whole piece; encoding adds a little to the peaks
 constexpr double MusicCeiling = -2.5;
 
 std::vector<std::string> Words(const std::string& text) {
@@ -94,15 +96,15 @@ Stereo MorningStrings() {
     double time = 0;
     std::uint32_t seed = 100;
     for (const ArpeggioBar& bar : Strings) {
-        Place(stage, Pluck(FrequencyOf(bar.Bass), 4.2, 0.25, 5, ++seed), time, 0.9, 0.42);
+        Place(stage, Pluck(FrequencyOf(bar.Bass), 4.2, 0.32, 7, ++seed), time, 0.9, 0.42);
         if (*bar.Song) {
-            Place(stage, Pluck(FrequencyOf(bar.Song), 3.4, 0.4, 4, ++seed), time, 0.75, 0.6);
+            Place(stage, Pluck(FrequencyOf(bar.Song), 3.4, 0.5, 6, ++seed), time, 0.75, 0.6);
         }
         double stress = 0.62;
         for (const std::string& note : Words(bar.Run)) {
             // The hand is never quite even, and slows down where the piece ends.
             const double late = 0.012 * (static_cast<double>(seed * 7 % 5) / 4);
-            Place(stage, Pluck(FrequencyOf(note), 3, 0.3, 3.5, ++seed), time + late, stress, 0.5);
+            Place(stage, Pluck(FrequencyOf(note), 3, 0.42, 5, ++seed), time + late, stress, 0.5);
             stress = stress < 0.55 ? 0.58 : 0.48;
             time += eighth * (&bar == &Strings[std::size(Strings) - 1] ? 1.12 : 1);
         }
@@ -168,14 +170,16 @@ Stereo StillWater() {
 }
 
 void FinishPiece(Stereo& piece, double fadeOut) {
-    const double loudness =
-        std::hypot(Loudness(piece.Left, SynthesisRate), Loudness(piece.Right, SynthesisRate)) /
-        std::sqrt(2);
+    double power = 0;
     for (Wave* ear : {&piece.Left, &piece.Right}) {
         *ear = WithSilentEnds(WithoutDrift(*ear, SynthesisRate), SynthesisRate, 0.004, fadeOut);
-        // Each ear keeps its share, so that nothing on the stage moves.
-        const double share = Loudness(*ear, SynthesisRate) / loudness;
-        Level(*ear, SynthesisRate, share * FromDecibels(MusicLevel), FromDecibels(MusicCeiling));
+        power += std::inner_product(ear->begin(), ear->end(), ear->begin(), 0.0) /
+                 static_cast<double>(2 * ear->size());
+    }
+    // One gain for both ears, so that nothing on the stage moves.
+    const double gain = FromDecibels(MusicLevel) / std::sqrt(power);
+    for (Wave* ear : {&piece.Left, &piece.Right}) {
+        Amplify(*ear, gain, FromDecibels(MusicCeiling));
     }
 }
 

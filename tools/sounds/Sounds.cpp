@@ -16,7 +16,7 @@ std::vector<Sound> AllSounds() {
         {"Bell", Bell, 0.9},
         {"Clock Tick", ClockTick, 0.03},
         {"Dewdrop", Dewdrop, 0.2},
-        {"Digital Beeps", DigitalBeeps, 0.05},
+        {"Digital Beeps", DigitalBeeps, 0.05, 2},
         {"Glass", Glass, 0.6},
         {"Gong", Gong, 1.5},
         {"Harp", Harp, 0.9},
@@ -31,9 +31,10 @@ std::vector<Sound> AllSounds() {
 }
 
 Wave Finish(const Sound& sound) {
-    const Wave clean = WithoutDrift(Halve(sound.Make()), Rate);
+    const Wave clean = Trimmed(WithoutDrift(Halve(sound.Make()), Rate));
     Wave finished = WithSilentEnds(clean, Rate, FadeIn, sound.FadeOut);
-    Level(finished, Rate, FromDecibels(CommonLevel - sound.Quieter), FromDecibels(Ceiling));
+    Level(finished, Rate, FromDecibels(CommonLevel + sound.Louder), FromDecibels(Ceiling));
+    Balance(finished);
     return finished;
 }
 

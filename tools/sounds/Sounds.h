@@ -11,8 +11,8 @@ namespace sounds {
 struct Sound {
     std::string Name;  ///< of the file, without its ending
     Wave (*Make)();
-    double FadeOut;      ///< seconds
-    double Quieter = 0;  ///< decibels below the common level
+    double FadeOut;     ///< seconds
+    double Louder = 0;  ///< decibels above the common level
 };
 
 /// All of them, by name.

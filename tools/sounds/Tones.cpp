@@ -37,14 +37,24 @@ void AddTone(Wave& wave, double frequency, const Partial& partial, double level)
     }
 }
 
+// A note that is over before it has died away is damped, not cut.
+void Damp(Wave& wave) {
+    const double seconds = TimeOf(wave.size());
+    for (std::size_t i = 0; i < wave.size(); ++i) {
+        wave[i] *= Swell(TimeOf(i), seconds, 1e-9, 0.25 * seconds);
+    }
+}
+
 // What a string is given at the start: noise, the softer the less bright, plucked off its middle.
 std::vector<double> Excitation(std::size_t length, double bright, std::uint32_t seed) {
     Noise noise(seed);
     std::vector<double> line(length);
     double soft = 0;
+    double softer = 0;
     for (double& value : line) {
         soft += bright * (noise() - soft);
-        value = soft;
+        softer += bright * (soft - softer);
+        value = softer;
     }
     std::vector<double> plucked(length);
     const std::size_t away = std::max<std::size_t>(1, length / 5);
@@ -65,14 +75,16 @@ std::vector<double> Excitation(std::size_t length, double bright, std::uint32_t 
 }  // namespace
 
 Wave Strike(double frequency, double seconds, const std::vector<Partial>& partials, double spread) {
+    constexpr double weaker = 0.24;  // of the two tones of a pair
     Wave wave(SamplesOf(seconds));
     for (const Partial& partial : partials) {
         const double tone = frequency * partial.Ratio;
-        AddTone(wave, tone - spread / 2, partial, partial.Level * (spread > 0 ? 0.65 : 1));
-        if (spread > 0) {
-            AddTone(wave, tone + spread / 2, partial, partial.Level * 0.35);
-        }
+        // Each pair beats at its own pace, or the whole bell would tremble.
+        const double apart = spread * (0.6 + 0.8 * std::fmod(partial.Ratio * 7.3, 1));
+        AddTone(wave, tone - apart / 2, partial, partial.Level * (1 - weaker));
+        AddTone(wave, tone + apart / 2, partial, partial.Level * weaker);
     }
+    Damp(wave);
     return wave;
 }
 
@@ -98,6 +110,7 @@ Wave Pluck(double frequency, double seconds, double bright, double ring, std::ui
         passedIn = softened;
         cell = passedOut;
     }
+    Damp(wave);
     return wave;
 }
 

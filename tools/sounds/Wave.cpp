@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <fstream>
 #include <numbers>
+#include <numeric>
 
 namespace sounds {
 
@@ -105,6 +106,25 @@ Wave WithSilentEnds(const Wave& sound, int rate, double fadeIn, double fadeOut) 
     return whole;
 }
 
+Wave Trimmed(Wave sound) {
+    double peak = 0;
+    std::ranges::for_each(sound, [&peak](double v) { peak = std::max(peak, std::abs(v)); });
+    const double least = peak * FromDecibels(-66);
+    while (!sound.empty() && std::abs(sound.back()) < least) {
+        sound.pop_back();
+    }
+    return sound;
+}
+
+void Balance(Wave& sound) {
+    const auto count = static_cast<double>(sound.size());
+    const double mean = std::accumulate(sound.begin(), sound.end(), 0.0) / count;
+    for (std::size_t i = 0; i < sound.size(); ++i) {
+        const double angle = 2 * std::numbers::pi * (static_cast<double>(i) + 0.5) / count;
+        sound[i] -= mean * (1 - std::cos(angle));
+    }
+}
+
 double Loudness(const Wave& sound, int rate) {
     const auto length = static_cast<std::size_t>(rate / 100);
     std::vector<double> powers;
@@ -125,6 +145,12 @@ double Loudness(const Wave& sound, int rate) {
     return std::sqrt(sum / static_cast<double>(loud.size()));
 }
 
+void Amplify(Wave& sound, double gain, double ceiling) {
+    for (double& value : sound) {
+        value = Rounded(value * gain, ceiling);
+    }
+}
+
 void Level(Wave& sound, int rate, double loudness, double ceiling) {
     // Rounding takes a little of the level; a second pass gives it back.
     for (int pass = 0; pass < 2; ++pass) {
@@ -132,9 +158,7 @@ void Level(Wave& sound, int rate, double loudness, double ceiling) {
         if (present <= 0) {
             return;
         }
-        for (double& value : sound) {
-            value = Rounded(value * loudness / present, ceiling);
-        }
+        Amplify(sound, loudness / present, ceiling);
     }
 }
 

@@ -31,11 +31,20 @@ Wave WithoutDrift(const Wave& sound, int rate);
 Wave WithSilentEnds(const Wave& sound, int rate, double fadeIn, double fadeOut);
 inline constexpr double SilenceAtEnds = 0.003;
 
+/// Without the end that nobody hears: from where the sound stays 66 dB below its peak.
+Wave Trimmed(Wave sound);
+
+/// Takes the mean to nothing by a slow swing that leaves the ends where they are.
+void Balance(Wave& sound);
+
 /// The effective level of the loud part: of the blocks of 10 ms that are at most 10 dB below the
 /// loudest of them. A long decay thus counts no more than a short one.
 double Loudness(const Wave& sound, int rate);
 
-/// Brings the loud part to a level. Peaks that come near the ceiling are rounded, never cut.
+/// Peaks that come near the ceiling are rounded, never cut.
+void Amplify(Wave& sound, double gain, double ceiling);
+
+/// Brings the loud part to a level, under a ceiling as above.
 void Level(Wave& sound, int rate, double loudness, double ceiling);
 
 double FromDecibels(double decibels);
