@@ -1,0 +1,127 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+
+#include "platform/Services.h"
+
+/// Voices that write down what is asked of them, each as one line, in order.
+class FakeVoices final : public platform::Voices {
+public:
+    bool Present = true;  ///< otherwise the machine has no speech at all
+    QStringList Names = {QStringLiteral("Ann"), QStringLiteral("Bob")};
+    QString Failure;      ///< while it is set, speaking fails with this reason
+    bool Silent = false;  ///< speaking fails and gives no reason
+    QStringList Log;
+    std::function<void()> WhileSpeaking;
+    int Made = 0;
+
+    std::unique_ptr<platform::Voice> MakeVoice() override {
+        ++Made;
+        return Present ? std::make_unique<Voice>(*this) : nullptr;
+    }
+
+private:
+    class Voice final : public platform::Voice {
+    public:
+        explicit Voice(FakeVoices& all) : all_(all) {}
+        QStringList Descriptions() const override { return all_.Names; }
+        void SetVoice(int index) override { Note(QStringLiteral("voice %1").arg(index)); }
+        void SetRate(int rate) override { Note(QStringLiteral("rate %1").arg(rate)); }
+        void SetVolume(int volume) override { Note(QStringLiteral("volume %1").arg(volume)); }
+        bool Speak(const QString& text, int flags) override {
+            Note(QStringLiteral("%1 %2").arg(flags).arg(text));
+            if (all_.WhileSpeaking) {
+                all_.WhileSpeaking();
+            }
+            return all_.Failure.isEmpty() && !all_.Silent;
+        }
+        QString LastError() const override { return all_.Failure; }
+
+    private:
+        void Note(const QString& what) { all_.Log += what; }
+        FakeVoices& all_;
+    };
+};
+
+/// Players that write down what is asked of them. A file that is set plays at once; the test ends
+/// the piece by setting `State`.
+class FakePlayers final : public platform::MediaPlayers {
+public:
+    bool Present = true;
+    int State = 0;    ///< of the player made last
+    QString Failure;  ///< why the present file can't be played
+    QStringList Log;
+    int Made = 0;
+
+    std::unique_ptr<platform::MediaPlayer> MakePlayer() override {
+        ++Made;
+        return Present ? std::make_unique<Player>(*this) : nullptr;
+    }
+
+private:
+    class Player final : public platform::MediaPlayer {
+    public:
+        explicit Player(FakePlayers& all) : all_(all) {}
+        void SetUrl(const QString& path) override { Note(QLatin1String("url ") + path, 3); }
+        int PlayState() const override { return all_.State; }
+        void Play() override { Note(QStringLiteral("play"), 3); }
+        void Stop() override { Note(QStringLiteral("stop"), 1); }
+        void Pause() override { Note(QStringLiteral("pause"), 2); }
+        void SetVolume(int volume) override {
+            Note(QStringLiteral("volume %1").arg(volume), all_.State);
+        }
+        QString LastError() const override { return all_.Failure; }
+
+    private:
+        void Note(const QString& what, int state) {
+            all_.Log += what;
+            all_.State = all_.Failure.isEmpty() ? state : 0;
+        }
+        FakePlayers& all_;
+    };
+};
+
+/// System actions that are written down and not carried out.
+class FakeActions final : public platform::SystemActions {
+public:
+    QString Refusal;  ///< what each call answers
+    QStringList Log;
+
+    QString ExitWindowsEx(unsigned flags) override {
+        return Note(QStringLiteral("exit %1").arg(flags));
+    }
+    QString LockWorkStation() override { return Note(QStringLiteral("lock")); }
+    QString Open(const QString& path, const QString& workingFolder) override {
+        return Note(QStringLiteral("open %1 in %2").arg(path, workingFolder));
+    }
+
+private:
+    QString Note(const QString& what) {
+        Log += what;
+        return Refusal;
+    }
+};
+
+class FakeSound final : public platform::SoundDevices {
+public:
+    int Devices = 1;
+    int Count() const override { return Devices; }
+};
+
+/// The devices of a machine, all of which only write down.
+struct FakeDevices {
+    FakeVoices Voices;
+    FakePlayers Players;
+    FakeActions Actions;
+    FakeSound Sound;
+
+    /// A machine with these devices in place of its own.
+    platform::Services On(const platform::Services& machine) {
+        return {machine.Clock,  machine.Zones,    machine.FileSystem,
+                machine.User,   machine.Settings, Actions,
+                Voices,         Players,          Sound,
+                machine.Dialog, machine.TrayIcon, machine.Help,
+                machine.Random};
+    }
+};
