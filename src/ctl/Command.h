@@ -55,7 +55,9 @@ std::vector<Command> PropertiesCommands();
 std::vector<Command> ValuesCommands();
 std::vector<Command> FilesCommands();
 std::vector<Command> ClockCommands();
+std::vector<Command> ClockRunCommands();
 std::vector<Command> ShellCommands();
+std::vector<Command> TimersCommands();
 std::vector<Command> ZonesCommands();
 std::vector<Command> SpeechCommands();
 

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QDateTime>
+#include <functional>
+
+#include "timers/MessageChannel.h"
+#include "timers/TimerContext.h"
+
+namespace timers {
+
+/// The one running message of a clock (`lblMsg`) and the one action that counts down
+/// (`lblActionMsg`, `imgAction`).
+///
+/// A message enters at the right end of the face, is typed out a character at a time while it moves
+/// left, is eaten at the left end and starts anew, until it expires or is hidden. While it runs,
+/// `timClock` ticks ten times a second.
+class ClockMessages final : public MessageChannel {
+public:
+    /// @param runAction carries an action out when its countdown has ended
+    ClockMessages(const TimerContext& context, std::function<void(const QString&)> runAction);
+
+    /// Replaces the running message; line ends become blanks. The status bar gets it as well. An
+    /// empty text shows nothing and ends the message that ran.
+    void ShowMessage(const QString& text);
+    void SetMessageColour(int colour);
+    /// The message ends @p minutes behind @p clockTime; with 0 or less it runs until it is hidden.
+    void SetMessageExpiry(const QDateTime& clockTime, int minutes);
+
+    void RunMessage(int left, int width) override;
+    void HideMessage() override;
+
+    /// The action of the timer that has just fired. One that starts no countdown is forgotten at
+    /// the next `RunMessage`; until then no other timer fires.
+    void SetPendingAction(const QString& action) { pendingAction_ = action; }
+    /// Lets the pending action run @p minutes behind @p clockTime. @return false when there is none
+    /// ("None" is none), or when one is counting down already.
+    bool StartCountdown(const QDateTime& clockTime, int minutes);
+    /// Moves the deadline to @p minutes from the clock's present time; nothing without a countdown.
+    void PostponeAction(int minutes);
+    void CancelAction();
+
+    const QString& PendingMessage() const { return pendingMessage_; }
+    const QString& MessageExpiry() const { return messageExpiry_; }  ///< "hh:mm", or "0" for none
+    const QString& PendingAction() const { return pendingAction_; }
+    const QString& ActionDeadline() const { return actionDeadline_; }  ///< date and time, or empty
+    int MessageCursor() const { return messageCursor_; }  ///< characters shown in this run
+
+private:
+    void Expire(const QDateTime& clockTime);
+    void EndMessage();
+    void MoveMessage();
+    void TypeNextCharacter();
+    void StepLeft();
+    void RestartFromTheRight();
+    void CountDown(const QDateTime& clockTime);
+    void FinishAction();
+    bool IsCountingDown() const;
+    QDateTime ClockTime() const;
+    int ActionColour() const;
+    void ShowActionMarks(bool visible);
+    void PlaceActionMarks();
+    void SetLabelFont(mduUILib::Control& label) const;
+    float MessageTop() const;
+    float Pixels(double twips) const;
+
+    TimerContext context_;
+    std::function<void(const QString&)> runAction_;
+    QString pendingMessage_;
+    QString messageExpiry_ = QStringLiteral("0");
+    QString pendingAction_;
+    QString actionDeadline_;
+    int messageCursor_ = 0;
+    int left_ = 0, width_ = 0;  // of the surface, as told last
+};
+
+}  // namespace timers

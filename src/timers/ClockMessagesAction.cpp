@@ -1,0 +1,121 @@
+#include <algorithm>
+
+#include "foundation/Dates.h"
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyLookup.h"
+#include "timers/ClockMessages.h"
+
+using namespace Qt::StringLiterals;
+
+/// The action channel of `ClockMessages`: how an action counts down and runs.
+namespace timers {
+
+namespace {
+
+constexpr int White = 0xFFFFFF;
+constexpr int Gap = 4;                      // logical pixels between the mark and its label
+constexpr qint64 LongestCountdown = 32767;  // seconds that a 16-bit number can tell
+
+/// A 16-bit number as it is spoken and shown: a blank in front of all but negative ones.
+QString SignedText(qint64 number) {
+    return (number < 0 ? QString() : u" "_s) + QString::number(number);
+}
+
+/// A program is shown by its file name.
+QString ShownAction(const QString& action) {
+    const bool path = action.contains(u'\\') || action.contains(u'/');
+    return path ? action.mid(std::max(action.lastIndexOf(u'\\'), action.lastIndexOf(u'/')) + 1)
+                : action;
+}
+
+}  // namespace
+
+bool ClockMessages::StartCountdown(const QDateTime& clockTime, int minutes) {
+    mduUILib::Control& label = context_.Controls.lblActionMsg(1);
+    if (pendingAction_.isEmpty() || pendingAction_ == "None"_L1 || label.Visible) {
+        return false;
+    }
+    label.Caption = ShownAction(pendingAction_);
+    label.ForeColor = ActionColour();
+    SetLabelFont(label);
+    actionDeadline_ = mduAPILib::MomentText(clockTime.addSecs(60LL * minutes));
+    ShowActionMarks(true);
+    PlaceActionMarks();
+    return true;
+}
+
+void ClockMessages::PostponeAction(int minutes) {
+    if (IsCountingDown()) {
+        actionDeadline_ = mduAPILib::MomentText(ClockTime().addSecs(60LL * minutes));
+    }
+}
+
+void ClockMessages::CancelAction() {
+    pendingAction_.clear();
+    actionDeadline_.clear();
+    ShowActionMarks(false);
+}
+
+bool ClockMessages::IsCountingDown() const {
+    return !pendingAction_.isEmpty() && pendingAction_ != "None"_L1 &&
+           mduAPILib::ParseMoment(actionDeadline_, 0).has_value();
+}
+
+void ClockMessages::CountDown(const QDateTime& clockTime) {
+    context_.Host.StopMusic();
+    const QString action = pendingAction_;
+    const QString deadline = actionDeadline_;
+    const auto moment = mduAPILib::ParseMoment(deadline, clockTime.date().year());
+    const qint64 left =
+        std::clamp(clockTime.secsTo(moment->Moment), -LongestCountdown - 1, LongestCountdown);
+    if (mduAPILib::Val(deadline) != 0) {
+        context_.Controls.lblActionMsg(1).Caption = action + SignedText(left);
+        PlaceActionMarks();
+        context_.Host.SpeakMessage(SignedText(left), 0, true);
+    }
+    // While the number was spoken the user may have cancelled the action, or given it more time.
+    if (left <= 0 && pendingAction_ == action && actionDeadline_ == deadline) {
+        FinishAction();
+    }
+}
+
+void ClockMessages::FinishAction() {
+    const QString action = pendingAction_;
+    runAction_(action);
+    CancelAction();
+}
+
+// colours = [ action ":" colour { "," action ":" colour } ]
+int ClockMessages::ActionColour() const {
+    const QString colours = mduLib::GetPropertyRaw(u"Message Action Colour"_s, context_.Properties);
+    QString name = u"red"_s;
+    const qsizetype found = colours.indexOf(pendingAction_);
+    if (found >= 0) {
+        const QString entry = colours.mid(found + pendingAction_.size()).section(u',', 0, 0);
+        name = entry.contains(u':') ? entry.section(u':', 1, 1) : name;
+    }
+    const int colour = mduUILib::ColourValue(name, context_.Services.Random);
+    return colour == context_.Host.BackColor() ? White : colour;
+}
+
+void ClockMessages::ShowActionMarks(bool visible) {
+    context_.Controls.lblActionMsg(1).Visible = visible;
+    context_.Controls.imgAction(1).Visible = visible;
+}
+
+// The mark and its label stand side by side below the message, in the middle of the face.
+void ClockMessages::PlaceActionMarks() {
+    mduUILib::Control& label = context_.Controls.lblActionMsg(1);
+    mduUILib::Control& mark = context_.Controls.imgAction(1);
+    context_.Host.FitLabel(label);
+    const auto gap = static_cast<float>(Gap * context_.Host.DevicePixelRatio());
+    const float whole = mark.Width + gap + label.Width;
+    mark.Left =
+        static_cast<float>(left_) + std::max(0.0F, (static_cast<float>(width_) - whole) / 2);
+    label.Left = mark.Left + mark.Width + gap;
+    label.Top = MessageTop() + label.Height + gap;
+    mark.Top = label.Top + (label.Height - mark.Height) / 2;
+}
+
+}  // namespace timers

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "timers/ClockMessages.h"
+#include "timers/ClockTimer.h"
+#include "timers/TimerContext.h"
+#include "timers/TimerSlots.h"
+
+namespace timers {
+
+/// The timers of one clock, in slots numbered from 1. There are 100 to begin with; more appear when
+/// they are needed. A slot is a record and its pair of controls, which follow the record:
+/// `imgTimer(n)` is visible while the timer is on the dial, `txtMsg(n)` holds the message.
+///
+/// A timer fires in the minute that its time names, in either half of the day, and is then cleared,
+/// unless an action counts down for it. Permanent does not mean repeating: a permanent timer is
+/// kept across runs until it has fired.
+class ClockTimers final : public TimerSlots {
+public:
+    using Watcher = std::function<void(int slot, const ClockTimer& timer)>;
+
+    ClockTimers(const TimerContext& context, ClockMessages& messages);
+
+    void SetTemplate() override;
+
+    /// Fills slots and `DeferredTimerLines`, and keeps the path for the saves of firing timers. A
+    /// file that is no text loads no timers.
+    void LoadTimers(const QString& path) override;
+
+    /// Rewrites the file from the slots and the deferred lines, in one step. A file that could not
+    /// be read whole is left as it is; the status bar tells so once. Before `LoadTimers` an
+    /// existing file is left alone.
+    void SaveTimer(const QString& path) override;
+
+    void PlaceTimerMarks() override;
+
+    /// @p clockTime is a date and time, "25/03/2008 2:05:09"; all else fires nothing.
+    void CheckTimers(const QString& clockTime) override;
+
+    int SlotCount() const { return static_cast<int>(timers_.size()); }
+    const ClockTimer& Timer(int slot) const { return timers_[Index(slot)]; }
+    void ChangeTimer(int slot, const ClockTimer& timer);
+
+    int GetFreeTimerSlot();  ///< the first free slot; a new one when none is
+    /// Empties a slot. `Permanent`, `MessageColour` and `MusicVolume` stay as they are.
+    void ClearTimerSlot(int slot);
+    /// Gives a slot the time, as "hh:mm", and moves its mark; nothing for a text that is no time.
+    void PlaceTimerMark(int slot, const QString& time);
+    /// Makes a timer with the defaults of the properties. @return its slot
+    int SetNewTimer(const QString& time);
+
+    /// Lines of the file that belong to another half-day. They are written back at each save.
+    const QStringList& DeferredTimerLines() const { return deferredTimerLines_; }
+    void AddDeferredTimerLine(const QString& line) { deferredTimerLines_ += line; }
+
+    QStringList TimerLines() const;  ///< all lines that `SaveTimer` would write at present
+    QString Path() const { return path_; }
+    /// False when `LoadTimers` found a file that it could not read as a text.
+    bool FileWasRead() const { return unreadPath_.isEmpty(); }
+
+    /// Tells of each timer that fires, before anything is done for it.
+    void WatchFiring(Watcher watcher) { watcher_ = std::move(watcher); }
+
+private:
+    static std::size_t Index(int slot) { return static_cast<std::size_t>(slot) - 1; }
+    void LoadLine(const QString& line);
+    bool MayWrite(const QString& path);
+    void AddSlot();
+    QDateTime ClockTime() const;
+    QString Property(const QString& name) const;
+
+    void ForgetFired(int dialMinute);
+    void Fire(int slot, const QDateTime& clockTime);
+    void Announce(const QString& key, const QString& text);
+    void PlayTimerSound(const QString& file);
+    void SetMusicVolume(const QString& volume);
+
+    TimerContext context_;
+    ClockMessages& messages_;
+    std::vector<ClockTimer> timers_;
+    /// For each slot the minute of the dial (0 to 719) at which it is due; -1 for never. Each tick
+    /// looks through these.
+    std::vector<int> dueMinutes_;
+    std::size_t firstMaybeFree_ = 0;  ///< no slot below this index is free
+    QStringList deferredTimerLines_;
+    QString path_;
+    QString unreadPath_;  ///< a file that could not be read whole
+    QString toldPath_;    ///< of which the status bar has told
+    bool loaded_ = false;
+    QList<int> fired_;  ///< slots that stay on the dial although they have fired in this minute
+    int firedMinute_ = -1;
+    Watcher watcher_;
+};
+
+}  // namespace timers

@@ -1,0 +1,107 @@
+#include <algorithm>
+#include <cstdlib>
+
+#include "foundation/Dates.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyLookup.h"
+#include "timers/ClockTimers.h"
+
+using namespace Qt::StringLiterals;
+
+/// How the timers of `ClockTimers` fire.
+namespace timers {
+
+namespace {
+
+constexpr int DialMinutes = 12 * 60;
+
+int DialMinute(const QTime& time) {
+    return (time.hour() * 60 + time.minute()) % DialMinutes;
+}
+
+/// The whole part of a number in text form.
+int WholeNumber(const QString& text) {
+    constexpr double most = 1e9;
+    return static_cast<int>(std::clamp(mduAPILib::Val(text), -most, most));
+}
+
+}  // namespace
+
+void ClockTimers::CheckTimers(const QString& clockTime) {
+    const auto parsed = mduAPILib::ParseMoment(clockTime, 0);
+    if (!parsed || !parsed->HasDate || !parsed->HasTime) {
+        return;
+    }
+    const int minute = DialMinute(parsed->Moment.time());
+    ForgetFired(minute);
+    for (int slot = 1; slot <= SlotCount() && messages_.PendingAction().isEmpty(); ++slot) {
+        if (dueMinutes_[Index(slot)] == minute && !fired_.contains(slot)) {
+            Fire(slot, parsed->Moment);
+        }
+    }
+}
+
+// A timer whose action has run stays on the dial; it may not fire again in the same minute, nor
+// when the clock is set back a little. The next minute but one ends that.
+void ClockTimers::ForgetFired(int dialMinute) {
+    const int distance = std::abs(dialMinute - firedMinute_);
+    if (std::min(distance, DialMinutes - distance) > 1) {
+        fired_.clear();
+    }
+}
+
+void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
+    // A copy: while a text is spoken the user may change the slot.
+    const ClockTimer timer = Timer(slot);
+    if (watcher_) {
+        watcher_(slot, timer);
+    }
+    fired_ += slot;
+    firedMinute_ = DialMinute(clockTime.time());
+    SaveTimer(path_);
+    messages_.ShowMessage(timer.Message);
+    Announce(u"Speak Timer Message"_s, timer.Message);
+    messages_.SetMessageColour(timer.MessageColour);
+    const int minutes = WholeNumber(timer.DisplayMinutes);
+    messages_.SetMessageExpiry(clockTime, minutes);
+    messages_.SetPendingAction(timer.TimerAction);
+    if (messages_.PendingMessage().isEmpty() && timer.TimerAction != "None"_L1) {
+        Announce(u"Speak Action Message"_s, timer.TimerAction);
+    }
+    PlayTimerSound(timer.SoundFile);
+    SetMusicVolume(timer.MusicVolume);
+    if (!messages_.StartCountdown(clockTime, minutes)) {
+        ClearTimerSlot(slot);
+    }
+}
+
+void ClockTimers::Announce(const QString& key, const QString& text) {
+    if (!text.isEmpty() && mduUILib::YesNoToBool(Property(key))) {
+        context_.Host.PurgeSpeech(true);
+        context_.Host.SpeakMessage(text, 0, true);
+    }
+}
+
+void ClockTimers::PlayTimerSound(const QString& file) {
+    if (mduUILib::IsNoneValue(file)) {
+        return;
+    }
+    const QString path = mduLib::ResolveAppPath(file, context_.Module.Paths.AppFolder);
+    if (mduLib::FileExists(context_.Services.FileSystem, path)) {
+        context_.Host.PlaySound(path);
+    } else {
+        context_.Host.ShowStatus(file + u" does not exist"_s);
+    }
+}
+
+void ClockTimers::SetMusicVolume(const QString& volume) {
+    const double value = mduAPILib::Val(volume);
+    if (value > 0) {
+        mduLib::PutProperty(u"Music Volume"_s, QString::number(value, 'g', 15),
+                            context_.Host.EditProperties());
+    }
+}
+
+}  // namespace timers

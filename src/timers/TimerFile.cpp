@@ -1,0 +1,151 @@
+#include "timers/TimerFile.h"
+
+#include "foundation/Dates.h"
+#include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace timers {
+
+namespace {
+
+constexpr int HalfDay = 12;              // hours
+constexpr qsizetype ShortestMoment = 7;  // a head below this length is a time alone
+
+struct Halves {
+    QString Head;
+    QString Message;
+};
+
+// line = head "@" message [ "@" ignored ] | head "=" message [ "=" ignored ]
+//      | head "@" message "=" ignored
+Halves SplitAtMark(const QString& line) {
+    const qsizetype equals = line.indexOf(u'=');
+    const qsizetype at = line.indexOf(u'@');
+    if (at >= 0 && at < equals) {
+        return {line.left(at), line.mid(at + 1, equals - at - 1)};
+    }
+    const QChar mark = equals >= 0 ? u'=' : u'@';
+    return {line.section(mark, 0, 0), line.section(mark, 1, 1)};
+}
+
+// head = [ meta "#" ] when [ "#" ignored ]; meta = value { "," value }
+void SplitMeta(TimerLine& line) {
+    line.Meta = QStringList{QString()};
+    if (line.Head.contains(u'#')) {
+        line.Meta = line.Head.section(u'#', 0, 0).split(u',');
+        line.Head = line.Head.section(u'#', 1, 1);
+    }
+}
+
+QString NumberText(double value) {
+    return QString::number(value, 'g', 15);
+}
+
+// The hour loses its half of the day; an hour of the first half leaves the head as it stands.
+QString DialTime(const TimerLine& line) {
+    const QTime time = line.When.time();
+    return time.hour() < HalfDay ? line.Head
+                                 : u"%1:%2"_s.arg(time.hour() - HalfDay).arg(time.minute());
+}
+
+// A line is one line, whatever was typed into the message.
+QString OnOneLine(QString message) {
+    message.replace(u"\r\n"_s, u" "_s);
+    message.replace(u'\n', u' ');
+    return message.replace(u'\r', u' ').trimmed();
+}
+
+// meta = minutes "," colour "," sound "," action "," volume "#"
+QString MetaText(const ClockTimer& timer) {
+    return QStringList{timer.DisplayMinutes, mduUILib::ColourName(timer.MessageColour),
+                       timer.SoundFile, timer.TimerAction, timer.MusicVolume}
+               .join(u',') +
+           u'#';
+}
+
+// when = date blank hour ":" minute
+QString OneShotWhen(const QTime& time, const QDateTime& clockTime) {
+    const bool morning = clockTime.time().hour() < HalfDay;
+    const bool keepHour = morning ? time.hour() > HalfDay : time.hour() >= HalfDay;
+    const QDate date = morning ? clockTime.date() : clockTime.date().addDays(1);
+    return u"%1 %2:%3"_s.arg(mduAPILib::ShortDate(date))
+        .arg(keepHour ? time.hour() : time.hour() + HalfDay)
+        .arg(time.minute());
+}
+
+// when = hour ":" minute
+QString PermanentWhen(const QTime& time) {
+    return u"%1:%2"_s.arg(time.hour() + HalfDay).arg(time.minute());
+}
+
+}  // namespace
+
+// line = head ( "@" | "=" ) message
+std::optional<TimerLine> ParseTimerLine(const QString& line, int presentYear) {
+    TimerLine result;
+    result.OneShot = line.contains(u'=');
+    if (!result.OneShot && !line.contains(u'@')) {
+        return std::nullopt;
+    }
+    const Halves halves = SplitAtMark(line);
+    result.Head = halves.Head;
+    result.Message = halves.Message;
+    SplitMeta(result);
+    const auto moment = mduAPILib::ParseMoment(result.Head, presentYear);
+    if (!moment) {
+        return std::nullopt;
+    }
+    result.TimeAlone = result.Head.size() < ShortestMoment;
+    result.When = moment->Moment;
+    return result;
+}
+
+TimerLineUse UseOf(const TimerLine& line, const QDateTime& clockTime) {
+    if (line.TimeAlone) {
+        return {true, line.OneShot};
+    }
+    // A long head may be a time without a date, which lies before every day.
+    if (!line.When.date().isValid()) {
+        return {};
+    }
+    const qint64 days = clockTime.date().daysTo(line.When.date());
+    const qint64 loaded = clockTime.time().hour() < HalfDay ? 0 : 1;
+    return {days == loaded, days >= 0 && days != loaded};
+}
+
+void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTimer& timer) {
+    timer.OnDial = true;
+    timer.Permanent = line.OneShot ? QString() : u"P"_s;
+    timer.TimerTime = DialTime(line);
+    timer.Message = line.Message;
+    timer.DisplayMinutes = NumberText(mduAPILib::Val(line.Meta[0]));
+    if (line.Meta.size() > 1) {
+        timer.MessageColour = mduUILib::ColourValue(QString(line.Meta[1]), random);
+    }
+    timer.SoundFile = line.Meta.value(2, timer.SoundFile);
+    timer.TimerAction = line.Meta.value(3, timer.TimerAction);
+    timer.MusicVolume = line.Meta.value(4, timer.MusicVolume);
+}
+
+// line = meta [ when ] ( "@" | "=" ) message
+QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime) {
+    const std::optional<QTime> time = TimeOfText(timer.TimerTime, clockTime.date().year());
+    QString line = MetaText(timer);
+    if (time) {
+        line += timer.IsPermanent() ? PermanentWhen(*time) : OneShotWhen(*time, clockTime);
+    }
+    return line + (timer.IsPermanent() ? u'@' : u'=') + OnOneLine(timer.Message);
+}
+
+std::optional<QTime> TimeOfText(const QString& text, int presentYear) {
+    const auto moment = mduAPILib::ParseMoment(text, presentYear);
+    return moment ? std::optional(moment->Moment.time()) : std::nullopt;
+}
+
+QString HourMinute(const QTime& time) {
+    return time.toString(u"HH:mm"_s);
+}
+
+}  // namespace timers

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QDateTime>
+#include <QStringList>
+#include <optional>
+
+#include "platform/Machine.h"
+#include "timers/ClockTimer.h"
+
+/// The lines of a timer file, one timer each:
+///
+///     5,Red,,None,0#15:5@Call home                 permanent
+///     5,Red,,None,0#16/11/2026 15:5=Call home      one-shot
+///     16/11/2026 09:30=Call home                   one-shot, for a later half-day
+///
+/// The hour of a written line has 12 added, and a reader takes 12 off again: date and hour tell
+/// only for how long a timer lives, never which half of the day it means. Nothing is quoted, so a
+/// path with ",", "#", "@" or "=" breaks its own line.
+namespace timers {
+
+/// What one line says, its pieces still as they stand.
+struct TimerLine {
+    bool OneShot = false;
+    QString Head;           ///< the time, or date and time
+    QString Message;        ///< the text behind the mark, up to the next mark of its kind
+    QStringList Meta;       ///< one empty value where there is no "#"
+    bool TimeAlone = true;  ///< the head is too short for a date and time
+    QDateTime When;         ///< of the head; without a valid date where it has none
+
+    bool operator==(const TimerLine&) const = default;
+};
+
+/// Reads a trimmed line. Nothing for one without a mark, or whose head is no date or time.
+/// @param presentYear the year of a date that has none
+std::optional<TimerLine> ParseTimerLine(const QString& line, int presentYear);
+
+/// What a reader does with a line.
+struct TimerLineUse {
+    bool Load = false;   ///< into a slot
+    bool Defer = false;  ///< keep it for another half-day
+    bool operator==(const TimerLineUse&) const = default;
+};
+
+/// In the morning the timers of that day are loaded, from noon those dated tomorrow. A past day is
+/// dropped. A one-shot time without a date is loaded and deferred both.
+TimerLineUse UseOf(const TimerLine& line, const QDateTime& clockTime);
+
+/// Takes over what the line gives; a value that it does not give stays as it is. `OnDial` is set.
+void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTimer& timer);
+
+/// The line that keeps a timer beyond this run, at the clock's time @p clockTime. Where `TimerTime`
+/// can't be read the line has no time, and a reader skips it: so a permanent timer that has fired
+/// ends. A permanent "12:30" becomes hour 24 and does not come back either.
+QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime);
+
+/// The time of a text that is a time, or a date and time; a date alone is midnight.
+std::optional<QTime> TimeOfText(const QString& text, int presentYear);
+
+QString HourMinute(const QTime& time);  ///< "03:05"
+
+}  // namespace timers
