@@ -11,8 +11,11 @@ enum class StockPicture {
     SpeakerIdle = 3,
     SpeakerMuted = 4,
     SpeakerTalking = 5,
-    SpotRight = 10,  ///< the mark of the minutes 1 to 30 and 60
-    SpotLeft = 11,   ///< the mark of the minutes 31 to 59
+    SpotRight = 10,       ///< the mark of the minutes 1 to 30 and 60
+    SpotLeft = 11,        ///< the mark of the minutes 31 to 59
+    TimerMark = 12,       ///< the bell of a timer, on the ring of a dial
+    Action = 13,          ///< an action that counts down
+    ActionSpeaking = 14,  ///< the same while its text is spoken
     Sun = 20,
     Moon = 21,
     Handle = 22,  ///< stands for a transparent window

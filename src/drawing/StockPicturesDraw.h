@@ -22,6 +22,9 @@ void DrawSun(QPainter& painter);
 void DrawMoon(QPainter& painter);
 void DrawSpeaker(QPainter& painter, SpeakerState state);
 void DrawClock(QPainter& painter);
+void DrawTimerMark(QPainter& painter);
+void DrawAction(QPainter& painter);
+void DrawActionSpeaking(QPainter& painter);
 
 /// A white seam around a figure, which carries it over dark grounds.
 void DrawHalo(QPainter& painter, const QPainterPath& figure, double width);

@@ -47,6 +47,9 @@ private Q_SLOTS:
         QTest::newRow("talking") << StockPicture::SpeakerTalking;
         QTest::newRow("right spot") << StockPicture::SpotRight;
         QTest::newRow("left spot") << StockPicture::SpotLeft;
+        QTest::newRow("timer") << StockPicture::TimerMark;
+        QTest::newRow("action") << StockPicture::Action;
+        QTest::newRow("action speaking") << StockPicture::ActionSpeaking;
         QTest::newRow("sun") << StockPicture::Sun;
         QTest::newRow("moon") << StockPicture::Moon;
         QTest::newRow("handle") << StockPicture::Handle;
@@ -89,6 +92,28 @@ private Q_SLOTS:
                 *GetStockPicture(StockPicture::SpeakerMuted));
         QVERIFY(*GetStockPicture(StockPicture::SpeakerIdle) !=
                 *GetStockPicture(StockPicture::SpeakerTalking));
+    }
+
+    void TimerMarkOfTwelvePixelsIsAnAmberBell() {
+        for (const QColor ground : {QColor(Qt::white), QColor(Qt::black)}) {
+            const QRgb body = Shown(StockPicture::TimerMark, 12, ground).pixel(5, 5);
+            QVERIFY(qRed(body) > 200 && qGreen(body) > 130 && qBlue(body) < 120);
+        }
+        // Narrow above, broad below.
+        const auto bell = GetStockPicture(StockPicture::TimerMark);
+        QCOMPARE(qAlpha(bell->pixel(32, 64)), 0);
+        QCOMPARE(qAlpha(bell->pixel(32, 184)), 255);
+    }
+
+    void OnlyTheSpeakingActionHasBlueWaves() {
+        const auto blueAt = [](StockPicture picture, int x) {
+            const QRgb pixel = GetStockPicture(picture)->pixel(x, 128);
+            return qBlue(pixel) > 200 && qRed(pixel) < 60;
+        };
+        QVERIFY(blueAt(StockPicture::ActionSpeaking, 238));
+        QVERIFY(blueAt(StockPicture::ActionSpeaking, 18));
+        QVERIFY(!blueAt(StockPicture::Action, 238));
+        QVERIFY(!blueAt(StockPicture::Action, 18));
     }
 
     void SpotIsLitFromTheUpperLeft() {
