@@ -57,6 +57,7 @@ public:
     QDateTime StartTime;
     QString ClockFormat;
     QString PropertyFileName;
+    QString TimerFile;  ///< of this clock; the path table's is that of the clock created last
     QString Tag = QStringLiteral("1");
     bool ActiveEditFlag = false;
     bool AutoStyleChange = false;

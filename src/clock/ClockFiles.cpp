@@ -60,6 +60,7 @@ bool ClockFiles::RefreshFile() {
 
 void ClockFiles::LoadCurrent() {
     data_.PropertyFileName = program_.Module.Paths.CurrentPropertyFile;
+    data_.TimerFile = program_.Module.Paths.TimerFile;
     ReadProperties();
 }
 

@@ -54,7 +54,7 @@ void ClockTick::FirstTick() {
     parts_.Placement.SetClockCaption();
     parts_.Placement.ApplyWindowRect();
     parts_.Timers.SetTemplate();
-    parts_.Timers.LoadTimers(module_.Paths.TimerFile);
+    parts_.Timers.LoadTimers(data_.TimerFile);
     parts_.Voice.FillVoiceMenu();
     parts_.Styles.RecordProgramFolder();
     parts_.Face.ApplyWindowBackground();

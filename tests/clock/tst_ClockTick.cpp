@@ -24,7 +24,7 @@ class tst_ClockTick : public QObject {
             Data.Tag = tag;
             Data.Zone.HoursFromLocal = 5.5F;
             Data.StartTime = Machine.Now();
-            Module.Paths.TimerFile = u"IndiaTimer.txt"_s;
+            Data.TimerFile = u"IndiaTimer.txt"_s;
         }
         void Put(const QString& name, const QString& value) {
             mduLib::PutProperty(name, value, Data.EditProperties());

@@ -7,8 +7,10 @@
 #include <cmath>
 
 #include "clock/ClockMode.h"
+#include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
+#include "timers/SystemActions.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -38,11 +40,19 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       calculator_(Context()),
       background_(Context()),
       overlays_(Context()),
+      messages_(TimerParts(),
+                [this](const QString& action) { timers::RunAction(TimerParts(), action); }),
+      timers_(TimerParts(), messages_),
+      actions_(TimerParts()),
+      sounds_(TimerParts()),
+      voice_(SpeechParts()),
+      spoken_(SpeechParts(), voice_),
+      music_(SpeechParts()),
       face_(data_, controls_, *this, {dial_, digital_, calculator_, background_, overlays_},
             program.Services.Clock, program.Services.Random),
       tick_(data_,
             {*this, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
-             timers_, messages_, sounds_, voice_, spoken_, music_, menus_, *this},
+             timers_, messages_, sounds_, voice_, spoken_, music_, *this, *this},
             program.Module, program.Services.Clock) {
     setObjectName(ClockWindowName);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -125,12 +135,13 @@ void frmTempolark::Load() {
     data_.State = ClockState::FirstTickDue;
     placement_.SetOuterSize({0, 0});
     controls_.imgSpeaker(1).Visible = false;
-    timClock_->SetInterval(FirstShot);
-    timClock_->SetInterval(NormalInterval);  // from then on; the first shot comes all the same
+    SetTimerInterval(FirstShot);
+    SetTimerInterval(NormalInterval);  // from then on; the first shot comes all the same
 }
 
 void frmTempolark::LayOutTimerMarks() {
     mduUILib::ControlArray& marks = controls_.imgTimer;
+    marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
     marks(1).Left = FirstTimerMark;
     marks(1).Top = FirstTimerMark;
     for (int i = 2; i <= marks.Count(); ++i) {
@@ -140,6 +151,8 @@ void frmTempolark::LayOutTimerMarks() {
 
 void frmTempolark::FinishLoading() {
     controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
+    controls_.imgAction(1).Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
+    spoken_.ReadPatterns();
     placement_.Outer().raise();
 }
 
@@ -174,10 +187,11 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
     if (before != ClockState::FirstTickDue && WindowState() == 0) {
         files_.SavePosition(placement_.OuterRect());
     }
-    timers_.SaveTimer(program_.Module.Paths.TimerFile);
+    timers_.SaveTimer(data_.TimerFile);
     placement_.ShowClockWindow(false);
     program_.Windows.Remove(*this);
-    event->accept();
+    closeWhenSpoken_ = voice_.IsSpeaking();
+    event->setAccepted(!closeWhenSpoken_);  // what speaks must not be dropped beneath its voice
     if (!IsMDIChild()) {
         QCoreApplication::quit();  // a clock that stands alone is the whole program
     }
@@ -185,6 +199,14 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
 
 void frmTempolark::CloseClock() {
     Unload();
+}
+
+void frmTempolark::CloseWhenSpoken() {
+    if (closeWhenSpoken_ && !voice_.IsSpeaking()) {
+        closeWhenSpoken_ = false;
+        QMetaObject::invokeMethod(
+            &placement_.Outer(), [this] { placement_.Outer().close(); }, Qt::QueuedConnection);
+    }
 }
 
 void frmTempolark::Unload() {

@@ -19,6 +19,13 @@
 #include "drawing/DigitalReadOut.h"
 #include "foundation/Controls.h"
 #include "foundation/Program.h"
+#include "speech/PlayerMusic.h"
+#include "speech/SpeakerVoice.h"
+#include "speech/SpokenPatterns.h"
+#include "timers/ActionList.h"
+#include "timers/ClockMessages.h"
+#include "timers/ClockTimers.h"
+#include "timers/HourAndSecondSounds.h"
 
 class QHelpEvent;
 
@@ -29,7 +36,10 @@ class frmTempolark final : public QWidget,
                            public IClock,
                            private drawing::Canvas,
                            private clockcore::ClockWindow,
-                           private clockcore::ClockStyles {
+                           private clockcore::ClockStyles,
+                           private clockcore::ClockMenus,
+                           private timers::TimerHost,
+                           private speech::SpeechHost {
 public:
     /// @param shell the shell, or null for a clock that stands alone
     /// @param area the shell's frame for its children; null for a clock that stands alone
@@ -90,14 +100,25 @@ public:
     QImage SeenPicture() const;
     /// Takes motions and wipes that are under way to their end.
     void FinishMotions();
+    const QString& PendingMessage() const { return messages_.PendingMessage(); }
+    // For those who watch a clock from outside: a script that tells its events.
+    void WatchState(clockcore::WatchedState::Watcher watcher) {
+        data_.State.Watch(std::move(watcher));
+    }
+    void WatchInterval(std::function<void(int)> watcher) { intervalWatcher_ = std::move(watcher); }
+    void WatchFiring(timers::ClockTimers::Watcher watcher) {
+        timers_.WatchFiring(std::move(watcher));
+    }
+    void WatchTicks(std::function<void()> watcher) { tickWatcher_ = std::move(watcher); }
     /// One event of `timClock`, now.
-    void Tick() { tick_.Tick(); }
+    void Tick();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     /// Tab belongs to the calculator.
@@ -114,7 +135,9 @@ private:
     void TakeSurface();
     bool SurfaceFitsTheScreen() const;
     void ShowToolTip(QHelpEvent& event);
-    mduUILib::Control* ControlAt(mduUILib::ControlArray& array, const QPoint& position) const;
+    const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array,
+                                       const QPoint& position) const;
+    bool IsOnAction(const QPoint& position) const;
     void Status(const QString& text);
 
     // The canvas.
@@ -134,6 +157,25 @@ private:
     void SetIcon(const QImage& picture) override;
     void ShowStatus(const QString& text) override { Status(text); }
 
+    // What timers and speech ask of their clock, beside what the canvas and the window offer.
+    void SpeakMessage(const QString& text, int flags, bool force) override;
+    void PurgeSpeech(bool force) override { voice_.PurgeSpeech(force); }
+    void PlaySound(const QString& path) override { music_.PlaySound(path); }
+    void StopMusic() override { music_.StopMusic(); }
+    int ShowMsgbox(const QString& text, int flags, const QString& title) override;
+    void FitLabel(mduUILib::Control& label) override;
+    void PlaceMark(int slot, int spot, int place) override;
+    double DevicePixelRatio() const override { return surface_->DevicePixelRatio(); }
+    int ScaleHeight() const override { return surface_->ScaleHeight(); }
+    ClockProperties& EditProperties() override { return data_.EditProperties(); }
+    bool IsActiveClock() const override;
+    void SetSpeakerPicture(int number) override;
+    timers::TimerContext TimerParts();
+    speech::SpeechContext SpeechParts();
+    void FillMenuArrays() override { actions_.FillActionMenu(); }
+    void ShowActionMenu(const QPoint& globalPosition);
+    void CloseWhenSpoken();
+
     // Styles.
     void ApplyNextStyle() override;
     void StoreFontState();
@@ -146,7 +188,7 @@ private:
     bool IsActiveForm() const override;
     bool IsActiveWindow() const override { return QWidget::isActiveWindow(); }
     int TimerInterval() const override { return timClock_->Interval(); }
-    void SetTimerInterval(int milliseconds) override { timClock_->SetInterval(milliseconds); }
+    void SetTimerInterval(int milliseconds) override;
     int ScaleLeft() const override { return 0; }
     int ScaleWidth() const override { return surface_->ScaleWidth(); }
     void Cls() override;
@@ -165,6 +207,9 @@ private:
     std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
     QRegion outline_;  ///< of the outer window, in device pixels; empty for a plain rectangle
     bool locked_ = false;
+    std::function<void(int)> intervalWatcher_;
+    std::function<void()> tickWatcher_;
+    bool closeWhenSpoken_ = false;  ///< the window has closed while its clock was speaking
     QRegion lockedChanges_;
     QRegion presented_;  ///< changes of our own that wait to be painted
 
@@ -180,13 +225,13 @@ private:
     drawing::CalculatorLines calculator_;
     drawing::ClockBackground background_;
     drawing::ClockOverlays overlays_;
-    timers::TimerSlots timers_;
-    timers::MessageChannel messages_;
-    timers::ClockSounds sounds_;
-    speech::ClockVoice voice_;
-    speech::SpokenTime spoken_;
-    speech::ClockMusic music_;
-    clockcore::ClockMenus menus_;
+    timers::ClockMessages messages_;
+    timers::ClockTimers timers_;
+    timers::ActionList actions_;
+    timers::HourAndSecondSounds sounds_;
+    speech::SpeakerVoice voice_;
+    speech::SpokenPatterns spoken_;
+    speech::PlayerMusic music_;
     clockcore::Face face_;
     clockcore::ClockTick tick_;
 };

@@ -9,6 +9,7 @@
 #include "clock/ClockMode.h"
 #include "clock/ui/LookMenu.h"
 #include "clock/ui/frmTempolark.h"
+#include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
 
 using namespace Qt::StringLiterals;
@@ -69,10 +70,10 @@ void frmTempolark::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-mduUILib::Control* frmTempolark::ControlAt(mduUILib::ControlArray& array,
-                                           const QPoint& position) const {
+const mduUILib::Control* frmTempolark::ControlAt(const mduUILib::ControlArray& array,
+                                                 const QPoint& position) const {
     const QPointF point = QPointF(position) * devicePixelRatioF();
-    for (mduUILib::Control& control : array.Members) {
+    for (const mduUILib::Control& control : array.Members) {
         if (control.Visible && control.Rect().contains(point)) {
             return &control;
         }
@@ -90,7 +91,7 @@ bool frmTempolark::event(QEvent* event) {
 
 // What lies above comes first.
 void frmTempolark::ShowToolTip(QHelpEvent& event) {
-    for (mduUILib::ControlArray* array : {&controls_.imgSpeaker, &controls_.imgClockNumber}) {
+    for (const mduUILib::ControlArray* array : {&controls_.imgSpeaker, &controls_.imgClockNumber}) {
         const mduUILib::Control* control = ControlAt(*array, event.pos());
         if (control != nullptr && !control->ToolTipText.isEmpty()) {
             QToolTip::showText(event.globalPos(), control->ToolTipText, this,
@@ -118,7 +119,43 @@ void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
     QWidget::mouseMoveEvent(event);
 }
 
+void frmTempolark::mousePressEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    if (event->button() == Qt::LeftButton && ControlAt(controls_.imgSpeaker, at) != nullptr) {
+        voice_.ClickSpeaker(spoken_);
+        CloseWhenSpoken();
+    } else if (event->button() == Qt::LeftButton && IsOnAction(at)) {
+        mduUILib::Control& mark = controls_.imgAction(1);
+        mark.Picture = drawing::GetStockPicture(drawing::StockPicture::ActionSpeaking);
+        SpeakMessage(controls_.lblActionMsg(1).Caption, 2, true);
+        mark.Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
+        CloseWhenSpoken();
+    } else {
+        QWidget::mousePressEvent(event);
+    }
+}
+
+bool frmTempolark::IsOnAction(const QPoint& position) const {
+    return ControlAt(controls_.imgAction, position) != nullptr ||
+           ControlAt(controls_.lblActionMsg, position) != nullptr;
+}
+
 void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {
+    if (IsOnAction(event->pos())) {
+        ShowActionMenu(event->globalPos());
+        return;
+    }
+    if (ControlAt(controls_.lblMsg, event->pos()) != nullptr) {
+        auto* menu = new QMenu(this);
+        menu->setObjectName(u"MessageMenu"_s);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(u"Hide Message"_s, this, [this] {
+            messages_.HideMessage();
+            ShowChanges();
+        });
+        menu->popup(event->globalPos());
+        return;
+    }
     files_.MakeCurrent();
     const auto setStyle = [this](const QString& name) {
         SetClockStyle(name == u"More"_s ? name : program_.Module.Paths.StylesFolder + name);

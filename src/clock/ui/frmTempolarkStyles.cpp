@@ -164,6 +164,7 @@ void frmTempolark::RefreshForm(const QString& fileName) {
         program_.Module.Paths.CurrentPropertyFile = fileName;
     }
     voice_.PrepareSpeaker();
+    spoken_.ReadPatterns();
     files_.RefreshZone();
     controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
     data_.State = ClockState::RedrawRequested;

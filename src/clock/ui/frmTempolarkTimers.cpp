@@ -1,0 +1,93 @@
+// What timers, messages, actions and speech ask of their clock.
+#include <QMenu>
+
+#include "clock/ui/frmTempolark.h"
+#include "drawing/LabelText.h"
+#include "drawing/StockPictures.h"
+#include "drawing/TimerMarks.h"
+#include "foundation/Dates.h"
+#include "timezones/ZoneArithmetic.h"
+
+using namespace Qt::StringLiterals;
+using clockcore::ClockState;
+
+timers::TimerContext frmTempolark::TimerParts() {
+    return {data_.Properties(), data_.Zone, controls_, program_.Services, program_.Module, *this};
+}
+
+speech::SpeechContext frmTempolark::SpeechParts() {
+    return {data_.Properties(), data_.Zone, controls_, program_.Services, program_.Module, *this};
+}
+
+// The message and the action move after the face has been painted.
+void frmTempolark::Tick() {
+    tick_.Tick();
+    CloseWhenSpoken();
+    if (data_.State == ClockState::Running) {
+        ShowChanges();
+    }
+    if (tickWatcher_) {
+        tickWatcher_();
+    }
+}
+
+void frmTempolark::SetTimerInterval(int milliseconds) {
+    if (intervalWatcher_ && timClock_->Interval() != milliseconds) {
+        intervalWatcher_(milliseconds);
+    }
+    timClock_->SetInterval(milliseconds);
+}
+
+void frmTempolark::SpeakMessage(const QString& text, int flags, bool force) {
+    voice_.SpeakMessage(text, flags, force);
+}
+
+int frmTempolark::ShowMsgbox(const QString& text, int flags, const QString& title) {
+    return shell_ != nullptr ? shell_->ShowMsgbox(text, flags, title)
+                             : program_.Services.Dialog.MessageBox(text, flags, title);
+}
+
+void frmTempolark::FitLabel(mduUILib::Control& label) {
+    drawing::AutoSize(label, surface_->DevicePixelRatio());
+}
+
+void frmTempolark::PlaceMark(int slot, int spot, int place) {
+    mduUILib::Control& mark = controls_.imgTimer(slot);
+    const double side = drawing::TimerMarkSide(*surface_);
+    const QPointF at = drawing::TimerMarkPlace(
+        *surface_, data_.Properties(), data_.Is(clockcore::Analogue), spot, place, {side, side});
+    mark.Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
+    mark.Width = mark.Height = static_cast<float>(side);
+    mark.Left = static_cast<float>(at.x());
+    mark.Top = static_cast<float>(at.y());
+}
+
+bool frmTempolark::IsActiveClock() const {
+    return IsActiveForm() && QWidget::isActiveWindow();
+}
+
+void frmTempolark::SetSpeakerPicture(int number) {
+    controls_.imgSpeaker(1).Picture =
+        drawing::GetStockPicture(static_cast<drawing::StockPicture>(number));
+}
+
+// Minutes to postpone the action by, and the end of it.
+void frmTempolark::ShowActionMenu(const QPoint& globalPosition) {
+    const auto deadline = mduAPILib::ParseMoment(messages_.ActionDeadline(), 2000);
+    const QDateTime now = mduTimeZones::GetClockTime(data_.Zone, program_.Services.Clock.Now());
+    const int left = deadline ? static_cast<int>(now.secsTo(deadline->Moment) / 60) : 0;
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"ActionMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QMenu* times = menu->addMenu(u"Action Time"_s);
+    times->setObjectName(u"ActionTime"_s);
+    for (const int minutes : timers::ActionTimes(left)) {
+        times->addAction(QString::number(minutes), this,
+                         [this, minutes] { messages_.PostponeAction(minutes); });
+    }
+    menu->addAction(u"Cancel Action"_s, this, [this] {
+        messages_.CancelAction();
+        ShowChanges();
+    });
+    menu->popup(globalPosition);
+}

@@ -1,0 +1,177 @@
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QJsonObject>
+#include <algorithm>
+#include <memory>
+
+#include "clock/ui/frmTempolark.h"
+#include "ctl/Command.h"
+#include "ctl/RecordingMachine.h"
+#include "foundation/SetupPaths.h"
+#include "platform/SimulatedClock.h"
+#include "platform/SystemClock.h"
+#include "platform/TzZoneDatabase.h"
+#include "timezones/StartZone.h"
+
+using namespace Qt::StringLiterals;
+
+namespace ctl {
+
+namespace {
+
+constexpr int RealStep = 10;                // milliseconds
+constexpr qint64 FirstTicks = 30;           // milliseconds until the window stands
+constexpr qint64 LongestRun = 366 * 86400;  // seconds
+
+/// Tells the events of one clock, each with the moment of the simulated clock.
+class EventLog {
+public:
+    explicit EventLog(const platform::SimulatedClock& clock) : clock_(clock) {}
+
+    void Tell(const QString& event, const QJsonObject& fields) const {
+        QJsonObject line{{u"at"_s, clock_.Now().toString(u"yyyy-MM-ddTHH:mm:ss.zzz"_s)},
+                         {u"event"_s, event}};
+        for (auto field = fields.begin(); field != fields.end(); ++field) {
+            line.insert(field.key(), field.value());
+        }
+        PrintJson(QJsonDocument(line));
+    }
+    TellEvent Teller() const {
+        return [this](const QString& event, const QJsonObject& fields) { Tell(event, fields); };
+    }
+
+private:
+    const platform::SimulatedClock& clock_;
+};
+
+/// What shows on a clock's face and is told when it changes.
+class FaceLog {
+public:
+    explicit FaceLog(TellEvent tell) : tell_(std::move(tell)) {}
+
+    void Look(const frmTempolark& clock) {
+        const mduUILib::ClockControls& controls = clock.Controls();
+        TellMessage(controls.lblMsg(1).Visible ? clock.PendingMessage() : QString());
+        const mduUILib::Control& action = controls.lblActionMsg(1);
+        const QString caption = action.Visible ? action.Caption : QString();
+        if (caption != caption_ && !caption.isEmpty()) {
+            tell_(u"action-countdown"_s, {{u"caption"_s, caption}});
+        }
+        caption_ = caption;
+    }
+
+private:
+    void TellMessage(const QString& message) {
+        if (message == message_) {
+            return;
+        }
+        if (message.isEmpty()) {
+            tell_(u"message-hidden"_s, {});
+        } else {
+            tell_(u"message"_s, {{u"text"_s, message}});
+        }
+        message_ = message;
+    }
+
+    TellEvent tell_;
+    QString message_;
+    QString caption_;
+};
+
+void WatchClock(frmTempolark& clock, const TellEvent& tell, FaceLog& face) {
+    clock.WatchState([tell](clockcore::ClockState from, clockcore::ClockState to) {
+        tell(u"state"_s, {{u"from"_s, static_cast<int>(from)}, {u"to"_s, static_cast<int>(to)}});
+    });
+    clock.WatchInterval([tell](int milliseconds) {
+        tell(u"interval"_s, {{u"ms"_s, milliseconds}});
+    });
+    clock.WatchFiring([tell](int slot, const timers::ClockTimer& timer) {
+        tell(u"timer-fired"_s,
+             {{u"slot"_s, slot}, {u"time"_s, timer.TimerTime}, {u"message"_s, timer.Message}});
+    });
+    clock.WatchTicks([&clock, &face] { face.Look(clock); });
+}
+
+void PassTime(platform::SimulatedClock& clock, qint64 milliseconds, bool real) {
+    if (!real) {
+        clock.Advance(milliseconds);
+        return;
+    }
+    QEventLoop loop;
+    platform::SystemClock machine;
+    qint64 passed = 0;
+    const auto ticker = machine.MakeTicker([&] {
+        clock.Advance(RealStep);
+        passed += RealStep;
+        if (passed >= milliseconds) {
+            loop.quit();
+        }
+    });
+    ticker->SetInterval(RealStep);
+    loop.exec();
+}
+
+int Run(Context& context) {
+    bool isNumber = false;
+    const qint64 seconds = context.Option(u"--seconds"_s).toLongLong(&isNumber);
+    const QString speed =
+        context.HasOption(u"--speed"_s) ? context.Option(u"--speed"_s) : u"fast"_s;
+    if (!isNumber || seconds < 0 || seconds > LongestRun ||
+        (speed != u"fast"_s && speed != u"real"_s)) {
+        return WrongArguments;
+    }
+    const platform::Services& machine = context.Services;
+    const QTimeZone zone = context.Global.LocalZone.isEmpty() ? QTimeZone::systemTimeZone()
+                                                              : QTimeZone(context.Global.LocalZone);
+    platform::SimulatedClock clock(machine.Clock.Now(), zone);
+    platform::TzZoneDatabase zones(clock, context.Global.LocalZone);
+    const EventLog log(clock);
+    RecordingVoices voices(log.Teller());
+    RecordingPlayers players(log.Teller(), clock);
+    RecordingActions actions(log.Teller());
+    RecordingFiles files(machine.FileSystem, log.Teller());
+    RecordingShell shell(log.Teller());
+    const platform::Services services{
+        clock,         zones,   files,         machine.User,   machine.Settings, actions,
+        voices,        players, machine.Sound, machine.Dialog, machine.TrayIcon, machine.Help,
+        machine.Random};
+    const QString name = context.Arguments[0];
+    ClockProperties central;
+    if (mduMain::SetupFiles(context.State, services, name, central) != mduMain::SetupResult::Done) {
+        Complain(context.State.FailedSetupPath + u" can't be made"_s);
+        return OperationFailed;
+    }
+    Forms windows;
+    const Program program{services, context.State, windows};
+    FaceLog face(log.Teller());
+    auto window = std::make_unique<frmTempolark>(program, &shell, nullptr);
+    WatchClock(*window, log.Teller(), face);
+    window->setWindowFlag(Qt::FramelessWindowHint);
+    window->setFixedSize(1, 1);  // nobody looks
+    if (!window->ShowMeMDIChild(name)) {
+        return OperationFailed;
+    }
+    const qint64 milliseconds = seconds * 1000;
+    const qint64 untilShown = std::min(milliseconds, FirstTicks);
+    const bool real = speed == u"real"_s;
+    PassTime(clock, untilShown, real);
+    window->activateWindow();  // a clock that is looked at: it speaks its patterns
+    QCoreApplication::processEvents();
+    PassTime(clock, milliseconds - untilShown, real);
+    return Done;
+}
+
+}  // namespace
+
+std::vector<Command> ClockRunCommands() {
+    return {{u"clock"_s,
+             u"run"_s,
+             u"ZONE --seconds N [--speed fast|real]"_s,
+             1,
+             1,
+             {u"--seconds="_s, u"--speed="_s},
+             Run,
+             true}};
+}
+
+}  // namespace ctl
