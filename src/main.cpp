@@ -11,6 +11,9 @@
 #include "platform/SystemClock.h"
 #include "platform/SystemServices.h"
 #include "platform/TzZoneDatabase.h"
+#include "platform/devices/LogindActions.h"
+#include "platform/devices/QtPlayers.h"
+#include "platform/devices/QtVoices.h"
 #include "platform/ui/DesktopDialogs.h"
 #include "shell/ui/ProgramIcon.h"
 #include "shell/ui/frmMain.h"
@@ -111,10 +114,10 @@ int main(int argc, char** argv) {
     platform::LocalFiles files;
     platform::UnixAccount user;
     platform::FileSettings settings(module.Paths.AppFolder + u"/Settings.ini"_s);
-    platform::NoActions actions;
-    platform::NoVoices voices;
-    platform::NoPlayers players;
-    platform::NoSound sound;
+    platform::LogindActions actions(qEnvironmentVariable("XDG_SESSION_ID"));
+    platform::QtVoices voices;
+    platform::QtPlayers players;
+    platform::QtSoundDevices sound;
     platform::DesktopDialogs dialogs;
     platform::NoTray tray;
     platform::NoHelp help;

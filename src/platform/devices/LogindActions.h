@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/Machine.h"
+
+namespace platform {
+
+/// System actions through the login service (org.freedesktop.login1) on the system bus.
+///
+///     ExitWindowsEx(0)    ends the session
+///     ExitWindowsEx(1)    powers off; programs that hold a shutdown back are respected
+///     ExitWindowsEx(2)    restarts
+///     ExitWindowsEx(13)   powers off, past those programs where the service can do that
+///     LockWorkStation()   locks the session
+///
+/// Nobody is asked for a password: what is not allowed is refused at once. A service that does not
+/// answer is waited for a few seconds.
+class LogindActions final : public SystemActions {
+public:
+    /// @p session is XDG_SESSION_ID; when it is empty, the session of this process is asked for.
+    /// @p address is that of another bus than the system's, for tests.
+    explicit LogindActions(QString session, QString address = {}, int timeoutMilliseconds = 5000);
+
+    QString ExitWindowsEx(unsigned flags) override;
+    QString LockWorkStation() override;
+
+    /// Starts a program in @p workingFolder (empty: its own folder), or opens a file or a folder
+    /// with the program that is meant for it.
+    QString Open(const QString& path, const QString& workingFolder) override;
+
+private:
+    QString session_;
+    QString address_;
+    int timeout_;
+};
+
+}  // namespace platform

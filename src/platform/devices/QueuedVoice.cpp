@@ -1,0 +1,104 @@
+#include "platform/devices/QueuedVoice.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+constexpr int Asynchronous = 1;
+constexpr int PurgeBeforeSpeak = 2;
+
+QStringList EngineVoices(VoiceCore& core) {
+    const SpeechEngine* engine = core.Engine ? core.Engine.get() : core.NeedEngine();
+    return engine != nullptr ? engine->Voices() : QStringList();
+}
+
+}  // namespace
+
+std::shared_ptr<Utterance> SpeechQueue::Add(std::shared_ptr<VoiceCore> voice, const QString& text) {
+    auto message = std::make_shared<Utterance>(std::move(voice), text, bounds_);
+    message->OnEnd = [this] { Next(); };
+    messages_.push_back(message);
+    Next();
+    return message;
+}
+
+void SpeechQueue::Purge(const VoiceCore& voice) {
+    const auto present = messages_;
+    // From the last one: the end of a message begins the next.
+    for (auto message = present.rbegin(); message != present.rend(); ++message) {
+        if ((*message)->Voice() == &voice) {
+            (*message)->End({});
+        }
+    }
+}
+
+void SpeechQueue::Next() {
+    std::erase_if(messages_, [](const auto& message) { return message->HasEnded(); });
+    if (!messages_.empty() && !messages_.front()->HasBegun()) {
+        const auto first = messages_.front();  // it may end in here and be taken off
+        first->Begin();
+    }
+}
+
+QueuedVoice::QueuedVoice(std::shared_ptr<SpeechQueue> queue, MakeEngine make,
+                         std::function<QStringList(VoiceCore&)> descriptions)
+    : queue_(std::move(queue)),
+      core_(std::make_shared<VoiceCore>()),
+      descriptions_(descriptions ? std::move(descriptions) : EngineVoices) {
+    core_->Make = std::move(make);
+}
+
+QueuedVoice::~QueuedVoice() {
+    queue_->Purge(*core_);
+}
+
+QStringList QueuedVoice::Descriptions() const {
+    return descriptions_(*core_);
+}
+
+void QueuedVoice::SetVoice(int index) {
+    core_->Settings.Voice = index;
+    Apply();
+}
+
+void QueuedVoice::SetRate(int rate) {
+    core_->Settings.Rate = std::clamp(rate, -10, 10);
+    Apply();
+}
+
+void QueuedVoice::SetVolume(int volume) {
+    core_->Settings.Volume = std::clamp(volume, 0, 100);
+    Apply();
+}
+
+void QueuedVoice::Apply() {
+    if (core_->Engine) {
+        core_->Engine->Apply(core_->Settings);
+    }
+}
+
+bool QueuedVoice::Speak(const QString& text, int flags) {
+    const bool silent = text == u"."_s;
+    if (silent || (flags & PurgeBeforeSpeak) != 0) {
+        queue_->Purge(*core_);
+    }
+    last_ = nullptr;
+    if (silent || !IsAudible(text)) {
+        return true;
+    }
+    const auto message = last_ = queue_->Add(core_, text);
+    if ((flags & Asynchronous) == 0) {
+        message->Wait();  // the clock may be closed meanwhile: no member is used below
+    }
+    return message->Reason().isEmpty();
+}
+
+QString QueuedVoice::LastError() const {
+    return last_ ? last_->Reason() : QString();
+}
+
+}  // namespace platform
