@@ -110,6 +110,7 @@ void PlayerMusic::StartNextPiece(int volume) {
 
 bool PlayerMusic::MakePlayer(const QString& path) {
     path_ = path;
+    hasFailed_ = false;
     if (!player_) {
         player_ = context_.Services.Media.MakePlayer();
     }
@@ -121,7 +122,8 @@ bool PlayerMusic::MakePlayer(const QString& path) {
 
 // A player may find out later, while it loads the file; so each tick looks again.
 void PlayerMusic::TellFailure() {
-    if (player_ && !player_->LastError().isEmpty()) {
+    if (player_ && !hasFailed_ && !player_->LastError().isEmpty()) {
+        hasFailed_ = true;
         Tell(player_->LastError());
     }
 }

@@ -47,8 +47,9 @@ private:
     SpeechContext context_;
     std::unique_ptr<platform::MediaPlayer> player_;
     std::int16_t index_ = 0;
-    bool isMusic_ = false;  ///< what the player was given last is music, not a sound
-    QString path_;          ///< what the player was given last
+    bool isMusic_ = false;    ///< what the player was given last is music, not a sound
+    QString path_;            ///< what the player was given last
+    bool hasFailed_ = false;  ///< it has been told why that can't be played
     QHash<QString, QDateTime> told_;
 };
 

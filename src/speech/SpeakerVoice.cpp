@@ -108,18 +108,26 @@ void SpeakerVoice::SpeakMessage(const QString& text, int flags, bool force) {
         context_.Host.SetSpeakerPicture(SpeakingPicture);
     }
     context_.Host.ShowChanges();
+    const std::weak_ptr<bool> alive = alive_;
     Utter(text, flags < 1 ? PurgeBeforeSpeak : flags, force);
-    context_.Host.SetSpeakerPicture(IdlePicture);
+    if (!alive.expired()) {
+        context_.Host.SetSpeakerPicture(IdlePicture);
+    }
 }
 
 void SpeakerVoice::PurgeSpeech(bool force) {
     SpeakMessage(PurgeText.toString(), PurgeBeforeSpeak, force);
 }
 
+// The event loop runs while a voice speaks, and the clock may be closed in it.
 void SpeakerVoice::Utter(const QString& text, int flags, bool force) {
     platform::Voice* voice = Voice();
+    const std::weak_ptr<bool> alive = alive_;
     ++speaking_;
     const bool spoken = voice != nullptr && voice->Speak(text, flags);
+    if (alive.expired()) {
+        return;
+    }
     --speaking_;
     if (text == PurgeText) {
         return;
@@ -151,10 +159,11 @@ void SpeakerVoice::TellWhy(const QString& reason, bool force) {
 }
 
 void SpeakerVoice::ClickSpeaker(SpokenTime& spoken) {
+    const std::weak_ptr<bool> alive = alive_;
     context_.Host.SetSpeakerPicture(SpeakingPicture);
     PurgeSpeech(true);
     spoken.SpeakTimeNow();
-    if (SpeakerLevel() <= 0) {
+    if (!alive.expired() && SpeakerLevel() <= 0) {
         context_.Host.SetSpeakerPicture(MutedPicture);
     }
 }

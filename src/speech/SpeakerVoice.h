@@ -55,7 +55,8 @@ public:
     /// What the mark's hint tells: a line for each setting.
     QString HintText() const;
 
-    /// Whether a text is being spoken: the window must not be dropped before that is over.
+    /// Whether a text is being spoken. The event loop runs meanwhile; the clock may be closed in
+    /// it, and whoever called must then leave it alone.
     bool IsSpeaking() const { return speaking_ > 0; }
 
 private:
@@ -71,6 +72,7 @@ private:
     SpeechContext context_;
     std::unique_ptr<platform::Voice> voice_;  ///< made when first needed
     std::vector<VoiceEntry> menu_;
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  ///< watched over while speaking
     QStringList told_;  ///< reasons told since a text was last spoken
     QString missing_;   ///< why the machine has no voices; empty when it has
     int speaking_ = 0;  ///< texts under way; a click can start one within another

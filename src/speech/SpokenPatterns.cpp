@@ -48,13 +48,13 @@ void SpokenPatterns::CheckSpokenTime() {
     if (now == spokenAt_) {
         return;
     }
-    spokenAt_ = {};
+    spokenAt_ = now;  // beforehand: the clock may be closed while it speaks
     for (int kind = SecondPattern; kind <= DayPattern; ++kind) {
         if (SpeakPatternOfKind(now, kind, false, DefaultFlags)) {
-            spokenAt_ = now;
             return;
         }
     }
+    spokenAt_ = {};
 }
 
 void SpokenPatterns::SpeakTimeNow() {

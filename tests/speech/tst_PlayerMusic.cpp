@@ -54,6 +54,7 @@ private Q_SLOTS:
     void LetsASoundEndBesideAnAction();
     void TellsOfASoundThatCannotPlay();
     void TellsOfAFailureThatShowsLater();
+    void TellsOncePerPiece();
     void TellsAgainAfterAMinute();
     void TellsOfAMachineWithoutAPlayer();
     void KeepsQuietAboutAMissingFile();
@@ -327,6 +328,21 @@ void tst_PlayerMusic::TellsOfAFailureThatShowsLater() {
     desk.Devices.Players.Failure = u"broken"_s;
     desk.Music.CheckMusic();
     QCOMPARE(desk.Host.Status, QStringList{u"The clock can't play song.mp3: broken"_s});
+}
+
+// Without a sound device a piece plays to its end, unheard.
+void tst_PlayerMusic::TellsOncePerPiece() {
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"song.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\song.mp3"_s);
+    desk.Devices.Players.Failure = u"no sound device"_s;
+    desk.Music.CheckMusic();
+    desk.Devices.Players.State = 3;
+    for (int tick = 0; tick < 120; ++tick) {
+        desk.Machine.Clock.Advance(1000);
+        desk.Music.CheckMusic();
+    }
+    QCOMPARE(desk.Host.Status, QStringList{u"The clock can't play song.mp3: no sound device"_s});
 }
 
 void tst_PlayerMusic::TellsAgainAfterAMinute() {

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void SpeaksNoEmptyText();
     void Purges();
     void KnowsThatItSpeaks();
+    void EndsQuietlyWhenTheClockIsClosed();
     void TellsOnceWhyItCannotSpeak();
     void TellsAgainAfterSpeaking();
     void TellsOfPatternsOnce();
@@ -220,6 +221,23 @@ void tst_SpeakerVoice::KnowsThatItSpeaks() {
     desk.Voice.SpeakMessage(u"Tea"_s, 2, true);
     QVERIFY(speaking);
     QVERIFY(!desk.Voice.IsSpeaking());
+}
+
+void tst_SpeakerVoice::EndsQuietlyWhenTheClockIsClosed() {
+    SpeechDesk desk;
+    desk.Controls.imgSpeaker(1).Tag = u"8"_s;
+    auto voice = std::make_unique<SpeakerVoice>(desk.Context());
+    desk.Devices.Voices.Failure = u"closed"_s;
+    desk.Devices.Voices.WhileSpeaking = [&] {
+        if (desk.Devices.Voices.Log.last() == "2 noon"_L1) {
+            voice.reset();
+        }
+    };
+    Patterns patterns(*voice);
+    voice->ClickSpeaker(patterns);
+    QVERIFY(!voice);
+    QCOMPARE(desk.Host.Log.mid(3), QStringList({u"picture 5"_s, u"show"_s}));
+    QCOMPARE(desk.Host.Status, QStringList());
 }
 
 void tst_SpeakerVoice::TellsOnceWhyItCannotSpeak() {

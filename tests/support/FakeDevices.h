@@ -31,10 +31,11 @@ private:
         void SetVolume(int volume) override { Note(QStringLiteral("volume %1").arg(volume)); }
         bool Speak(const QString& text, int flags) override {
             Note(QStringLiteral("%1 %2").arg(flags).arg(text));
-            if (all_.WhileSpeaking) {
-                all_.WhileSpeaking();
+            const FakeVoices& all = all_;  // this voice may be dropped while it speaks
+            if (all.WhileSpeaking) {
+                all.WhileSpeaking();
             }
-            return all_.Failure.isEmpty() && !all_.Silent;
+            return all.Failure.isEmpty() && !all.Silent;
         }
         QString LastError() const override { return all_.Failure; }
 
