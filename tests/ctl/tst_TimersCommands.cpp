@@ -1,0 +1,150 @@
+#include "ctl/Companion.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A machine in London on the morning of 16 November 2026.
+CompanionAnswer Run(const Companion& companion, const QStringList& command,
+                    const QString& now = u"2026-11-16T09:00:00"_s) {
+    return companion.Run(QStringList{u"--app-folder"_s, companion.Folder.path(), u"--user"_s,
+                                     u"ann"_s, u"--now"_s, now, u"--local-zone"_s,
+                                     u"Europe/London"_s, u"timers"_s} +
+                         command);
+}
+
+const QString London = u"GMT Standard Time"_s;
+
+const QByteArray Lines =
+    "5,red,,None,0#15:5@Call home\r\n"
+    "not a timer\r\n"
+    "0,Blue,.\\Sounds\\bell.wav,Log Off,40#16/11/2026 16:30=Tea\r\n"
+    "17/11/2026 09:30=Tomorrow\r\n"
+    "15/11/2026 09:30=Yesterday\r\n";
+
+QJsonObject Slot(int slot, const QString& time, const QString& permanent, const QString& minutes,
+                 const QString& message, int colour) {
+    return {
+        {u"slot"_s, slot},           {u"TimerTime"_s, time},         {u"Permanent"_s, permanent},
+        {u"OnDial"_s, true},         {u"DisplayMinutes"_s, minutes}, {u"Message"_s, message},
+        {u"MessageColour"_s, colour}};
+}
+
+}  // namespace
+
+class tst_TimersCommands : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Loads();
+    void LoadsAtTheClocksTime();
+    void LoadsAMissingFile();
+    void TellsOfAFileThatIsNoText();
+    void Saves();
+    void TellsWhenItCannotSave();
+    void SavesNothingOfAFileThatIsNoText();
+    void RefusesOtherArguments_data();
+    void RefusesOtherArguments();
+};
+
+void tst_TimersCommands::Loads() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, Lines);
+    const CompanionAnswer answer = Run(companion, {u"load"_s, file, u"--zone"_s, London});
+    QCOMPARE(answer.Status, 0);
+    QJsonObject call = Slot(1, u"03:05"_s, u"P"_s, u"5"_s, u"Call home"_s, 255);
+    call[u"SoundFile"_s] = QString();
+    call[u"TimerAction"_s] = u"None"_s;
+    call[u"MusicVolume"_s] = u"0"_s;
+    QJsonObject tea = Slot(2, u"04:30"_s, {}, u"0"_s, u"Tea"_s, 0xFF0000);
+    tea[u"SoundFile"_s] = u".\\Sounds\\bell.wav"_s;
+    tea[u"TimerAction"_s] = u"Log Off"_s;
+    tea[u"MusicVolume"_s] = u"40"_s;
+    QCOMPARE(answer.Object(),
+             QJsonObject({{u"slots"_s, QJsonArray{call, tea}},
+                          {u"deferred"_s, QJsonArray{u"17/11/2026 09:30=Tomorrow"_s}}}));
+}
+
+// In Tokyo it is nine hours later, so that the day's second half has begun.
+void tst_TimersCommands::LoadsAtTheClocksTime() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, Lines);
+    const QJsonObject tokyo =
+        Run(companion, {u"load"_s, file, u"--zone"_s, u"Tokyo Standard Time"_s}).Object();
+    QCOMPARE(tokyo[u"slots"_s].toArray().size(), 2);
+    QCOMPARE(tokyo[u"slots"_s].toArray()[1].toObject()[u"TimerTime"_s].toString(), u"09:30"_s);
+    QCOMPARE(tokyo[u"deferred"_s].toArray(),
+             QJsonArray{u"0,Blue,.\\Sounds\\bell.wav,Log Off,40#16/11/2026 16:30=Tea"_s});
+}
+
+void tst_TimersCommands::LoadsAMissingFile() {
+    const CompanionAnswer answer =
+        Run(Companion(), {u"load"_s, u"none.txt"_s, u"--zone"_s, London});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(answer.Object(),
+             QJsonObject({{u"slots"_s, QJsonArray()}, {u"deferred"_s, QJsonArray()}}));
+}
+
+void tst_TimersCommands::TellsOfAFileThatIsNoText() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, QByteArray("3:5@a\0b\r\n", 9));
+    const CompanionAnswer answer = Run(companion, {u"load"_s, file, u"--zone"_s, London});
+    QCOMPARE(answer.Status, 1);
+    QCOMPARE(answer.Object()[u"slots"_s].toArray().size(), 0);
+}
+
+void tst_TimersCommands::Saves() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, Lines);
+    const QString out = companion.Folder.filePath(u"Out.txt"_s);
+    const CompanionAnswer answer = Run(companion, {u"save"_s, file, out, u"--zone"_s, London});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(answer.Object(), QJsonObject({{u"lines"_s, 3}}));
+    QCOMPARE(companion.Read(u"Out.txt"_s),
+             QByteArray("5,Red,,None,0#15:5@Call home\r\n"
+                        "0,Blue,.\\Sounds\\bell.wav,Log Off,40#16/11/2026 16:30=Tea\r\n"
+                        "17/11/2026 09:30=Tomorrow\r\n"));
+    QCOMPARE(companion.Read(u"Timer.txt"_s), Lines);
+}
+
+void tst_TimersCommands::TellsWhenItCannotSave() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, Lines);
+    const QString out = companion.Folder.filePath(u"none/Out.txt"_s);
+    const CompanionAnswer answer = Run(companion, {u"save"_s, file, out, u"--zone"_s, London});
+    QCOMPARE(answer.Status, 1);
+    QCOMPARE(answer.Object(), QJsonObject({{u"lines"_s, 0}}));
+    QCOMPARE(answer.Messages, (out + u" can't be written\n"_s).toUtf8());
+}
+
+void tst_TimersCommands::SavesNothingOfAFileThatIsNoText() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, QByteArray("3:5@a\0b\r\n", 9));
+    const QString out = companion.Write(u"Out.txt"_s, "3:5@Kept\r\n");
+    const CompanionAnswer answer = Run(companion, {u"save"_s, file, out, u"--zone"_s, London});
+    QCOMPARE(answer.Status, 1);
+    QCOMPARE(answer.Object(), QJsonObject({{u"lines"_s, 0}}));
+    QCOMPARE(companion.Read(u"Out.txt"_s), QByteArray("3:5@Kept\r\n"));
+}
+
+void tst_TimersCommands::RefusesOtherArguments_data() {
+    QTest::addColumn<QStringList>("command");
+
+    QTest::newRow("no zone") << QStringList{u"load"_s, u"Timer.txt"_s};
+    QTest::newRow("empty zone") << QStringList{u"load"_s, u"Timer.txt"_s, u"--zone"_s, QString()};
+    QTest::newRow("no file") << QStringList{u"load"_s, u"--zone"_s, London};
+    QTest::newRow("no OUT") << QStringList{u"save"_s, u"Timer.txt"_s, u"--zone"_s, London};
+    QTest::newRow("save without zone") << QStringList{u"save"_s, u"Timer.txt"_s, u"Out.txt"_s};
+}
+
+void tst_TimersCommands::RefusesOtherArguments() {
+    QFETCH(QStringList, command);
+    const Companion companion;
+    const CompanionAnswer answer = Run(companion, command);
+    QCOMPARE(answer.Status, 2);
+    QVERIFY(answer.Messages.contains("timers "));
+    QVERIFY(!QFile::exists(companion.Folder.filePath(u"Out.txt"_s)));
+}
+
+QTEST_GUILESS_MAIN(tst_TimersCommands)
+#include "tst_TimersCommands.moc"
