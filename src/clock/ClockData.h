@@ -42,10 +42,7 @@ private:
 
 /// Working values of the face and the tick.
 struct DialState {
-    std::int16_t LastSecond = -1;  ///< of the last check for the second's sound
-    std::int16_t HourSoundCount = 0;
     int StyleIndex = 0;
-    int MessageCursor = 0;
     std::int16_t MusicIndex = 0;
 };
 

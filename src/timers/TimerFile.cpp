@@ -51,10 +51,10 @@ QString DialTime(const TimerLine& line) {
 }
 
 // A line is one line, whatever was typed into the message.
-QString OnOneLine(QString message) {
-    message.replace(u"\r\n"_s, u" "_s);
-    message.replace(u'\n', u' ');
-    return message.replace(u'\r', u' ').trimmed();
+QString OnOneLine(QString text) {
+    text.replace(u"\r\n"_s, u" "_s);
+    text.replace(u'\n', u' ');
+    return text.replace(u'\r', u' ');
 }
 
 // meta = minutes "," colour "," sound "," action "," volume "#"
@@ -136,7 +136,7 @@ QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime) {
     if (time) {
         line += timer.IsPermanent() ? PermanentWhen(*time) : OneShotWhen(*time, clockTime);
     }
-    return line + (timer.IsPermanent() ? u'@' : u'=') + OnOneLine(timer.Message);
+    return OnOneLine(line + (timer.IsPermanent() ? u'@' : u'=') + timer.Message.trimmed());
 }
 
 std::optional<QTime> TimeOfText(const QString& text, int presentYear) {

@@ -55,7 +55,7 @@ private Q_SLOTS:
     void ColoursTheAction_data();
     void ColoursTheAction();
     void CountsDown();
-    void CountsABitNumber();
+    void CountsNoFurtherThanANumberHolds();
     void RunsALateAction();
     void ForgetsNone();
     void ForgetsAnActionWithoutADeadline();
@@ -351,7 +351,7 @@ void tst_ClockMessages::CountsDown() {
 }
 
 // Ten hours are more seconds than a 16-bit number holds; they may not read as over.
-void tst_ClockMessages::CountsABitNumber() {
+void tst_ClockMessages::CountsNoFurtherThanANumberHolds() {
     MessageDesk desk;
     desk.Count(u"Reboot"_s, 600);
     desk.Run();

@@ -255,6 +255,9 @@ void tst_TimerFile::WritesOneLine() {
     timer.Message = u"\r\nCall\r\nhome\nsoon\rnow\r\n"_s;
     timer.MessageColour = 0x123456;
     QCOMPARE(TimerLineText(timer, At(16, 9)), u"5,1193046,,None,0#15:5@Call home soon now"_s);
+    timer.SoundFile = u"a\nb\r.wav"_s;
+    QCOMPARE(TimerLineText(timer, At(16, 9)),
+             u"5,1193046,a b .wav,None,0#15:5@Call home soon now"_s);
 }
 
 // The last minute of the year, and a leap day.
