@@ -115,7 +115,7 @@ int main(int argc, char** argv) {
     platform::UnixAccount user;
     platform::FileSettings settings(module.Paths.AppFolder + u"/Settings.ini"_s);
     platform::LogindActions actions(qEnvironmentVariable("XDG_SESSION_ID"));
-    platform::QtVoices voices;
+    platform::QtVoices voices(QApplication::applicationDirPath() + u"/tempolark-voice"_s);
     platform::QtPlayers players;
     platform::QtSoundDevices sound;
     platform::DesktopDialogs dialogs;

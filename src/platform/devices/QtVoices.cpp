@@ -1,60 +1,28 @@
 #include "platform/devices/QtVoices.h"
 
-#include <algorithm>
-
-using namespace Qt::StringLiterals;
+#include "platform/devices/VoiceProcess.h"
 
 namespace platform {
 
-namespace {
-
-/// The engines to try, in a fixed order: the toolkit lists them in a different one at each run.
-QStringList EngineNames(const QString& picked) {
-    QStringList names = QTextToSpeech::availableEngines();
-    if (!picked.isEmpty()) {
-        return names.contains(picked) ? QStringList(picked) : QStringList();
-    }
-    names.sort();
-    const QString dispatcher = u"speechd"_s;
-    if (names.removeOne(dispatcher)) {
-        names.prepend(dispatcher);
-    }
-    return names;
-}
-
-}  // namespace
-
 /// What all voices have in common.
 struct QtVoices::Shared {
-    QString Picked;
+    QString Program;
+    QString Engine;
     QStringList Descriptions;  ///< once some are known, no clock has to ask an engine again
-    std::shared_ptr<RestlessEngines> Restless = std::make_shared<RestlessEngines>();
 
-    /// The first engine that works; failing that, the first one, which can tell what is wrong.
     std::unique_ptr<SpeechEngine> Make() {
-        std::unique_ptr<SpeechEngine> first;
-        for (const QString& name : EngineNames(Picked)) {
-            auto engine = std::make_unique<QtSpeechEngine>(name, Restless);
-            const QStringList voices = engine->Voices();
-            if (!voices.isEmpty()) {
-                Descriptions = voices;
-                return engine;
-            }
-            if (!first) {
-                first = std::move(engine);
-            }
+        auto engine = std::make_unique<VoiceProcess>(Program, Engine);
+        if (!engine->Voices().isEmpty()) {
+            Descriptions = engine->Voices();
         }
-        return first;
+        return engine;
     }
 };
 
-QtVoices::QtVoices(QString engine, const SpeechBounds& bounds)
+QtVoices::QtVoices(QString program, QString engine, const SpeechBounds& bounds)
     : shared_(std::make_shared<Shared>()), queue_(std::make_shared<SpeechQueue>(bounds)) {
-    shared_->Picked = std::move(engine);
-}
-
-QtVoices::~QtVoices() {
-    shared_->Restless->Settle();
+    shared_->Program = std::move(program);
+    shared_->Engine = std::move(engine);
 }
 
 std::unique_ptr<Voice> QtVoices::MakeVoice() {

@@ -1,21 +1,19 @@
 #pragma once
 
-#include "platform/devices/QtSpeechEngine.h"
 #include "platform/devices/QueuedVoice.h"
 
 namespace platform {
 
-/// The voices of this machine. Each voice has an engine of its own, made when it first speaks. All
-/// of them take turns.
+/// The voices of this machine. Each voice has an engine of its own, made when it first speaks: a
+/// process that leaves when it has nothing to do. All of them take turns.
 ///
 /// Speech Dispatcher comes first where it runs, then the other engines by name: the first one that
 /// works and has voices. Which one that is, is tried anew with each engine made.
 class QtVoices final : public Voices {
 public:
-    /// @p engine picks one engine by name; empty leaves the choice to the machine.
-    explicit QtVoices(QString engine = {}, const SpeechBounds& bounds = {});
-    ~QtVoices() override;
-    Q_DISABLE_COPY_MOVE(QtVoices)
+    /// @p program is the path of `tempolark-voice`; @p engine picks one engine by name, empty
+    /// leaves the choice to the machine.
+    explicit QtVoices(QString program, QString engine = {}, const SpeechBounds& bounds = {});
 
     std::unique_ptr<Voice> MakeVoice() override;
 

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QProcess>
+
+#include "platform/devices/SpeechEngine.h"
+
+namespace platform {
+
+/// A speech engine that runs as a process of its own, `tempolark-voice`. When it crashes it is in
+/// trouble and a new one is needed; destroying this object ends it, and its sound, at once.
+class VoiceProcess final : public SpeechEngine {
+public:
+    /// Starts @p program and waits until it has told its voices, for some seconds at most.
+    /// @p engine is one of the toolkit's engines; empty leaves the choice to the process.
+    VoiceProcess(const QString& program, const QString& engine);
+    ~VoiceProcess() override;
+    Q_DISABLE_COPY_MOVE(VoiceProcess)
+
+    QStringList Voices() const override { return voices_; }
+    void Apply(const VoiceSettings& settings) override;
+    void Say(const QString& text) override;
+    void Stop() override { process_.kill(); }
+    QString Trouble() const override { return trouble_; }
+
+private:
+    void Read();
+    void Hear(const QByteArrayList& words);
+    void Die();
+    void Tell(State state);
+
+    QProcess process_;
+    QStringList voices_;
+    QString trouble_;
+    bool introduced_ = false;
+};
+
+}  // namespace platform

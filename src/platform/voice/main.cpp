@@ -1,0 +1,152 @@
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+#include <QTextToSpeech>
+#include <QTimer>
+#include <QVoice>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+// A speech engine in a process of its own, so that one that crashes or hangs costs a message and
+// never the program. Texts travel as base64, one command or answer to a line:
+//
+//     voices NAME NAME...    the first answer; none when there is no speech
+//     error REASON           this engine can't speak; the reason may follow "voices" at once
+//     set VOICE RATE VOLUME  as in platform::VoiceSettings
+//     say TEXT               answered by "speaking", then "ready" or "error"
+//
+// It ends with its input, and when it has had nothing to do for a minute.
+namespace {
+
+constexpr int IdleMilliseconds = 60'000;
+
+void Answer(const QByteArray& line) {
+    std::puts(line.constData());
+    std::fflush(stdout);
+}
+
+/// Engines crash when they are taken down at work; so they are not taken down.
+[[noreturn]] void Leave() {
+    std::_Exit(0);
+}
+
+/// The engines to try, in a fixed order: the toolkit lists them in a different one at each run.
+QStringList EngineNames(const QString& picked) {
+    QStringList names = QTextToSpeech::availableEngines();
+    if (!picked.isEmpty()) {
+        return names.contains(picked) ? QStringList(picked) : QStringList();
+    }
+    names.sort();
+    const QString dispatcher = u"speechd"_s;
+    if (names.removeOne(dispatcher)) {
+        names.prepend(dispatcher);
+    }
+    return names;
+}
+
+/// The first engine that works; failing that, the first one, which can tell what is wrong.
+std::unique_ptr<QTextToSpeech> PickEngine(const QString& picked) {
+    std::unique_ptr<QTextToSpeech> first;
+    for (const QString& name : EngineNames(picked)) {
+        auto engine = std::make_unique<QTextToSpeech>(name);
+        if (!engine->availableVoices().isEmpty()) {
+            return engine;
+        }
+        if (!first) {
+            first = std::move(engine);
+        }
+    }
+    return first;
+}
+
+class Speaker {
+public:
+    explicit Speaker(std::unique_ptr<QTextToSpeech> engine)
+        : engine_(std::move(engine)), input_(STDIN_FILENO, QSocketNotifier::Read) {
+        idle_.setSingleShot(true);
+        QObject::connect(&idle_, &QTimer::timeout, &idle_, [] { Leave(); });
+        QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { Read(); });
+        QObject::connect(engine_.get(), &QTextToSpeech::stateChanged, engine_.get(),
+                         [this](QTextToSpeech::State state) { Tell(state); });
+        idle_.start(IdleMilliseconds);
+        Introduce();
+    }
+
+private:
+    void Introduce() {
+        QByteArray line = "voices";
+        for (const QVoice& voice : engine_->availableVoices()) {
+            line += ' ' + voice.name().toUtf8().toBase64();
+        }
+        Answer(line);
+        if (!engine_->errorString().isEmpty()) {
+            TellError();
+        }
+    }
+
+    void Tell(QTextToSpeech::State state) {
+        idle_.start(IdleMilliseconds);
+        if (state == QTextToSpeech::Speaking) {
+            idle_.stop();
+            Answer("speaking");
+        } else if (state == QTextToSpeech::Ready) {
+            Answer("ready");
+        } else if (state == QTextToSpeech::Error) {
+            TellError();
+        }
+    }
+
+    void TellError() { Answer("error " + engine_->errorString().toUtf8().toBase64()); }
+
+    void Read() {
+        char buffer[4096];
+        const ssize_t size = ::read(STDIN_FILENO, buffer, sizeof buffer);
+        if (size <= 0) {
+            Leave();
+        }
+        pending_.append(buffer, size);
+        for (qsizetype end = 0; (end = pending_.indexOf('\n')) >= 0;) {
+            const QByteArray line = pending_.left(end);
+            pending_.remove(0, end + 1);
+            Obey(line.split(' '));
+        }
+    }
+
+    void Obey(const QByteArrayList& words) {
+        if (words[0] == "say" && words.size() == 2) {
+            engine_->say(QString::fromUtf8(QByteArray::fromBase64(words[1])));
+        } else if (words[0] == "set" && words.size() == 4) {
+            const QList<QVoice> voices = engine_->availableVoices();
+            const int voice = words[1].toInt();
+            if (voice >= 0 && voice < voices.size()) {
+                engine_->setVoice(voices[voice]);
+            }
+            engine_->setRate(words[2].toInt() / 10.0);
+            engine_->setVolume(words[3].toInt() / 100.0);
+        }
+    }
+
+    std::unique_ptr<QTextToSpeech> engine_;
+    QSocketNotifier input_;
+    QTimer idle_;
+    QByteArray pending_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    auto engine = PickEngine(QCoreApplication::arguments().value(1));
+    if (!engine) {
+        Answer("voices");
+        Answer("error " + QByteArray("This machine has no speech engine").toBase64());
+        Leave();
+    }
+    const Speaker speaker(std::move(engine));
+    QCoreApplication::exec();
+    Leave();
+}
