@@ -6,6 +6,7 @@
 
 #include "clock/ui/frmTempolark.h"
 #include "drawing/StockPictures.h"
+#include "drawing/TimerMarks.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 
@@ -45,6 +46,8 @@ void frmTempolark::TakeSurface() {
     surface_->SetHeight(mduAPILib::RoundToInteger(placement_.OuterRect().height()));
     surface_->Cls(backColour_);
     face_.StillChanged();
+    mduUILib::Control& action = controls_.imgAction(1);
+    action.Width = action.Height = static_cast<float>(drawing::TimerMarkSide(*surface_));
     const bool running =
         data_.State == ClockState::Running || data_.State == ClockState::RedrawRequested;
     if (running) {

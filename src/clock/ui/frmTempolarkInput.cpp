@@ -91,16 +91,19 @@ bool frmTempolark::event(QEvent* event) {
 
 // What lies above comes first.
 void frmTempolark::ShowToolTip(QHelpEvent& event) {
-    for (const mduUILib::ControlArray* array : {&controls_.imgSpeaker, &controls_.imgClockNumber}) {
-        const mduUILib::Control* control = ControlAt(*array, event.pos());
-        if (control != nullptr && !control->ToolTipText.isEmpty()) {
-            QToolTip::showText(event.globalPos(), control->ToolTipText, this,
-                               QRect(event.pos() - QPoint(2, 2), QSize(5, 5)));
-            return;
-        }
+    QString text;
+    if (ControlAt(controls_.imgSpeaker, event.pos()) != nullptr) {
+        text = voice_.HintText();
+    } else if (const auto* spot = ControlAt(controls_.imgClockNumber, event.pos())) {
+        text = spot->ToolTipText;
     }
-    QToolTip::hideText();
-    event.ignore();
+    if (text.isEmpty()) {
+        QToolTip::hideText();
+        event.ignore();
+        return;
+    }
+    QToolTip::showText(event.globalPos(), text, this,
+                       QRect(event.pos() - QPoint(2, 2), QSize(5, 5)));
 }
 
 // Over an hour number the mouse shows the number's own mark.
@@ -121,7 +124,9 @@ void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
 
 void frmTempolark::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
-    if (event->button() == Qt::LeftButton && ControlAt(controls_.imgSpeaker, at) != nullptr) {
+    const bool withControl = (event->modifiers() & Qt::ControlModifier) != 0;
+    if (event->button() == Qt::LeftButton && !withControl &&
+        ControlAt(controls_.imgSpeaker, at) != nullptr) {
         voice_.ClickSpeaker(spoken_);
         CloseWhenSpoken();
     } else if (event->button() == Qt::LeftButton && IsOnAction(at)) {

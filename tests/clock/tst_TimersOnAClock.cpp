@@ -1,0 +1,89 @@
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QTest>
+
+#include "ClockDesk.h"
+
+namespace {
+
+QString TimerPath(const QString& zone) {
+    return u"tester/Timers/"_s + zone + u"Timer.txt"_s;
+}
+
+}  // namespace
+
+/// Timers, messages and actions on the real clock, at noon of 15 June 2026 in GMT.
+class tst_TimersOnAClock : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EachClockHasItsOwnTimers() {
+        Desk desk;
+        desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,None,0#15:30@For UTC\r\n");
+        desk.Machine.WriteFile(TimerPath(u"India Standard Time"_s), "5,red,,None,0#16:0@India\r\n");
+        const frmTempolark* first = desk.Launch(u"UTC"_s);
+        const frmTempolark* second = desk.Launch(u"India Standard Time"_s);
+        desk.Machine.Clock.Advance(30);
+        QVERIFY(first->Controls().imgTimer(1).Visible);
+        QCOMPARE(first->Controls().txtMsg(1).Caption, u"For UTC"_s);
+        QCOMPARE(second->Controls().txtMsg(1).Caption, u"India"_s);
+    }
+
+    void AMarkStandsOnTheRing() {
+        Desk desk;
+        desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,None,0#15:0@Three\r\n");
+        const frmTempolark* clock = desk.Running(u"UTC"_s);
+        const mduUILib::Control& mark = clock->Controls().imgTimer(1);
+        QVERIFY(mark.Picture != nullptr);
+        QVERIFY(mark.Left > static_cast<float>(clock->PaintedSurface().ScaleWidth()) / 2);
+        QVERIFY(mark.Width >= 12);
+    }
+
+    void AMessageRunsAndExpires() {
+        Desk desk;
+        desk.Machine.WriteFile(TimerPath(u"UTC"_s),
+                               "1,red,,None,0#12:1=Tea is ready\r\n"
+                               "1,red,,None,0#13:1@Tea is ready\r\n");
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        desk.Machine.Clock.Advance(61 * 60 * 1000);  // to 13:01
+        QVERIFY(clock->Controls().lblMsg(1).Visible);
+        QCOMPARE(clock->PendingMessage(), u"Tea is ready"_s);
+        QVERIFY(desk.Shell.Messages.contains(u"Tea is ready"_s));
+        QVERIFY(!clock->Controls().imgTimer(1).Visible);
+        desk.Machine.Clock.Advance(60 * 1000);
+        QVERIFY(!clock->Controls().lblMsg(1).Visible);
+    }
+
+    void AnActionIsCancelledFromItsMenu() {
+        Desk desk;
+        desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,Lock Workstation,0#12:1@Go\r\n");
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        desk.Machine.Clock.Advance(61 * 1000);
+        const mduUILib::Control& label = clock->Controls().lblActionMsg(1);
+        QVERIFY(label.Visible);
+        QVERIFY(label.Caption.startsWith(u"Lock Workstation"_s));
+        const QPoint at = label.Rect().center().toPoint();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, clock->mapToGlobal(at));
+        QApplication::sendEvent(clock, &event);
+        const QMenu* menu = clock->findChild<QMenu*>(u"ActionMenu"_s);
+        QVERIFY(menu != nullptr);
+        menu->actions().constLast()->trigger();
+        QVERIFY(!label.Visible);
+        QVERIFY(clock->Controls().imgTimer(1).Visible);  // the mark stays
+    }
+
+    void ClosingWritesTheTimers() {
+        Desk desk;
+        desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,None,0#15:30@Later\r\n");
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        desk.Launch(u"India Standard Time"_s);  // has the path table's timer file now
+        desk.Machine.Clock.Advance(30);
+        desk.Close(clock);
+        QCOMPARE(desk.Machine.ReadFile(TimerPath(u"UTC"_s)),
+                 QByteArray("5,Red,,None,0#15:30@Later\r\n"));
+    }
+};
+
+QTEST_MAIN(tst_TimersOnAClock)
+#include "tst_TimersOnAClock.moc"
