@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QSocketNotifier>
 #include <QTextToSpeech>
 #include <QTimer>
@@ -8,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +25,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int IdleMilliseconds = 60'000;
+
+// Flite stumbles over some texts: its last samples fall so that it takes the end of the text for an
+// error and throws all of it away, while the first of it is being heard at most. Said again at a
+// rate that differs by less than one can hear, the samples fall otherwise.
+constexpr int StumblesWithin = 2000;  // milliseconds; a laden machine is slow
+constexpr int MostStumbles = 30;
+constexpr double Nuance = 0.003;
+constexpr int AgainAfter = 50;  // milliseconds
 
 void Answer(const QByteArray& line) {
     std::puts(line.constData());
@@ -68,10 +78,14 @@ public:
     explicit Speaker(std::unique_ptr<QTextToSpeech> engine)
         : engine_(std::move(engine)), input_(STDIN_FILENO, QSocketNotifier::Read) {
         idle_.setSingleShot(true);
+        again_.setSingleShot(true);
+        QObject::connect(&again_, &QTimer::timeout, &again_, [this] { Say(); });
         QObject::connect(&idle_, &QTimer::timeout, &idle_, [] { Leave(); });
         QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { Read(); });
         QObject::connect(engine_.get(), &QTextToSpeech::stateChanged, engine_.get(),
                          [this](QTextToSpeech::State state) { Tell(state); });
+        QObject::connect(engine_.get(), &QTextToSpeech::errorOccurred, engine_.get(),
+                         [this](auto, const QString& reason) { reason_ = reason; });
         idle_.start(IdleMilliseconds);
         Introduce();
     }
@@ -83,7 +97,8 @@ private:
             line += ' ' + voice.name().toUtf8().toBase64();
         }
         Answer(line);
-        if (!engine_->errorString().isEmpty()) {
+        reason_ = engine_->errorString();
+        if (!reason_.isEmpty()) {
             TellError();
         }
     }
@@ -92,15 +107,25 @@ private:
         idle_.start(IdleMilliseconds);
         if (state == QTextToSpeech::Speaking) {
             idle_.stop();
+            speaking_ = true;
+            since_.start();
             Answer("speaking");
-        } else if (state == QTextToSpeech::Ready) {
+        } else if (state == QTextToSpeech::Ready && std::exchange(speaking_, false)) {
             Answer("ready");
         } else if (state == QTextToSpeech::Error) {
-            TellError();
+            const bool stumbled = std::exchange(speaking_, false) &&
+                                  since_.elapsed() < StumblesWithin && ++stumbles_ < MostStumbles;
+            stumbled ? again_.start(AgainAfter) : TellError();
         }
     }
 
-    void TellError() { Answer("error " + engine_->errorString().toUtf8().toBase64()); }
+    void Say() {
+        speaking_ = false;
+        engine_->setRate(rate_ + (rate_ > 0 ? -Nuance : Nuance) * stumbles_);
+        engine_->say(text_);
+    }
+
+    void TellError() { Answer("error " + reason_.toUtf8().toBase64()); }
 
     void Read() {
         char buffer[4096];
@@ -118,22 +143,31 @@ private:
 
     void Obey(const QByteArrayList& words) {
         if (words[0] == "say" && words.size() == 2) {
-            engine_->say(QString::fromUtf8(QByteArray::fromBase64(words[1])));
+            text_ = QString::fromUtf8(QByteArray::fromBase64(words[1]));
+            stumbles_ = 0;
+            Say();
         } else if (words[0] == "set" && words.size() == 4) {
             const QList<QVoice> voices = engine_->availableVoices();
             const int voice = words[1].toInt();
             if (voice >= 0 && voice < voices.size()) {
                 engine_->setVoice(voices[voice]);
             }
-            engine_->setRate(words[2].toInt() / 10.0);
+            rate_ = words[2].toInt() / 10.0;
             engine_->setVolume(words[3].toInt() / 100.0);
         }
     }
 
     std::unique_ptr<QTextToSpeech> engine_;
     QSocketNotifier input_;
-    QTimer idle_;
+    QTimer idle_;  ///< ends the process
+    QTimer again_;
+    QElapsedTimer since_;  ///< when it began to speak
     QByteArray pending_;
+    QString text_;
+    bool speaking_ = false;
+    double rate_ = 0;
+    int stumbles_ = 0;  ///< over the present text
+    QString reason_;    ///< of the last error; the engine itself soon forgets it
 };
 
 }  // namespace
