@@ -19,9 +19,9 @@ namespace ctl {
 
 namespace {
 
-constexpr int RealStep = 10;                // milliseconds
-constexpr qint64 FirstTicks = 30;           // milliseconds until the window stands
-constexpr qint64 LongestRun = 366 * 86400;  // seconds
+constexpr int RealStep = 10;               // milliseconds
+constexpr qint64 FirstTicks = 30;          // milliseconds until the window stands
+constexpr qint64 LongestRun = 31'622'400;  // seconds
 
 /// Tells the events of one clock, each with the moment of the simulated clock.
 class EventLog {

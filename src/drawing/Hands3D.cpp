@@ -108,11 +108,12 @@ private:
     float DrawSide(Surface& surface, const QPoint& offset, int colour, float t, float end) const {
         const auto [least, most] = VisiblePart(surface.Clip().translated(-offset));
         LineBundle bundle(surface, colour, Noise());
-        for (; t <= end; t += 0.1F) {
+        while (t <= end) {
             if (t >= least && t <= most) {
                 const auto [x1, y1, x2, y2] = LineAt(t);
                 bundle.Add(x1 + offset.x(), y1 + offset.y(), x2 + offset.x(), y2 + offset.y());
             }
+            t += 0.1F;
         }
         return t;
     }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <map>
 #include <memory>
+#include <tuple>
 
 #include "platform/Files.h"
 
@@ -39,11 +40,7 @@ private:
         bool Unreadable = false;
         std::weak_ptr<const QImage> Picture;
     };
-    struct ScaledKey {
-        qint64 Source;
-        int Width, Height, Brightness;
-        auto operator<=>(const ScaledKey&) const = default;
-    };
+    using ScaledKey = std::tuple<qint64, int, int, int>;  ///< source, width, height, brightness
     std::map<QString, FromFile> files_;
     std::map<ScaledKey, std::weak_ptr<const QImage>> scaled_;
 };

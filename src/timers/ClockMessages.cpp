@@ -22,7 +22,7 @@ constexpr double TopOfFace = 0.04;  // of the face's height
 constexpr double FontOfFace = 0.035;
 constexpr double SmallestFont = 8;     // points
 constexpr double LongestStep = 32767;  // twips
-constexpr qint64 HalfDaySeconds = 12 * 60 * 60;
+constexpr qint64 HalfDaySeconds = 43'200;
 
 /// The units of the character at a place: two beyond the basic plane, none behind the end.
 qsizetype CharacterLength(const QString& text, qsizetype place) {

@@ -139,10 +139,15 @@ double Loudness(const Wave& sound, int rate) {
         return 0;
     }
     const double least = *std::ranges::max_element(powers) / 10;
-    const auto loud = std::ranges::partition(powers, [least](double p) { return p < least; });
     double sum = 0;
-    std::ranges::for_each(loud, [&sum](double power) { sum += power; });
-    return std::sqrt(sum / static_cast<double>(loud.size()));
+    int loud = 0;
+    for (const double power : powers) {
+        if (power >= least) {
+            sum += power;
+            ++loud;
+        }
+    }
+    return std::sqrt(sum / loud);
 }
 
 void Amplify(Wave& sound, double gain, double ceiling) {

@@ -88,9 +88,9 @@ void frmTempolark::paintEvent(QPaintEvent* event) {
 }
 
 QImage frmTempolark::SeenPicture() const {
-    const QImage picture = colourKey_ && !IsMDIChild()
-                               ? WithColourKey(surface_->Image())
-                               : surface_->Image().convertToFormat(QImage::Format_ARGB32);
+    QImage picture = colourKey_ && !IsMDIChild()
+                         ? WithColourKey(surface_->Image())
+                         : surface_->Image().convertToFormat(QImage::Format_ARGB32);
     if (outline_.isEmpty()) {
         return picture;
     }

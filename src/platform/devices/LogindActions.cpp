@@ -63,7 +63,7 @@ QString Reason(const Login& login, const QDBusMessage& reply) {
     if (!Failed(reply)) {
         return {};
     }
-    const QString text = reply.errorMessage().isEmpty() ? reply.errorName() : reply.errorMessage();
+    QString text = reply.errorMessage().isEmpty() ? reply.errorName() : reply.errorMessage();
     if (!login.IsConnected()) {
         return u"The system bus can't be reached. "_s + text;
     }
