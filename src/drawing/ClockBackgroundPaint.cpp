@@ -80,7 +80,7 @@ void ClockBackground::Place(const Surface& surface) const {
     mduUILib::ControlArray& imgClock = face_.Controls.imgClock;
     const QPointF exact =
         ClockCentre(face_.Properties, surface.ScaleWidth(), surface.ScaleHeight());
-    const QPoint centre(RoundToInteger(exact.x()), RoundToInteger(exact.y()));
+    const QPoint centre(ToPoint(exact.x()), ToPoint(exact.y()));
     const bool speck = imgClock(0).Picture && !imgClock(1).Picture && face_.Window.IsTransparent();
     if (speck) {
         imgClock(1).Picture = face_.Controls.picFrame(1).Picture;

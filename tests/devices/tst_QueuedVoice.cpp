@@ -229,8 +229,8 @@ void tst_QueuedVoice::waitsForItsTurn() {
     desk.Room.OnSay = [&] {
         desk.Room.OnSay = nullptr;
         QMetaObject::invokeMethod(
-            qApp, [&] { done += third->Speak(u"three"_s, 2) ? u"3"_s : u"-"_s; },
-            Qt::QueuedConnection);
+            QCoreApplication::instance(),
+            [&] { done += third->Speak(u"three"_s, 2) ? u"3"_s : u"-"_s; }, Qt::QueuedConnection);
         done += second->Speak(u"two"_s, 2) ? u"2"_s : u"-"_s;
     };
     QVERIFY(first->Speak(u"one"_s, 2));
@@ -339,7 +339,7 @@ void tst_QueuedVoice::mayDieWhileItWaits() {
     auto second = desk.MakeVoice();
     QVERIFY(first->Speak(u"one"_s, 1));
     QMetaObject::invokeMethod(
-        qApp, [&] { second.reset(); }, Qt::QueuedConnection);
+        QCoreApplication::instance(), [&] { second.reset(); }, Qt::QueuedConnection);
     second->Speak(u"two"_s, 2);
     QVERIFY(!second);
     QTRY_VERIFY(desk.Room.Log.contains(u"end"_s));
@@ -353,7 +353,7 @@ void tst_QueuedVoice::endsWithTheProgram() {
     bool spoken = true;
     bool spokenAfter = true;
     QMetaObject::invokeMethod(
-        qApp,
+        QCoreApplication::instance(),
         [&] {
             spoken = voice->Speak(u"one"_s, 2);
             spokenAfter = voice->Speak(u"two"_s, 2);
