@@ -14,12 +14,18 @@ packages=(
     qt6-base-dev qt6-declarative-dev qt6-multimedia-dev qt6-speech-dev qt6-svg-dev
     # Running: platforms, the zone database, flags, fonts and those that the styles are set in.
     fonts-dejavu-core fonts-liberation iso-flags-svg libqt6gui6 libqt6svg6 qt6-qpa-plugins tzdata
+    # Running: speech, and opening what a timer names. The sound server is the desktop's own.
+    qt6-speech-flite-plugin qt6-speech-speechd-plugin xdg-utils
     fonts-bebas-neue fonts-cantarell fonts-comfortaa fonts-dseg fonts-lato
     fonts-league-spartan fonts-oldstandard
     # Running without a display: a screen, a window manager, and a camera.
     imagemagick openbox x11-utils xdotool xvfb
 )
-testPackages=(clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev)
+testPackages=(
+    clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev
+    # A sound server, a system bus and a login service for the tests of devices.
+    dbus-bin dbus-daemon libsox-fmt-mp3 pulseaudio pulseaudio-utils python3-dbusmock sox
+)
 
 case "${1:-run}" in
     run) ;;

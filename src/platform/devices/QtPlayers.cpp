@@ -21,7 +21,6 @@ constexpr float FullVolume = 100.0F;
 class QtPlayer final : public MediaPlayer {
 public:
     QtPlayer() {
-        player_.setAudioOutput(&output_);
         QObject::connect(&player_, &QMediaPlayer::errorOccurred, &player_,
                          [this](QMediaPlayer::Error, const QString& text) { Fail(text); });
     }
@@ -37,12 +36,18 @@ public:
             error_ = u"There is no %1"_s.arg(path);
             return;
         }
-        UsePresentDevice();
+        if (!UsePresentDevice()) {
+            error_ = u"There is no sound device"_s;
+            return;
+        }
         player_.setSource(QUrl::fromLocalFile(path));
         player_.play();
     }
 
     int PlayState() const override {
+        if (!error_.isEmpty()) {
+            return Stopped;
+        }
         switch (player_.playbackState()) {
             case QMediaPlayer::PlayingState:
                 return Playing;
@@ -68,22 +73,31 @@ public:
                                                 QAudio::LinearVolumeScale));
     }
 
-    QString LastError() const override {
-        const bool unheard = player_.source().isValid() && output_.device().isNull();
-        return error_.isEmpty() && unheard ? u"There is no sound device"_s : error_;
-    }
+    QString LastError() const override { return error_; }
 
 private:
-    /// The device may have come, or changed, since the last piece.
-    void UsePresentDevice() {
+    /// The device may have come, or changed, since the last piece. Without one nothing is played:
+    /// the back end would never come to the end of the piece, or crash.
+    bool UsePresentDevice() {
         const QAudioDevice present = QMediaDevices::defaultAudioOutput();
-        if (output_.device() != present) {
+        if (!present.isNull() && output_.device() != present) {
             output_.setDevice(present);
         }
+        player_.setAudioOutput(present.isNull() ? nullptr : &output_);
+        return !present.isNull();
     }
 
     void Fail(const QString& text) {
         error_ = text.isEmpty() ? u"The file can't be played"_s : text;
+        // The back end goes on playing nothing; it must not be stopped inside its own signal.
+        QMetaObject::invokeMethod(
+            &player_,
+            [this] {
+                if (!error_.isEmpty()) {
+                    player_.stop();
+                }
+            },
+            Qt::QueuedConnection);
     }
 
     QString error_;
@@ -91,10 +105,25 @@ private:
     QMediaPlayer player_;
 };
 
+/// The toolkit reads it when a player or a device is first asked for.
+void ChooseBackEnd() {
+    if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND")) {
+        qputenv("QT_MEDIA_BACKEND", "ffmpeg");
+    }
+}
+
 }  // namespace
+
+QtPlayers::QtPlayers() {
+    ChooseBackEnd();
+}
 
 std::unique_ptr<MediaPlayer> QtPlayers::MakePlayer() {
     return std::make_unique<QtPlayer>();
+}
+
+QtSoundDevices::QtSoundDevices() {
+    ChooseBackEnd();
 }
 
 int QtSoundDevices::Count() const {
