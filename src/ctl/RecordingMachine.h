@@ -89,6 +89,8 @@ public:
     void PurgeSpeech() override {}
     void DoMenuItem(float, int) override {}
     int BackColor() const override { return 0xFFFFFF; }
+    int LaunchTempolark(const QString&) override { return 0; }
+    QString Setting(const QString&) const override { return {}; }
 
 private:
     TellEvent tell_;

@@ -77,6 +77,10 @@ public:
     virtual void PurgeSpeech() = 0;
     virtual void DoMenuItem(float menuId, int index) = 0;
     virtual int BackColor() const = 0;
+    /// Launches the clock of a zone. @return its handle, or 0 when that failed
+    virtual int LaunchTempolark(const QString& name) = 0;
+    /// One of the shell's own settings, without its choices; empty when there is none of that name.
+    virtual QString Setting(const QString& name) const = 0;
 };
 
 /// The loaded windows in the order of their creation, counted from 0. The shell is the first.

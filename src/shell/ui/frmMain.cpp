@@ -220,6 +220,10 @@ void frmMain::RefreshPanels() {
     }
 }
 
+QString frmMain::Setting(const QString& name) const {
+    return mduLib::GetProperty(name, centralProperties_);
+}
+
 int frmMain::RefreshForm(const QString&) {
     centralProperties_ = program_.Module.CurrentProperties;
     ApplyCentralProperties(true);

@@ -28,8 +28,6 @@ public:
     /// Finds the zone for the command line, lays out the folders and reads the lists.
     bool ConfigSetup();
 
-    /// Launches one clock. @return its handle, or 0
-    int LaunchTempolark(const QString& name);
     void SaveAutoStartList();
 
     QString AppEXEName() const;
@@ -56,6 +54,8 @@ public:
     void PurgeSpeech() override;
     void DoMenuItem(float menuId, int index) override;
     int BackColor() const override { return backColour_; }
+    int LaunchTempolark(const QString& name) override;
+    QString Setting(const QString& name) const override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
