@@ -134,6 +134,20 @@ void ClockFiles::SavePosition(const QRectF& twips) {
     ReportUnless(written);
 }
 
+void ClockFiles::SaveKey(const QString& name) {
+    platform::Files& files = program_.Services.FileSystem;
+    const QString& path = data_.PropertyFileName;
+    if (!mayWrite_ || !mduLib::MayRewrite(files, path)) {
+        return;
+    }
+    ClockProperties stored;
+    if (!mduLib::ReadPropertyFile(files, path, stored)) {
+        stored = data_.Properties();  // the file has gone
+    }
+    ReportUnless(mduLib::SavePropertyNow(
+        files, name, mduLib::GetPropertyRaw(name, data_.Properties()), stored, path));
+}
+
 void ClockFiles::ReportUnless(bool written) const {
     if (!written) {
         report_(u"%1 can't be written"_s.arg(data_.PropertyFileName));

@@ -53,6 +53,10 @@ public:
     /// Stores the window's rectangle, in twips, into the file as it now stands on disk.
     void SavePosition(const QRectF& twips);
 
+    /// Brings the present value of a key, with its choices, into the file as it now stands on disk.
+    /// What else has been changed waits for its own save.
+    void SaveKey(const QString& name);
+
     /// Names this clock's file and properties as the current ones.
     void MakeCurrent();
 

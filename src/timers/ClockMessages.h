@@ -38,6 +38,9 @@ public:
     /// Moves the deadline to @p minutes from the clock's present time; nothing without a countdown.
     void PostponeAction(int minutes);
     void CancelAction();
+    /// Gives the text of the action that counts down a colour, by its name, and the action that
+    /// colour from now on; nothing without a countdown.
+    void SetActionColour(const QString& colour);
 
     const QString& PendingMessage() const { return pendingMessage_; }
     const QString& MessageExpiry() const { return messageExpiry_; }  ///< "hh:mm", or "0" for none

@@ -29,6 +29,22 @@ QString ShownAction(const QString& action) {
                 : action;
 }
 
+// The first entry that holds the action's text is the one that is found.
+QString WithActionColour(const QString& colours, const QString& action, const QString& colour) {
+    QStringList entries = colours.split(u',', Qt::SkipEmptyParts);
+    const QString head = action + u':';
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const QString& entry) { return entry.contains(action); });
+    if (found == entries.end()) {
+        entries += head + colour;
+    } else if (found->startsWith(head)) {
+        *found = head + colour;
+    } else {
+        entries.prepend(head + colour);
+    }
+    return entries.join(u',');
+}
+
 }  // namespace
 
 bool ClockMessages::StartCountdown(const QDateTime& clockTime, int minutes) {
@@ -55,6 +71,18 @@ void ClockMessages::CancelAction() {
     pendingAction_.clear();
     actionDeadline_.clear();
     ShowActionMarks(false);
+}
+
+void ClockMessages::SetActionColour(const QString& colour) {
+    if (!IsCountingDown()) {
+        return;
+    }
+    context_.Controls.lblActionMsg(1).ForeColor =
+        mduUILib::ColourValue(QString(colour), context_.Services.Random);
+    const QString key = u"Message Action Colour"_s;
+    const QString colours = mduLib::GetPropertyRaw(key, context_.Properties);
+    mduLib::PutPropertyRaw(key, WithActionColour(colours, pendingAction_, colour),
+                           context_.Host.EditProperties());
 }
 
 bool ClockMessages::IsCountingDown() const {

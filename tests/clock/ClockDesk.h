@@ -20,6 +20,8 @@ struct FakeShell final : IShell {
     void PurgeSpeech() override {}
     void DoMenuItem(float, int) override {}
     int BackColor() const override { return Colour; }
+    int LaunchTempolark(const QString&) override { return 0; }
+    QString Setting(const QString&) const override { return {}; }
 };
 
 /// A frame of the shell with nothing in it.

@@ -173,7 +173,13 @@ private:
     timers::TimerContext TimerParts();
     speech::SpeechContext SpeechParts();
     void FillMenuArrays() override { actions_.FillActionMenu(); }
+    void ShowMessageMenu(const QPoint& globalPosition);
     void ShowActionMenu(const QPoint& globalPosition);
+    void ShowSpeakerMenu(const QPoint& globalPosition);
+    void ShowFormMenu(const QPoint& globalPosition);
+    void SetByMenu(const QString& key, const QString& value);
+    void PutSpeakerPosition();
+    void SaveByMenu(const QStringList& keys);
     void CloseWhenSpoken();
 
     // Styles.

@@ -7,10 +7,8 @@
 #include <QToolTip>
 
 #include "clock/ClockMode.h"
-#include "clock/ui/LookMenu.h"
 #include "clock/ui/frmTempolark.h"
 #include "drawing/StockPictures.h"
-#include "foundation/NamedValues.h"
 
 using namespace Qt::StringLiterals;
 
@@ -145,38 +143,20 @@ bool frmTempolark::IsOnAction(const QPoint& position) const {
            ControlAt(controls_.lblActionMsg, position) != nullptr;
 }
 
+// With Ctrl held a press on the speaker is left to those who drag it.
 void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {
-    if (IsOnAction(event->pos())) {
-        ShowActionMenu(event->globalPos());
-        return;
-    }
-    if (ControlAt(controls_.lblMsg, event->pos()) != nullptr) {
-        auto* menu = new QMenu(this);
-        menu->setObjectName(u"MessageMenu"_s);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(u"Hide Message"_s, this, [this] {
-            messages_.HideMessage();
-            ShowChanges();
-        });
-        menu->popup(event->globalPos());
-        return;
-    }
-    files_.MakeCurrent();
-    const auto setStyle = [this](const QString& name) {
-        SetClockStyle(name == u"More"_s ? name : program_.Module.Paths.StylesFolder + name);
-    };
-    const auto setColour = [this](const QString& name) {
-        if (mduUILib::IsCustomColour(name)) {
-            PickWindowBackColour();
-        } else {
-            SetWindowBackColour({}, name);
+    const QPoint& at = event->globalPos();
+    if (ControlAt(controls_.imgSpeaker, event->pos()) != nullptr) {
+        if ((event->modifiers() & Qt::ControlModifier) == 0) {
+            ShowSpeakerMenu(at);
         }
-    };
-    QMenu* menu = clockcore::MakeLookMenu(
-        this, clockcore::GetClockType(data_.Properties()), styles_.Names(),
-        {[this](int mode) { SetClocks(mode); }, setStyle, setColour, [this] { SaveCurrentStyle(); },
-         [this] { SaveStyleAs(); }, [this] { Unload(); }});
-    menu->popup(event->globalPos());
+    } else if (IsOnAction(event->pos())) {
+        ShowActionMenu(at);
+    } else if (ControlAt(controls_.lblMsg, event->pos()) != nullptr) {
+        ShowMessageMenu(at);
+    } else {
+        ShowFormMenu(at);
+    }
 }
 
 bool frmTempolark::focusNextPrevChild(bool next) {

@@ -1,12 +1,8 @@
 // What timers, messages, actions and speech ask of their clock.
-#include <QMenu>
-
 #include "clock/ui/frmTempolark.h"
 #include "drawing/LabelText.h"
 #include "drawing/StockPictures.h"
 #include "drawing/TimerMarks.h"
-#include "foundation/Dates.h"
-#include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;
@@ -69,25 +65,4 @@ bool frmTempolark::IsActiveClock() const {
 void frmTempolark::SetSpeakerPicture(int number) {
     controls_.imgSpeaker(1).Picture =
         drawing::GetStockPicture(static_cast<drawing::StockPicture>(number));
-}
-
-// Minutes to postpone the action by, and the end of it.
-void frmTempolark::ShowActionMenu(const QPoint& globalPosition) {
-    const auto deadline = mduAPILib::ParseMoment(messages_.ActionDeadline(), 2000);
-    const QDateTime now = mduTimeZones::GetClockTime(data_.Zone, program_.Services.Clock.Now());
-    const int left = deadline ? static_cast<int>(now.secsTo(deadline->Moment) / 60) : 0;
-    auto* menu = new QMenu(this);
-    menu->setObjectName(u"ActionMenu"_s);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    QMenu* times = menu->addMenu(u"Action Time"_s);
-    times->setObjectName(u"ActionTime"_s);
-    for (const int minutes : timers::ActionTimes(left)) {
-        times->addAction(QString::number(minutes), this,
-                         [this, minutes] { messages_.PostponeAction(minutes); });
-    }
-    menu->addAction(u"Cancel Action"_s, this, [this] {
-        messages_.CancelAction();
-        ShowChanges();
-    });
-    menu->popup(globalPosition);
 }
