@@ -55,24 +55,6 @@ private Q_SLOTS:
         QVERIFY(!clock->Controls().lblMsg(1).Visible);
     }
 
-    void AnActionIsCancelledFromItsMenu() {
-        Desk desk;
-        desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,Lock Workstation,0#12:1@Go\r\n");
-        frmTempolark* clock = desk.Running(u"UTC"_s);
-        desk.Machine.Clock.Advance(61 * 1000);
-        const mduUILib::Control& label = clock->Controls().lblActionMsg(1);
-        QVERIFY(label.Visible);
-        QVERIFY(label.Caption.startsWith(u"Lock Workstation"_s));
-        const QPoint at = label.Rect().center().toPoint();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, at, clock->mapToGlobal(at));
-        QApplication::sendEvent(clock, &event);
-        const QMenu* menu = clock->findChild<QMenu*>(u"ActionMenu"_s);
-        QVERIFY(menu != nullptr);
-        menu->actions().constLast()->trigger();
-        QVERIFY(!label.Visible);
-        QVERIFY(clock->Controls().imgTimer(1).Visible);  // the mark stays
-    }
-
     void ClosingWritesTheTimers() {
         Desk desk;
         desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,None,0#15:30@Later\r\n");
