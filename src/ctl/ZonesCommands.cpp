@@ -7,6 +7,7 @@
 #include "foundation/SetupPaths.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneConversion.h"
+#include "timezones/ZoneDescription.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -97,13 +98,28 @@ bool OverlayFile(const Context& context, TimeZoneRecord& record) {
     return mduTimeZones::ReadZoneKeys(context.Services, record, properties, path);
 }
 
+/// An option "--file" names a file.
+bool NamesItsFile(const Context& context) {
+    return !context.HasOption(u"--file"_s) || !context.Option(u"--file"_s).isEmpty();
+}
+
 int Show(Context& context) {
-    if (context.HasOption(u"--file"_s) && context.Option(u"--file"_s).isEmpty()) {
+    if (!NamesItsFile(context)) {
         return WrongArguments;
     }
-
     bool saved = true;
     PrintRecord(RecordAskedFor(context, saved));
+    return saved ? Done : OperationFailed;
+}
+
+int Describe(Context& context) {
+    if (!NamesItsFile(context)) {
+        return WrongArguments;
+    }
+    bool saved = true;
+    const TimeZoneRecord record = RecordAskedFor(context, saved);
+    const QString text = mduTimeZones::ZoneDescription(record, context.Services.Clock.Now().date());
+    PrintJson(QJsonDocument(QJsonObject{{u"text"_s, text}}));
     return saved ? Done : OperationFailed;
 }
 
@@ -183,6 +199,7 @@ std::vector<Command> ZonesCommands() {
         {group, u"list"_s, u"[--source windows|profiles|selected]"_s, 0, 0, {u"--source="_s}, List},
         {group, u"local"_s, {}, 0, 0, {}, Local},
         {group, u"show"_s, u"NAME [--file INI]"_s, 1, 1, {u"--file="_s}, Show},
+        {group, u"describe"_s, u"NAME [--file INI]"_s, 1, 1, {u"--file="_s}, Describe},
         {group, u"name-at"_s, u"NAME DATETIME"_s, 2, 2, {}, NameAt},
         {group, u"convert"_s, u"NAME TEXT [--from-zone]"_s, 2, 2, {u"--from-zone"_s}, Convert},
         {group, u"rule"_s, u"OCCURRENCE WEEKDAY MONTH"_s, 3, 3, {}, Rule},

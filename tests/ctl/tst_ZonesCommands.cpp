@@ -38,6 +38,8 @@ private Q_SLOTS:
     void KeepsAFileThatItCannotRead();
     void KeepsABinaryFile();
     void TellsWhenTheFileCannotBeWritten();
+    void DescribesAZone();
+    void DescribesAZoneThroughAFile();
     void ShowsTheLocalZone();
     void ListsTheDatabase();
     void ListsProfiles();
@@ -122,6 +124,31 @@ void tst_ZonesCommands::TellsWhenTheFileCannotBeWritten() {
     const CompanionAnswer answer = Run(companion, {u"show"_s, u"UTC"_s, u"--file"_s, path});
     QCOMPARE(answer.Status, 1);
     QCOMPARE(answer.Object()[u"StandardName"_s], u"UTC"_s);
+}
+
+void tst_ZonesCommands::DescribesAZone() {
+    const CompanionAnswer answer = Run(Companion(), {u"describe"_s, u"GMT Standard Time"_s});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(answer.Object()[u"text"_s].toString(),
+             u"GMT Standard Time Begins on  Last Sunday in October (25/10/2026) at 2:00:00\r\n"
+             "GMT Daylight Time Begins on  Last Sunday in March (29/03/2026) at 1:00:00\r\n"
+             "\r\n"
+             "GMT Standard Time is 0 hour(s) after Greenwich Standard Time\r\n"
+             "GMT Daylight Time is 1 hour(s) after Greenwich Standard Time\r\n"
+             "\r\n"
+             "GMT Standard Time is 4 hour(s) and 30 Minutes  later than Local Time"_s);
+}
+
+void tst_ZonesCommands::DescribesAZoneThroughAFile() {
+    const Companion companion;
+    const QString path = companion.Write(u"zone.ini"_s, "Time Zone Standard GMT (Minutes)=90\r\n");
+    const CompanionAnswer answer =
+        Run(companion, {u"describe"_s, u"Tokyo Standard Time"_s, u"--file"_s, path});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(answer.Object()[u"text"_s].toString(),
+             u"\r\nTokyo Standard Time is 1 hour(s) and 30 Minutes before "
+             "Greenwich Standard Time\r\n\r\n"
+             "Tokyo Standard Time is 7 hour(s)  later than Local Time"_s);
 }
 
 void tst_ZonesCommands::ShowsTheLocalZone() {
@@ -250,6 +277,9 @@ void tst_ZonesCommands::RefusesOtherArguments_data() {
     QTest::newRow("show without a name") << QStringList{u"show"_s};
     QTest::newRow("file without a name")
         << QStringList{u"show"_s, u"UTC"_s, u"--file"_s, QString()};
+    QTest::newRow("describe without a name") << QStringList{u"describe"_s};
+    QTest::newRow("description of a file without a name")
+        << QStringList{u"describe"_s, u"UTC"_s, u"--file"_s, QString()};
     QTest::newRow("moment") << QStringList{u"name-at"_s, u"UTC"_s, u"noon"_s};
     QTest::newRow("no such day") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-30T00:00:00"_s};
     QTest::newRow("no such hour") << QStringList{u"name-at"_s, u"UTC"_s, u"2026-02-03T24:00:00"_s};
