@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "platform/TzAliases.h"
+
 using namespace Qt::StringLiterals;
 
 namespace platform {
@@ -111,6 +113,33 @@ std::optional<QByteArray> TzZoneDatabase::TziValue(const QString& subkey) const 
         return std::nullopt;
     }
     return TziBytes(RuleOf(iana));
+}
+
+const TzPlaces& TzZoneDatabase::Places() const {
+    if (!places_) {
+        places_ = TzPlaces::OfThisMachine();
+    }
+    return *places_;
+}
+
+std::optional<ZonePlace> TzZoneDatabase::Place(const QString& subkey) const {
+    const QByteArray iana = IanaOf(subkey);
+    for (const QByteArray& id : {iana, TzPresentId(iana)}) {
+        if (const auto place = Places().PlaceOf(id)) {
+            return place;
+        }
+    }
+    for (const QByteArray& id : QTimeZone::windowsIdToIanaIds(subkey.toUtf8())) {
+        if (const auto place = Places().PlaceOf(id); place && TzWindowsName(id) == subkey) {
+            return place;
+        }
+    }
+    return std::nullopt;
+}
+
+QStringList TzZoneDatabase::Countries(const QString& subkey) const {
+    const bool isOwn = !index_.contains(subkey);
+    return isOwn ? Places().CountriesOfIana(IanaOf(subkey)) : Places().CountriesOf(subkey);
 }
 
 TimeZoneInformation TzZoneDatabase::GetTimeZoneInformation() const {

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <vector>
 
+#include "platform/TzPlaces.h"
 #include "platform/TzRule.h"
 #include "platform/TzWindowsZones.h"
 #include "platform/WallClock.h"
@@ -33,6 +34,11 @@ public:
     std::optional<QString> TextValue(const QString& subkey, const QString& name) const override;
     std::optional<QByteArray> TziValue(const QString& subkey) const override;
 
+    /// The place of the city that gives the zone's identifier its name, such as New York for
+    /// "Eastern Standard Time"; of the first city in the zone where the identifier names none.
+    std::optional<ZonePlace> Place(const QString& subkey) const override;
+    QStringList Countries(const QString& subkey) const override;
+
     /// Result 0 for a zone that keeps one offset through the present year, else 1 or 2; 1 for
     /// "Local time". Both names are those of the machine's subkey.
     TimeZoneInformation GetTimeZoneInformation() const override;
@@ -57,6 +63,7 @@ private:
     QByteArray LocalIana() const;
     TzRule RuleOf(const QByteArray& iana) const;
     QString CitiesOf(const QString& subkey) const;
+    const TzPlaces& Places() const;
 
     const WallClock& clock_;
     QByteArray namedIana_;
@@ -68,6 +75,7 @@ private:
     mutable int year_ = 0;
     mutable QHash<QByteArray, TzYear> years_;
     mutable std::optional<LocalSubkey> local_;
+    mutable std::optional<TzPlaces> places_;
 };
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -51,6 +52,14 @@ enum class ZoneRoot {
     Unreadable  ///< the root opens, but it can't be asked what it holds
 };
 
+/// A place on the earth, in degrees: north and east are positive.
+struct ZonePlace {
+    double Latitude = 0;
+    double Longitude = 0;
+
+    bool operator==(const ZonePlace&) const = default;
+};
+
 /// The system's zone database: subkeys (one a zone) with text values and the binary "TZI".
 class ZoneDatabase {
 public:
@@ -68,6 +77,13 @@ public:
     /// (signed 32-bit minutes, the last two relative to the first) and the two transitions
     /// `StandardDate` and `DaylightDate`, 16 bytes each. Nothing if it can't be read.
     virtual std::optional<QByteArray> TziValue(const QString& subkey) const = 0;
+
+    /// Where the main city of a subkey's zone lies; nothing where the machine can't tell.
+    virtual std::optional<ZonePlace> Place(const QString&) const { return std::nullopt; }
+
+    /// The English names of the countries that keep the time of a subkey's zone, as far as the
+    /// machine can tell.
+    virtual QStringList Countries(const QString&) const { return {}; }
 
     virtual TimeZoneInformation GetTimeZoneInformation() const = 0;
 

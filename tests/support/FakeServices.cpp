@@ -79,6 +79,16 @@ std::optional<QByteArray> FakeZoneDatabase::TziValue(const QString& subkey) cons
     return zone == nullptr ? std::nullopt : zone->Tzi;
 }
 
+std::optional<platform::ZonePlace> FakeZoneDatabase::Place(const QString& subkey) const {
+    const auto found = Places.find(subkey);
+    return found == Places.end() ? std::nullopt : std::optional(found->second);
+}
+
+QStringList FakeZoneDatabase::Countries(const QString& subkey) const {
+    const auto found = CountryNames.find(subkey);
+    return found == CountryNames.end() ? QStringList() : found->second;
+}
+
 int FakeDialogs::MessageBox(const QString& text, int flags, const QString& title) {
     Boxes.push_back({text, flags, title});
     if (BoxAnswers.empty()) {

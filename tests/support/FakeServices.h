@@ -23,6 +23,8 @@ public:
 
     platform::ZoneRoot Root = platform::ZoneRoot::Opened;
     std::vector<Zone> Subkeys;
+    std::map<QString, platform::ZonePlace> Places;  ///< by subkey
+    std::map<QString, QStringList> CountryNames;    ///< by subkey
     platform::TimeZoneInformation Local;
     QString LocalName;
     bool NT = true;
@@ -41,6 +43,8 @@ public:
     std::optional<QString> SubkeyName(int index) const override;
     std::optional<QString> TextValue(const QString& subkey, const QString& name) const override;
     std::optional<QByteArray> TziValue(const QString& subkey) const override;
+    std::optional<platform::ZonePlace> Place(const QString& subkey) const override;
+    QStringList Countries(const QString& subkey) const override;
     platform::TimeZoneInformation GetTimeZoneInformation() const override { return Local; }
     QString LocalStandardName() const override { return LocalName; }
     bool IsWindowsNT() const override { return NT; }

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "platform/ZoneDatabase.h"
+
+namespace platform {
+
+/// A place in the form of ISO 6709, degrees and minutes with or without seconds: "+404251-0740023"
+/// is New York. Nothing for any other text and beyond the poles or the date line.
+std::optional<ZonePlace> ParseTzPlace(const QByteArray& text);
+
+/// The tz database's table of zones: where the main city of each lies, and in which country.
+class TzPlaces {
+public:
+    /// @p table holds lines of "countries TAB place TAB identifier", as "zone.tab" does; a line
+    /// that begins with "#" or can't be read is left out, and so is the second of an identifier.
+    explicit TzPlaces(const QByteArray& table);
+
+    /// The tables of this machine; without them nothing is known.
+    static TzPlaces OfThisMachine();
+
+    std::optional<ZonePlace> PlaceOf(const QByteArray& iana) const;
+
+    /// The English names of the countries that keep a zone of that CLDR name, in order.
+    QStringList CountriesOf(const QString& windowsName) const;
+    /// Those of one identifier.
+    QStringList CountriesOfIana(const QByteArray& iana) const;
+
+private:
+    struct Row {
+        QByteArray Iana;
+        ZonePlace Place;
+        QStringList Countries;
+    };
+    const Row* Find(const QByteArray& iana) const;
+    void Take(const QByteArray& line);
+
+    std::vector<Row> rows_;
+    QHash<QByteArray, std::size_t> index_;
+    mutable QHash<QString, QStringList> countries_;  ///< by CLDR name; filled when first asked for
+};
+
+}  // namespace platform
