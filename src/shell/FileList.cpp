@@ -1,14 +1,10 @@
 #include "shell/FileList.h"
 
-#include <QStringList>
-
 #include "foundation/FileHelpers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace shell {
-
-namespace {
 
 QStringList PropertyFileNames(const platform::Files& files, const QString& folder) {
     QStringList names;
@@ -20,8 +16,6 @@ QStringList PropertyFileNames(const platform::Files& files, const QString& folde
     names.sort(Qt::CaseInsensitive);
     return names;
 }
-
-}  // namespace
 
 void FillFileList(MenuArray& menu, const platform::Files& files, const QString& folder,
                   const QString& lastCaption, int maximum) {

@@ -14,6 +14,8 @@ public:
     /// One step: while the line holds several messages, its left end moves on by a character.
     void Tick();
 
+    void Clear() { panel_.clear(); }
+
     const QString& Panel() const { return panel_; }
 
 private:

@@ -1,25 +1,38 @@
 #include "shell/ui/frmMain.h"
 
 #include <QCloseEvent>
-#include <QMdiSubWindow>
-#include <QStatusBar>
+#include <QMenuBar>
 
 #include "clock/ui/frmTempolark.h"
 #include "foundation/FileHelpers.h"
+#include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SetupPaths.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
-#include "shell/ui/MessagePanel.h"
+#include "shell/ui/ClockArea.h"
+#include "shell/ui/HeaderArt.h"
+#include "shell/ui/ShellFrame.h"
+#include "shell/ui/ShellMenus.h"
+#include "shell/ui/StatusBar.h"
+#include "shell/ui/ToolBar.h"
 #include "timezones/StartZone.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int BusyInterval = 400;  // milliseconds, while the message line holds something
-constexpr int IdleInterval = 10000;
+constexpr int FirstInterval = 1;  // milliseconds: the first tick comes when the window stands
+
+/// The pictures of the eye, of which the status bar shows one at a time.
+std::vector<QIcon> EyeFrames(const QString& folder) {
+    std::vector<QIcon> frames;
+    for (int i = 1; i <= shell::Eye::Frames; ++i) {
+        frames.emplace_back(u"%1/eye-%2.svg"_s.arg(folder).arg(i, 2, 10, QChar(u'0')));
+    }
+    return frames;
+}
 
 }  // namespace
 
@@ -29,7 +42,9 @@ frmMain::frmMain(const Program& program)
       launcher_(
           program, lastOpened_, [this] { return new frmTempolark(program_, this, area_); },
           [this](const QString& text) { ShowStatusMsg(text); }),
-      timerCtrl_(program.Services.Clock.MakeTicker([this] { TimerCtrl(); })) {
+      timerCtrl_(program.Services.Clock.MakeTicker([this] { TimerCtrl(); })),
+      balloonTips_{CBalloonToolTip(program.Services.Clock),
+                   CBalloonToolTip(program.Services.Clock)} {
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Tempolark Central"_s);
     program_.Windows.Add(*this);
@@ -43,37 +58,51 @@ frmMain::~frmMain() {
 }
 
 void frmMain::MakeInnerParts() {
-    area_ = new QMdiArea(this);
-    area_->setObjectName(u"area"_s);
-    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
-    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    setCentralWidget(area_);
-
-    header_ = new QLabel(u"Press Launch to open a clock"_s, area_->viewport());
-    header_->setObjectName(u"header"_s);
-    header_->setAlignment(Qt::AlignCenter);
-    header_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const QString pictures = program_.Module.Paths.AppFolder + u"/Images"_s;
+    menus_ = new ShellMenus(this, menuState_,
+                            {[this](const QString& menu) { RefreshMenu(menu); },
+                             [this](const QString& name, int index) { ClickMenu(name, index); }});
+    menus_->AddTo(*menuBar());
+    HandleFileMenus();
+    HandleCentralMenus();
+    HandleClockMenus();
+    toolbar_ = new ToolBar(
+        pictures,
+        {[this](int index) { HandleToolButton(index); }, [this](int index) { ShowToolTip(index); },
+         [this](const QPoint& at) { menus_->Popup(u"ToolBarMenu"_s, at); }},
+        this);
+    area_ = new ClockArea(this);
+    statusBar_ = new StatusBar(EyeFrames(pictures + u"/Shell"_s), this);
+    statusBar_->OnMenu = [this](const QPoint& at) { menus_->Popup(u"StatusBarMenu"_s, at); };
+    frame_ = new ShellFrame(area_, toolbar_, statusBar_, this);
+    setCentralWidget(frame_);
+    MakeHeader();
     area_->viewport()->installEventFilter(this);
+    connect(area_, &QMdiArea::subWindowActivated, this, [this] { ShowHeaderWhenEmpty(); });
+}
 
-    messagePanel_ = new MessagePanel(this);
-    messagePanel_->setObjectName(u"messagePanel"_s);
-    timePanel_ = new QLabel(this);
-    timePanel_->setObjectName(u"timePanel"_s);
-    statusBar()->addWidget(messagePanel_, 1);
-    statusBar()->addPermanentWidget(timePanel_);
-    MakeToolbar();
+void frmMain::MakeHeader() {
+    header_ = new HeaderArt(program_,
+                            {[this] { OpenTimeZones(); },
+                             [this](const QPoint& at) { menus_->Popup(u"MainMenu"_s, at); },
+                             [this] {
+                                 if (!area_->subWindowList().isEmpty()) {
+                                     SetHeaderVisible(false);
+                                 }
+                             }},
+                            area_->viewport());
 }
 
 bool frmMain::Load() {
+    shellStage_ = 2;
     if (!ConfigSetup()) {
         return false;
     }
     Arrange(shell::Arrangement::Cascade);
     lastOpened_.LoadOpenedForms(program_.Services.FileSystem,
                                 program_.Module.Paths.OpenedFormsFile());
-    lastOpened_.FillLastOpenedMenu(fileItem_, program_.Services.FileSystem, program_.Module.Paths);
+    lastOpened_.FillLastOpenedMenu(menuState_[u"FileItem"_s], program_.Services.FileSystem,
+                                   program_.Module.Paths);
     ApplyCentralProperties(false);
     if (IsScreenSaverRun()) {
         ApplyScreenSaverLook();
@@ -84,8 +113,11 @@ bool frmMain::Load() {
         [this](const QString& name) { return LaunchTempolark(name) != 0; });
     launchedAny = LaunchNamedClock() || launchedAny;
     SetHeaderVisible(!launchedAny);
-    timerCtrl_->SetInterval(BusyInterval);
+    timerCtrl_->SetInterval(FirstInterval);
     ShowAtStart();
+    if (!launchedAny) {
+        header_->ShowHeaderAnimation(Setting(u"Heading Variation"_s));
+    }
     return true;
 }
 
@@ -120,26 +152,6 @@ void frmMain::TellUnreadableLists() {
             ShowStatusMsg(u"%1 can't be read as a property file; it is left as it is"_s.arg(file));
         }
     }
-}
-
-void frmMain::SetHeaderVisible(bool visible) {
-    header_->setVisible(visible);
-    PlaceHeader();
-}
-
-void frmMain::PlaceHeader() {
-    QFont font = header_->font();
-    font.setPointSize(18);
-    header_->setFont(font);
-    header_->setGeometry(area_->viewport()->rect());
-    header_->lower();
-}
-
-bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && watched == area_->viewport()) {
-        PlaceHeader();
-    }
-    return QMainWindow::eventFilter(watched, event);
 }
 
 int frmMain::LaunchTempolark(const QString& name) {
@@ -196,40 +208,42 @@ void frmMain::SetWindowState(int state) {
     }
 }
 
-void frmMain::ShowStatusMsg(const QString& text) {
-    status_.ShowStatusMsg(text);
-    timerCtrl_->SetInterval(BusyInterval);
-    RefreshPanels();
-}
-
 int frmMain::ShowMsgbox(const QString& text, int flags, const QString& title) {
     return program_.Services.Dialog.MessageBox(text, flags, title);
-}
-
-void frmMain::TimerCtrl() {
-    status_.Tick();
-    timerCtrl_->SetInterval(status_.Panel().isEmpty() ? IdleInterval : BusyInterval);
-    RefreshPanels();
-}
-
-void frmMain::RefreshPanels() {
-    messagePanel_->SetText(status_.Panel());
-    const QString time = program_.Services.Clock.Now().time().toString(u"hh:mm"_s);
-    if (timePanel_->text() != time) {
-        timePanel_->setText(time);
-    }
 }
 
 QString frmMain::Setting(const QString& name) const {
     return mduLib::GetProperty(name, centralProperties_);
 }
 
-int frmMain::RefreshForm(const QString&) {
-    centralProperties_ = program_.Module.CurrentProperties;
-    ApplyCentralProperties(true);
-    return 0;
+int frmMain::RefreshForm(const QString& zoneName) {
+    // "True" and "False" both count as 0: a new clock is launched by the property window's own
+    // button, and what was saved always reaches the shell.
+    int handle = 0;
+    if (!zoneName.isEmpty() && mduAPILib::Val(newClockTag_) != 0) {
+        handle = LaunchTempolark(zoneName);
+        newClockTag_ = u"False"_s;
+    } else {
+        centralProperties_ = program_.Module.CurrentProperties;
+        ApplyCentralProperties(true);
+        header_->ApplyHeaderStyle(Setting(u"Heading Variation"_s));
+    }
+    return handle;
 }
 
-// The shell's own voice comes with the voices.
-void frmMain::SpeakMessage(const QString&) {}
-void frmMain::PurgeSpeech() {}
+void frmMain::SpeakMessage(const QString& text) {
+    if (!voice_) {
+        voice_ = program_.Services.Speech.MakeVoice();
+    }
+    constexpr int atOnce = 1;  // the shell goes on while its voice speaks
+    if (voice_ && !text.isEmpty() && !voice_->Speak(text, atOnce)) {
+        ShowStatusMsg(voice_->LastError());
+    }
+}
+
+void frmMain::PurgeSpeech() {
+    constexpr int purge = 2;
+    if (voice_) {
+        voice_->Speak(u"."_s, purge);
+    }
+}

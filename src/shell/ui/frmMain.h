@@ -1,19 +1,26 @@
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
-#include <QMdiArea>
+#include <QPointer>
+#include <array>
+#include <functional>
+#include <map>
 
 #include "foundation/Program.h"
+#include "foundation/ui/CBalloonToolTip.h"
 #include "shell/Arrangement.h"
+#include "shell/Eye.h"
 #include "shell/LastOpened.h"
 #include "shell/Launcher.h"
-#include "shell/MenuArray.h"
+#include "shell/MenuState.h"
 #include "shell/StatusMessages.h"
 
-class MessagePanel;
-class QMenu;
-class QToolButton;
+class ClockArea;
+class HeaderArt;
+class ShellFrame;
+class ShellMenus;
+class StatusBar;
+class ToolBar;
 
 /// The shell: a multiple-document frame that hosts the clocks, launches them and acts on them.
 class frmMain final : public QMainWindow, public IForm, public IShell {
@@ -33,6 +40,13 @@ public:
     QString AppEXEName() const;
     QString DefaultIniFile() const { return program_.Module.Paths.CentralDefaultFile(); }
     QString IniFile() const { return program_.Module.Paths.CentralFile; }
+
+    /// Opens the shell's own settings, or the defaults of a new clock.
+    void ShowCentralProperties(bool forNewClock);
+
+    /// The help of the shell, or of the file @p name; the window in front tells the page.
+    void ShowHelp(const QString& name = {});
+    void ShowClockHelp();
 
     // IForm
     QString Name() const override { return QStringLiteral("frmMain"); }
@@ -59,62 +73,102 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // Start and stop (frmMain.cpp)
     void MakeInnerParts();
+    void MakeHeader();
     bool LaunchNamedClock();
     void TellUnreadableLists();
-    void SetHeaderVisible(bool visible);
-    void PlaceHeader();
     void ExitShell();
     bool SaveOpenedForms();
+
+    // The run of timerCtrl, the header and the panels (frmMainStages.cpp)
     void TimerCtrl();
-    void RefreshPanels();
+    void FirstTick();
+    void MessageTick();
+    void FillLateMenus();
+    void ShowEye();
+    void ShowTime();
+    void SetHeaderVisible(bool visible);
+    void ArrangeHeader();
+    void ShowHeaderWhenEmpty();
 
     // Settings (frmMainSettings.cpp)
     void ApplyCentralProperties(bool keepPlacement);
     void ApplyPlacement();
+    void ApplyWindowBorder(const QString& border);
+    void ApplyTitleBar(bool shown);
+    void ApplyToolbarPosition(const QString& value);
+    void ApplyStatusBarPosition(const QString& value);
+    void ApplyBackgroundFile();
     int StoredWindowState() const;
     void LayOutHidden();
     bool IsScreenSaverRun() const;
     void ApplyScreenSaverLook();
     void ShowAtStart();
     void SetBackgroundColour(const QString& colourName);
+    void WriteSetting(const QString& key, const QString& value);
+    void SaveCentralSettings();
     void SaveWindowPlacement();
+    void SaveToolbarLayout();
 
-    // Menus and commands (frmMainMenus.cpp)
-    void MakeToolbar();
-    QToolButton* AddButton(const QString& tag, const QString& toolTip, QMenu* menu);
-    QMenu* MakeFileMenu();
+    // What the menus show (frmMainMenus.cpp)
+    void RefreshMenu(const QString& menu);
     void FillFileMenu();
-    void FillZoneMenu(QMenu& menu);
-    QMenu* MakeOpenedMenu(const QString& tag);
-    void FillOpenedAction(const QString& tag, QMenu& menu);
-    void RunOpenedItem(const QString& tag, int index);
-    QMenu* MakeWindowMenu();
-    void FillWindowMenu(QMenu& menu);
-    void OpenLast(int index);
-    void Arrange(shell::Arrangement code);
+    void FillOpenedAction();
+    void RefreshAgentMenu();
+    void RefreshCentralMenu();
+    void RefreshMainMenu();
+    void RefreshWindowMenu();
+    void ShowWindowMenu(const QPoint& onScreen);
     IForm* ActiveChild() const;
+
+    // Buttons and the windows that they open (frmMainCommands.cpp)
+    void HandleToolButton(int index);
+    void ShowToolTip(int index);
+    void PopupAtButton(int index, const QString& menu);
+    void OpenProperties();
+    void OpenShortcuts();
+    void OpenTimeZones();
+    void LaunchDatebrook();
+    void OpenHelp(const QString& name, int otherwise);
+
+    // What the entries of the menus do (frmMainMenuCommands.cpp)
+    void ClickMenu(const QString& name, int index);
+    void HandleFileMenus();
+    void HandleCentralMenus();
+    void HandleClockMenus();
+    void OpenLast(const shell::MenuItem& item);
+    void RemoveZone(const shell::MenuItem& item);
+    void RemoveZoneNow(const QString& name);
+    void RunOpenedItem(int index);
+    void Arrange(shell::Arrangement code);
 
     Program program_;
     int handle_;
+    int shellStage_ = 2;  ///< 2 until the first tick of timerCtrl, 3 for the next, then 1
     int backColour_ = 0;
     QSize normalSize_;
+    QString newClockTag_ = QStringLiteral("False");
     ClockProperties centralProperties_;
     shell::LastOpened lastOpened_;
     shell::Launcher launcher_;
     shell::StatusMessages status_;
+    shell::Eye eye_;
+    shell::MenuState menuState_;
+    std::map<QString, std::function<void(int index, const shell::MenuItem&)>> handlers_;
     std::unique_ptr<platform::Ticker> timerCtrl_;
+    std::unique_ptr<platform::Voice> voice_;
+    std::array<CBalloonToolTip, 2> balloonTips_;
 
-    shell::MenuArray timeZone_, fileItem_, opened_, openedWindow_;
-    QMenu* openMenu_ = nullptr;
-    QMenu* lastOpenedMenu_ = nullptr;
-
-    QMdiArea* area_ = nullptr;
-    QLabel* header_ = nullptr;
-    MessagePanel* messagePanel_ = nullptr;
-    QLabel* timePanel_ = nullptr;
+    ClockArea* area_ = nullptr;
+    HeaderArt* header_ = nullptr;
+    ToolBar* toolbar_ = nullptr;
+    StatusBar* statusBar_ = nullptr;
+    ShellFrame* frame_ = nullptr;
+    ShellMenus* menus_ = nullptr;
+    QPointer<QWidget> timeZones_;
 };

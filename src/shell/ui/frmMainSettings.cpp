@@ -1,29 +1,120 @@
 // The shell's own settings: what it applies at its start and keeps at its end.
-#include <QLabel>
+#include <QGuiApplication>
+#include <QMenuBar>
 #include <QScreen>
-#include <QStatusBar>
-#include <QToolBar>
 
 #include "drawing/Surface.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/Twips.h"
+#include "shell/CentralSettings.h"
 #include "shell/ClockCommands.h"
+#include "shell/ToolbarLook.h"
+#include "shell/ui/ClockArea.h"
+#include "shell/ui/HeaderArt.h"
+#include "shell/ui/ShellFrame.h"
+#include "shell/ui/StatusBar.h"
+#include "shell/ui/ToolBar.h"
 #include "shell/ui/frmMain.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The place moved so that enough of the window can be seen and taken hold of on some screen.
+QRect WithinReach(QRect place) {
+    constexpr int grip = 60;  // pixels
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect seen = place & screen->availableGeometry();
+        if (seen.width() >= grip && seen.height() >= grip &&
+            place.top() >= screen->availableGeometry().top()) {
+            return place;
+        }
+    }
+    const QRect whole = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto bring = [](int from, int extent, int least, int room) {
+        return std::clamp(from, least, std::max(least, least + room - extent));
+    };
+    place.moveTo(bring(place.x(), place.width(), whole.left(), whole.width()),
+                 bring(place.y(), place.height(), whole.top(), whole.height()));
+    return place;
+}
+
+}  // namespace
 
 void frmMain::ApplyCentralProperties(bool keepPlacement) {
     if (!keepPlacement) {
         ApplyPlacement();
     }
-    const auto value = [this](const QString& key) {
-        return mduLib::GetProperty(key, centralProperties_);
-    };
-    statusBar()->setVisible(mduUILib::YesNoToBool(value(u"Status Bar"_s)));
-    SetBackgroundColour(value(u"Window Background Colour"_s));
+    toolbar_->ApplyToolbarSize(Setting(u"Toolbar Size"_s));
+    ApplyToolbarPosition(Setting(u"Tool Bar"_s));
+    ApplyStatusBarPosition(Setting(u"Status Bar"_s));
+    // A picker belongs to a click; a file that asks for one leaves the colour as it is.
+    const QString colour = Setting(u"Window Background Colour"_s);
+    SetBackgroundColour(mduUILib::IsCustomColour(colour) ? u"Transparent"_s : colour);
+    ApplyWindowBorder(Setting(u"Window Border"_s));
+    ApplyTitleBar(mduUILib::YesNoToBool(Setting(u"Window Title Bar"_s)));
+    header_->SetVersionLocation(u"Version "_s + QCoreApplication::applicationVersion());
+    header_->ApplyHeaderStyle(Setting(u"Heading Variation"_s));
+}
+
+// The border that a frame around the clocks has: none, sunken, or a plain line.
+void frmMain::ApplyWindowBorder(const QString& border) {
+    switch (mduUILib::WindowBorderValue(border)) {
+        case 3:
+            area_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+            break;
+        case 7:
+            area_->setFrameStyle(QFrame::Box | QFrame::Plain);
+            break;
+        default:
+            area_->setFrameStyle(QFrame::NoFrame);
+    }
+}
+
+void frmMain::ApplyTitleBar(bool shown) {
+    const bool has = !(windowFlags() & Qt::FramelessWindowHint);
+    if (has == shown) {
+        return;
+    }
+    // The window system takes the window off the screen to change this.
+    const bool visible = isVisible();
+    setWindowFlag(Qt::FramelessWindowHint, !shown);
+    if (visible) {
+        show();
+    }
+}
+
+void frmMain::ApplyToolbarPosition(const QString& value) {
+    const shell::ToolbarPlace place = shell::ToolbarPosition(value);
+    if (place.Align != shell::Align::Unsaid) {
+        toolbar_->SetAlign(place.Align);
+        frame_->PlaceToolbar(place.Align);
+    }
+    toolbar_->SetBorder(place.Border);
+    toolbar_->setVisible(place.Visible);
+}
+
+void frmMain::ApplyStatusBarPosition(const QString& value) {
+    const shell::StatusBarPlace place = shell::StatusBarPosition(value);
+    if (place.Align != shell::Align::Unsaid) {
+        statusBar_->SetAlign(place.Align);
+        frame_->PlaceStatusBar(place.Align);
+    }
+    statusBar_->setVisible(place.Visible);
+}
+
+void frmMain::ApplyBackgroundFile() {
+    const QString stored = Setting(u"Window Background File"_s);
+    const QString path = mduLib::ResolveAppPath(stored.trimmed(), program_.Module.Paths.AppFolder);
+    std::shared_ptr<const QImage> picture;
+    if (mduLib::FileExists(program_.Services.FileSystem, path)) {
+        picture = program_.Module.Pictures.Load(program_.Services.FileSystem, path);
+    }
+    area_->SetPicture(picture ? QPixmap::fromImage(*picture) : QPixmap());
 }
 
 void frmMain::ApplyPlacement() {
@@ -40,8 +131,9 @@ void frmMain::ApplyPlacement() {
     const auto place = [](double twips, int from, int room) {
         return twips == -1 ? from + room / 2 : mduAPILib::RoundToInteger(twips / TwipsPerPixel);
     };
-    move(place(number(u"Window Left"_s), whole.left(), whole.width() - width()),
-         place(number(u"Window Top"_s), whole.top(), whole.height() - height()));
+    const QPoint corner(place(number(u"Window Left"_s), whole.left(), whole.width() - width()),
+                        place(number(u"Window Top"_s), whole.top(), whole.height() - height()));
+    move(WithinReach({corner, QWidget::size()}).topLeft());
     normalSize_ = QWidget::size();
     // The clocks that start by themselves are sized by the shell as it will be seen.
     if (StoredWindowState() == 2) {
@@ -66,8 +158,10 @@ bool frmMain::IsScreenSaverRun() const {
 // Over everything, as large as the screen, with nothing around the clocks.
 void frmMain::ApplyScreenSaverLook() {
     setWindowFlag(Qt::WindowStaysOnTopHint);
-    findChild<QToolBar*>()->hide();
-    statusBar()->hide();
+    setWindowFlag(Qt::FramelessWindowHint);
+    toolbar_->hide();
+    statusBar_->hide();
+    menuBar()->hide();
     setGeometry(screen()->geometry());
 }
 
@@ -81,16 +175,46 @@ void frmMain::ShowAtStart() {
 }
 
 void frmMain::SetBackgroundColour(const QString& colourName) {
-    if (colourName.trimmed().toLower() != u"transparent"_s) {
+    QString name = colourName;
+    if (mduUILib::IsCustomColour(colourName)) {
+        const int picked = program_.Services.Dialog.PickColour(backColour_);
+        if (picked < 0) {
+            return;
+        }
+        backColour_ = picked;
+        name = mduUILib::ColourName(picked);
+    } else if (colourName.trimmed().toLower() != u"transparent"_s) {
         backColour_ = mduUILib::ColourValue(QString(colourName), program_.Services.Random);
     }
-    const QColor colour(drawing::ToRgb(backColour_));
-    area_->setBackground(colour);
-    QPalette palette = header_->palette();
-    palette.setColor(QPalette::WindowText,
-                     colour.lightness() > 128 ? QColor(40, 50, 65) : QColor(225, 230, 238));
-    header_->setPalette(palette);
+    area_->setBackground(QColor(drawing::ToRgb(backColour_)));
+    header_->SetBackColour(backColour_);
     shell::SyncClockBackColours(program_.Windows, backColour_);
+    if (name != Setting(u"Window Background Colour"_s)) {
+        WriteSetting(u"Window Background Colour"_s, name);
+    }
+}
+
+// Toggles are written at once, so that they outlast a crash.
+void frmMain::WriteSetting(const QString& key, const QString& value) {
+    mduLib::PutProperty(key, value, centralProperties_);
+    if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, centralProperties_, IniFile())) {
+        ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
+    }
+}
+
+void frmMain::SaveCentralSettings() {
+    shell::SaveCentralLook({backColour_, toolbar_->AlignCode(), toolbar_->isVisibleTo(frame_),
+                            toolbar_->SizeName(), statusBar_->isVisibleTo(frame_), WindowState()},
+                           centralProperties_);
+    if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, centralProperties_, IniFile())) {
+        ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
+    }
+}
+
+// Which buttons the user has kept. Every start sets the bar up from the catalogue all the same.
+void frmMain::SaveToolbarLayout() {
+    program_.Services.Settings.SetValue(u"TempolarkCentralToolbar"_s,
+                                        program_.Module.Paths.UserName, toolbar_->Layout());
 }
 
 void frmMain::SaveWindowPlacement() {
@@ -112,5 +236,14 @@ void frmMain::SaveWindowPlacement() {
         store(u"Window Width"_s, width());
         store(u"Window Height"_s, height());
     }
+    // A screen-saver run hides the bar for its own time only.
+    if (!IsScreenSaverRun()) {
+        mduLib::PutProperty(
+            u"Tool Bar"_s,
+            mduUILib::ToolbarPositionName(toolbar_->AlignCode(), toolbar_->isVisibleTo(frame_)),
+            centralProperties_);
+        mduLib::PutProperty(u"Toolbar Size"_s, toolbar_->SizeName(), centralProperties_);
+    }
     mduLib::RewritePropertyFile(files, centralProperties_, file);
+    SaveToolbarLayout();
 }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <map>
+
+#include "shell/MenuArray.h"
+#include "shell/MenuCatalogue.h"
+
+namespace shell {
+
+/// What the shell's menus hold at this moment: each named entry is an array of items, as the
+/// catalogue begins it.
+class MenuState {
+public:
+    MenuState();
+
+    /// The array of that name; an empty one of one hidden item for an unknown name.
+    MenuArray& operator[](const QString& name) { return arrays_[name]; }
+
+private:
+    void Take(const MenuEntry& entry);
+
+    std::map<QString, MenuArray> arrays_;
+};
+
+inline bool IsSeparator(const MenuItem& item) {
+    return item.Caption == QStringLiteral("-");
+}
+
+}  // namespace shell

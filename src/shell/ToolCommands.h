@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+
+/// The catalogue of the toolbar's commands.
+namespace shell {
+
+/// The buttons by their numbers. 13 and 18 are separators.
+namespace Tool {
+enum : int {
+    Launch = 1,
+    Close,
+    Disable,
+    Enable,
+    Maximize,
+    Minimize,
+    Restore,
+    AutoStart,
+    Property,
+    Shortcut,
+    Timezone,
+    ClockAgent,
+    CProperty = 14,
+    ManageClocks,
+    OrganizeWindows,
+    Datebrook,
+    Help = 19,
+    Exit,
+    Count = Exit
+};
+}  // namespace Tool
+
+/// One button as it is set up. A separator has an empty Key and no picture.
+struct ToolButton {
+    int Image = 0;  ///< 1 to 18, counted over the buttons that are no separators
+    QString Key;    ///< `"group,index"`, the quotes included: `"1,5"`
+    QString ToolTipText;
+    QString Tag;      ///< the command's short name
+    QString Caption;  ///< the Tag, where the size shows captions
+    QString Description;
+    bool Visible = true;
+};
+
+/// The button of that number from 1 to `Tool::Count`, as it looks at one of the four sizes ("Small
+/// Size", "Large Size with Caption", ...). "Datebrook" is never visible.
+ToolButton SetupToolButton(int index, const QString& sizeName);
+
+/// The number of a button by its Key: what stands behind the comma. 0 for a text without one.
+int ToolIndexOfKey(const QString& key);
+
+}  // namespace shell

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "foundation/Program.h"
+#include "shell/HeaderLetters.h"
+
+class QPushButton;
+
+/// What stands on the shell while no clock is open: seventeen letters in one of a few variations,
+/// where and what this program is, and an invitation to begin.
+class HeaderArt final : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Hooks {
+        std::function<void()> Invited;  ///< the invitation was clicked
+        std::function<void(const QPoint& onScreen)> Menu;
+        std::function<void()> DoubleClick;
+    };
+
+    HeaderArt(const Program& program, Hooks hooks, QWidget* parent);
+
+    /// The opening show; the letters are then placed and coloured by @p headingVariation.
+    void ShowHeaderAnimation(const QString& headingVariation);
+    bool IsMoving() const { return ticker_->Interval() != 0; }
+
+    /// Places and colours the letters by a value of "Heading Variation". "Rotation" leaves the
+    /// places as they are.
+    void ApplyHeaderStyle(const QString& headingVariation);
+
+    /// The same for a code; 5 takes one of the others by chance.
+    void ApplyHeaderCode(int code);
+
+    /// What the letters stand on: red in the low byte.
+    void SetBackColour(int colour);
+    void SetVersionLocation(const QString& text);
+
+    /// The letters as they are drawn at this moment, and their colours.
+    const std::vector<QString>& Letters() const { return letters_; }
+    const std::vector<int>& Colours() const { return colours_; }
+    std::vector<QPointF> Places() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    void EndShow();
+    void PlaceInvitation();
+    QFont LetterFont() const;
+    double Baseline() const;
+    QColor Ink() const;
+
+    Program program_;
+    Hooks hooks_;
+    std::unique_ptr<platform::Ticker> ticker_;
+    QString variation_;
+    int backColour_ = 0;
+    QString versionLocation_;
+    std::vector<QString> letters_;
+    std::vector<double> offsets_;  ///< twips below the line
+    std::vector<int> colours_;
+    shell::HeaderShow show_;
+    QPushButton* invitation_;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QWidget>
+
+class QGridLayout;
+
+/// The inside of the shell's window: the area of the clocks, around it the toolbar and the status
+/// bar, each along any side. The toolbar lies outside the status bar, but for the bottom.
+class ShellFrame final : public QWidget {
+    Q_OBJECT
+
+public:
+    ShellFrame(QWidget* area, QWidget* toolbar, QWidget* statusBar, QWidget* parent);
+
+    void PlaceToolbar(int align);    ///< `shell::Align`
+    void PlaceStatusBar(int align);  ///< the same
+
+private:
+    QGridLayout* grid_;
+    QWidget* toolbar_;
+    QWidget* statusBar_;
+};
