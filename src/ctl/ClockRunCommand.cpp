@@ -147,7 +147,8 @@ int Run(Context& context) {
     auto window = std::make_unique<frmTempolark>(program, &shell, nullptr);
     WatchClock(*window, log.Teller(), face);
     window->setWindowFlag(Qt::FramelessWindowHint);
-    window->setFixedSize(1, 1);  // nobody looks
+    window->setFixedSize(1, 1);
+    window->SetLookedAt(false);
     if (!window->ShowMeMDIChild(name)) {
         return OperationFailed;
     }

@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QRawFont>
 #include <array>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -84,10 +85,17 @@ QPainterPath Outline(const QString& text, const LogFont& font, const QFont& desi
 
 }  // namespace
 
+// Whether a family is installed is asked once: the font database goes through its rules each time,
+// which takes longer than a running message has for a step.
 QString InstalledFamily(const QString& name) {
-    for (const StandIn& standIn : StandIns) {
+    static std::array<std::optional<bool>, std::size(StandIns)> installed;
+    for (std::size_t i = 0; i < std::size(StandIns); ++i) {
+        const StandIn& standIn = StandIns[i];
         if (name.compare(standIn.Name, Qt::CaseInsensitive) == 0) {
-            return QFontDatabase::hasFamily(name) ? name : standIn.Family;
+            if (!installed[i]) {
+                installed[i] = QFontDatabase::hasFamily(name);
+            }
+            return *installed[i] ? name : standIn.Family;
         }
     }
     return name;

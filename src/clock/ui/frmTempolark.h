@@ -98,6 +98,8 @@ public:
     /// The surface as it is seen: transparent outside the window's outline and, for a clock that
     /// stands alone, where the colour key lets the desktop through.
     QImage SeenPicture() const;
+    /// A clock that nobody looks at lays its face out and never paints it.
+    void SetLookedAt(bool lookedAt) { lookedAt_ = lookedAt; }
     /// Takes motions and wipes that are under way to their end.
     void FinishMotions();
     const QString& PendingMessage() const { return messages_.PendingMessage(); }
@@ -213,6 +215,7 @@ private:
     std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
     QRegion outline_;  ///< of the outer window, in device pixels; empty for a plain rectangle
     bool locked_ = false;
+    bool lookedAt_ = true;
     std::function<void(int)> intervalWatcher_;
     std::function<void()> tickWatcher_;
     bool closeWhenSpoken_ = false;  ///< the window has closed while its clock was speaking

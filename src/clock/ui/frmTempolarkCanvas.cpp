@@ -127,8 +127,8 @@ void frmTempolark::ShowChanges() {
 }
 
 bool frmTempolark::CanBeSeen() const {
-    return area_ == nullptr ||
-           (isVisible() && !visibleRegion().isEmpty() && !window()->isMinimized());
+    return lookedAt_ && (area_ == nullptr ||
+                         (isVisible() && !visibleRegion().isEmpty() && !window()->isMinimized()));
 }
 
 int frmTempolark::ParentBackColor() const {
