@@ -93,6 +93,7 @@ class FakeFiles final : public platform::Files {
 public:
     QStringList Unreadable;
     QStringList Unwritable;
+    QStringList Undeletable;
     QStringList Writes;  ///< every path written, in order
 
     bool Exists(const QString& path) const override { return local_.Exists(path); }
@@ -101,7 +102,9 @@ public:
     std::optional<QByteArray> Read(const QString& path) const override;
     bool Write(const QString& path, const QByteArray& content) override;
     bool Copy(const QString& source, const QString& destination) override;
-    bool Delete(const QString& path) override { return local_.Delete(path); }
+    bool Delete(const QString& path) override {
+        return !Undeletable.contains(path) && local_.Delete(path);
+    }
     bool Touch(const QString& path) override {
         return !Unwritable.contains(path) && local_.Touch(path);
     }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "timezones/ZoneList.h"
+
+/// From checked rows to the files that clocks are made of, and back.
+namespace mduTimeZones {
+
+/// What a run over the rows has done; each problem is one line for the status bar.
+struct RowsOutcome {
+    int Files = 0;
+    QStringList Problems;
+};
+
+/// The file of a zone in the user's folder.
+QString ZoneFilePath(const PathTable& paths, const QString& zoneName);
+
+/// Brings a row's file about, over one that is there: a copy of its profile, or the default file
+/// with the six keys of its zone. @return what went wrong; empty when all is well.
+QString MakeZoneFile(const platform::Services& services, const PathTable& paths, ZoneRow& row);
+
+/// Makes the files of the checked rows that have none at this moment, whether the search lists them
+/// or not.
+RowsOutcome SaveCheckedZones(const platform::Services& services, const PathTable& paths,
+                             ZoneList& list);
+
+/// Removes the files of the rows that are listed and checked. One that is gone already is no
+/// problem. It asks nobody.
+RowsOutcome DeleteCheckedZones(const platform::Services& services, const PathTable& paths,
+                               ZoneList& list);
+
+/// "Do you want to save the Tokyo Standard Time, UTC?", from the fourth name on their number.
+QString SaveQuestion(const QStringList& names);
+
+}  // namespace mduTimeZones

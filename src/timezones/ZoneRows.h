@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "foundation/ModuleState.h"
+#include "platform/Services.h"
+#include "timezones/TimeZoneRecord.h"
+
+/// The rows of the window of zones, before any sorting or searching.
+namespace mduTimeZones {
+
+/// Where the rows come from; the numbers are those of the window's modes.
+enum class SourceMode { Windows = 1, Tempolark = 2, Selected = 3, Both = 4 };
+
+/// Which rows are listed, by whether the zone has a file.
+enum class ShowFilter { All, Selected, Unselected };
+
+/// The names of the files of a folder, without ".ini", each with "@" around it: "@London@@UTC@".
+QString ChosenZones(const platform::Files& files, const QString& folder);
+bool IsChosen(const QString& chosenZones, const QString& name);
+
+struct ZoneRow {
+    QString Name;         ///< key and text: the zone's `StandardName`
+    QString DisplayName;  ///< the second column
+    QString ToolTipText;  ///< the full path of the profile; empty for a zone of the database
+    bool Checked = false;
+    bool HasFile = false;  ///< as far as the list knows: files may vanish at any time
+    TimeZoneRecord Record;
+    std::optional<platform::ZonePlace> Place;
+    QString SearchText;  ///< see `ZoneSearch.h`
+};
+using ZoneRows = std::vector<ZoneRow>;
+
+/// What narrows the rows while they are filled in.
+struct RowFilter {
+    ShowFilter Show = ShowFilter::All;
+    QString Chosen;              ///< `ChosenZones` of the folder of zone files
+    std::optional<double> Band;  ///< hours picked on the map, see `MapBand`
+
+    /// Records without a name are never listed.
+    bool Lists(const TimeZoneRecord& record) const;
+};
+
+/// Whether a record lies in the band of the hours @p value, half an hour to either side and both
+/// ends included. Hours count like those of the map: GMT+12 is 0, GMT is 12, GMT-12 is 24.
+bool IsInBand(const TimeZoneRecord& record, double value);
+
+/// Append the rows of records from the database, or from profiles, in array order.
+void FillWindowsRows(ZoneRows& rows, const TimeZoneRecords& records, const RowFilter& filter,
+                     const platform::Services& services);
+void FillProfileRows(ZoneRows& rows, const TimeZoneRecords& records, const RowFilter& filter,
+                     const platform::Services& services);
+
+}  // namespace mduTimeZones
