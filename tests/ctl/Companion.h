@@ -29,7 +29,8 @@ public:
         process.setWorkingDirectory(Folder.path());
         process.setProcessEnvironment(Environment);
         process.start(QStringLiteral(TEMPOLARK_BIN_DIR "/tempolarkctl"), arguments);
-        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
+        constexpr int longestRun = 300'000;  // milliseconds
+        if (!process.waitForFinished(longestRun) || process.exitStatus() != QProcess::NormalExit) {
             return {};
         }
         return {process.exitCode(), process.readAllStandardOutput(),
