@@ -1,7 +1,9 @@
 #include <QJsonArray>
+#include <limits>
 
 #include "ctl/Command.h"
 #include "shell/LastOpened.h"
+#include "shell/StatusMessages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,10 +27,30 @@ int PushOpened(Context& context) {
     return saved ? Done : OperationFailed;
 }
 
+// The line after the last message, then after each tick up to the first that changes nothing.
+int StatusQueue(Context& context) {
+    shell::StatusMessages messages;
+    for (const QString& text : context.Arguments) {
+        messages.ShowStatusMsg(text);
+    }
+    QJsonArray panels = {messages.Panel()};
+    QString before;
+    do {
+        before = messages.Panel();
+        messages.Tick();
+        panels += messages.Panel();
+    } while (messages.Panel() != before);
+    PrintJson(QJsonDocument(panels));
+    return Done;
+}
+
 }  // namespace
 
 std::vector<Command> ShellCommands() {
-    return WithoutAppFolder({{u"shell"_s, u"push-opened"_s, u"FILE NAME"_s, 2, 2, {}, PushOpened}});
+    constexpr int any = std::numeric_limits<int>::max();
+    return WithoutAppFolder(
+        {{u"shell"_s, u"push-opened"_s, u"FILE NAME"_s, 2, 2, {}, PushOpened},
+         {u"shell"_s, u"status-queue"_s, u"TEXT..."_s, 1, any, {}, StatusQueue}});
 }
 
 }  // namespace ctl

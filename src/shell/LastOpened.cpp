@@ -67,7 +67,7 @@ void LastOpened::FillLastOpenedMenu(MenuArray& fileItems, const platform::Files&
         item.Visible = true;
     }
     if (shown == 0) {
-        fileItems(1).Caption = u"None"_s;
+        fileItems(1) = {u"None"_s, u"None"_s, true, true, false};
         fileItems.UnloadAbove(1);
         return;
     }
