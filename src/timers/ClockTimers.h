@@ -73,6 +73,7 @@ private:
     QString Property(const QString& name) const;
 
     void ForgetFired(int dialMinute);
+    bool HasFired(int slot) const;
     void Fire(int slot, const QDateTime& clockTime);
     void Announce(const QString& key, const QString& text);
     void PlayTimerSound(const QString& file);
@@ -90,8 +91,12 @@ private:
     QString unreadPath_;  ///< a file that could not be read whole
     QString toldPath_;    ///< of which the status bar has told
     bool loaded_ = false;
-    QList<int> fired_;  ///< slots that stay on the dial although they have fired in this minute
-    int firedMinute_ = -1;
+    /// A slot that has fired and the minute of the dial at which it did.
+    struct Fired {
+        int Slot = 0;
+        int DialMinute = 0;
+    };
+    std::vector<Fired> fired_;  ///< those that may not fire again in this minute
     Watcher watcher_;
 };
 

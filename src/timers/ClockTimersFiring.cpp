@@ -37,7 +37,7 @@ void ClockTimers::CheckTimers(const QString& clockTime) {
     const int minute = DialMinute(parsed->Moment.time());
     ForgetFired(minute);
     for (int slot = 1; slot <= SlotCount() && messages_.PendingAction().isEmpty(); ++slot) {
-        if (dueMinutes_[Index(slot)] == minute && !fired_.contains(slot)) {
+        if (dueMinutes_[Index(slot)] == minute && !HasFired(slot)) {
             Fire(slot, parsed->Moment);
         }
     }
@@ -46,10 +46,15 @@ void ClockTimers::CheckTimers(const QString& clockTime) {
 // A timer whose action has run stays on the dial; it may not fire again in the same minute, nor
 // when the clock is set back a little. The next minute but one ends that.
 void ClockTimers::ForgetFired(int dialMinute) {
-    const int distance = std::abs(dialMinute - firedMinute_);
-    if (std::min(distance, DialMinutes - distance) > 1) {
-        fired_.clear();
-    }
+    std::erase_if(fired_, [dialMinute](const Fired& fired) {
+        const int distance = std::abs(dialMinute - fired.DialMinute);
+        return std::min(distance, DialMinutes - distance) > 1;
+    });
+}
+
+bool ClockTimers::HasFired(int slot) const {
+    return std::any_of(fired_.begin(), fired_.end(),
+                       [slot](const Fired& fired) { return fired.Slot == slot; });
 }
 
 void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
@@ -58,8 +63,7 @@ void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
     if (watcher_) {
         watcher_(slot, timer);
     }
-    fired_ += slot;
-    firedMinute_ = DialMinute(clockTime.time());
+    fired_.push_back({slot, DialMinute(clockTime.time())});
     SaveTimer(path_);
     messages_.ShowMessage(timer.Message);
     Announce(u"Speak Timer Message"_s, timer.Message);
