@@ -74,6 +74,7 @@ MakeSounds() {
         sox -q -n -r 44100 -c 2 "$scratch/tone.$kind" synth 1 sine 440 gain -6 2>/dev/null ||
             rm -f "$scratch/tone.$kind"
     done
+    sox -q -n -r 16000 -c 1 "$scratch/long.wav" synth 30 sine 440 gain -6
 }
 
 StartSound() {
@@ -112,6 +113,7 @@ if ! Lacks "sound" sox; then
         StartSound || { echo "FAIL  the sound server does not start"; failed=$((failed + 1)); }
         RunTest tst_RealPlayers
         RunTest tst_RealVoices
+        RunTest tst_RealSoundLoss
     fi
 fi
 Finish

@@ -9,7 +9,8 @@ using platform::QtVoices;
 
 namespace {
 const QString Program = QStringLiteral(TEMPOLARK_BIN_DIR "/tempolark-voice");
-}
+const QString PlayerProgram = QStringLiteral(TEMPOLARK_BIN_DIR "/tempolark-player");
+}  // namespace
 
 /// Runs where no sound server is to be found.
 class tst_RealSilence : public QObject {
@@ -25,7 +26,7 @@ private Q_SLOTS:
 };
 
 void tst_RealSilence::hasNoDevice() {
-    QCOMPARE(platform::QtSoundDevices().Count(), 0);
+    QCOMPARE(platform::QtSoundDevices(PlayerProgram).Count(), 0);
 }
 
 void tst_RealSilence::voiceTellsWhy() {
@@ -39,13 +40,15 @@ void tst_RealSilence::voiceTellsWhy() {
 }
 
 void tst_RealSilence::playerTellsWhy() {
-    const auto player = platform::QtPlayers().MakePlayer();
+    const auto player = platform::QtPlayers(PlayerProgram).MakePlayer();
     QCOMPARE(player->LastError(), QString());
-    player->SetUrl(qEnvironmentVariable("TEMPOLARK_SOUNDS") + u"/tone.wav"_s);
-    QCOMPARE(player->LastError(), u"There is no sound device"_s);
-    QCOMPARE(player->PlayState(), 1);
-    player->Play();
-    QCOMPARE(player->PlayState(), 1);
+    for (int i = 0; i < 2; ++i) {
+        player->SetUrl(qEnvironmentVariable("TEMPOLARK_SOUNDS") + u"/tone.wav"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(player->LastError(), u"There is no sound device"_s, 30'000);
+        QCOMPARE(player->PlayState(), 1);
+        player->Play();
+        QCOMPARE(player->PlayState(), 1);
+    }
 }
 
 void tst_RealSilence::missingProgramTellsWhy() {

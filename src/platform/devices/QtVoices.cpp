@@ -13,7 +13,8 @@ struct QtVoices::Shared {
     std::unique_ptr<SpeechEngine> Make() {
         auto engine = std::make_unique<VoiceProcess>(Program, Engine);
         if (!engine->Voices().isEmpty()) {
-            Descriptions = engine->Voices();
+            Descriptions =
+                engine->Voices().replaceInStrings(QStringLiteral(","), QStringLiteral(";"));
         }
         return engine;
     }

@@ -15,6 +15,8 @@ public:
     /// leaves the choice to the machine.
     explicit QtVoices(QString program, QString engine = {}, const SpeechBounds& bounds = {});
 
+    /// The descriptions hold no ",": they become a list that is separated by it. A ";" stands in
+    /// its place.
     std::unique_ptr<Voice> MakeVoice() override;
 
 private:

@@ -1,3 +1,4 @@
+#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -6,6 +7,7 @@
 #include <QTextToSpeech>
 #include <QTimer>
 #include <QVoice>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -173,6 +175,8 @@ private:
 }  // namespace
 
 int main(int argc, char** argv) {
+    // Where an engine hangs the end of the input would not be seen.
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     QCoreApplication application(argc, argv);
     auto engine = PickEngine(QCoreApplication::arguments().value(1));
     if (!engine) {
