@@ -11,6 +11,7 @@
 #include "platform/SystemClock.h"
 #include "platform/SystemServices.h"
 #include "platform/TzZoneDatabase.h"
+#include "platform/devices/DesktopHelp.h"
 #include "platform/devices/LogindActions.h"
 #include "platform/devices/QtPlayers.h"
 #include "platform/devices/QtVoices.h"
@@ -120,7 +121,7 @@ int main(int argc, char** argv) {
     platform::QtSoundDevices sound;
     platform::DesktopDialogs dialogs;
     platform::NoTray tray;
-    platform::NoHelp help;
+    platform::DesktopHelp help(files);
     platform::SystemRandom random;
     const platform::Services services{clock,   zones, files,   user, settings, actions, voices,
                                       players, sound, dialogs, tray, help,     random};

@@ -38,7 +38,9 @@ public:
 
 class NoHelp final : public HelpViewer {
 public:
-    void Show(const QString&, int) override {}
+    QString Show(const QString&, int) override {
+        return QStringLiteral("This machine has nothing to show help with");
+    }
 };
 
 }  // namespace platform

@@ -105,10 +105,11 @@ public:
     virtual void SetIcon(bool show, const QString& tip) = 0;
 };
 
+/// Shows the page of a context number. Answers an empty text, or why there is nothing to be seen.
 class HelpViewer {
 public:
     virtual ~HelpViewer() = default;
-    virtual void Show(const QString& path, int contextNumber) = 0;
+    virtual QString Show(const QString& path, int contextNumber) = 0;
 };
 
 class RandomNumbers {

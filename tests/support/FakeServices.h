@@ -88,6 +88,23 @@ private:
     std::size_t used_ = 0;
 };
 
+/// Keeps which help was asked for.
+class FakeHelp final : public platform::HelpViewer {
+public:
+    struct Page {
+        QString Path;
+        int ContextNumber = 0;
+        bool operator==(const Page&) const = default;
+    };
+    std::vector<Page> Pages;
+    QString Refusal;  ///< what it answers
+
+    QString Show(const QString& path, int contextNumber) override {
+        Pages.push_back({path, contextNumber});
+        return Refusal;
+    }
+};
+
 /// The machine's files, with failures on demand: paths that can't be read or written.
 class FakeFiles final : public platform::Files {
 public:
@@ -139,7 +156,7 @@ public:
     platform::NoSound Sound;
     FakeDialogs Dialogs;
     platform::NoTray Tray;
-    platform::NoHelp Help;
+    FakeHelp Help;
     FakeRandom Random;
     platform::Services Services;
 

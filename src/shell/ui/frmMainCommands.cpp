@@ -173,5 +173,9 @@ void frmMain::OpenHelp(const QString& name, int otherwise) {
                              ? active->widget()->property("helpContext")
                              : QVariant();
     const int context = own.toInt() != 0 ? own.toInt() : otherwise;
-    program_.Services.Help.Show(program_.Module.Paths.AppFolder + u"/Help/"_s + name, context);
+    const QString refusal =
+        program_.Services.Help.Show(program_.Module.Paths.AppFolder + u"/Help/"_s + name, context);
+    if (!refusal.isEmpty()) {
+        ShowStatusMsg(refusal);
+    }
 }
