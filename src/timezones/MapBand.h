@@ -47,9 +47,9 @@ public:
     explicit MapLayout(const QRectF& area) : area_(area) {}
 
     QRectF World() const;  ///< the world from 180 W to 180 E, from pole to pole
-    QPointF PointOf(
-        const platform::ZonePlace& place) const;  ///< it may lie above or below the area
-    QRectF Column(double hours) const;            ///< the column with this hour in its middle
+    /// It may lie above or below the area.
+    QPointF PointOf(const platform::ZonePlace& place) const;
+    QRectF Column(double hours) const;  ///< the column with this hour in its middle
 
 private:
     QRectF area_;

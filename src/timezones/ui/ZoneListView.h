@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTreeView>
+#include <functional>
+
+/// The list of zones in report view, `lsvTimeZones`. Space checks the current row, Enter and a
+/// double click ask to launch it.
+class ZoneListView final : public QTreeView {
+public:
+    struct Handlers {
+        std::function<void()> LaunchAsked;
+        std::function<void(const QPoint&)> MenuAsked;  ///< at a point of the screen
+        std::function<QString(int)> ToolTip;           ///< of the row at a position
+        std::function<void(int)> HeaderClicked;        ///< column 0 or 1
+    };
+
+    ZoneListView(Handlers handlers, QWidget* parent);
+
+    /// Divides the width among the columns; the first keeps a minimum.
+    void FitColumns();
+
+    /// What stands in an empty list.
+    void SetEmptyText(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    void ToggleCurrent();
+    bool IsOnCheckBox(const QPoint& position) const;
+
+    Handlers handlers_;
+    QString emptyText_;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+/// The grip between map and list, `imgSplitter`. While it is pressed a bar, `picSplitter`, follows
+/// the mouse up and down; where it is let go, the parts are divided. Up and Down move it as well.
+class ZoneSplitter final : public QWidget {
+public:
+    struct Handlers {
+        std::function<QPair<int, int>()> Limits;  ///< the least and the most y within the parent
+        std::function<void(int)> Moved;           ///< it has been let go with its top at this y
+    };
+
+    ZoneSplitter(Handlers handlers, QWidget* parent);
+
+    static constexpr int Thickness = 10;  ///< pixels
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    int Within(int y) const;
+    void PlaceBar(const QPointF& position);
+
+    Handlers handlers_;
+    QWidget* picSplitter_;
+    bool pressed_ = false;
+};

@@ -1,0 +1,189 @@
+#include "timezones/ui/frmTimeZones.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMdiArea>
+
+#include "foundation/NamedValues.h"
+
+using namespace Qt::StringLiterals;
+using mduTimeZones::RowsOutcome;
+using mduTimeZones::ShowFilter;
+
+namespace {
+
+constexpr int YesNoQuestion = 4 + 32;  // two buttons and a question mark
+constexpr int Yes = 6;
+constexpr int PaleYellow = 255 + 255 * 256 + 180 * 65536;
+
+}  // namespace
+
+frmTimeZones::frmTimeZones(const Program& program, QWidget* parent)
+    : QWidget(parent),
+      program_(program),
+      handle_(program.Windows.NewHandle()),
+      list_(program.Services, program.Module.Paths),
+      model_(list_),
+      balloon_(program.Services.Clock),
+      menus_(this, [this](Item item) { RunItem(item); }) {
+    setObjectName(Name());
+    model_.OnChecked = [this](int position) { CheckRow(position); };
+    balloon_.Closed = [this] {
+        if (shell_ != nullptr) {
+            shell_->PurgeSpeech();
+        }
+    };
+    MakeControls();
+    program_.Windows.Add(*this);
+}
+
+frmTimeZones::~frmTimeZones() {
+    balloon_.Closed = nullptr;
+    program_.Windows.Remove(*this);
+}
+
+void frmTimeZones::ShowMe(IForm& parentForm, IShell* shell, std::int16_t, std::int16_t) {
+    shell_ = shell;
+    setWindowTitle(parentForm.Caption() + u" - Tempolark"_s);
+    LoadZoneList(ShowFilter::All);
+    Show();
+    txtSearch_->setFocus();
+}
+
+QWidget& frmTimeZones::Outer() {
+    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    return frame != nullptr ? static_cast<QWidget&>(*frame) : *this;
+}
+
+const QWidget& frmTimeZones::Outer() const {
+    return const_cast<frmTimeZones*>(this)->Outer();
+}
+
+int frmTimeZones::WindowState() const {
+    return Outer().isMinimized() ? 1 : Outer().isMaximized() ? 2 : 0;
+}
+
+void frmTimeZones::SetWindowState(int state) {
+    if (state == 1) {
+        Outer().showMinimized();
+    } else if (state == 2) {
+        Outer().showMaximized();
+    } else {
+        Outer().showNormal();
+    }
+}
+
+void frmTimeZones::Show() {
+    show();
+    Outer().show();
+}
+
+void frmTimeZones::SetFocus() {
+    if (auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+        frame != nullptr && frame->mdiArea() != nullptr) {
+        frame->mdiArea()->setActiveSubWindow(frame);
+    } else {
+        activateWindow();
+    }
+    setFocus();
+}
+
+void frmTimeZones::Tell(const QString& text) {
+    if (shell_ != nullptr) {
+        shell_->ShowStatusMsg(text);
+    }
+}
+
+void frmTimeZones::TellOutcome(const RowsOutcome& outcome, const QString& done) {
+    for (const QString& problem : outcome.Problems) {
+        Tell(problem);
+    }
+    if (outcome.Files > 0) {
+        Tell(u"%1 %2 %3"_s.arg(outcome.Files)
+                 .arg(outcome.Files == 1 ? u"time zone"_s : u"time zones"_s, done));
+    } else if (outcome.Problems.isEmpty()) {
+        Tell(u"Nothing had to be "_s + done);
+    }
+}
+
+// A press of the map's button ends in the box, so its drag must end before.
+int frmTimeZones::Ask(const QString& text, const QString& title) {
+    imgMap_->EndDrag();
+    return shell_ == nullptr ? 0 : shell_->ShowMsgbox(text, YesNoQuestion, title);
+}
+
+void frmTimeZones::SaveCheckedZones() {
+    TellOutcome(mduTimeZones::SaveCheckedZones(program_.Services, program_.Module.Paths, list_),
+                u"saved"_s);
+    ShowRows();
+}
+
+void frmTimeZones::DeleteCheckedZones() {
+    if (Ask(u"Do you want to delete the selected time zone profiles?"_s, u"Delete Selected"_s) !=
+        Yes) {
+        return;
+    }
+    TellOutcome(mduTimeZones::DeleteCheckedZones(program_.Services, program_.Module.Paths, list_),
+                u"deleted"_s);
+    LoadZoneList(list_.Show);
+}
+
+void frmTimeZones::ConfirmSave() {
+    const QStringList names = list_.UnsavedNames();
+    if (names.isEmpty()) {
+        return;
+    }
+    if (Ask(mduTimeZones::SaveQuestion(names), u"Save Seleted Time Zones"_s) == Yes) {
+        SaveCheckedZones();
+    }
+}
+
+void frmTimeZones::ShowZoneDetails(int position) {
+    if (position < 0) {
+        return;
+    }
+    const QString tag = list_.Tag(list_[position]);
+    const QRect row = lsvTimeZones_->visualRect(model_.index(position, 0));
+    QWidget* owner = lsvTimeZones_->viewport();
+    balloon_.SetPopupOnDemand(true);
+    balloon_.BalloonInfoSetup(owner, u"Timezone Info"_s, tag.trimmed(), PaleYellow);
+    balloon_.Show(row.x(), row.y(), QSize(std::min(row.width(), owner->width()), row.height()));
+    if (shell_ == nullptr) {
+        return;
+    }
+    const QString speak = shell_->Setting(u"Speak Time Zone Details"_s);
+    if (!speak.isEmpty() && mduUILib::YesNoToBool(speak)) {
+        shell_->PurgeSpeech();
+        shell_->SpeakMessage(tag);
+    }
+}
+
+void frmTimeZones::LaunchCurrent() {
+    const int position = CurrentPosition();
+    if (position < 0 || shell_ == nullptr) {
+        return;
+    }
+    const QString name = list_[position].Name;
+    if (list_[position].Checked) {
+        shell_->LaunchTempolark(name);
+    } else {
+        Tell(u"Check "_s + name + u" to give it a clock"_s);
+    }
+}
+
+void frmTimeZones::closeEvent(QCloseEvent* event) {
+    balloon_.Destroy();
+    ConfirmSave();
+    QWidget::closeEvent(event);
+}
+
+void frmTimeZones::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && balloon_.Shown()) {
+        balloon_.Destroy();
+    } else if (event->matches(QKeySequence::Find)) {
+        txtSearch_->setFocus();
+        txtSearch_->selectAll();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}

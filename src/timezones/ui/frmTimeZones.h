@@ -1,0 +1,136 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QToolButton>
+#include <QWidget>
+
+#include "foundation/Program.h"
+#include "foundation/ui/CBalloonToolTip.h"
+#include "timezones/ZoneFilesOfRows.h"
+#include "timezones/ZoneListModel.h"
+#include "timezones/ui/ZoneListView.h"
+#include "timezones/ui/ZoneMap.h"
+#include "timezones/ui/ZoneMenu.h"
+#include "timezones/ui/ZoneSplitter.h"
+
+/// The window where one chooses which zones have a clock. It lists zones with check boxes and shows
+/// them on a map; a row that is checked has a property file, which the shell can launch. What is
+/// listed is decided by `mduTimeZones::ZoneList`, what is written by `ZoneFilesOfRows`; the window
+/// shows it and asks its questions.
+///
+///     auto* window = new frmTimeZones(program, frame);
+///     frame->setWidget(window);
+///     window->ShowMe(shellForm, &shell, 0, 0);
+class frmTimeZones final : public QWidget, public IForm {
+public:
+    frmTimeZones(const Program& program, QWidget* parent);
+    ~frmTimeZones() override;
+
+    /// Fills the list and shows the window. @p parentForm gives the title; @p shell, which may be
+    /// null, is asked for boxes, speech and clocks. The flags are kept for callers that give them.
+    void ShowMe(IForm& parentForm, IShell* shell, std::int16_t flag1, std::int16_t flag2);
+
+    /// Clears the list and fills it by the source; unsaved checks are asked for first.
+    void LoadZoneList(mduTimeZones::ShowFilter show);
+    void SaveCheckedZones();
+    void DeleteCheckedZones();
+    /// Asks for checked rows that have no file, and saves them on yes.
+    void ConfirmSave();
+    /// Shows the text of the row at a position of the list in a balloon, and speaks it where the
+    /// shell's settings say so.
+    void ShowZoneDetails(int position);
+    /// Opens the clock of the current row, if that is checked.
+    void LaunchCurrent();
+
+    // IForm
+    QString Name() const override { return QStringLiteral("frmTimeZones"); }
+    QString Caption() const override { return windowTitle(); }
+    int hwnd() const override { return handle_; }
+    int WindowState() const override;
+    void SetWindowState(int state) override;
+    bool IsEnabled() const override { return isEnabled(); }
+    void EnableWindow(bool enabled) override { setEnabled(enabled); }
+    void Show() override;
+    void SetFocus() override;
+    void Unload() override { Outer().close(); }
+
+    const mduTimeZones::ZoneList& List() const { return list_; }
+    CBalloonToolTip& Balloon() { return balloon_; }
+
+    QSize sizeHint() const override { return {760, 640}; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Item = ZoneMenu::Item;
+
+    QWidget& Outer();
+    const QWidget& Outer() const;
+    void Tell(const QString& text);
+    void TellOutcome(const mduTimeZones::RowsOutcome& outcome, const QString& done);
+    int Ask(const QString& text, const QString& title);
+
+    // What the list does (frmTimeZonesList.cpp)
+    void Refill(const std::function<void()>& action);
+    void ShowRows();
+    void CheckRow(int position);
+    void CheckAll(bool checked);
+    void NarrowToBand();
+    void SortByColumn(int column);
+    void SetSort(mduTimeZones::ZoneSort sort);
+    void SetSource(mduTimeZones::SourceMode source);
+    int CurrentPosition() const;
+    void MakeCurrent(int position);
+    void ShowCurrent();
+    QString ToolTipOfRow(int position) const;
+    QString EmptyText() const;
+
+    // Its controls (frmTimeZonesControls.cpp)
+    void MakeControls();
+    void MakeMap();
+    void MakeSearchRow();
+    void MakeList();
+    void MakeButtons();
+
+    // Their places and the menus (frmTimeZonesLayout.cpp)
+    void LayOut();
+    int MapHeight() const;
+    QPair<int, int> SplitLimits() const;
+    void SetSplit(int y);
+    void SetMapVisible(bool visible);
+    void RefreshMenus();
+    void RunItem(Item item);
+    void ShowBandButton();
+
+    Program program_;
+    int handle_;
+    IShell* shell_ = nullptr;
+    mduTimeZones::ZoneList list_;
+    mduTimeZones::ZoneListModel model_;
+    CBalloonToolTip balloon_;
+    ZoneMenu menus_;
+
+    ZoneMap* imgMap_ = nullptr;
+    ZoneSplitter* imgSplitter_ = nullptr;
+    QWidget* searchRow_ = nullptr;
+    QLineEdit* txtSearch_ = nullptr;
+    QToolButton* cmdBand_ = nullptr;
+    QToolButton* cmdView_ = nullptr;
+    ZoneListView* lsvTimeZones_ = nullptr;
+    QWidget* buttonRow_ = nullptr;
+    QLabel* lblCount_ = nullptr;
+    QPushButton* cmdLaunch_ = nullptr;
+    QPushButton* cmdSave_ = nullptr;
+    QPushButton* cmdClose_ = nullptr;
+
+    std::vector<int> rowOfDot_;  ///< positions in the list
+    bool mapVisible_ = true;
+    int mapHeight_ = -1;  ///< pixels, as the splitter was left; -1 before it was moved
+};
