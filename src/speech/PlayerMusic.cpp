@@ -15,7 +15,13 @@ namespace {
 constexpr int Playing = 3;
 constexpr int LoudestVolume = 100;
 constexpr qint64 SecondsBetweenReports = 60;
+constexpr qint64 SecondsOfRest = 60;
 constexpr QChar Separator = u'/';
+
+/// A clock that was set back counts, too.
+bool IsWithin(qint64 seconds, const QDateTime& since, const QDateTime& now) {
+    return since.isValid() && std::abs(since.secsTo(now)) < seconds;
+}
 
 }  // namespace
 
@@ -41,6 +47,7 @@ void PlayerMusic::PlaySound(const QString& path) {
     if (!mduLib::FileExists(context_.Services.FileSystem, file) || IsPlaying()) {
         return;
     }
+    TellFailure();
     isMusic_ = false;
     if (MakePlayer(file)) {
         player_->SetUrl(file);
@@ -66,9 +73,16 @@ void PlayerMusic::CheckMusic() {
     if (volume > 0 && !isHeld && !IsPlaying()) {
         StartNextPiece(volume);
     } else if (volume < 1 && isMusic_) {
-        player_->Stop();
-        isMusic_ = false;
+        EndMusic();
     }
+}
+
+void PlayerMusic::EndMusic() {
+    if (player_) {
+        player_->Stop();
+    }
+    isMusic_ = false;
+    restsSince_ = {};
 }
 
 // music = folder "\*.*" | folder "\" | folder | file, each relative to the program with a "."
@@ -90,15 +104,23 @@ QString PlayerMusic::MusicPath() const {
 void PlayerMusic::StartNextPiece(int volume) {
     const platform::Files& files = context_.Services.FileSystem;
     const QString path = MusicPath();
+    if (IsResting(path)) {
+        return;
+    }
     const bool isFile = mduLib::FileExists(files, path);
     const QString piece = isFile ? path : NextFolderFile(files, path, index_);
     if (!mduLib::FileExists(files, piece) || (isFile && files.Size(piece) == 0)) {
         return;
     }
+    if (isMusic_ && !hasFailed_) {
+        told_.clear();
+    }
+    source_ = path;
+    isMusic_ = true;
     if (!MakePlayer(piece)) {
+        restsSince_ = context_.Services.Clock.Now();
         return;
     }
-    isMusic_ = true;
     player_->SetVolume(std::min(volume, LoudestVolume));
     player_->SetUrl(piece);
     if (!isFile) {
@@ -125,15 +147,33 @@ void PlayerMusic::TellFailure() {
     if (player_ && !hasFailed_ && !player_->LastError().isEmpty()) {
         hasFailed_ = true;
         Tell(player_->LastError());
+        if (isMusic_) {
+            RestAfterFailure();
+        }
     }
+}
+
+// Without a device a folder would be gone through within seconds, and never be heard.
+void PlayerMusic::RestAfterFailure() {
+    const bool isFile = source_ == path_;
+    if (!isFile && context_.Services.Sound.Count() > 0) {
+        return;
+    }
+    restsSince_ = context_.Services.Clock.Now();
+    if (!isFile && index_ > 0) {
+        --index_;
+    }
+}
+
+bool PlayerMusic::IsResting(const QString& source) const {
+    return source == source_ && IsWithin(SecondsOfRest, restsSince_, context_.Services.Clock.Now());
 }
 
 void PlayerMusic::Tell(const QString& reason) {
     const QString text =
         u"The clock can't play %1: %2"_s.arg(mduLib::FileBaseName(path_, true), reason);
     const QDateTime now = context_.Services.Clock.Now();
-    const QDateTime before = told_.value(text);
-    if (before.isValid() && std::abs(before.secsTo(now)) < SecondsBetweenReports) {
+    if (isMusic_ ? told_.contains(text) : IsWithin(SecondsBetweenReports, told_.value(text), now)) {
         return;
     }
     told_.insert(text, now);

@@ -19,8 +19,13 @@ QString NextFolderFile(const platform::Files& files, const QString& folder, int 
 ///
 /// Music stops where "Music Volume" is below 1 and where an action counts down; sounds are let
 /// through, but never cut into what is playing. `MusicPlayer(1).Tag` holds `MusicHold`: once it is
-/// "1" no music starts until the clock is opened again. A file that exists and can't be played is
-/// told to the host, about once a minute at most.
+/// "1" no music starts until the clock is opened again.
+///
+/// A file that exists and can't be played is told to the host, also where the player finds out
+/// later: a sound about once a minute at most, a piece of music once until it, or another piece,
+/// has been heard. Where the machine has no sound device the music rests for a minute and then
+/// tries the same piece; a single file that can't be played is tried once a minute, too. In a
+/// folder the next file follows.
 class PlayerMusic final : public ClockMusic {
 public:
     explicit PlayerMusic(const SpeechContext& context) : context_(context) {}
@@ -40,8 +45,11 @@ private:
     bool IsPlaying() const;
     QString MusicPath() const;
     void StartNextPiece(int volume);
+    void EndMusic();
     bool MakePlayer(const QString& path);
     void TellFailure();
+    void RestAfterFailure();
+    bool IsResting(const QString& source) const;
     void Tell(const QString& reason);
 
     SpeechContext context_;
@@ -49,8 +57,10 @@ private:
     std::int16_t index_ = 0;
     bool isMusic_ = false;    ///< what the player was given last is music, not a sound
     QString path_;            ///< what the player was given last
+    QString source_;          ///< the file or folder that the present piece of music is from
     bool hasFailed_ = false;  ///< it has been told why that can't be played
     QHash<QString, QDateTime> told_;
+    QDateTime restsSince_;  ///< no music from the present source starts for a minute
 };
 
 }  // namespace speech

@@ -20,6 +20,18 @@ struct MusicDesk : SpeechDesk {
         return log.replaceInStrings(Machine.AppFolder(), u"APP"_s);
     }
     void EndPiece() { Devices.Players.State = 1; }
+
+    /// The player finds out that it can't play the present piece.
+    void FailPiece(const QString& reason) {
+        Devices.Players.Failure = reason;
+        EndPiece();
+    }
+    void Tick(int seconds) {
+        for (int i = 0; i < seconds; ++i) {
+            Machine.Clock.Advance(1000);
+            Music.CheckMusic();
+        }
+    }
     QString Hold() { return Controls.MusicPlayer(1).Tag; }
 };
 
@@ -58,6 +70,13 @@ private Q_SLOTS:
     void TellsAgainAfterAMinute();
     void TellsOfAMachineWithoutAPlayer();
     void KeepsQuietAboutAMissingFile();
+    void WaitsForASoundDevice_data();
+    void WaitsForASoundDevice();
+    void PassesOverABrokenFileOfAFolder();
+    void TriesABrokenFileOnceAMinute();
+    void TellsOfMusicAgainOnceItWasHeard();
+    void TriesOtherMusicAtOnce();
+    void TellsOfASoundBeforeTheNextOne();
 };
 
 void tst_PlayerMusic::PlaysSounds_data() {
@@ -381,6 +400,122 @@ void tst_PlayerMusic::KeepsQuietAboutAMissingFile() {
     desk.Devices.Players.Failure = u"broken"_s;
     desk.Music.PlaySound(u".\\none.wav"_s);
     QCOMPARE(desk.Host.Status, QStringList());
+}
+
+void tst_PlayerMusic::WaitsForASoundDevice_data() {
+    QTest::addColumn<bool>("later");
+    QTest::newRow("known at once") << false;
+    QTest::newRow("shows later") << true;
+}
+
+// A minute of rest between two tries of the same piece, one message; then the device comes.
+void tst_PlayerMusic::WaitsForASoundDevice() {
+    QFETCH(bool, later);
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"Music/1.mp3"_s, "x");
+    desk.Machine.WriteFile(u"Music/2.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\Music\\*.*"_s);
+    desk.Devices.Sound.Devices = 0;
+    if (!later) {
+        desk.Devices.Players.Failure = u"no device"_s;
+    }
+    desk.Music.CheckMusic();
+    desk.FailPiece(u"no device"_s);
+    desk.Tick(59);
+    QCOMPARE(desk.Heard(), Piece(u"Music/1.mp3"_s));
+    QCOMPARE(desk.Music.MusicIndex(), 0);
+    desk.Tick(60);
+    QCOMPARE(desk.Heard().filter(u"url"_s), QStringList(u"url APP/Music/1.mp3"_s));
+    QCOMPARE(desk.Host.Status, QStringList(u"The clock can't play 1.mp3: no device"_s));
+
+    desk.Devices.Sound.Devices = 1;
+    desk.Devices.Players.Failure.clear();
+    desk.Tick(60);
+    QCOMPARE(desk.Heard(), Piece(u"Music/1.mp3"_s));
+    desk.EndPiece();
+    desk.Tick(1);
+    QCOMPARE(desk.Heard(), Piece(u"Music/2.mp3"_s));
+    QCOMPARE(desk.Music.MusicIndex(), 2);
+    QCOMPARE(desk.Host.Status.size(), 1);
+}
+
+void tst_PlayerMusic::PassesOverABrokenFileOfAFolder() {
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"Music/1.txt"_s, "x");
+    desk.Machine.WriteFile(u"Music/2.txt"_s, "x");
+    desk.Machine.WriteFile(u"Music/3.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\Music"_s);
+    desk.Music.CheckMusic();
+    desk.FailPiece(u"no sound"_s);
+    desk.Tick(1);
+    desk.Devices.Players.Failure.clear();
+    desk.Tick(1);
+    QCOMPARE(desk.Heard().filter(u"url"_s),
+             QStringList(
+                 {u"url APP/Music/1.txt"_s, u"url APP/Music/2.txt"_s, u"url APP/Music/3.mp3"_s}));
+    QCOMPARE(desk.Host.Status, QStringList({u"The clock can't play 1.txt: no sound"_s,
+                                            u"The clock can't play 2.txt: no sound"_s}));
+}
+
+void tst_PlayerMusic::TriesABrokenFileOnceAMinute() {
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"song.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\song.mp3"_s);
+    desk.Devices.Players.Failure = u"broken"_s;
+    desk.Music.CheckMusic();
+    desk.Tick(59);
+    const QStringList song = {u"volume 50"_s, u"url APP/song.mp3"_s};
+    QCOMPARE(desk.Heard(), song);
+    desk.Tick(1);
+    QCOMPARE(desk.Heard(), song);
+    desk.Tick(3600);
+    QCOMPARE(desk.Host.Status, QStringList(u"The clock can't play song.mp3: broken"_s));
+}
+
+void tst_PlayerMusic::TellsOfMusicAgainOnceItWasHeard() {
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"song.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\song.mp3"_s);
+    for (int i = 1; i <= 2; ++i) {
+        desk.Music.CheckMusic();
+        desk.FailPiece(u"broken"_s);
+        desk.Tick(1);
+        QCOMPARE(desk.Host.Status.size(), i);
+        desk.Devices.Players.Failure.clear();
+        desk.Tick(60);
+        QCOMPARE(desk.Devices.Players.State, 3);
+        desk.EndPiece();
+    }
+}
+
+// Resting is for the music that has failed, and ends where the user turns the music off and on.
+void tst_PlayerMusic::TriesOtherMusicAtOnce() {
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"song.mp3"_s, "x");
+    desk.Machine.WriteFile(u"other.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\song.mp3"_s);
+    desk.Devices.Players.Failure = u"broken"_s;
+    desk.Music.CheckMusic();
+    desk.Set(u"Music File"_s, u".\\other.mp3"_s);
+    desk.Tick(1);
+    desk.Set(u"Music Volume"_s, u"0"_s);
+    desk.Tick(1);
+    desk.Set(u"Music Volume"_s, u"50"_s);
+    desk.Tick(1);
+    QCOMPARE(desk.Heard(), QStringList({u"volume 50"_s, u"url APP/song.mp3"_s, u"volume 50"_s,
+                                        u"url APP/other.mp3"_s, u"stop"_s, u"volume 50"_s,
+                                        u"url APP/other.mp3"_s}));
+}
+
+void tst_PlayerMusic::TellsOfASoundBeforeTheNextOne() {
+    MusicDesk desk;
+    desk.Machine.WriteFile(u"a.wav"_s, "RIFF");
+    desk.Machine.WriteFile(u"b.wav"_s, "RIFF");
+    desk.Music.PlaySound(u".\\a.wav"_s);
+    desk.FailPiece(u"broken"_s);
+    desk.Music.PlaySound(u".\\b.wav"_s);
+    QCOMPARE(desk.Host.Status, QStringList({u"The clock can't play a.wav: broken"_s,
+                                            u"The clock can't play b.wav: broken"_s}));
 }
 
 QTEST_GUILESS_MAIN(tst_PlayerMusic)
