@@ -1,5 +1,4 @@
 #include <QJsonArray>
-#include <limits>
 
 #include "ctl/Command.h"
 #include "shell/LastOpened.h"
@@ -47,7 +46,7 @@ int StatusQueue(Context& context) {
 }  // namespace
 
 std::vector<Command> ShellCommands() {
-    constexpr int any = std::numeric_limits<int>::max();
+    constexpr int any = -1;
     return WithoutAppFolder(
         {{u"shell"_s, u"push-opened"_s, u"FILE NAME"_s, 2, 2, {}, PushOpened},
          {u"shell"_s, u"status-queue"_s, u"TEXT..."_s, 1, any, {}, StatusQueue}});

@@ -29,6 +29,10 @@ struct Desk : MachineWithZones {
         Machine.WriteFile(u"tester/TimeZones/"_s + name + u".ini"_s,
                           Machine.ReadFile(u"ini/Tempolark.ini"_s));
     }
+    bool HasZone(const QString& name) const {
+        return Machine.Files.Exists(Machine.AppFolder() + u"/tester/TimeZones/"_s + name +
+                                    u".ini"_s);
+    }
     QMenu* Menu(const QString& name) const { return Shell->findChild<QMenu*>(name); }
 
     QToolButton* Button(const QString& tag) const {

@@ -11,10 +11,7 @@
 #include "shell/ui/ShellMenus.h"
 #include "shell/ui/ToolBar.h"
 #include "shell/ui/frmMain.h"
-#if __has_include("timezones/ui/frmTimeZones.h")
 #include "timezones/ui/frmTimeZones.h"
-#define HAS_TZ
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -137,7 +134,6 @@ void frmMain::OpenTimeZones() {
         timeZones_->setFocus();
         return;
     }
-#ifdef HAS_TZ
     auto* window = new frmTimeZones(program_, area_);
     timeZones_ = window;
     auto* frame = area_->addSubWindow(window);
@@ -149,7 +145,6 @@ void frmMain::OpenTimeZones() {
                        size.width(), size.height());
     frame->show();
     SetHeaderVisible(false);
-#endif
 }
 
 void frmMain::LaunchDatebrook() {

@@ -120,7 +120,7 @@ void frmMain::ArrangeHeader() {
 
 // The last window has gone: the shell invites again.
 void frmMain::ShowHeaderWhenEmpty() {
-    if (shellStage_ == 1 && !header_->isVisible() && area_->subWindowList().isEmpty()) {
+    if (shellStage_ != 2 && !header_->isVisible() && area_->subWindowList().isEmpty()) {
         SetHeaderVisible(true);
         header_->ApplyHeaderStyle(Setting(u"Heading Variation"_s));
     }
