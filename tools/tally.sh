@@ -15,7 +15,7 @@ Check() {
     else
         failed=$((failed + 1))
         echo "FAIL  $name"
-        [[ -n "$output" ]] && sed 's/^/      /' <<<"$output"
+        [[ -z "$output" ]] || sed 's/^/      /' <<<"$output"
     fi
 }
 

@@ -32,13 +32,38 @@ HasPopups() { [[ $(Popups | wc -l) -eq $1 ]]; }
 # ClickAt X Y: a real press and release of the left button.
 ClickAt() { xdotool mousemove "$1" "$2" sleep 0.1 click 1; }
 
-# PressButton OFFSET: a button of the toolbar, by the distance from the shell's left edge.
+# Heights in the shell's window: the menu bar, and what stands above the clocks.
+MenuBar=20
+AreaTop=79 # with the toolbar at its large size, and the border of the area
+
+# PressButton NUMBER: a button of the toolbar by its number, separators counted.
 PressButton() {
-    local x y
+    local x y along=$(($1 * 54 - 27))
+    (($1 > 13)) && along=$((along - 45))
+    (($1 > 17)) && along=$((along - 54)) # the 17th is never there
+    (($1 > 18)) && along=$((along - 45))
     read -r x y _ < <(Box "$(ShellWindow)")
-    ClickAt $((x + $1)) $((y + 15))
-    WaitFor 5 HasPopups 1
+    ClickAt $((x + along)) $((y + MenuBar + 28))
 }
+
+# PopUp NUMBER: presses a button that opens a menu, and waits for it.
+PopUp() { PressButton "$1" && WaitFor 5 HasPopups 1 && sleep 0.1; }
+
+# NoTips: the program folder's default says that no balloons show; they would count as pop-ups.
+NoTips() {
+    sed -i 's/Auto Show Balloon Tips=Yes/Auto Show Balloon Tips=No/' "$folder/ini/TempolarkCentral.ini"
+}
+
+# Keys KEY...: one after the other, as fast as a person.
+Keys() {
+    local key
+    for key in "$@"; do
+        xdotool key "$key" sleep 0.1
+    done
+}
+
+# Times COUNT KEY: the key that many times, as words for Keys.
+Times() { for ((time = 0; time < $1; time++)); do echo "$2"; done; }
 
 # PointAtRow MENU ROW ROWS: moves the mouse onto a row of a menu with that many equal rows.
 PointAtRow() {

@@ -17,11 +17,11 @@ user=$(id -un)
 folder=$scratch/app
 zones=$folder/$user/TimeZones
 names=("India Standard Time" "Nepal Standard Time" "Tokyo Standard Time")
-rows=4 # of the menu "Open": the three and the machine's own, UTC
 
 Prepare() {
     mkdir -p "$zones"
     cp -rp "$bin/ini" "$bin/Timezones" "$folder"
+    NoTips
     for name in "${names[@]}"; do
         cp "$folder/ini/Tempolark.ini" "$zones/$name.ini"
     done
@@ -29,14 +29,11 @@ Prepare() {
 
 # OpenZone ROW: Launch, Open, the row.
 OpenZone() {
-    local menus
-    PressButton 35 || return 1
-    menus=$(Popups)
-    PointAtRow "$menus" 1 4 # "Open" is the first of the File menu's rows
-    xdotool sleep 0.1 click 1
+    PopUp 1 || return 1
+    # "Open" is the second entry; its first row is chosen when it opens.
+    Keys Down Down Right
     WaitFor 5 HasPopups 2 || return 1
-    PointAtRow "$(Popups | tail -n 1)" "$1" "$rows"
-    xdotool sleep 0.1 click 1
+    Keys $(Times $(($1 - 1)) Down) Return
     WaitFor 5 HasPopups 0
 }
 
@@ -52,8 +49,8 @@ ClockShows() {
 MoveTopClock() {
     local x y w h title
     read -r x y w h < <(Box "$(ShellWindow)")
-    # The clock is a quarter of the shell and stands in the middle below the toolbar.
-    title=$((y + 30 + (h - 56 - h / 4) / 2 + 8))
+    # The clock is a quarter of the shell and stands in the middle of the area above the status bar.
+    title=$((y + AreaTop + (h - AreaTop - 24 - h / 4) / 2 + 8))
     xdotool mousemove $((x + w / 2)) "$title" sleep 0.1 mousedown 1
     for step in 40 80 120 160 200; do
         xdotool mousemove $((x + w / 2 - step)) $((title - step / 2)) sleep 0.05
@@ -72,12 +69,10 @@ OpenedListIs() { [[ "$(tr -d '\r' <"$folder/$user/OpenedForms.txt" | tr '\n' '|'
 KeepPlaces() { grep -h '^.*Window \(Top\|Left\|Width\|Height\)=' "$zones"/*.ini >"$scratch/places.$1"; }
 
 OpenLastAll() {
-    PressButton 35 || return 1
-    PointAtRow "$(Popups)" 2 4
-    xdotool sleep 0.1 click 1
+    PopUp 1 || return 1
+    Keys Down Down Down Right
     WaitFor 5 HasPopups 2 || return 1
-    PointAtRow "$(Popups | tail -n 1)" 4 4 # three names, then "All"
-    xdotool sleep 0.1 click 1
+    Keys Down Down Down Return # three names, then "All"
     WaitFor 5 HasPopups 0
 }
 
@@ -87,17 +82,13 @@ MovedClockShows() {
     read -r x y _ < <(Box "$(ShellWindow)")
     left=$(($(Value "$zones/${names[2]}.ini" "Window Left") / 15))
     top=$(($(Value "$zones/${names[2]}.ini" "Window Top") / 15))
-    [[ "$(Pixel $((x + left + 30)) $((y + 30 + top + 60)))" != "$(Pixel $((x + 3)) $((y + 200)))" ]]
+    [[ "$(Pixel $((x + left + 30)) $((y + AreaTop + top + 60)))" != "$(Pixel $((x + 3)) $((y + 200)))" ]]
 }
 
 StartOneByItself() {
-    # "Auto Start" lists the three clocks under its title; India, which was opened last, is the third
-    # of them and stands in the middle of the shell.
-    PressButton 480 || return 1
-    local menu
-    menu=$(Popups)
-    PointAtRow "$menu" 4 5
-    xdotool sleep 0.1 click 1
+    # India, which was opened last, is the third of the clocks and stands in the middle of the shell.
+    PopUp 8 || return 1
+    Keys Down Down Down Return
     WaitFor 5 HasPopups 0
 }
 

@@ -36,7 +36,7 @@ Prepare() {
 ClockPoint() {
     local x y
     read -r x y _ < <(Box "$(ShellWindow)")
-    echo $((x + 20 + $1)) $((y + 32 + 20 + $2))
+    echo $((x + 20 + $1)) $((y + AreaTop + 20 + $2))
 }
 Shows() { [[ "$(Pixel $(ClockPoint 20 60))" == "$1" ]]; }
 
@@ -54,7 +54,7 @@ Choose() {
 Is() { [[ "$(Value "$file" "$1" | cut -d, -f1)" == "$2" ]]; }
 Save() { Choose Down Down Down Down Return; }
 Differ() { ! cmp -s "$@"; }
-Picture() { import -window "$(ShellWindow)" -crop "290x250+25+85" "$scratch/$1.png"; }
+Picture() { import -window "$(ShellWindow)" -crop "290x250+25+$((AreaTop + 53))" "$scratch/$1.png"; }
 Type() { xdotool key Tab sleep 0.2 && xdotool type --delay 30 "x" && sleep 0.3; }
 
 Prepare
