@@ -146,11 +146,9 @@ int ToolBar::ExtentOf(const Slot& slot) const {
     if (slot.Data.Caption.isEmpty()) {
         return side;
     }
-    if (IsVertical()) {
-        return sizeHint().width();
-    }
-    const QFontMetrics metrics(slot.Button->font());
-    return std::max(side, metrics.size(0, slot.Button->text()).width() + 4 * ButtonMargin);
+    const QSize caption =
+        QFontMetrics(slot.Button->font()).size(0, slot.Button->text()) + QSize(4, 4) * ButtonMargin;
+    return IsVertical() ? side + caption.height() : std::max(side, caption.width());
 }
 
 void ToolBar::FitToolbarButtons() {
