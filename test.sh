@@ -18,6 +18,9 @@ for script in run styles; do
     Count "end-to-end tests, $script" tools/with_display.sh "tests/e2e/$script.sh" build/debug/bin
 done
 
+Say "Devices for real"
+Count "devices for real" tests/devices/run.sh build/debug/tests
+
 Say "Rules of the house"
 Count "rules of the house" tools/check_style.sh
 Say "Tests of these checks"

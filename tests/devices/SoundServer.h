@@ -15,6 +15,10 @@ public:
 
     /// Whether it could be started and answers.
     bool Start() {
+        // A bus has room for one server, and there may be another.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
+        process_.setProcessEnvironment(environment);
         process_.setStandardErrorFile(QProcess::nullDevice());
         process_.start(QStringLiteral("pulseaudio"),
                        {QStringLiteral("-n"), QStringLiteral("--exit-idle-time=-1"),

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void asks_data();
     void asks();
     void asksForItsOwnSession();
+    void asksForTheSessionOfTheScreen();
     void tellsThatItHasNoSession();
     void forcesPowerOff();
     void forcesPowerOffOnOlderServices();
@@ -123,6 +124,15 @@ void tst_RealLogin::asksForItsOwnSession() {
     QCOMPARE(Calls().last(), u"TerminateSession own"_s);
 }
 
+void tst_RealLogin::asksForTheSessionOfTheScreen() {
+    AddMethod(ManagerInterface, u"GetSessionByPID"_s, u"u"_s, u"o"_s,
+              u"raise dbus.exceptions.DBusException('PID 7 does not belong to any known session', "
+              u"name='org.freedesktop.login1.NoSessionForPID')"_s);
+    Mock(u"AddSession"_s, {u"auto"_s, u"seat0"_s, 500U, u"joe"_s, true});
+    QCOMPARE(LogindActions({}).LockWorkStation(), QString());
+    QCOMPARE(Calls().last(), u"LockSession auto"_s);
+}
+
 void tst_RealLogin::tellsThatItHasNoSession() {
     AddMethod(ManagerInterface, u"GetSessionByPID"_s, u"u"_s, u"o"_s,
               u"raise dbus.exceptions.DBusException('PID 7 does not belong to any known session', "
@@ -164,17 +174,23 @@ void tst_RealLogin::tellsOfARefusal_data() {
 void tst_RealLogin::tellsOfARefusal() {
     QFETCH(QString, error);
     QFETCH(QString, reason);
-    for (const QString& method : {u"PowerOff"_s, u"PowerOffWithFlags"_s, u"Reboot"_s}) {
-        const QString in = method == u"PowerOffWithFlags"_s ? u"t"_s : u"b"_s;
-        AddMethod(
-            ManagerInterface, method, in, QString(),
-            u"raise dbus.exceptions.DBusException('Permission denied', name='%1')"_s.arg(error));
+    const QString refuse =
+        u"raise dbus.exceptions.DBusException('Permission denied', name='%1')"_s.arg(error);
+    for (const auto& [method, in] :
+         std::initializer_list<std::pair<QString, QString>>{{u"PowerOff"_s, u"b"_s},
+                                                            {u"PowerOffWithFlags"_s, u"t"_s},
+                                                            {u"Reboot"_s, u"b"_s},
+                                                            {u"TerminateSession"_s, u"s"_s},
+                                                            {u"LockSession"_s, u"s"_s}}) {
+        AddMethod(ManagerInterface, method, in, QString(), refuse);
     }
-    for (const unsigned flags : {1U, 2U, 13U}) {
-        QCOMPARE(LogindActions(u"c7"_s).ExitWindowsEx(flags), reason);
+    LogindActions actions(u"c7"_s);
+    for (const unsigned flags : {0U, 1U, 2U, 13U}) {
+        QCOMPARE(actions.ExitWindowsEx(flags), reason);
     }
-    QCOMPARE(Calls(),
-             QStringList({u"PowerOff false"_s, u"Reboot false"_s, u"PowerOffWithFlags 16"_s}));
+    QCOMPARE(actions.LockWorkStation(), reason);
+    QCOMPARE(Calls(), QStringList({u"TerminateSession c7"_s, u"PowerOff false"_s, u"Reboot false"_s,
+                                   u"PowerOffWithFlags 16"_s, u"LockSession c7"_s}));
 }
 
 void tst_RealLogin::tellsThatTheServiceIsAway() {

@@ -1,6 +1,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "devices/Flite.h"
 #include "platform/devices/QtPlayers.h"
 #include "platform/devices/QtVoices.h"
 
@@ -30,6 +31,9 @@ void tst_RealSilence::hasNoDevice() {
 }
 
 void tst_RealSilence::voiceTellsWhy() {
+    if (!HasFlite()) {
+        QSKIP("there is no speech engine flite");
+    }
     QtVoices voices(Program, u"flite"_s);
     const auto voice = voices.MakeVoice();
     QVERIFY(!voice->Descriptions().isEmpty());

@@ -91,16 +91,24 @@ struct Session {
     QString Reason;
 };
 
+QDBusMessage AskForId(Login& login, const QString& session) {
+    return login.Ask(session, u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
+                     {u"org.freedesktop.login1.Session"_s, u"Id"_s});
+}
+
+/// A desktop that starts programs as services of the user leaves them without a session; then that
+/// of the user's screen is meant.
 Session OwnSession(Login& login) {
     const auto pid = static_cast<uint>(QCoreApplication::applicationPid());
-    QDBusMessage reply = login.Ask(u"GetSessionByPID"_s, {pid});
-    if (!Failed(reply)) {
-        const auto path = reply.arguments().value(0).value<QDBusObjectPath>();
-        reply = login.Ask(path.path(), u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
-                          {u"org.freedesktop.login1.Session"_s, u"Id"_s});
+    const QDBusMessage found = login.Ask(u"GetSessionByPID"_s, {pid});
+    const auto path = found.arguments().value(0).value<QDBusObjectPath>();
+    if (Failed(found) && !found.errorName().endsWith(u".NoSessionForPID"_s)) {
+        return {{}, Reason(login, found)};
     }
-    return {reply.arguments().value(0).value<QDBusVariant>().variant().toString(),
-            Reason(login, reply)};
+    const QDBusMessage id =
+        AskForId(login, Failed(found) ? u"/org/freedesktop/login1/session/auto"_s : path.path());
+    return {id.arguments().value(0).value<QDBusVariant>().variant().toString(),
+            Failed(id) ? Reason(login, Failed(found) ? found : id) : QString()};
 }
 
 QString RunOnSession(Login& login, const QString& method, const QString& session) {

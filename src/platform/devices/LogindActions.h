@@ -16,7 +16,8 @@ namespace platform {
 /// answer is waited for a few seconds.
 class LogindActions final : public SystemActions {
 public:
-    /// @p session is XDG_SESSION_ID; when it is empty, the session of this process is asked for.
+    /// @p session is XDG_SESSION_ID; when it is empty, the session of this process is asked for, or
+    /// that of the user's screen where this process is in none.
     /// @p address is that of another bus than the system's, for tests.
     explicit LogindActions(QString session, QString address = {}, int timeoutMilliseconds = 5000);
 
