@@ -93,12 +93,20 @@ QRegion FaceComposer::Changes(const std::optional<HandsFrame>& hands,
     if (hands) {
         changed += HandsDifference(*hands_, *hands, surface.DevicePixelRatio());
     }
+    // Both are in the same order: each is mostly found where the search for the last one ended.
     const auto addUnlessIn = [&changed](const std::vector<Overlay>& some,
                                         const std::vector<Overlay>& others) {
+        auto next = others.begin();
         for (const Overlay& overlay : some) {
-            if (std::find(others.begin(), others.end(), overlay) == others.end()) {
-                changed += overlay.Rect;
+            if (next == others.end() || *next != overlay) {
+                const auto found = std::find(others.begin(), others.end(), overlay);
+                if (found == others.end()) {
+                    changed += overlay.Rect;
+                    continue;
+                }
+                next = found;
             }
+            ++next;
         }
     };
     addUnlessIn(overlays, overlays_);

@@ -74,6 +74,8 @@ private:
 
     void ForgetFired(int dialMinute);
     bool HasFired(int slot) const;
+    bool IsDue(int slot, int dialMinute) const;
+    bool IsLastOfPass(int slot, int dialMinute) const;
     void Fire(int slot, const QDateTime& clockTime);
     void Announce(const QString& key, const QString& text);
     void PlayTimerSound(const QString& file);

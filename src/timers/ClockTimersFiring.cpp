@@ -17,6 +17,10 @@ namespace {
 
 constexpr int DialMinutes = 12 * 60;
 
+/// Each timer that fires is saved with all others. Where thousands are due together that would take
+/// minutes, so beyond these only the last one's save is made, which leaves the same file.
+constexpr int MostSaves = 20;
+
 int DialMinute(const QTime& time) {
     return (time.hour() * 60 + time.minute()) % DialMinutes;
 }
@@ -36,11 +40,37 @@ void ClockTimers::CheckTimers(const QString& clockTime) {
     }
     const int minute = DialMinute(parsed->Moment.time());
     ForgetFired(minute);
+    int saves = 0;
     for (int slot = 1; slot <= SlotCount() && messages_.PendingAction().isEmpty(); ++slot) {
-        if (dueMinutes_[Index(slot)] == minute && !HasFired(slot)) {
-            Fire(slot, parsed->Moment);
+        if (!IsDue(slot, minute)) {
+            continue;
+        }
+        if (watcher_) {
+            watcher_(slot, Timer(slot));
+        }
+        if (saves < MostSaves || IsLastOfPass(slot, minute)) {
+            ++saves;
+            SaveTimer(path_);
+        }
+        Fire(slot, parsed->Moment);
+    }
+}
+
+bool ClockTimers::IsDue(int slot, int dialMinute) const {
+    return dueMinutes_[Index(slot)] == dialMinute && !HasFired(slot);
+}
+
+// An action ends the pass.
+bool ClockTimers::IsLastOfPass(int slot, int dialMinute) const {
+    if (!Timer(slot).TimerAction.isEmpty()) {
+        return true;
+    }
+    for (int next = slot + 1; next <= SlotCount(); ++next) {
+        if (IsDue(next, dialMinute)) {
+            return false;
         }
     }
+    return true;
 }
 
 // A timer whose action has run stays on the dial; it may not fire again in the same minute, nor
@@ -60,11 +90,7 @@ bool ClockTimers::HasFired(int slot) const {
 void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
     // A copy: while a text is spoken the user may change the slot.
     const ClockTimer timer = Timer(slot);
-    if (watcher_) {
-        watcher_(slot, timer);
-    }
     fired_.push_back({slot, DialMinute(clockTime.time())});
-    SaveTimer(path_);
     messages_.ShowMessage(timer.Message);
     Announce(u"Speak Timer Message"_s, timer.Message);
     messages_.SetMessageColour(timer.MessageColour);

@@ -12,9 +12,13 @@ using namespace Qt::StringLiterals;
 /// A shell that remembers what it is told.
 struct FakeShell final : IShell {
     QStringList Messages;
+    QStringList Boxes;  ///< each as "title: text"
     int Colour = 0x804020;
     void ShowStatusMsg(const QString& text) override { Messages += text; }
-    int ShowMsgbox(const QString&, int, const QString&) override { return 1; }
+    int ShowMsgbox(const QString& text, int, const QString& title) override {
+        Boxes += title + u": "_s + text;
+        return 1;
+    }
     int RefreshForm(const QString&) override { return 0; }
     void SpeakMessage(const QString&) override {}
     void PurgeSpeech() override {}

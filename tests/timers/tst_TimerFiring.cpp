@@ -48,6 +48,8 @@ private Q_SLOTS:
     void IsDueByItsText();
     void NeedsADateAndTime();
     void SavesBeforeItFires();
+    void SavesAFewTimesWhereManyAreDue_data();
+    void SavesAFewTimesWhereManyAreDue();
     void FiresInThisOrder();
     void SpeaksTheActionOfASilentTimer();
     void ClearsTheSlot();
@@ -144,6 +146,38 @@ void tst_TimerFiring::SavesBeforeItFires() {
              QByteArray("5,Red,,,0#16/06/2026 15:5=Call home\r\n"));
     QVERIFY(desk.Timers.Timer(1).IsFree());
     QCOMPARE(desk.Timers.TimerLines(), QStringList());
+}
+
+void tst_TimerFiring::SavesAFewTimesWhereManyAreDue_data() {
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("lastAction");
+    QTest::addColumn<int>("saves");
+
+    QTest::newRow("three") << 3 << QString() << 3;
+    QTest::newRow("twenty") << 20 << QString() << 20;
+    QTest::newRow("many") << 500 << QString() << 21;
+    QTest::newRow("an action ends it") << 500 << u"None"_s << 21;
+}
+
+// The file is left as if each of them had been saved: with the last one still in it.
+void tst_TimerFiring::SavesAFewTimesWhereManyAreDue() {
+    QFETCH(int, count);
+    QFETCH(QString, lastAction);
+    FiringDesk desk;
+    desk.SetNow(u"2026-06-15T15:05:00"_s);
+    const QString path = desk.Machine.AppFolder() + u"/Timer.txt"_s;
+    desk.Timers.LoadTimers(path);
+    for (int number = 1; number < count; ++number) {
+        desk.Add(u"03:05"_s, u"Call home"_s);
+    }
+    desk.Add(u"03:05"_s, u"The last"_s, lastAction);
+    desk.Add(u"03:06"_s, u"Later"_s);
+    desk.Timers.CheckTimers(u"15/06/2026 15:05:00"_s);
+    QCOMPARE(desk.Fired.size(), count);
+    QTEST(static_cast<int>(desk.Machine.Files.Writes.size()), "saves");
+    QCOMPARE(desk.Machine.ReadFile(u"Timer.txt"_s), "5,Red,," + lastAction.toUtf8() +
+                                                        ",0#16/06/2026 15:5=The last\r\n"
+                                                        "5,Red,,,0#16/06/2026 15:6=Later\r\n");
 }
 
 void tst_TimerFiring::FiresInThisOrder() {
