@@ -7,6 +7,10 @@
 #include <span>
 #include <vector>
 
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "platform/LocalFiles.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -146,6 +150,7 @@ class tst_StockSounds : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void areOfferedForTimers();
     void ThereAreManySounds();
     void EachIsPlainWave_data();
     void EachIsPlainWave();
@@ -294,6 +299,19 @@ void tst_StockSounds::TheMusicIsSmall() {
         bytes += file.size();
     }
     QVERIFY(bytes < 1'500'000);
+}
+
+// The choices of a new timer's sound are "None" and all that there are.
+void tst_StockSounds::areOfferedForTimers() {
+    ClockProperties defaults;
+    QVERIFY(mduLib::ReadPropertyFile(platform::LocalFiles(),
+                                     QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/ini/Tempolark.ini"),
+                                     defaults));
+    QCOMPARE(mduLib::GetProperty(u"Timer Sound File"_s, defaults), u".\\SoundFiles\\Marimba.wav"_s);
+    QStringList offered = mduLib::GetPropertyChoices(u"Timer Sound File"_s, defaults).split(u',');
+    QCOMPARE(offered.takeFirst(), u"None"_s);
+    offered.replaceInStrings(u".\\SoundFiles\\"_s, QString());
+    QCOMPARE(offered, SoundFiles());
 }
 
 QTEST_GUILESS_MAIN(tst_StockSounds)
