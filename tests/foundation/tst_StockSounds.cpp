@@ -150,7 +150,6 @@ class tst_StockSounds : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void areOfferedForTimers();
     void ThereAreManySounds();
     void EachIsPlainWave_data();
     void EachIsPlainWave();
@@ -169,6 +168,7 @@ private Q_SLOTS:
     void ThereAreThreePieces();
     void MusicIsWholeAndShort();
     void TheMusicIsSmall();
+    void AreOfferedForTimers();
 };
 
 void tst_StockSounds::ThereAreManySounds() {
@@ -302,7 +302,7 @@ void tst_StockSounds::TheMusicIsSmall() {
 }
 
 // The choices of a new timer's sound are "None" and all that there are.
-void tst_StockSounds::areOfferedForTimers() {
+void tst_StockSounds::AreOfferedForTimers() {
     ClockProperties defaults;
     QVERIFY(mduLib::ReadPropertyFile(platform::LocalFiles(),
                                      QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/ini/Tempolark.ini"),
