@@ -1,6 +1,7 @@
 #include "platform/devices/QtVoices.h"
 
 #include <QTest>
+#include <QTimer>
 
 #include "devices/StandIn.h"
 
@@ -32,6 +33,9 @@ private Q_SLOTS:
     void describesVoices();
     void keepsCommasOutOfDescriptions();
     void countsEveryVoice();
+    void speaksBeforeItHasToldItsVoices();
+    void waitsInVainOnlyOnce();
+    void hangHoldsUpNobody();
 };
 
 void tst_QtVoices::describesVoices() {
@@ -54,6 +58,39 @@ void tst_QtVoices::countsEveryVoice() {
     voice->SetVoice(1);
     QVERIFY2(voice->Speak(u"Noon"_s, 2), qPrintable(voice->LastError()));
     QCOMPARE(program.Told(u"set"_s), u"1 0 100\n"_s);
+}
+
+void tst_QtVoices::speaksBeforeItHasToldItsVoices() {
+    const StandIn program(Engine(QStringList(u"Ann"_s)));
+    QtVoices voices(program.Path());
+    const auto voice = voices.MakeVoice();
+    voice->SetRate(3);
+    QVERIFY2(voice->Speak(u"Noon"_s, 2), qPrintable(voice->LastError()));
+    QCOMPARE(program.Told(u"set"_s), u"-1 3 100\n"_s);
+    QCOMPARE(voice->Descriptions(), QStringList(u"Ann"_s));
+}
+
+// Each process that is started leaves a line; the second asking starts none.
+void tst_QtVoices::waitsInVainOnlyOnce() {
+    const StandIn program("echo >> begun\nexit 1\n");
+    QtVoices voices(program.Path());
+    QCOMPARE(voices.MakeVoice()->Descriptions(), QStringList());
+    QCOMPARE(voices.MakeVoice()->Descriptions(), QStringList());
+    QCOMPARE(program.Told(u"begun"_s), u"\n"_s);
+}
+
+// It does not even tell its voices; the event loop goes on.
+void tst_QtVoices::hangHoldsUpNobody() {
+    const StandIn program("exec sleep 60\n");
+    QtVoices voices(program.Path(), {}, {.Start = 500});
+    const auto voice = voices.MakeVoice();
+    int ticks = 0;
+    QTimer other;
+    QObject::connect(&other, &QTimer::timeout, &other, [&] { ++ticks; });
+    other.start(1);
+    QVERIFY(!voice->Speak(u"Noon"_s, 2));
+    QCOMPARE(voice->LastError(), u"The speech engine does not answer"_s);
+    QVERIFY(ticks >= 3);
 }
 
 QTEST_GUILESS_MAIN(tst_QtVoices)

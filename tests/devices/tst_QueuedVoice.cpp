@@ -40,7 +40,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(FakeEngine)
 
-    QStringList Voices() const override { return {u"Ann"_s, u"Ben"_s}; }
+    QStringList Voices() override { return {u"Ann"_s, u"Ben"_s}; }
     void Apply(const platform::VoiceSettings& settings) override {
         studio_.Log += u"voice %1 rate %2 volume %3"_s.arg(QString::number(settings.Voice),
                                                            QString::number(settings.Rate),

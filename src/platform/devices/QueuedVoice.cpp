@@ -12,7 +12,7 @@ constexpr int Asynchronous = 1;
 constexpr int PurgeBeforeSpeak = 2;
 
 QStringList EngineVoices(VoiceCore& core) {
-    const SpeechEngine* engine = core.Engine ? core.Engine.get() : core.NeedEngine();
+    SpeechEngine* engine = core.Engine ? core.Engine.get() : core.NeedEngine();
     return engine != nullptr ? engine->Voices() : QStringList();
 }
 

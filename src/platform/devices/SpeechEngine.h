@@ -20,7 +20,8 @@ public:
     enum class State { Ready, Speaking, Error };
 
     virtual ~SpeechEngine() = default;
-    virtual QStringList Voices() const = 0;
+    /// Waits until the engine has told its voices, for some seconds at most.
+    virtual QStringList Voices() = 0;
     virtual void Apply(const VoiceSettings& settings) = 0;
     virtual void Say(const QString& text) = 0;  ///< returns at once
     virtual void Stop() = 0;

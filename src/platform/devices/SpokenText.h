@@ -8,7 +8,7 @@ namespace platform {
 /// The bounds of a message, in milliseconds.
 struct SpeechBounds {
     int Turn = 130'000;   ///< waiting for other clocks to end
-    int Start = 5'000;    ///< from a text's hand-over until the engine begins to speak
+    int Start = 10'000;   ///< from a text's hand-over until the engine, fresh maybe, speaks it
     int Base = 3'000;     ///< what every piece of text may take,
     int Letter = 150;     ///< and more for each of its characters,
     int Digit = 600;      ///< and for each digit: "7" takes as long as "seven"

@@ -9,7 +9,8 @@ namespace platform {
 
 namespace {
 
-constexpr int IntroductionMilliseconds = 5000;
+/// Speech Dispatcher has thousands of voices and takes seconds to count them.
+constexpr int IntroductionMilliseconds = 10'000;
 
 QString Decoded(const QByteArray& word) {
     return QString::fromUtf8(QByteArray::fromBase64(word));
@@ -23,22 +24,21 @@ QByteArray Encoded(const QString& text) {
 
 VoiceProcess::VoiceProcess(const QString& program, const QString& engine) {
     process_.setStandardErrorFile(QProcess::nullDevice());
-    process_.start(program, engine.isEmpty() ? QStringList() : QStringList(engine));
-    const QDeadlineTimer deadline(IntroductionMilliseconds);
-    while (!introduced_ && process_.waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
-        Read();
-    }
-    if (!introduced_) {
-        trouble_ = process_.error() == QProcess::FailedToStart
-                       ? u"The speech engine can't be started. "_s + process_.errorString()
-                       : u"The speech engine does not answer"_s;
-        process_.kill();
-    }
     // Queued, so that whoever hears of it may destroy the engine.
     QObject::connect(
         &process_, &QProcess::readyRead, &process_, [this] { Read(); }, Qt::QueuedConnection);
     QObject::connect(
-        &process_, &QProcess::finished, &process_, [this] { Die(); }, Qt::QueuedConnection);
+        &process_, &QProcess::finished, &process_,
+        [this] { Die(u"The speech engine has ended"_s); }, Qt::QueuedConnection);
+    QObject::connect(
+        &process_, &QProcess::errorOccurred, &process_,
+        [this](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart) {
+                Die(u"The speech engine can't be started. "_s + process_.errorString());
+            }
+        },
+        Qt::QueuedConnection);
+    process_.start(program, engine.isEmpty() ? QStringList() : QStringList(engine));
 }
 
 VoiceProcess::~VoiceProcess() {
@@ -46,6 +46,23 @@ VoiceProcess::~VoiceProcess() {
     process_.disconnect();
     process_.kill();
     process_.waitForFinished(1000);
+}
+
+QStringList VoiceProcess::Voices() {
+    const QDeadlineTimer deadline(IntroductionMilliseconds);
+    const QPointer<QProcess> alive = &process_;
+    while (!introduced_ && trouble_.isEmpty() &&
+           process_.waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
+        Read();
+        if (!alive) {
+            return {};
+        }
+    }
+    if (!introduced_ && trouble_.isEmpty() && process_.error() != QProcess::FailedToStart) {
+        trouble_ = u"The speech engine does not answer"_s;
+        process_.kill();
+    }
+    return voices_;
 }
 
 void VoiceProcess::Apply(const VoiceSettings& settings) {
@@ -82,8 +99,8 @@ void VoiceProcess::Hear(const QByteArrayList& words) {
     }
 }
 
-void VoiceProcess::Die() {
-    trouble_ = trouble_.isEmpty() ? u"The speech engine has ended"_s : trouble_;
+void VoiceProcess::Die(const QString& reason) {
+    trouble_ = trouble_.isEmpty() ? reason : trouble_;
     Tell(State::Error);
 }
 

@@ -10,13 +10,14 @@ namespace platform {
 /// trouble and a new one is needed; destroying this object ends it, and its sound, at once.
 class VoiceProcess final : public SpeechEngine {
 public:
-    /// Starts @p program and waits until it has told its voices, for some seconds at most.
-    /// @p engine is one of the toolkit's engines; empty leaves the choice to the process.
+    /// Starts @p program and does not wait for it: what it is asked to do meanwhile it does as soon
+    /// as it can. @p engine is one of the toolkit's engines; empty leaves the choice to the
+    /// process.
     VoiceProcess(const QString& program, const QString& engine);
     ~VoiceProcess() override;
     Q_DISABLE_COPY_MOVE(VoiceProcess)
 
-    QStringList Voices() const override { return voices_; }
+    QStringList Voices() override;
     void Apply(const VoiceSettings& settings) override;
     void Say(const QString& text) override;
     void Stop() override { process_.kill(); }
@@ -25,7 +26,7 @@ public:
 private:
     void Read();
     void Hear(const QByteArrayList& words);
-    void Die();
+    void Die(const QString& reason);
     void Tell(State state);
 
     QProcess process_;
