@@ -1,6 +1,3 @@
-#include <QMdiArea>
-#include <QMdiSubWindow>
-
 #include "shell/ShellDesk.h"
 
 /// Which help the shell asks for, and what it says when there is none.
@@ -10,7 +7,8 @@ class tst_ShellHelp : public QObject {
 private Q_SLOTS:
     void theButtonAsksForTheShellsHelp();
     void theMenuAsksForTheShellsHelp();
-    void aWindowInFrontTellsItsOwnNumber();
+    void theWindowOfZonesHasAPageOfItsOwn();
+    void aClockInFrontLeavesItAtTheShells();
     void theClocksHelpHasItsOwnFile();
     void anotherFileMayBeNamed();
     void aRefusalStandsInTheStatusBar();
@@ -43,17 +41,23 @@ void tst_ShellHelp::theMenuAsksForTheShellsHelp() {
     desk.Stop();
 }
 
-void tst_ShellHelp::aWindowInFrontTellsItsOwnNumber() {
+void tst_ShellHelp::theWindowOfZonesHasAPageOfItsOwn() {
     Desk desk;
     QVERIFY(desk.Start());
-    auto* area = desk.Shell->findChild<QMdiArea*>();
-    auto* window = new QWidget;
-    window->setProperty("helpContext", 200);
-    area->addSubWindow(window)->show();
-    area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(window->parentWidget()));
-    desk.Shell->ShowHelp();
+    QTest::mouseClick(desk.Button(u"Timezone"_s), Qt::LeftButton);
+    QTest::mouseClick(desk.Button(u"Help"_s), Qt::LeftButton);
     QCOMPARE(desk.Machine.Help.Pages,
              (std::vector<FakeHelp::Page>{{File(desk, u"TempolarkCentral.chm"_s), 200}}));
+    desk.Stop();
+}
+
+void tst_ShellHelp::aClockInFrontLeavesItAtTheShells() {
+    Desk desk;
+    QVERIFY(desk.Start());
+    QVERIFY(desk.Shell->LaunchTempolark(u"UTC"_s) != 0);
+    QTest::mouseClick(desk.Button(u"Help"_s), Qt::LeftButton);
+    QCOMPARE(desk.Machine.Help.Pages,
+             (std::vector<FakeHelp::Page>{{File(desk, u"TempolarkCentral.chm"_s), 100}}));
     desk.Stop();
 }
 

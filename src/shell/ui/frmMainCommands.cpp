@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ShellHelp = 100;  // help context numbers
+constexpr int ZonesHelp = 200;
 constexpr int ClockHelp = 600;
 
 }  // namespace
@@ -163,11 +164,9 @@ void frmMain::ShowClockHelp() {
 
 // The window in front may have a page of its own; @p otherwise is the page of a window without one.
 void frmMain::OpenHelp(const QString& name, int otherwise) {
-    const QMdiSubWindow* active = area_->activeSubWindow();
-    const QVariant own = active != nullptr && active->widget() != nullptr
-                             ? active->widget()->property("helpContext")
-                             : QVariant();
-    const int context = own.toInt() != 0 ? own.toInt() : otherwise;
+    const IForm* active = ActiveChild();
+    const bool hasOwn = active != nullptr && active->Name() == u"frmTimeZones"_s;
+    const int context = hasOwn ? ZonesHelp : otherwise;
     const QString refusal =
         program_.Services.Help.Show(program_.Module.Paths.AppFolder + u"/Help/"_s + name, context);
     if (!refusal.isEmpty()) {
