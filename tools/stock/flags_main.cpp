@@ -7,28 +7,17 @@
 // organisations ("_wales.svg") are passed over.
 #include <QDir>
 #include <QGuiApplication>
-#include <QLocale>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QSvgRenderer>
 #include <cstdio>
+
+#include "CountryName.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize FlagSize(320, 240);
-
-QString CountryName(const QString& code) {
-    const auto territory = QLocale::codeToTerritory(code.toUpper());
-    QString name = QLocale::territoryToString(territory);
-    if (territory == QLocale::AnyTerritory || territory == QLocale::World || name.isEmpty()) {
-        return code.toUpper();
-    }
-    // What a file's name or a property's value can't hold: a comma ends the value.
-    static const QRegularExpression unsuited(u"[\\\\/:*?\"<>|,=^]"_s);
-    return name.remove(unsuited).simplified();
-}
 
 bool Convert(const QString& source, const QString& target) {
     QSvgRenderer flag(source);
@@ -57,7 +46,7 @@ int main(int argc, char** argv) {
     QDir().mkpath(arguments[2]);
     bool good = true;
     for (const QString& file : sources.entryList({u"[a-z][a-z].svg"_s}, QDir::Files, QDir::Name)) {
-        const QString target = arguments[2] + u'/' + CountryName(file.first(2)) + u".jpg"_s;
+        const QString target = arguments[2] + u'/' + stock::CountryName(file.first(2)) + u".jpg"_s;
         if (!Convert(sources.filePath(file), target)) {
             std::fprintf(stderr, "Can't convert the flag %s\n", qPrintable(file));
             good = false;
