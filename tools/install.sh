@@ -1,8 +1,9 @@
 #!/bin/bash
 # Installs what is missing, from Debian 12. The only list of packages in the project.
 #
-#   tools/install.sh run     what building and running need
-#   tools/install.sh test    that, and what the tests and the checks need
+#   tools/install.sh run      what building and running need
+#   tools/install.sh test     that, and what the tests and the checks need
+#   tools/install.sh package  what building and packaging need
 #
 # Says nothing and touches nothing when all is there. The apt-get used is ${APT_GET:-apt-get}.
 set -euo pipefail
@@ -26,11 +27,13 @@ testPackages=(
     # A sound server, a system bus and a login service for the tests of devices.
     dbus-bin dbus-daemon libsox-fmt-mp3 pulseaudio pulseaudio-utils python3-dbusmock sox
 )
+packagePackages=(appstream desktop-file-utils dpkg-dev file)
 
 case "${1:-run}" in
     run) ;;
+    package) packages+=("${packagePackages[@]}") ;;
     test) packages+=("${testPackages[@]}") ;;
-    *) echo "usage: tools/install.sh [run|test]" >&2; exit 2 ;;
+    *) echo "usage: tools/install.sh [run|test|package]" >&2; exit 2 ;;
 esac
 
 if ! command -v dpkg-query >/dev/null; then
