@@ -14,7 +14,7 @@ QString HelpFolder(const QString& helpFile) {
 QString HelpPage(const Files& files, const QString& helpFile, int contextNumber) {
     const QString folder = HelpFolder(helpFile);
     for (const QString& name : {QString::number(contextNumber), u"index"_s}) {
-        const QString page = u"%1/%2.html"_s.arg(folder, name);
+        QString page = u"%1/%2.html"_s.arg(folder, name);
         if (files.Exists(page)) {
             return page;
         }
