@@ -16,10 +16,10 @@ namespace {
 constexpr int SeparatorExtent = 9;
 constexpr int ButtonMargin = 3;
 
-/// The pointer of that picture, hot in its middle; the desktop's own where there is none.
-QCursor PointerOf(const QString& file, Qt::CursorShape otherwise) {
+/// The pointer of that picture with its tip at @p tip; the desktop's own where there is none.
+QCursor PointerOf(const QString& file, const QPoint& tip, Qt::CursorShape otherwise) {
     const QPixmap picture = QIcon(file).pixmap(24, 24);
-    return picture.isNull() ? QCursor(otherwise) : QCursor(picture);
+    return picture.isNull() ? QCursor(otherwise) : QCursor(picture, tip.x(), tip.y());
 }
 
 /// A caption of two words stands in two lines, or the bar would show half of its buttons only.
@@ -199,9 +199,9 @@ int ToolBar::LastEdge() const {
 }
 
 void ToolBar::UseCursor(bool dragging) {
-    const QString name = dragging ? u"drag"_s : u"normal"_s;
-    setCursor(PointerOf(u"%1/Shell/cursor-%2.png"_s.arg(pictureFolder_, name),
-                        dragging ? Qt::ClosedHandCursor : Qt::ArrowCursor));
+    const QString file = pictureFolder_ + u"/Shell/cursor-%1.png"_s;
+    setCursor(dragging ? PointerOf(file.arg(u"drag"_s), {12, 12}, Qt::ClosedHandCursor)
+                       : PointerOf(file.arg(u"normal"_s), {4, 1}, Qt::ArrowCursor));
 }
 
 void ToolBar::resizeEvent(QResizeEvent*) {
