@@ -12,11 +12,12 @@ tests=$(cd "$1" && pwd)
 
 # Everything below runs on a session bus of its own, which ends with it.
 if [[ -z "${TEMPOLARK_OWN_BUS:-}" ]]; then
-    if ! command -v dbus-run-session >/dev/null; then
-        echo "SKIP  speech, sound and the login service: there is no dbus-run-session"
+    for program in dbus-run-session dbus-daemon; do
+        command -v "$program" >/dev/null && continue
+        echo "SKIP  speech, sound and the login service: there is no $program"
         echo "0 passed, 0 failed, 1 skipped"
         exit 0
-    fi
+    done
     TEMPOLARK_OWN_BUS=1 exec dbus-run-session -- "$0" "$@" 2> >(grep -v 'Failed to set fd limit' >&2)
 fi
 
@@ -100,7 +101,7 @@ StartLogin() {
 Say "The login service"
 if ! /usr/bin/python3 -c 'import dbusmock' 2>/dev/null; then
     Skip "the login service: there is no python3-dbusmock"
-elif ! Lacks "the login service" dbus-daemon dbus-send; then
+elif ! Lacks "the login service" dbus-send; then
     StartLogin || { echo "FAIL  the login service does not start"; failed=$((failed + 1)); }
     RunTest tst_RealLogin
 fi
@@ -116,4 +117,4 @@ if ! Lacks "sound" sox; then
         RunTest tst_RealSoundLoss
     fi
 fi
-Finish
+Finish || ((failed == 0 && skipped > 0))
