@@ -12,7 +12,7 @@ constexpr double LeftEdge = 250;  // twips
 constexpr double HoursToGreenwich = 12;
 constexpr double HoursRound = 24;
 // The inhabited world lies north of the equator: a low map shows more of that side.
-constexpr double MiddleLatitude = 18;
+constexpr double MiddleLatitude = 15;
 
 }  // namespace
 

@@ -17,8 +17,13 @@ void ZoneList::Load() {
     const QString folder = Source == SourceMode::Windows    ? QString()
                            : Source == SourceMode::Selected ? paths_.ZoneFileFolder
                                                             : paths_.ProfileFolder;
-    windows_ = windows ? ListWindowsTimeZones(services_) : TimeZoneRecords();
-    profiles_ = folder.isEmpty() ? TimeZoneRecords() : ListProfileTimeZones(services_, folder);
+    source_.clear();
+    if (windows) {
+        FillWindowsRows(source_, ListWindowsTimeZones(services_), {}, services_);
+    }
+    if (!folder.isEmpty()) {
+        FillProfileRows(source_, ListProfileTimeZones(services_, folder), {}, services_);
+    }
     Fill();
 }
 
@@ -28,11 +33,14 @@ void ZoneList::SetBand(std::optional<double> hours) {
 }
 
 void ZoneList::Fill() {
-    chosen_ = ChosenZones(services_.FileSystem, paths_.ZoneFileFolder);
-    const RowFilter filter{Show, chosen_, band_};
+    const RowFilter filter{Show, ChosenZones(services_.FileSystem, paths_.ZoneFileFolder), band_};
     rows_.clear();
-    FillWindowsRows(rows_, windows_, filter, services_);
-    FillProfileRows(rows_, profiles_, filter, services_);
+    for (const ZoneRow& row : source_) {
+        if (filter.Lists(row.Record)) {
+            rows_.push_back(row);
+            rows_.back().Checked = rows_.back().HasFile = IsChosen(filter.Chosen, row.Name);
+        }
+    }
     Order();
 }
 

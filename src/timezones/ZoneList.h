@@ -22,7 +22,7 @@ public:
     /// Reads the source and fills the rows anew; checks follow the files.
     void Load();
 
-    /// Fills the rows anew from the records as they were read last. Nothing ends the narrowing.
+    /// Fills the rows anew from the source as it was read last. Nothing ends the narrowing.
     void SetBand(std::optional<double> hours);
     std::optional<double> Band() const { return band_; }
 
@@ -59,12 +59,11 @@ private:
 
     const platform::Services& services_;
     const PathTable& paths_;
-    TimeZoneRecords windows_, profiles_;
-    QString chosen_;
+    ZoneRows source_;  ///< all that the source holds, as it was read last
     std::optional<double> band_;
     ZoneSort sort_ = ZoneSort::None;
     QStringList words_;
-    ZoneRows rows_;
+    ZoneRows rows_;                    ///< those that choice and band let through
     std::vector<std::size_t> order_;   ///< indexes of all rows as they are sorted
     std::vector<std::size_t> listed_;  ///< of these, the ones that are listed
 };

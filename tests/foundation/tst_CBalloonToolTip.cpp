@@ -319,10 +319,10 @@ void tst_CBalloonToolTip::ChoosesReadableColours() {
 
 void tst_CBalloonToolTip::CutsLongTexts() {
     Desk desk;
-    desk.Tip.SetMaxLength(5);
-    desk.Tip.ShowBalloonInfo(desk.Owner.get(), 0, 0, u"Title"_s, u"Long text"_s);
-    QCOMPARE(desk.Tip.TipWindow()->Look().Text, u"Long "_s);
-    QCOMPARE(desk.Tip.TipText(), u"Long text"_s);
+    desk.Tip.SetMaxLength(8);
+    desk.Tip.ShowBalloonInfo(desk.Owner.get(), 0, 0, u"Title"_s, u"\r\nLong text"_s);
+    QCOMPARE(desk.Tip.TipWindow()->Look().Text, u"Long t"_s);
+    QCOMPARE(desk.Tip.TipText(), u"\r\nLong text"_s);
 }
 
 void tst_CBalloonToolTip::ShowsOverAControl() {

@@ -14,7 +14,7 @@ constexpr int Margin = 12;
 constexpr int IconSize = 18;
 constexpr int IconGap = 8;
 constexpr int TitleGap = 6;
-constexpr int WidestText = 420;
+constexpr int WidestText = 540;
 constexpr int TextFlags = Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop;
 
 QColor IconColour(int icon) {

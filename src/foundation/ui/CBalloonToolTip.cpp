@@ -146,7 +146,7 @@ int CBalloonToolTip::ToolFlags() const {
 BalloonLook CBalloonToolTip::Look() const {
     const QPalette desktop = QToolTip::palette();
     BalloonLook look{title_,
-                     tipText_.left(maxLength_),
+                     tipText_.left(maxLength_).trimmed(),
                      icon_,
                      desktop.color(QPalette::Inactive, QPalette::ToolTipBase),
                      desktop.color(QPalette::Inactive, QPalette::ToolTipText),

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,25 @@ constexpr int LeastNameWidth = 220;
 constexpr int LeastDisplayWidth = 160;
 constexpr double NameShare = 0.42;
 constexpr int RowPadding = 6;
+
+/// Rows with some air, and check boxes that can be seen on a dark ground as well: styles draw their
+/// outline in a shade of the window's colour.
+class RowDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, RowPadding);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->palette.color(QPalette::Base).lightness() < 128) {
+            option->palette.setColor(QPalette::Window, QColor(0xA0, 0xA0, 0xA0));
+        }
+    }
+};
 
 }  // namespace
 
@@ -26,6 +46,7 @@ ZoneListView::ZoneListView(Handlers handlers, QWidget* parent)
     setAllColumnsShowFocus(true);
     setAlternatingRowColors(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
+    setItemDelegate(new RowDelegate(this));
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     header()->setSectionsClickable(true);

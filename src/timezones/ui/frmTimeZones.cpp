@@ -146,7 +146,7 @@ void frmTimeZones::ShowZoneDetails(int position) {
     const QRect row = lsvTimeZones_->visualRect(model_.index(position, 0));
     QWidget* owner = lsvTimeZones_->viewport();
     balloon_.SetPopupOnDemand(true);
-    balloon_.BalloonInfoSetup(owner, u"Timezone Info"_s, tag.trimmed(), PaleYellow);
+    balloon_.BalloonInfoSetup(owner, u"Timezone Info"_s, tag, PaleYellow);
     balloon_.Show(row.x(), row.y(), QSize(std::min(row.width(), owner->width()), row.height()));
     if (shell_ == nullptr) {
         return;

@@ -35,6 +35,8 @@ public:
 
     /// Clears the list and fills it by the source; unsaved checks are asked for first.
     void LoadZoneList(mduTimeZones::ShowFilter show);
+    /// Lists another source; before the window is shown it only chooses it.
+    void SetSource(mduTimeZones::SourceMode source);
     void SaveCheckedZones();
     void DeleteCheckedZones();
     /// Asks for checked rows that have no file, and saves them on yes.
@@ -85,7 +87,6 @@ private:
     void NarrowToBand();
     void SortByColumn(int column);
     void SetSort(mduTimeZones::ZoneSort sort);
-    void SetSource(mduTimeZones::SourceMode source);
     int CurrentPosition() const;
     void MakeCurrent(int position);
     void ShowCurrent();

@@ -38,7 +38,9 @@ void frmTimeZones::NarrowToBand() {
 
 void frmTimeZones::SetSource(SourceMode source) {
     list_.Source = source;
-    LoadZoneList(list_.Show);
+    if (isVisible()) {
+        LoadZoneList(list_.Show);
+    }
 }
 
 void frmTimeZones::SetSort(ZoneSort sort) {
