@@ -11,7 +11,7 @@
 /// A toolbar of its own, 300 pixels long.
 struct Bar {
     Bar()
-        : Tools(u"/nowhere"_s,
+        : Tools(Files, u"/nowhere"_s,
                 {[this](int i) { Clicked += i; }, [this](int i) { Hovered += i; },
                  [this](const QPoint&) { ++Menus; }},
                 nullptr) {
@@ -43,6 +43,7 @@ struct Bar {
     QList<int> Clicked;
     QList<int> Hovered;
     int Menus = 0;
+    platform::LocalFiles Files;
     ToolBar Tools;
 };
 

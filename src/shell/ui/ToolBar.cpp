@@ -8,6 +8,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/Twips.h"
 #include "shell/ToolbarLook.h"
+#include "shell/ui/ShellPictures.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +18,8 @@ constexpr int SeparatorExtent = 9;
 constexpr int ButtonMargin = 3;
 
 /// The pointer of that picture with its tip at @p tip; the desktop's own where there is none.
-QCursor PointerOf(const QString& file, const QPoint& tip, Qt::CursorShape otherwise) {
-    const QPixmap picture = QIcon(file).pixmap(24, 24);
+QCursor PointerOf(const QIcon& icon, const QPoint& tip, Qt::CursorShape otherwise) {
+    const QPixmap picture = icon.pixmap(24, 24);
     return picture.isNull() ? QCursor(otherwise) : QCursor(picture, tip.x(), tip.y());
 }
 
@@ -30,8 +31,10 @@ QString InTwoLines(QString caption) {
 
 }  // namespace
 
-ToolBar::ToolBar(const QString& pictureFolder, Hooks hooks, QWidget* parent)
+ToolBar::ToolBar(const platform::Files& files, const QString& pictureFolder, Hooks hooks,
+                 QWidget* parent)
     : QFrame(parent),
+      files_(files),
       pictureFolder_(pictureFolder),
       hooks_(std::move(hooks)),
       align_(shell::Align::Top),
@@ -57,7 +60,8 @@ void ToolBar::MakeButton(int index, Slot& slot) {
     slot.Button->setAccessibleDescription(slot.Data.Description);
     slot.Button->setAutoRaise(true);
     slot.Button->setFocusPolicy(Qt::TabFocus);
-    slot.Button->setIcon(QIcon(u"%1/Toolbar/%2.svg"_s.arg(pictureFolder_, slot.Data.Tag)));
+    slot.Button->setIcon(
+        ShellPicture(files_, u"%1/Toolbar/%2.svg"_s.arg(pictureFolder_, slot.Data.Tag)));
     slot.Button->installEventFilter(this);
     connect(slot.Button, &QToolButton::clicked, this,
             [this, &slot] { hooks_.Click(shell::ToolIndexOfKey(slot.Data.Key)); });
@@ -199,9 +203,11 @@ int ToolBar::LastEdge() const {
 }
 
 void ToolBar::UseCursor(bool dragging) {
-    const QString file = pictureFolder_ + u"/Shell/cursor-%1.png"_s;
-    setCursor(dragging ? PointerOf(file.arg(u"drag"_s), {12, 12}, Qt::ClosedHandCursor)
-                       : PointerOf(file.arg(u"normal"_s), {4, 1}, Qt::ArrowCursor));
+    const auto picture = [this](const QString& name) {
+        return ShellPicture(files_, u"%1/Shell/cursor-%2.png"_s.arg(pictureFolder_, name));
+    };
+    setCursor(dragging ? PointerOf(picture(u"drag"_s), {12, 12}, Qt::ClosedHandCursor)
+                       : PointerOf(picture(u"normal"_s), {4, 1}, Qt::ArrowCursor));
 }
 
 void ToolBar::resizeEvent(QResizeEvent*) {

@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <functional>
 
+#include "platform/Files.h"
 #include "shell/ToolCommands.h"
 #include "shell/ToolRow.h"
 
@@ -24,7 +25,8 @@ public:
 
     /// @param pictureFolder where "Toolbar" holds a picture for each Tag ("Launch.svg", ...) and
     ///   "Shell" the two pointers
-    ToolBar(const QString& pictureFolder, Hooks hooks, QWidget* parent);
+    ToolBar(const platform::Files& files, const QString& pictureFolder, Hooks hooks,
+            QWidget* parent);
 
     void ApplyToolbarSize(const QString& sizeName);
     const QString& SizeName() const { return sizeName_; }
@@ -74,6 +76,7 @@ private:
     bool IsVertical() const;
     void UseCursor(bool dragging);
 
+    const platform::Files& files_;
     QString pictureFolder_;
     Hooks hooks_;
     QString sizeName_;

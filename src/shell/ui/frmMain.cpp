@@ -15,6 +15,7 @@
 #include "shell/ui/HeaderArt.h"
 #include "shell/ui/ShellFrame.h"
 #include "shell/ui/ShellMenus.h"
+#include "shell/ui/ShellPictures.h"
 #include "shell/ui/StatusBar.h"
 #include "shell/ui/ToolBar.h"
 #include "timezones/StartZone.h"
@@ -26,10 +27,11 @@ namespace {
 constexpr int FirstInterval = 1;  // milliseconds: the first tick comes when the window stands
 
 /// The pictures of the eye, of which the status bar shows one at a time.
-std::vector<QIcon> EyeFrames(const QString& folder) {
+std::vector<QIcon> EyeFrames(const platform::Files& files, const QString& folder) {
     std::vector<QIcon> frames;
     for (int i = 1; i <= shell::Eye::Frames; ++i) {
-        frames.emplace_back(u"%1/eye-%2.svg"_s.arg(folder).arg(i, 2, 10, QChar(u'0')));
+        frames.push_back(
+            ShellPicture(files, u"%1/eye-%2.svg"_s.arg(folder).arg(i, 2, 10, QChar(u'0'))));
     }
     return frames;
 }
@@ -72,7 +74,8 @@ void frmMain::MakeInnerParts() {
          [this](const QPoint& at) { menus_->Popup(u"ToolBarMenu"_s, at); }},
         this);
     area_ = new ClockArea(this);
-    statusBar_ = new StatusBar(EyeFrames(pictures + u"/Shell"_s), this);
+    statusBar_ =
+        new StatusBar(EyeFrames(program_.Services.FileSystem, pictures + u"/Shell"_s), this);
     statusBar_->OnMenu = [this](const QPoint& at) { menus_->Popup(u"StatusBarMenu"_s, at); };
     frame_ = new ShellFrame(area_, toolbar_, statusBar_, this);
     setCentralWidget(frame_);
