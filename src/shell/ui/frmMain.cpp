@@ -69,7 +69,7 @@ void frmMain::MakeInnerParts() {
     HandleCentralMenus();
     HandleClockMenus();
     toolbar_ = new ToolBar(
-        pictures,
+        program_.Services.FileSystem, pictures,
         {[this](int index) { HandleToolButton(index); }, [this](int index) { ShowToolTip(index); },
          [this](const QPoint& at) { menus_->Popup(u"ToolBarMenu"_s, at); }},
         this);
