@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QProcess>
 #include <cstdio>
 
 #include "foundation/Program.h"
@@ -90,6 +92,15 @@ public:
     }
 };
 
+/// The profiles of the cities hold the days of one year and follow the zone database. The tool does
+/// nothing while they are up to date, and touches only a folder that it has made itself.
+void RefreshProfiles(const QString& appFolder) {
+    const QString tool = QApplication::applicationDirPath() + u"/tempolark-profiles"_s;
+    if (QFile::exists(appFolder + u"/Timezones/.made-of"_s) && QFile::exists(tool)) {
+        QProcess::startDetached(tool, {appFolder});
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -101,6 +112,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(u"Tempolark"_s);
     QApplication::setApplicationVersion(QStringLiteral(TEMPOLARK_VERSION));
     QApplication::setWindowIcon(ProgramIcon());
+    QGuiApplication::setDesktopFileName(u"org.tempolark.Tempolark"_s);
     // The toolkit has taken its own options off by now.
     const Options options = ReadOptions(QApplication::arguments());
 
@@ -132,6 +144,7 @@ int main(int argc, char** argv) {
     if (!shell.Load()) {
         return 1;
     }
+    RefreshProfiles(module.Paths.AppFolder);
     FirstPaint firstPaint;
     if (options.QuitWhenPainted) {
         application.installEventFilter(&firstPaint);
