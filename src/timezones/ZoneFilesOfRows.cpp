@@ -29,7 +29,7 @@ QString ZoneFilePath(const PathTable& paths, const QString& zoneName) {
 }
 
 QString MakeZoneFile(const platform::Services& services, const PathTable& paths, ZoneRow& row) {
-    const QString problem = mduLib::ZoneNameProblem(row.Name);
+    QString problem = mduLib::ZoneNameProblem(row.Name);
     if (!problem.isEmpty()) {
         return problem;
     }

@@ -24,7 +24,13 @@ CBalloonToolTip::CBalloonToolTip(platform::WallClock& clock)
     : ticker_(clock.MakeTicker([this] { OnTicker(); })) {}
 
 CBalloonToolTip::~CBalloonToolTip() {
-    delete window_;
+    DropWindow();
+}
+
+void CBalloonToolTip::DropWindow() {
+    const BalloonWindow* window = window_;
+    window_.clear();
+    delete window;
 }
 
 void CBalloonToolTip::SetShown(bool shown) {
@@ -35,7 +41,7 @@ void CBalloonToolTip::SetShown(bool shown) {
 
 void CBalloonToolTip::CreateToolTip(QWidget* ownerWindow, bool& ok) {
     Destroy();
-    delete window_;
+    DropWindow();
     WatchOwner(ownerWindow);
     ok = ownerWindow != nullptr;
     if (ok) {

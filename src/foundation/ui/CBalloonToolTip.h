@@ -102,6 +102,7 @@ private:
 
     void SetUp(int icon, QWidget* owner, const QString& title, const QString& text, int backColor,
                int foreColor);
+    void DropWindow();
     void ShowAtTwips(double x, double y);
     void Appear(const QRect& screenTool);
     void WatchOwner(QWidget* owner);

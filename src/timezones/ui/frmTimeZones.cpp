@@ -47,7 +47,7 @@ void frmTimeZones::ShowMe(IForm& parentForm, IShell* shell, std::int16_t, std::i
     setWindowTitle(parentForm.Caption() + u" - Tempolark"_s);
     LoadZoneList(ShowFilter::All);
     Show();
-    txtSearch_->setFocus();
+    setFocus();
 }
 
 QWidget& frmTimeZones::Outer() {

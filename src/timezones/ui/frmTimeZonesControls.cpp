@@ -34,6 +34,7 @@ void frmTimeZones::MakeControls() {
     MakeList();
     MakeButtons();
     RefreshMenus();
+    setFocusProxy(txtSearch_);
 }
 
 void frmTimeZones::MakeMap() {
