@@ -5,6 +5,8 @@
 #include <numbers>
 #include <vector>
 
+#include "foundation/Numbers.h"
+
 namespace mduTimeZones {
 
 namespace {
@@ -24,7 +26,7 @@ double Smooth(double step) {
 }
 
 QRgb NightAt(double darkness, int strength) {
-    const int alpha = static_cast<int>(std::lround(darkness * strength));
+    const int alpha = mduAPILib::RoundToInteger(darkness * strength);
     return qPremultiply(qRgba(nightColour.Red, nightColour.Green, nightColour.Blue, alpha));
 }
 

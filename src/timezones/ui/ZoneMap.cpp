@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "foundation/Numbers.h"
 #include "foundation/Twips.h"
 
 using namespace Qt::StringLiterals;
@@ -96,8 +97,8 @@ void ZoneMap::TakeBand() {
 }
 
 void ZoneMap::StepBand(int hours) {
-    const double from = band_.G() ? std::round(*band_.G()) : -hours;
-    band_.Set(std::clamp(from + hours, FirstHour, LastHour));
+    const int from = band_.G() ? mduAPILib::RoundToInteger(*band_.G()) : -hours;
+    band_.Set(std::clamp<double>(from + hours, FirstHour, LastHour));
     TakeBand();
 }
 

@@ -2,6 +2,7 @@
 #include <QKeyEvent>
 #include <cmath>
 
+#include "foundation/Numbers.h"
 #include "timezones/ui/frmTimeZones.h"
 
 using namespace Qt::StringLiterals;
@@ -20,7 +21,7 @@ constexpr double WorldHeight = 12.0 / 26.0;  // of the map's width
 
 /// "GMT+01:20"
 QString GmtText(double hours) {
-    const int minutes = static_cast<int>(std::lround(std::abs(hours) * 60));
+    const int minutes = mduAPILib::RoundToInteger(std::abs(hours) * 60);
     return u"GMT%1%2:%3"_s.arg(QChar(hours < 0 ? u'-' : u'+'))
         .arg(minutes / 60, 2, 10, QChar(u'0'))
         .arg(minutes % 60, 2, 10, QChar(u'0'));

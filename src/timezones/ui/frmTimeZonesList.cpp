@@ -1,5 +1,5 @@
 // What the list of the window of zones does.
-#include <cmath>
+#include <algorithm>
 
 #include "foundation/FileHelpers.h"
 #include "timezones/ui/frmTimeZones.h"
