@@ -108,7 +108,7 @@ void tst_RealSoundLoss::deathMidSpeechIsTold() {
                     {.Start = 30'000, .Base = 3'000, .Letter = 100, .Whole = 60'000});
     const auto voice = voices.MakeVoice();
     QVERIFY(!voice->Descriptions().isEmpty());
-    QTimer::singleShot(1000, qApp, [this] { server_->End(); });
+    QTimer::singleShot(1000, this, [this] { server_->End(); });
     QVERIFY(!voice->Speak(LongText, 2));
     qInfo("%s", qPrintable(voice->LastError()));
     QVERIFY(!voice->LastError().isEmpty());

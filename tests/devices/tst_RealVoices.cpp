@@ -103,7 +103,7 @@ void tst_RealVoices::takesTurns() {
         QVERIFY(recorder.Gather(0.1));
         bool spoken = both == 0;
         if (both == 1) {
-            QTimer::singleShot(100, qApp, [&] { spoken = second->Speak(text, 2); });
+            QTimer::singleShot(100, this, [&] { spoken = second->Speak(text, 2); });
         }
         QVERIFY2(first->Speak(text, 2), qPrintable(first->LastError()));
         QVERIFY2(spoken, qPrintable(second->LastError()));
