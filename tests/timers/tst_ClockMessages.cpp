@@ -54,6 +54,9 @@ private Q_SLOTS:
     void StartsACountdown();
     void ColoursTheAction_data();
     void ColoursTheAction();
+    void KeepsTheActionsColour_data();
+    void KeepsTheActionsColour();
+    void ColoursNothingWithoutACountdown();
     void CountsDown();
     void CountsNoFurtherThanANumberHolds();
     void RunsALateAction();
@@ -328,6 +331,45 @@ void tst_ClockMessages::ColoursTheAction() {
     desk.Set(u"Message Action Colour"_s, colours);
     desk.Count(action, 1);
     QTEST(desk.ActionLabel().ForeColor, "colour");
+}
+
+void tst_ClockMessages::KeepsTheActionsColour_data() {
+    QTest::addColumn<QString>("colours");
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("kept");
+
+    const QString list = u"Log Off:Magenta,Reboot:Green"_s;
+    QTest::newRow("first") << list << u"Log Off"_s << u"Log Off:Yellow,Reboot:Green"_s;
+    QTest::newRow("last") << list << u"Reboot"_s << u"Log Off:Magenta,Reboot:Yellow"_s;
+    QTest::newRow("new") << list << u"/bin/x"_s << u"Log Off:Magenta,Reboot:Green,/bin/x:Yellow"_s;
+    QTest::newRow("unset") << QString() << u"Reboot"_s << u"Reboot:Yellow"_s;
+    QTest::newRow("path with a colon")
+        << u"C:\\a.exe:Blue"_s << u"C:\\a.exe"_s << u"C:\\a.exe:Yellow"_s;
+    QTest::newRow("part of another")
+        << list << u"Off"_s << u"Off:Yellow,Log Off:Magenta,Reboot:Green"_s;
+}
+
+void tst_ClockMessages::KeepsTheActionsColour() {
+    QFETCH(QString, colours);
+    QFETCH(QString, action);
+    MessageDesk desk;
+    desk.Set(u"Message Action Colour"_s, colours);
+    desk.Count(action, 5);
+    desk.Messages.SetActionColour(u"Yellow"_s);
+    QTEST(mduLib::GetPropertyRaw(u"Message Action Colour"_s, desk.Host.Properties), "kept");
+    QCOMPARE(desk.Controls.lblActionMsg(1).ForeColor, 0x00FFFF);
+    desk.Messages.CancelAction();
+    desk.Controls.lblActionMsg(1).ForeColor = 0;
+    desk.Count(action, 5);
+    QCOMPARE(desk.Controls.lblActionMsg(1).ForeColor, 0x00FFFF);
+}
+
+void tst_ClockMessages::ColoursNothingWithoutACountdown() {
+    MessageDesk desk;
+    desk.Set(u"Message Action Colour"_s, u"Reboot:Green"_s);
+    desk.Messages.SetActionColour(u"Yellow"_s);
+    QCOMPARE(mduLib::GetPropertyRaw(u"Message Action Colour"_s, desk.Host.Properties),
+             u"Reboot:Green"_s);
 }
 
 void tst_ClockMessages::CountsDown() {
