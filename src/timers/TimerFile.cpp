@@ -13,30 +13,32 @@ namespace {
 constexpr int HalfDay = 12;              // hours
 constexpr qsizetype ShortestMoment = 7;  // a head below this length is a time alone
 
-struct Halves {
-    QString Head;
-    QString Message;
-};
-
 // line = head "@" message [ "@" ignored ] | head "=" message [ "=" ignored ]
-//      | head "@" message "=" ignored
-Halves SplitAtMark(const QString& line) {
-    const qsizetype equals = line.indexOf(u'=');
-    const qsizetype at = line.indexOf(u'@');
-    if (at >= 0 && at < equals) {
-        return {line.left(at), line.mid(at + 1, equals - at - 1)};
-    }
-    const QChar mark = equals >= 0 ? u'=' : u'@';
-    return {line.section(mark, 0, 0), line.section(mark, 1, 1)};
+void SplitAtMark(const QString& text, TimerLine& line) {
+    const QChar mark = line.OneShot ? u'=' : u'@';
+    line.Head = text.section(mark, 0, 0);
+    line.Message = text.section(mark, 1, 1);
 }
 
-// head = [ meta "#" ] when [ "#" ignored ]; meta = value { "," value }
+// head = [ meta "#" ] when; meta = value { "," value }
 void SplitMeta(TimerLine& line) {
     line.Meta = QStringList{QString()};
-    if (line.Head.contains(u'#')) {
-        line.Meta = line.Head.section(u'#', 0, 0).split(u',');
-        line.Head = line.Head.section(u'#', 1, 1);
+    const qsizetype end = line.Head.indexOf(u'#');
+    if (end >= 0) {
+        line.Meta = line.Head.left(end).split(u',');
+        line.Head.remove(0, end + 1);
     }
+}
+
+// when = time [ "#" ignored ] | time "@" message
+// A permanent timer whose message held "=" is a one-shot one now, with what stood before that.
+void SplitWhen(TimerLine& line) {
+    const qsizetype at = line.Head.indexOf(u'@');
+    if (at >= 0) {
+        line.Message = line.Head.mid(at + 1);
+        line.Head.truncate(at);
+    }
+    line.Head = line.Head.section(u'#', 0, 0);
 }
 
 QString NumberText(double value) {
@@ -89,10 +91,9 @@ std::optional<TimerLine> ParseTimerLine(const QString& line, int presentYear) {
     if (!result.OneShot && !line.contains(u'@')) {
         return std::nullopt;
     }
-    const Halves halves = SplitAtMark(line);
-    result.Head = halves.Head;
-    result.Message = halves.Message;
+    SplitAtMark(line, result);
     SplitMeta(result);
+    SplitWhen(result);
     const auto moment = mduAPILib::ParseMoment(result.Head, presentYear);
     if (!moment) {
         return std::nullopt;

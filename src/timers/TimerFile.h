@@ -15,7 +15,7 @@
 ///
 /// The hour of a written line has 12 added, and a reader takes 12 off again: date and hour tell
 /// only for how long a timer lives, never which half of the day it means. Nothing is quoted, so a
-/// path with ",", "#", "@" or "=" breaks its own line.
+/// path with ",", "#" or "=" breaks its own line, and one with "@" that of a permanent timer.
 namespace timers {
 
 /// What one line says, its pieces still as they stand.

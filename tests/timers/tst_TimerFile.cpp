@@ -66,6 +66,12 @@ void tst_TimerFile::ReadsLines_data() {
     QTest::newRow("@ in a one-shot one") << u"15:5=a@b"_s << true << u"15:5"_s << u"a@b"_s;
     QTest::newRow("# in the message") << u"15:5@No #1"_s << false << u"15:5"_s << u"No #1"_s;
     QTest::newRow("second # in the head") << u"5#15:5#x@Go"_s << false << u"15:5"_s << u"Go"_s;
+    QTest::newRow("@ in the sound of a one-shot one")
+        << u"5,red,a@b.wav,None,0#16/11/2026 15:5=x"_s << true << u"16/11/2026 15:5"_s << u"x"_s;
+    QTest::newRow("@ in the action of a one-shot one")
+        << u"5,red,,/opt/x@1/run,0#16/11/2026 15:6=y"_s << true << u"16/11/2026 15:6"_s << u"y"_s;
+    QTest::newRow("@ in a path and = in a permanent one")
+        << u"5,red,a@b.wav,None,0#15:5@a=b"_s << true << u"15:5"_s << u"a"_s;
     QTest::newRow("plain hour") << u"3:5@Go"_s << false << u"3:5"_s << u"Go"_s;
 }
 
@@ -110,6 +116,8 @@ void tst_TimerFile::SplitsMeta() {
              QStringList({u"5"_s, u"red"_s, QString(), u"None"_s, u"0"_s}));
     QCOMPARE(ParseTimerLine(u"15:5@Go"_s, 2026)->Meta, QStringList{QString()});
     QCOMPARE(ParseTimerLine(u"#15:5@Go"_s, 2026)->Meta, QStringList{QString()});
+    QCOMPARE(ParseTimerLine(u"5,red,a@b.wav,/opt/x@1/run,0#16/11/2026 15:5=x"_s, 2026)->Meta,
+             QStringList({u"5"_s, u"red"_s, u"a@b.wav"_s, u"/opt/x@1/run"_s, u"0"_s}));
 }
 
 void tst_TimerFile::UsesLines_data() {
