@@ -18,6 +18,7 @@ bool HourAndSecondSounds::PlayHourSound() {
     const QTime time = context_.Services.Clock.Now().time();
     if (time.minute() == 0 && time.second() == 0 && Play(u"Hour Sound File"_s)) {
         hourSoundCount_ = 1;
+        return true;
     }
     if (hourSoundCount_ == 0) {
         return false;

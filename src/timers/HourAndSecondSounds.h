@@ -13,7 +13,7 @@ class HourAndSecondSounds final : public ClockSounds {
 public:
     explicit HourAndSecondSounds(const TimerContext& context) : context_(context) {}
 
-    /// Sounds at minute 0 and second 0, and is busy for five calls, this one included.
+    /// Sounds at minute 0 and second 0, and is busy for that call and the five behind it.
     bool PlayHourSound() override;
     /// Sounds when another second has come.
     void PlaySecondSound() override;
