@@ -57,12 +57,14 @@ void PlayerMusic::PlaySound(const QString& path) {
 }
 
 void PlayerMusic::StopMusic() {
-    if (!isMusic_ || !IsPlaying()) {
+    if (!IsPlaying()) {
         return;
     }
     context_.Controls.MusicPlayer(1).Tag = u"1"_s;
-    player_->Pause();
-    player_->Stop();
+    if (isMusic_) {
+        player_->Pause();
+        player_->Stop();
+    }
 }
 
 void PlayerMusic::CheckMusic() {

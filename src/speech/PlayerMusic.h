@@ -18,7 +18,8 @@ QString NextFolderFile(const platform::Files& files, const QString& folder, int 
 /// first to be heard.
 ///
 /// Music stops where "Music Volume" is below 1 and where an action counts down; sounds are let
-/// through, but never cut into what is playing. `MusicPlayer(1).Tag` holds `MusicHold`: once it is
+/// through, but never cut into what is playing. An action that counts down while anything plays, be
+/// it a sound, holds the music. `MusicPlayer(1).Tag` holds `MusicHold`: once it is
 /// "1" no music starts until the clock is opened again.
 ///
 /// A file that exists and can't be played is told to the host, also where the player finds out
@@ -36,7 +37,8 @@ public:
     /// Plays a file at once, unless something is playing. A file that is missing is skipped.
     void PlaySound(const QString& path) override;
 
-    /// Stops the music for an action that counts down, and holds it.
+    /// For an action that counts down: where anything plays the music is held; a sound, such as the
+    /// timer's own, plays on.
     void StopMusic() override;
 
     int MusicIndex() const { return index_; }  ///< the number of a folder's next file, from 0

@@ -326,7 +326,12 @@ void tst_PlayerMusic::LetsASoundEndBesideAnAction() {
     desk.Heard();
     desk.Music.StopMusic();
     QCOMPARE(desk.Heard(), QStringList());
-    QCOMPARE(desk.Hold(), QString());
+    QCOMPARE(desk.Hold(), u"1"_s);
+    desk.Machine.WriteFile(u"song.mp3"_s, "x");
+    desk.Set(u"Music File"_s, u".\\song.mp3"_s);
+    desk.EndPiece();
+    desk.Music.CheckMusic();
+    QCOMPARE(desk.Heard(), QStringList());
 }
 
 void tst_PlayerMusic::TellsOfASoundThatCannotPlay() {
