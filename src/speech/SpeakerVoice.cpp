@@ -61,7 +61,7 @@ void SpeakerVoice::SpeakMessage(const QString& text, int flags, bool force) {
     context_.Host.ShowChanges();
     const std::weak_ptr<bool> alive = alive_;
     Utter(text, flags < 1 ? PurgeBeforeSpeak : flags, force);
-    if (!alive.expired()) {
+    if (!alive.expired() && text != PurgeText) {
         context_.Host.SetSpeakerPicture(IdlePicture);
     }
 }
@@ -114,8 +114,8 @@ void SpeakerVoice::ClickSpeaker(SpokenTime& spoken) {
     context_.Host.SetSpeakerPicture(SpeakingPicture);
     PurgeSpeech(true);
     spoken.SpeakTimeNow();
-    if (!alive.expired() && SpeakerLevel() <= 0) {
-        context_.Host.SetSpeakerPicture(MutedPicture);
+    if (!alive.expired()) {
+        context_.Host.SetSpeakerPicture(SpeakerLevel() <= 0 ? MutedPicture : IdlePicture);
     }
 }
 
