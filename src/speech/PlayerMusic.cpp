@@ -14,14 +14,7 @@ namespace {
 
 constexpr int Playing = 3;
 constexpr int LoudestVolume = 100;
-constexpr qint64 SecondsBetweenReports = 60;
-constexpr qint64 SecondsOfRest = 60;
 constexpr QChar Separator = u'/';
-
-/// A clock that was set back counts, too.
-bool IsWithin(qint64 seconds, const QDateTime& since, const QDateTime& now) {
-    return since.isValid() && std::abs(since.secsTo(now)) < seconds;
-}
 
 }  // namespace
 
@@ -115,7 +108,7 @@ void PlayerMusic::StartNextPiece(int volume) {
         return;
     }
     if (isMusic_ && !hasFailed_) {
-        told_.clear();
+        told_.Clear();
     }
     source_ = path;
     isMusic_ = true;
@@ -168,17 +161,16 @@ void PlayerMusic::RestAfterFailure() {
 }
 
 bool PlayerMusic::IsResting(const QString& source) const {
-    return source == source_ && IsWithin(SecondsOfRest, restsSince_, context_.Services.Clock.Now());
+    return source == source_ && IsWithinAMinute(restsSince_, context_.Services.Clock.Now());
 }
 
 void PlayerMusic::Tell(const QString& reason) {
     const QString text =
         u"The clock can't play %1: %2"_s.arg(mduLib::FileBaseName(path_, true), reason);
-    const QDateTime now = context_.Services.Clock.Now();
-    if (isMusic_ ? told_.contains(text) : IsWithin(SecondsBetweenReports, told_.value(text), now)) {
+    if (isMusic_ ? told_.Contains(text) : told_.IsFresh(text)) {
         return;
     }
-    told_.insert(text, now);
+    told_.Add(text);
     context_.Host.ShowStatus(text);
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QDateTime>
-#include <QHash>
 #include <cstdint>
 #include <memory>
 
 #include "speech/ClockVoice.h"
 #include "speech/SpeechContext.h"
+#include "speech/ToldReasons.h"
 
 namespace speech {
 
@@ -29,7 +29,8 @@ QString NextFolderFile(const platform::Files& files, const QString& folder, int 
 /// folder the next file follows.
 class PlayerMusic final : public ClockMusic {
 public:
-    explicit PlayerMusic(const SpeechContext& context) : context_(context) {}
+    explicit PlayerMusic(const SpeechContext& context)
+        : context_(context), told_(context.Services.Clock) {}
 
     /// One tick: starts the next piece of "Music File" where nothing plays, or stops the music.
     void CheckMusic() override;
@@ -61,7 +62,7 @@ private:
     QString path_;            ///< what the player was given last
     QString source_;          ///< the file or folder that the present piece of music is from
     bool hasFailed_ = false;  ///< it has been told why that can't be played
-    QHash<QString, QDateTime> told_;
+    ToldReasons told_;
     QDateTime restsSince_;  ///< no music from the present source starts for a minute
 };
 

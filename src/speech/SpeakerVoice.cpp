@@ -84,7 +84,7 @@ void SpeakerVoice::Utter(const QString& text, int flags, bool force) {
         return;
     }
     if (spoken) {
-        told_.clear();
+        told_.Clear();
         return;
     }
     const QString reason = voice == nullptr ? u"this machine has no voice"_s : voice->LastError();
@@ -100,12 +100,13 @@ void SpeakerVoice::TellNoVoice(const QString& text, bool force) {
     }
 }
 
-// Patterns speak often: they tell of the first failure only.
+// Patterns speak often: they tell of the first failure only. A timer that is not heard is told of,
+// but the countdown of its action speaks each second.
 void SpeakerVoice::TellWhy(const QString& reason, bool force) {
-    if (told_.contains(reason) || (!force && !told_.isEmpty())) {
+    if (force ? told_.IsFresh(reason) : !told_.IsEmpty()) {
         return;
     }
-    told_ += reason;
+    told_.Add(reason);
     context_.Host.ShowStatus(u"The clock can't speak: "_s + reason);
 }
 

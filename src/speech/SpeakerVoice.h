@@ -6,6 +6,7 @@
 
 #include "speech/ClockVoice.h"
 #include "speech/SpeechContext.h"
+#include "speech/ToldReasons.h"
 
 namespace speech {
 
@@ -21,10 +22,12 @@ struct VoiceEntry {
 ///
 /// `imgSpeaker(1).Tag` holds the speaker's level, the value of "Speaker Volume"; nothing is spoken
 /// while it is 0 or less. A text that was to be heard and could not be spoken is told to the host,
-/// once for each reason until a text has been spoken again.
+/// each reason about once a minute at most; a pattern's only where none has been told since a text
+/// was last spoken.
 class SpeakerVoice final : public ClockVoice {
 public:
-    explicit SpeakerVoice(const SpeechContext& context) : context_(context), menu_(1) {}
+    explicit SpeakerVoice(const SpeechContext& context)
+        : context_(context), menu_(1), told_(context.Services.Clock) {}
 
     /// Sets the mark and the level from the properties; without a voice the mark hides and the
     /// level is "0".
@@ -73,7 +76,7 @@ private:
     std::unique_ptr<platform::Voice> voice_;  ///< made when first needed
     std::vector<VoiceEntry> menu_;
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  ///< watched over while speaking
-    QStringList told_;  ///< reasons told since a text was last spoken
+    ToldReasons told_;                                            ///< since a text was last spoken
     QString missing_;   ///< why the machine has no voices; empty when it has
     int speaking_ = 0;  ///< texts under way; a click can start one within another
 };

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void KnowsThatItSpeaks();
     void EndsQuietlyWhenTheClockIsClosed();
     void TellsOnceWhyItCannotSpeak();
+    void TellsOfEachTimer();
     void TellsAgainAfterSpeaking();
     void TellsOfPatternsOnce();
     void KeepsQuietAboutAPurge();
@@ -254,6 +255,26 @@ void tst_SpeakerVoice::TellsOnceWhyItCannotSpeak() {
     desk.Voice.SpeakMessage(u"four"_s, 2, true);
     QCOMPARE(desk.Host.Status, QStringList({u"The clock can't speak: no sound server"_s,
                                             u"The clock can't speak: the engine hangs"_s}));
+}
+
+// A timer in the morning and one in the evening; patterns in between tell nothing new.
+void tst_SpeakerVoice::TellsOfEachTimer() {
+    VoiceDesk desk;
+    const QString told = u"The clock can't speak: no engine"_s;
+    desk.Set(u"Speaker Volume"_s, u"8"_s);
+    desk.Devices.Voices.Names.clear();
+    desk.Devices.Voices.Failure = u"no engine"_s;
+    desk.Voice.PrepareSpeaker();
+    desk.SetTime(15, 8, 0, 0);
+    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.SetTime(15, 8, 0, 59);
+    desk.Voice.SpeakMessage(u"two"_s, 2, true);
+    desk.SetTime(15, 12, 0, 0);
+    desk.Voice.SpeakMessage(u"noon"_s, 2, false);
+    QCOMPARE(desk.Host.Status, QStringList{told});
+    desk.SetTime(15, 20, 0, 0);
+    desk.Voice.SpeakMessage(u"three"_s, 2, true);
+    QCOMPARE(desk.Host.Status, QStringList({told, told}));
 }
 
 void tst_SpeakerVoice::TellsAgainAfterSpeaking() {
