@@ -108,7 +108,7 @@ void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
 }
 
 void ClockTimers::Announce(const QString& key, const QString& text) {
-    if (!text.isEmpty() && mduUILib::YesNoToBool(Property(key))) {
+    if (mduUILib::YesNoToBool(Property(key))) {
         context_.Host.PurgeSpeech(true);
         context_.Host.SpeakMessage(text, 0, true);
     }
