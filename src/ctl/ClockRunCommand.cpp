@@ -3,6 +3,7 @@
 #include <QJsonObject>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "clock/ui/frmTempolark.h"
 #include "ctl/Command.h"
@@ -44,41 +45,38 @@ private:
     const platform::SimulatedClock& clock_;
 };
 
-/// What shows on a clock's face and is told when it changes.
-class FaceLog {
+/// Tells what becomes of messages and actions.
+class MessageLog {
 public:
-    explicit FaceLog(TellEvent tell) : tell_(std::move(tell)) {}
+    explicit MessageLog(TellEvent tell) : tell_(std::move(tell)) {}
 
-    void Look(const frmTempolark& clock) {
-        const mduUILib::ClockControls& controls = clock.Controls();
-        TellMessage(controls.lblMsg(1).Visible ? clock.PendingMessage() : QString());
-        const mduUILib::Control& action = controls.lblActionMsg(1);
-        const QString caption = action.Visible ? action.Caption : QString();
-        if (caption != caption_ && !caption.isEmpty()) {
-            tell_(u"action-countdown"_s, {{u"caption"_s, caption}});
+    void Tell(timers::MessageEvent event, const QString& text) {
+        switch (event) {
+            case timers::MessageEvent::Shows:
+                shows_ = true;
+                return tell_(u"message"_s, {{u"text"_s, text}});
+            case timers::MessageEvent::Hides:
+                return TellThatItHides();
+            case timers::MessageEvent::ActionCaption:
+                return tell_(u"action-countdown"_s, {{u"caption"_s, text}});
+            case timers::MessageEvent::ActionRuns:
+                return tell_(u"action"_s, {{u"text"_s, text}});
         }
-        caption_ = caption;
     }
 
 private:
-    void TellMessage(const QString& message) {
-        if (message == message_) {
-            return;
-        }
-        if (message.isEmpty()) {
+    /// The label hides behind an empty message, too, which has not been told of.
+    void TellThatItHides() {
+        if (std::exchange(shows_, false)) {
             tell_(u"message-hidden"_s, {});
-        } else {
-            tell_(u"message"_s, {{u"text"_s, message}});
         }
-        message_ = message;
     }
 
     TellEvent tell_;
-    QString message_;
-    QString caption_;
+    bool shows_ = false;
 };
 
-void WatchClock(frmTempolark& clock, const TellEvent& tell, FaceLog& face) {
+void WatchClock(frmTempolark& clock, const TellEvent& tell, MessageLog& messages) {
     clock.WatchState([tell](clockcore::ClockState from, clockcore::ClockState to) {
         tell(u"state"_s, {{u"from"_s, static_cast<int>(from)}, {u"to"_s, static_cast<int>(to)}});
     });
@@ -89,7 +87,9 @@ void WatchClock(frmTempolark& clock, const TellEvent& tell, FaceLog& face) {
         tell(u"timer-fired"_s,
              {{u"slot"_s, slot}, {u"time"_s, timer.TimerTime}, {u"message"_s, timer.Message}});
     });
-    clock.WatchTicks([&clock, &face] { face.Look(clock); });
+    clock.WatchMessages([&messages](timers::MessageEvent event, const QString& text) {
+        messages.Tell(event, text);
+    });
 }
 
 void PassTime(platform::SimulatedClock& clock, qint64 milliseconds, bool real) {
@@ -128,7 +128,7 @@ int Run(Context& context) {
     const EventLog log(clock);
     RecordingVoices voices(log.Teller());
     RecordingPlayers players(log.Teller(), clock);
-    RecordingActions actions(log.Teller());
+    SilentActions actions;
     RecordingFiles files(machine.FileSystem, log.Teller());
     RecordingShell shell(log.Teller());
     const platform::Services services{
@@ -143,9 +143,9 @@ int Run(Context& context) {
     }
     Forms windows;
     const Program program{services, context.State, windows};
-    FaceLog face(log.Teller());
+    MessageLog messages(log.Teller());
     auto window = std::make_unique<frmTempolark>(program, &shell, nullptr);
-    WatchClock(*window, log.Teller(), face);
+    WatchClock(*window, log.Teller(), messages);
     window->setWindowFlag(Qt::FramelessWindowHint);
     window->setFixedSize(1, 1);
     window->SetLookedAt(false);

@@ -77,25 +77,6 @@ std::unique_ptr<platform::MediaPlayer> RecordingPlayers::MakePlayer() {
     return std::make_unique<RecordingPlayer>(tell_, clock_);
 }
 
-QString RecordingActions::ExitWindowsEx(unsigned flags) {
-    const QString text = flags == 0   ? u"Log Off"_s
-                         : flags == 1 ? u"Normal Shutdown"_s
-                         : flags == 2 ? u"Reboot"_s
-                                      : u"Forced Shutdown"_s;
-    tell_(u"action"_s, {{u"text"_s, text}});
-    return {};
-}
-
-QString RecordingActions::LockWorkStation() {
-    tell_(u"action"_s, {{u"text"_s, u"Lock Workstation"_s}});
-    return {};
-}
-
-QString RecordingActions::Open(const QString& path, const QString&) {
-    tell_(u"action"_s, {{u"text"_s, path}});
-    return {};
-}
-
 bool RecordingFiles::Write(const QString& path, const QByteArray& content) {
     const bool written = files_.Write(path, content);
     if (written) {

@@ -1,6 +1,7 @@
 #include "timers/ClockMessages.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -48,6 +49,7 @@ void ClockMessages::ShowMessage(const QString& text) {
     label.Visible = true;
     SetLabelFont(label);
     if (!pendingMessage_.isEmpty()) {
+        Tell(MessageEvent::Shows, pendingMessage_);
         context_.Host.ShowStatus(pendingMessage_);
     }
 }
@@ -88,13 +90,20 @@ void ClockMessages::Expire(const QDateTime& clockTime) {
     const QString later = HourMinute(clockTime.addSecs(HalfDaySeconds).time());
     if (mduAPILib::Val(messageExpiry_) > 0 && (messageExpiry_ == now || messageExpiry_ == later)) {
         pendingMessage_.clear();
+        HideLabel();
+    }
+}
+
+void ClockMessages::HideLabel() {
+    mduUILib::Control& label = context_.Controls.lblMsg(1);
+    label.Caption.clear();
+    if (std::exchange(label.Visible, false)) {
+        Tell(MessageEvent::Hides);
     }
 }
 
 void ClockMessages::EndMessage() {
-    mduUILib::Control& label = context_.Controls.lblMsg(1);
-    label.Caption.clear();
-    label.Visible = false;
+    HideLabel();
     if (context_.Host.TimerInterval() == MovingInterval) {
         context_.Host.SetTimerInterval(NormalInterval);
     }
@@ -141,6 +150,12 @@ void ClockMessages::RestartFromTheRight() {
     mduUILib::Control& label = context_.Controls.lblMsg(1);
     label.Caption = u"  "_s;
     label.Left = static_cast<float>(left_ + width_) - 2 * Pixels(FaceMargin);
+}
+
+void ClockMessages::Tell(MessageEvent event, const QString& text) const {
+    if (watcher_) {
+        watcher_(event, text);
+    }
 }
 
 void ClockMessages::SetLabelFont(mduUILib::Control& label) const {

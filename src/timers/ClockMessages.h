@@ -8,6 +8,11 @@
 
 namespace timers {
 
+/// What a watcher is told, in the order in which it happens: the text of a message that shows (none
+/// is told for an empty one), that the message hides, each new caption of the action that counts
+/// down, and the action that runs.
+enum class MessageEvent { Shows, Hides, ActionCaption, ActionRuns };
+
 /// The one running message of a clock (`lblMsg`) and the one action that counts down
 /// (`lblActionMsg`, `imgAction`).
 ///
@@ -16,6 +21,8 @@ namespace timers {
 /// `timClock` ticks ten times a second.
 class ClockMessages final : public MessageChannel {
 public:
+    using Watcher = std::function<void(MessageEvent event, const QString& text)>;
+
     /// @param runAction carries an action out when its countdown has ended
     ClockMessages(const TimerContext& context, std::function<void(const QString&)> runAction);
 
@@ -42,6 +49,8 @@ public:
     /// colour from now on; nothing without a countdown.
     void SetActionColour(const QString& colour);
 
+    void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
+
     const QString& PendingMessage() const { return pendingMessage_; }
     const QString& MessageExpiry() const { return messageExpiry_; }  ///< "hh:mm", or "0" for none
     const QString& PendingAction() const { return pendingAction_; }
@@ -50,6 +59,7 @@ public:
 
 private:
     void Expire(const QDateTime& clockTime);
+    void HideLabel();
     void EndMessage();
     void MoveMessage();
     void TypeNextCharacter();
@@ -57,6 +67,8 @@ private:
     void RestartFromTheRight();
     void CountDown(const QDateTime& clockTime);
     void FinishAction();
+    void SetActionCaption(const QString& caption);
+    void Tell(MessageEvent event, const QString& text = {}) const;
     bool IsCountingDown() const;
     QDateTime ClockTime() const;
     int ActionColour() const;
@@ -68,6 +80,7 @@ private:
 
     TimerContext context_;
     std::function<void(const QString&)> runAction_;
+    Watcher watcher_;
     QString pendingMessage_;
     QString messageExpiry_ = QStringLiteral("0");
     QString pendingAction_;

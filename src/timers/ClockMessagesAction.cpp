@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "foundation/Dates.h"
 #include "foundation/NamedValues.h"
@@ -52,7 +53,8 @@ bool ClockMessages::StartCountdown(const QDateTime& clockTime, int minutes) {
     if (pendingAction_.isEmpty() || pendingAction_ == "None"_L1 || label.Visible) {
         return false;
     }
-    label.Caption = ShownAction(pendingAction_);
+    label.Caption.clear();
+    SetActionCaption(ShownAction(pendingAction_));
     label.ForeColor = ActionColour();
     SetLabelFont(label);
     actionDeadline_ = mduAPILib::MomentText(clockTime.addSecs(60LL * minutes));
@@ -98,7 +100,7 @@ void ClockMessages::CountDown(const QDateTime& clockTime) {
     const qint64 left =
         std::clamp(clockTime.secsTo(moment->Moment), -LongestCountdown - 1, LongestCountdown);
     if (mduAPILib::Val(deadline) != 0) {
-        context_.Controls.lblActionMsg(1).Caption = action + SignedText(left);
+        SetActionCaption(action + SignedText(left));
         PlaceActionMarks();
         context_.Host.SpeakMessage(SignedText(left), 0, true);
     }
@@ -110,8 +112,15 @@ void ClockMessages::CountDown(const QDateTime& clockTime) {
 
 void ClockMessages::FinishAction() {
     const QString action = pendingAction_;
+    Tell(MessageEvent::ActionRuns, action);
     runAction_(action);
     CancelAction();
+}
+
+void ClockMessages::SetActionCaption(const QString& caption) {
+    if (std::exchange(context_.Controls.lblActionMsg(1).Caption, caption) != caption) {
+        Tell(MessageEvent::ActionCaption, caption);
+    }
 }
 
 // colours = [ action ":" colour { "," action ":" colour } ]

@@ -65,6 +65,7 @@ constexpr const char* Day = R"(
 # timer still in it, then the message shows, in the status bar as well.
 00:30:00.000 timer-fired message=Half past twelve slot=1 time=00:30
 00:30:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+00:30:00.000 message text=Half past twelve
 00:30:00.000 status text=Half past twelve
 # What was being said is cut off, and the message is spoken.
 00:30:00.000 speak flags=2 text=.
@@ -72,91 +73,98 @@ constexpr const char* Day = R"(
 # It runs at ten steps a second. It would expire at "00:35", which reads as the number 0 and so
 # never comes: the message goes on until another takes its place.
 00:30:00.000 interval ms=100
-00:30:00.000 message text=Half past twelve
 
 # Slot 2 does that. The tick is at 100 already.
 01:01:00.000 timer-fired message=One past one slot=2 time=01:01
 01:01:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+01:01:00.000 message text=One past one
 01:01:00.000 status text=One past one
 01:01:00.000 speak flags=2 text=.
 01:01:00.000 speak flags=2 text=One past one
-01:01:00.000 message text=One past one
 # One minute on show, then the tick goes back to the second.
-01:02:00.000 interval ms=1000
 01:02:00.000 message-hidden
+01:02:00.000 interval ms=1000
 
 # Slot 3, a one-shot timer dated today and loaded before noon. The hour 14 in the file tells only
 # that it lives this morning.
 02:30:00.000 timer-fired message=Once, this morning slot=3 time=02:30
 02:30:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+02:30:00.000 message text=Once, this morning
 02:30:00.000 status text=Once, this morning
 02:30:00.000 speak flags=2 text=.
 02:30:00.000 speak flags=2 text=Once, this morning
 02:30:00.000 interval ms=100
-02:30:00.000 message text=Once, this morning
 # Two minutes on show.
-02:32:00.000 interval ms=1000
 02:32:00.000 message-hidden
+02:32:00.000 interval ms=1000
 
 # Slot 4, a time alone, without any settings: no minutes on show means no end.
 03:15:00.000 timer-fired message=Without a word on how long slot=4 time=03:15
 03:15:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+03:15:00.000 message text=Without a word on how long
 03:15:00.000 status text=Without a word on how long
 03:15:00.000 speak flags=2 text=.
 03:15:00.000 speak flags=2 text=Without a word on how long
 03:15:00.000 interval ms=100
-03:15:00.000 message text=Without a word on how long
 
 # Slots 5 and 6 are due together. The first of them plays its sound; its action "None" holds the
 # second back until the next tick.
 04:00:00.000 timer-fired message=Bell slot=5 time=04:00
 04:00:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+04:00:00.000 message text=Bell
 04:00:00.000 status text=Bell
 04:00:00.000 speak flags=2 text=.
 04:00:00.000 speak flags=2 text=Bell
 04:00:00.000 sound file=~/SoundFiles/Bell.wav
-04:00:00.000 message text=Bell
 # That is a tenth of a second later, while the message runs. There is no gong: the status bar tells.
 04:00:00.100 timer-fired message=Gong slot=6 time=04:00
 04:00:00.100 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+04:00:00.100 message text=Gong
 04:00:00.100 status text=Gong
 04:00:00.100 speak flags=2 text=.
 04:00:00.100 speak flags=2 text=Gong
 04:00:00.100 status text=.\SoundFiles\Gong.wav does not exist
-04:00:00.100 message text=Gong
-04:01:00.000 interval ms=1000
 04:01:00.000 message-hidden
+04:01:00.000 interval ms=1000
 
 # Slot 7 turns the music up to 40; in the same tick its only piece begins, and it never ends here.
 05:00:00.000 timer-fired message=Music, please slot=7 time=05:00
 05:00:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
+05:00:00.000 message text=Music, please
 05:00:00.000 status text=Music, please
 05:00:00.000 speak flags=2 text=.
 05:00:00.000 speak flags=2 text=Music, please
 05:00:00.000 interval ms=100
 05:00:00.000 music file=~/Music/Waltz.mp3 volume=40
-05:00:00.000 message text=Music, please
-05:01:00.000 interval ms=1000
 05:01:00.000 message-hidden
+05:01:00.000 interval ms=1000
 
-# Slot 8 has no message: its action is spoken in place of it. The music stops, and stays off for as
-# long as the clock is open.
+# Slot 8 has no message: what was being said is cut off all the same, and its action is spoken in
+# place of the message. Then the countdown shows. The music stops, and stays off for as long as the
+# clock is open.
 06:00:00.000 timer-fired message= slot=8 time=06:00
 06:00:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
 06:00:00.000 speak flags=2 text=.
+06:00:00.000 speak flags=2 text=.
 06:00:00.000 speak flags=2 text=Lock Workstation
+06:00:00.000 action-countdown caption=Lock Workstation
 06:00:00.000 music-stop
-# The countdown, spoken at each tick; no message runs, so that is each second. Slot 9 is due in this
-# minute and passed over.
+# The countdown, shown and spoken at each tick; no message runs, so that is each second. Slot 9 is
+# due in this minute and passed over.
 * 06:00 Lock Workstation
+06:01:00.000 action-countdown caption=Lock Workstation 0
 06:01:00.000 speak flags=2 text= 0
 06:01:00.000 action text=Lock Workstation
 
-# Slot 10: a deadline of no minutes, so the program starts in the tick that fires the timer.
+# Slot 10: a deadline of no minutes, so the program starts in the tick that fires the timer. Its
+# label shows the file's name first, and the whole text with the seconds then.
 08:15:00.000 timer-fired message= slot=10 time=08:15
 08:15:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
 08:15:00.000 speak flags=2 text=.
+08:15:00.000 speak flags=2 text=.
 08:15:00.000 speak flags=2 text=/opt/tools/backup
+08:15:00.000 action-countdown caption=backup
+08:15:00.000 action-countdown caption=/opt/tools/backup 0
 08:15:00.000 speak flags=2 text= 0
 08:15:00.000 action text=/opt/tools/backup
 
@@ -164,8 +172,11 @@ constexpr const char* Day = R"(
 18:00:00.000 timer-fired message= slot=8 time=06:00
 18:00:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
 18:00:00.000 speak flags=2 text=.
+18:00:00.000 speak flags=2 text=.
 18:00:00.000 speak flags=2 text=Lock Workstation
+18:00:00.000 action-countdown caption=Lock Workstation
 * 18:00 Lock Workstation
+18:01:00.000 action-countdown caption=Lock Workstation 0
 18:01:00.000 speak flags=2 text= 0
 18:01:00.000 action text=Lock Workstation
 
@@ -173,7 +184,10 @@ constexpr const char* Day = R"(
 20:15:00.000 timer-fired message= slot=10 time=08:15
 20:15:00.000 saved file=~/me/Timers/GMT Standard TimeTimer.txt
 20:15:00.000 speak flags=2 text=.
+20:15:00.000 speak flags=2 text=.
 20:15:00.000 speak flags=2 text=/opt/tools/backup
+20:15:00.000 action-countdown caption=backup
+20:15:00.000 action-countdown caption=/opt/tools/backup 0
 20:15:00.000 speak flags=2 text= 0
 20:15:00.000 action text=/opt/tools/backup
 )";
@@ -183,8 +197,8 @@ QStringList Countdown(const QString& minute, const QString& action) {
     for (int second = 0; second < 60; ++second) {
         const QString at = u"%1:%2.000 "_s.arg(minute).arg(second, 2, 10, QChar(u'0'));
         const QString left = QString::number(60 - second);
-        lines += at + u"speak flags=2 text= "_s + left;
         lines += at + u"action-countdown caption="_s + action + u' ' + left;
+        lines += at + u"speak flags=2 text= "_s + left;
     }
     return lines;
 }

@@ -27,8 +27,9 @@ class tst_ClockRun : public QObject {
             const QJsonObject object = QJsonDocument::fromJson(line).object();
             const QString event = object.value(u"event"_s).toString();
             if (kinds.contains(event)) {
-                const QString text =
-                    object.value(u"text"_s).toString() + object.value(u"message"_s).toString();
+                const QString text = object.value(u"text"_s).toString() +
+                                     object.value(u"message"_s).toString() +
+                                     object.value(u"caption"_s).toString();
                 events += object.value(u"at"_s).toString().mid(11) + u' ' + event + u' ' + text;
             }
         }
@@ -57,10 +58,33 @@ private Q_SLOTS:
         QCOMPARE(
             Events(answer.Output,
                    {u"timer-fired"_s, u"message"_s, u"message-hidden"_s, u"speak"_s, u"status"_s}),
-            (QStringList{
-                u"10:10:00.000 timer-fired Tea is ready"_s, u"10:10:00.000 status Tea is ready"_s,
-                u"10:10:00.000 speak ."_s, u"10:10:00.000 speak Tea is ready"_s,
-                u"10:10:00.000 message Tea is ready"_s, u"10:11:00.000 message-hidden "_s}));
+            (QStringList{u"10:10:00.000 timer-fired Tea is ready"_s,
+                         u"10:10:00.000 message Tea is ready"_s,
+                         u"10:10:00.000 status Tea is ready"_s, u"10:10:00.000 speak ."_s,
+                         u"10:10:00.000 speak Tea is ready"_s, u"10:11:00.000 message-hidden "_s}));
+    }
+
+    // Two timers of one pass: the second one's message takes the place of the first one's.
+    void TellsOfEachMessage() {
+        const Companion companion;
+        companion.Write(u"me/Timers/GMT Standard TimeTimer.txt"_s,
+                        "1,red,,,0#22:10@Tea\r\n1,red,,,0#22:10@Tea\r\n1,red,,,0#22:10@\r\n");
+        const CompanionAnswer answer = Run(companion, {u"--seconds"_s, u"80"_s});
+        QCOMPARE(Events(answer.Output, {u"message"_s, u"message-hidden"_s}),
+                 (QStringList{u"10:10:00.000 message Tea"_s, u"10:10:00.000 message Tea"_s,
+                              u"10:10:00.000 message-hidden "_s}));
+    }
+
+    // An action is told by the timer's own text, not by the file that it stands for.
+    void TellsOfAnAction() {
+        const Companion companion;
+        companion.Write(u"me/Timers/GMT Standard TimeTimer.txt"_s,
+                        "0,red,,.\\Tools\\backup.sh,0#22:10@\r\n");
+        const CompanionAnswer answer = Run(companion, {u"--seconds"_s, u"80"_s});
+        QCOMPARE(Events(answer.Output, {u"action-countdown"_s, u"action"_s}),
+                 (QStringList{u"10:10:00.000 action-countdown backup.sh"_s,
+                              u"10:10:00.000 action-countdown .\\Tools\\backup.sh 0"_s,
+                              u"10:10:00.000 action .\\Tools\\backup.sh"_s}));
     }
 
     void RefusesOddArguments() {

@@ -24,6 +24,13 @@ struct MessageDesk : TimerDesk {
         Messages.SetPendingAction(action);
         Messages.StartCountdown(Machine.Clock.Now(), minutes);
     }
+    /// Puts what shows, and when, among the host's events.
+    void Watch() {
+        Messages.Watch([this](timers::MessageEvent event, const QString& text) {
+            static const QStringList names{u"shows:"_s, u"hides:"_s, u"caption:"_s, u"runs:"_s};
+            Host.Events += names[static_cast<int>(event)] + text;
+        });
+    }
     mduUILib::Control& Label() { return Controls.lblMsg(1); }
     mduUILib::Control& ActionLabel() { return Controls.lblActionMsg(1); }
 };
@@ -67,6 +74,8 @@ private Q_SLOTS:
     void Postpones();
     void PostponesWhileItSpeaks();
     void PlacesTheMark();
+    void TellsWhatShows();
+    void TellsOfAnActionAtOnce();
 };
 
 void tst_ClockMessages::BeginsEmpty() {
@@ -486,6 +495,39 @@ void tst_ClockMessages::PlacesTheMark() {
     QCOMPARE(desk.Controls.imgAction(1).Top, 38.0F);
     QCOMPARE(desk.ActionLabel().Left, 165.0F);
     QCOMPARE(desk.ActionLabel().Top, 36.0F);
+}
+
+// The message is told where it shows, before anything else is done for it.
+void tst_ClockMessages::TellsWhatShows() {
+    MessageDesk desk;
+    desk.Watch();
+    desk.Messages.ShowMessage(u" Tea\r\ntime "_s);
+    desk.Messages.ShowMessage(u"Tea time"_s);
+    desk.Run(3);
+    desk.Messages.HideMessage();
+    desk.Run();
+    desk.Messages.ShowMessage(QString());
+    QCOMPARE(desk.Host.TakeEvents(),
+             QStringList({u"shows:Tea time"_s, u"status:Tea time"_s, u"shows:Tea time"_s,
+                          u"status:Tea time"_s, u"hides:"_s}));
+}
+
+// Each caption is told once, the first one without a number, and before the number is spoken.
+void tst_ClockMessages::TellsOfAnActionAtOnce() {
+    MessageDesk desk;
+    desk.Watch();
+    desk.Count(u".\\run.exe"_s, 0);
+    QCOMPARE(desk.Host.TakeEvents(), QStringList{u"caption:run.exe"_s});
+    desk.Run();
+    QCOMPARE(desk.Host.TakeEvents(),
+             QStringList({u"stop-music"_s, u"caption:.\\run.exe 0"_s, u"speak: 0"_s,
+                          u"runs:.\\run.exe"_s, u"run:.\\run.exe"_s}));
+    desk.Count(u"Reboot"_s, 1);
+    desk.Messages.CancelAction();
+    desk.Count(u"Reboot"_s, 1);
+    desk.Run(2);
+    QCOMPARE(desk.Host.TakeEvents().filter(u"caption"_s),
+             QStringList({u"caption:Reboot"_s, u"caption:Reboot"_s, u"caption:Reboot 60"_s}));
 }
 
 QTEST_MAIN(tst_ClockMessages)

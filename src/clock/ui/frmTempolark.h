@@ -111,7 +111,9 @@ public:
     void WatchFiring(timers::ClockTimers::Watcher watcher) {
         timers_.WatchFiring(std::move(watcher));
     }
-    void WatchTicks(std::function<void()> watcher) { tickWatcher_ = std::move(watcher); }
+    void WatchMessages(timers::ClockMessages::Watcher watcher) {
+        messages_.Watch(std::move(watcher));
+    }
     /// One event of `timClock`, now.
     void Tick();
 
@@ -217,7 +219,6 @@ private:
     bool locked_ = false;
     bool lookedAt_ = true;
     std::function<void(int)> intervalWatcher_;
-    std::function<void()> tickWatcher_;
     bool closeWhenSpoken_ = false;  ///< the window has closed while its clock was speaking
     QRegion lockedChanges_;
     QRegion presented_;  ///< changes of our own that wait to be painted

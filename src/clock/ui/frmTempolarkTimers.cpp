@@ -22,9 +22,6 @@ void frmTempolark::Tick() {
     if (data_.State == ClockState::Running) {
         ShowChanges();
     }
-    if (tickWatcher_) {
-        tickWatcher_();
-    }
 }
 
 void frmTempolark::SetTimerInterval(int milliseconds) {
