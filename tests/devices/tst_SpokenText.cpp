@@ -15,6 +15,7 @@ private Q_SLOTS:
     void cutsHugeTexts();
     void boundsByLength_data();
     void boundsByLength();
+    void boundsWholeMessages();
     void knowsWhatCanBeHeard_data();
     void knowsWhatCanBeHeard();
 };
@@ -66,6 +67,15 @@ void tst_SpokenText::boundsByLength() {
     QFETCH(QString, text);
     QFETCH(int, rate);
     QTEST(PieceBound(text, rate, {}), "bound");
+}
+
+// Ten seconds of hand-over for each piece.
+void tst_SpokenText::boundsWholeMessages() {
+    QCOMPARE(platform::MessageBound({}, 0, {}), 0);
+    QCOMPARE(platform::MessageBound({u"It is noon"_s}, 0, {}), 14'500);
+    QCOMPARE(platform::MessageBound({u"It is noon"_s, u"12:59"_s}, 0, {}), 30'500);
+    QCOMPARE(platform::MessageBound({u"It is noon"_s}, -10, {}), 19'000);
+    QCOMPARE(platform::MessageBound(QStringList(9, u"It is noon"_s), 0, {}), 120'000);
 }
 
 void tst_SpokenText::knowsWhatCanBeHeard_data() {

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int Asynchronous = 1;
 constexpr int PurgeBeforeSpeak = 2;
+constexpr int LongestWait = 24 * 3'600'000;  // milliseconds
 
 QStringList EngineVoices(VoiceCore& core) {
     SpeechEngine* engine = core.Engine ? core.Engine.get() : core.NeedEngine();
@@ -19,7 +20,11 @@ QStringList EngineVoices(VoiceCore& core) {
 }  // namespace
 
 std::shared_ptr<Utterance> SpeechQueue::Add(std::shared_ptr<VoiceCore> voice, const QString& text) {
-    auto message = std::make_shared<Utterance>(std::move(voice), text, bounds_);
+    int ahead = 0;
+    for (const auto& other : messages_) {
+        ahead = std::min(ahead + other->Bound(), LongestWait);
+    }
+    auto message = std::make_shared<Utterance>(std::move(voice), text, bounds_, ahead);
     message->OnEnd = [this] { Next(); };
     messages_.push_back(message);
     Next();

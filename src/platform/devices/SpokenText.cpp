@@ -67,4 +67,12 @@ int PieceBound(const QString& piece, int rate, const SpeechBounds& bounds) {
     return std::min(time + time * slower / 10, bounds.Whole);
 }
 
+int MessageBound(const QStringList& pieces, int rate, const SpeechBounds& bounds) {
+    int time = 0;
+    for (const QString& piece : pieces) {
+        time = std::min(time + bounds.Start + PieceBound(piece, rate, bounds), bounds.Whole);
+    }
+    return time;
+}
+
 }  // namespace platform

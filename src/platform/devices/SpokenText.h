@@ -7,7 +7,7 @@ namespace platform {
 
 /// The bounds of a message, in milliseconds.
 struct SpeechBounds {
-    int Turn = 130'000;   ///< waiting for other clocks to end
+    int Turn = 10'000;    ///< waiting for one's turn, beyond what the messages ahead may take
     int Start = 10'000;   ///< from a text's hand-over until the engine, fresh maybe, speaks it
     int Base = 3'000;     ///< what every piece of text may take,
     int Letter = 150;     ///< and more for each of its characters,
@@ -26,5 +26,9 @@ QStringList SpeechPieces(const QString& text, int longest = 250);
 
 /// The time a piece may take at a rate of -10 (half as fast) to 10.
 int PieceBound(const QString& piece, int rate, const SpeechBounds& bounds);
+
+/// The time a message may take from its turn on: its pieces and their hand-over, but no more than
+/// the whole of a message.
+int MessageBound(const QStringList& pieces, int rate, const SpeechBounds& bounds);
 
 }  // namespace platform

@@ -15,7 +15,7 @@ SpeechEngine* VoiceCore::NeedEngine() {
 }
 
 Utterance::Utterance(std::shared_ptr<VoiceCore> voice, const QString& text,
-                     const SpeechBounds& bounds)
+                     const SpeechBounds& bounds, int ahead)
     : voice_(std::move(voice)), pieces_(SpeechPieces(text)), bounds_(bounds) {
     bound_.setSingleShot(true);
     whole_.setSingleShot(true);
@@ -27,12 +27,16 @@ Utterance::Utterance(std::shared_ptr<VoiceCore> voice, const QString& text,
         const auto alive = shared_from_this();
         End(u"The message is too long to be spoken whole"_s);
     });
-    bound_.start(bounds_.Turn);
+    bound_.start(bounds_.Turn + ahead);
 }
 
 Utterance::~Utterance() {
     OnEnd = nullptr;
     End({});
+}
+
+int Utterance::Bound() const {
+    return MessageBound(pieces_, voice_->Settings.Rate, bounds_);
 }
 
 void Utterance::Begin() {

@@ -24,7 +24,9 @@ struct VoiceCore {
 /// in any case, since each step has a bound. It lives on events; `Wait` is for who wants to stay.
 class Utterance : public std::enable_shared_from_this<Utterance> {
 public:
-    Utterance(std::shared_ptr<VoiceCore> voice, const QString& text, const SpeechBounds& bounds);
+    /// @param ahead what the messages before this one may take, in milliseconds
+    Utterance(std::shared_ptr<VoiceCore> voice, const QString& text, const SpeechBounds& bounds,
+              int ahead = 0);
     ~Utterance();
     Q_DISABLE_COPY_MOVE(Utterance)
 
@@ -37,6 +39,8 @@ public:
     /// Runs an event loop until it has ended. When the program quits meanwhile it ends at once.
     void Wait();
 
+    /// The time it may still take once it is its turn, in milliseconds.
+    int Bound() const;
     bool HasEnded() const { return ended_; }
     bool HasBegun() const { return begun_; }
     QString Reason() const { return reason_; }
