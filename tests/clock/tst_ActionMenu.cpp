@@ -30,6 +30,7 @@ class tst_ActionMenu : public QObject {
 private Q_SLOTS:
     void HasItsEntries();
     void OpensOnTheMarkAsWell();
+    void SpeaksTheActionOnAClick();
     void OffersTwelveTimes_data();
     void OffersTwelveTimes();
     void PostponesTheAction();
@@ -57,6 +58,20 @@ void tst_ActionMenu::OpensOnTheMarkAsWell() {
     desk.Click(*desk.Clock, desk.Mark(), Qt::RightButton);
     QVERIFY(ActionDesk::OpenMenu() != nullptr);
     QCOMPARE(ActionDesk::OpenMenu()->objectName(), u"ActionMenu"_s);
+}
+
+// The label shows the seconds as well; they are not spoken.
+void tst_ActionMenu::SpeaksTheActionOnAClick() {
+    ClickedDesk desk;
+    desk.Base.Machine.WriteFile(u"tester/Timers/UTCTimer.txt"_s,
+                                "5,red,,Lock Workstation,0#12:1@Go\r\n");
+    const frmTempolark* clock = desk.Running(Zone);
+    desk.Base.Machine.Clock.Advance(Minute + 1000);
+    desk.Devices.Voices.Log.clear();
+    desk.Click(*clock, clock->Controls().lblActionMsg(1), Qt::LeftButton);
+    desk.Click(*clock, clock->Controls().imgAction(1), Qt::LeftButton);
+    QCOMPARE(desk.Devices.Voices.Log,
+             QStringList({u"2 Lock Workstation"_s, u"2 Lock Workstation"_s}));
 }
 
 void tst_ActionMenu::OffersTwelveTimes_data() {

@@ -130,7 +130,7 @@ void frmTempolark::mousePressEvent(QMouseEvent* event) {
     } else if (event->button() == Qt::LeftButton && IsOnAction(at)) {
         mduUILib::Control& mark = controls_.imgAction(1);
         mark.Picture = drawing::GetStockPicture(drawing::StockPicture::ActionSpeaking);
-        SpeakMessage(controls_.lblActionMsg(1).Caption, 2, true);
+        SpeakMessage(messages_.PendingAction(), 2, true);
         mark.Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
         CloseWhenSpoken();
     } else {
