@@ -87,6 +87,8 @@ public:
     int BackColor() const override { return 0xFFFFFF; }
     int LaunchTempolark(const QString&) override { return 0; }
     QString Setting(const QString&) const override { return {}; }
+    QString RemoveZone(const QString&) override { return {}; }
+    void ShowClockHelp() override {}
 
 private:
     TellEvent tell_;

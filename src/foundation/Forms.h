@@ -42,6 +42,12 @@ public:
 
 class IShell;
 
+/// Flags of a message box, and its answers.
+namespace MsgBox {
+inline constexpr int YesNoQuestion = 4 + 32;  ///< two buttons and a question mark
+inline constexpr int Yes = 6;
+}  // namespace MsgBox
+
 /// A clock, as the shell sees it.
 class IClock : public IForm {
 public:
@@ -79,8 +85,12 @@ public:
     virtual int BackColor() const = 0;
     /// Launches the clock of a zone. @return its handle, or 0 when that failed
     virtual int LaunchTempolark(const QString& name) = 0;
-    /// One of the shell's own settings, without its choices; empty when there is none of that name.
+    /// One of the shell's own settings, without its choices; "0" when there is none of that name.
     virtual QString Setting(const QString& name) const = 0;
+    /// Removes a zone's file for good, and its clock, if that is open. It asks nobody.
+    /// @return why that failed; empty when it is done
+    virtual QString RemoveZone(const QString& name) = 0;
+    virtual void ShowClockHelp() = 0;
 };
 
 /// The loaded windows in the order of their creation, counted from 0. The shell is the first.

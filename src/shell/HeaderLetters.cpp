@@ -58,7 +58,6 @@ std::optional<std::vector<double>> PlaceHeader(int code, int count,
 
 std::vector<int> RandomHeaderColours(int count, int backColour, platform::RandomNumbers& random) {
     constexpr int near = 500;
-    constexpr int white = 0xFFFFFF;
     std::vector<int> colours;
     for (int i = 0; i < count; ++i) {
         const auto component = [&random] { return static_cast<int>(random.Next() * 255); };
@@ -66,7 +65,9 @@ std::vector<int> RandomHeaderColours(int count, int backColour, platform::Random
         const int green = component();
         int colour = red | green << 8 | component() << 16;
         if (std::abs(colour - backColour) <= near) {
-            colour += colour + near <= white ? near : -near;
+            // Away from the ground, but not below black; no letter comes near white.
+            const bool up = colour >= backColour || colour < near;
+            colour += up ? near : -near;
         }
         colours.push_back(colour);
     }

@@ -30,7 +30,7 @@ std::optional<std::vector<double>> PlaceHeader(int code, int count,
                                                platform::RandomNumbers& random);
 
 /// A random colour for each letter; one that lies within 500 of the back colour, as a number, is
-/// moved by 500.
+/// moved by 500, away from it.
 std::vector<int> RandomHeaderColours(int count, int backColour, platform::RandomNumbers& random);
 
 /// The opening show: letters on their way to their places, at each step nearer by a two-hundredth

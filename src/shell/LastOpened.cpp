@@ -24,6 +24,12 @@ LastOpened::LastOpened() {
 }
 
 void LastOpened::LoadOpenedForms(const platform::Files& files, const QString& path) {
+    // A shorter file must leave nothing of a longer list behind; a file that is not there, all.
+    if (files.Exists(path)) {
+        for (int row = 1; row <= openedList_.UpperBound(); ++row) {
+            openedList_[row] = {};
+        }
+    }
     mduLib::ReadPropertyFile(files, path, openedList_);
 }
 

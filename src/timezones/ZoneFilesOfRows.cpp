@@ -11,14 +11,9 @@ namespace {
 
 constexpr qsizetype MostNames = 3;
 
-bool CopyProfile(platform::Files& files, const QString& profile, const QString& path) {
-    const bool isItself = profile == path && mduLib::FileExists(files, path);
-    return isItself || mduLib::CopyFileTo(files, profile, path, true);
-}
-
 bool MakeFromDefault(const platform::Services& services, const PathTable& paths,
                      const QString& zoneName, const QString& path) {
-    return mduLib::CopyFileTo(services.FileSystem, paths.ZoneDefaultFile(), path, true) &&
+    return mduLib::CopyFileTo(services.FileSystem, paths.ZoneDefaultFile(), path, false) &&
            ApplyZoneToFile(services, paths, path, zoneName);
 }
 
@@ -34,10 +29,15 @@ QString MakeZoneFile(const platform::Services& services, const PathTable& paths,
         return problem;
     }
     const QString path = ZoneFilePath(paths, row.Name);
+    // A zone's file holds what its user has set; it is never written over from here.
+    if (mduLib::FileExists(services.FileSystem, path)) {
+        row.HasFile = true;
+        return {};
+    }
     const bool made = row.ToolTipText.isEmpty()
                           ? MakeFromDefault(services, paths, row.Name, path)
-                          : CopyProfile(services.FileSystem, row.ToolTipText, path);
-    row.HasFile = made || mduLib::FileExists(services.FileSystem, path);
+                          : mduLib::CopyFileTo(services.FileSystem, row.ToolTipText, path, false);
+    row.HasFile = made;
     return made ? QString() : row.Name + u" could not be saved"_s;
 }
 
@@ -64,26 +64,31 @@ RowsOutcome SaveCheckedZones(const platform::Services& services, const PathTable
 }
 
 RowsOutcome DeleteCheckedZones(const platform::Services& services, const PathTable& paths,
-                               ZoneList& list) {
+                               const ZoneList& list,
+                               const std::function<QString(const QString& name)>& remove) {
     RowsOutcome outcome;
-    platform::Files& files = services.FileSystem;
     for (int position = 0; position < list.Count(); ++position) {
         const QString name = list[position].Name;
-        if (!list[position].Checked || !mduLib::ZoneNameProblem(name).isEmpty()) {
+        if (!list[position].Checked || !mduLib::ZoneNameProblem(name).isEmpty() ||
+            !mduLib::FileExists(services.FileSystem, ZoneFilePath(paths, name))) {
             continue;
         }
-        const QString path = ZoneFilePath(paths, name);
-        if (!mduLib::FileExists(files, path)) {
-            continue;
-        }
-        mduLib::DeleteFileNow(files, path);
-        if (mduLib::FileExists(files, path)) {
-            outcome.Problems += name + u" could not be deleted"_s;
-        } else {
+        const QString problem = remove(name);
+        if (problem.isEmpty()) {
             ++outcome.Files;
+        } else {
+            outcome.Problems += problem;
         }
     }
     return outcome;
+}
+
+QString DeleteZoneFile(const platform::Services& services, const PathTable& paths,
+                       const QString& name) {
+    const QString path = ZoneFilePath(paths, name);
+    mduLib::DeleteFileNow(services.FileSystem, path);
+    return mduLib::FileExists(services.FileSystem, path) ? name + u" could not be deleted"_s
+                                                         : QString();
 }
 
 QString SaveQuestion(const QStringList& names) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "timezones/ZoneList.h"
 
 /// From checked rows to the files that clocks are made of, and back.
@@ -14,7 +16,7 @@ struct RowsOutcome {
 /// The file of a zone in the user's folder.
 QString ZoneFilePath(const PathTable& paths, const QString& zoneName);
 
-/// Brings a row's file about, over one that is there: a copy of its profile, or the default file
+/// Brings a row's file about, unless there is one: a copy of its profile, or the default file
 /// with the six keys of its zone. @return what went wrong; empty when all is well.
 QString MakeZoneFile(const platform::Services& services, const PathTable& paths, ZoneRow& row);
 
@@ -23,10 +25,15 @@ QString MakeZoneFile(const platform::Services& services, const PathTable& paths,
 RowsOutcome SaveCheckedZones(const platform::Services& services, const PathTable& paths,
                              ZoneList& list);
 
-/// Removes the files of the rows that are listed and checked. One that is gone already is no
-/// problem. It asks nobody.
+/// Removes the files of the rows that are listed and checked, each by @p remove, which answers why
+/// it could not. One that is gone already is no problem. It asks nobody.
 RowsOutcome DeleteCheckedZones(const platform::Services& services, const PathTable& paths,
-                               ZoneList& list);
+                               const ZoneList& list,
+                               const std::function<QString(const QString& name)>& remove);
+
+/// Removes the file of one zone. @return why it could not; empty when it is gone
+QString DeleteZoneFile(const platform::Services& services, const PathTable& paths,
+                       const QString& name);
 
 /// "Do you want to save the Tokyo Standard Time, UTC?", from the fourth name on their number.
 QString SaveQuestion(const QStringList& names);

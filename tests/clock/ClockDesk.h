@@ -26,6 +26,8 @@ struct FakeShell final : IShell {
     int BackColor() const override { return Colour; }
     int LaunchTempolark(const QString&) override { return 0; }
     QString Setting(const QString&) const override { return {}; }
+    QString RemoveZone(const QString&) override { return {}; }
+    void ShowClockHelp() override {}
 };
 
 /// A frame of the shell with nothing in it.

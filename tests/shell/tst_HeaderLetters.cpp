@@ -66,9 +66,13 @@ private Q_SLOTS:
         FakeRandom random;
         // 0.5 of 255 is 127: 0x7F7F7F, 8355711.
         random.Numbers = {0.5};
+        // Below the darkest colour there is nothing.
+        random.Numbers = {0};
+        QCOMPARE(shell::RandomHeaderColours(1, 100, random), std::vector<int>{500});
+        random.Numbers = {0.5};
         QCOMPARE(shell::RandomHeaderColours(2, 0, random), (std::vector<int>{8355711, 8355711}));
         QCOMPARE(shell::RandomHeaderColours(1, 8355711, random), std::vector<int>{8356211});
-        QCOMPARE(shell::RandomHeaderColours(1, 8355711 + 500, random), std::vector<int>{8356211});
+        QCOMPARE(shell::RandomHeaderColours(1, 8355711 + 500, random), std::vector<int>{8355211});
         QCOMPARE(shell::RandomHeaderColours(1, 8355711 - 501, random), std::vector<int>{8355711});
     }
 

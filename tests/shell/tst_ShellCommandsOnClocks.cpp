@@ -81,6 +81,33 @@ private Q_SLOTS:
         QCOMPARE(Desk::Texts(desk.Menu(u"LastOpened"_s)), (QStringList{u"UTC"_s, u"All"_s}));
     }
 
+    void TheFilePickerHidesTheHeader() {
+        Desk desk;
+        for (int i = 10; i < 27; ++i) {
+            desk.Zone(u"Zone %1"_s.arg(i));
+        }
+        QVERIFY(desk.Start());
+        desk.Machine.Dialogs.FileAnswers = {QString(), u"/somewhere/Zone 25.ini"_s};
+        desk.ClickItem(u"TimeZone"_s, 16);
+        QVERIFY(desk.HeaderShows());
+        desk.ClickItem(u"TimeZone"_s, 16);
+        QVERIFY(!desk.HeaderShows());
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"Zone 25"_s});
+    }
+
+    void AnIndexOutsideTheMenuDoesNothing() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        for (const int index : {-1, 0, 99}) {
+            desk.Shell->DoMenuItem(1.0F, index);
+            desk.Shell->DoMenuItem(8.0F, index);
+            desk.Shell->DoMenuItem(9.0F, index);
+            desk.Shell->DoMenuItem(4.0F, index);
+        }
+        QCOMPARE(desk.Clocks(), QStringList());
+    }
+
     void TwoThousandZoneFiles() {
         Desk desk;
         for (int i = 0; i < 2000; ++i) {

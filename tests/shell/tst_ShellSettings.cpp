@@ -83,6 +83,14 @@ private Q_SLOTS:
         QCOMPARE(Stored(desk, u"Tool Bar"_s), u"Right:Hide"_s);
     }
 
+    void ANewSizeBringsAHiddenBarBack() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.ClickItem(u"ToolBarPositions"_s, 5);
+        desk.ClickItem(u"ToolBarSize"_s, 1);
+        QVERIFY(desk.Shell->findChild<ToolBar*>()->isVisible());
+    }
+
     void StatusBarStandsOnEverySide_data() {
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<bool>("visible");
@@ -238,6 +246,8 @@ private Q_SLOTS:
         Write(desk, "Window Background Colour=Custom\r\n");
         QVERIFY(desk.Start());  // a picker that nobody expects would fail the test
         QVERIFY(desk.Shell->isVisible());
+        desk.Stop();
+        QCOMPARE(Stored(desk, u"Window Background Colour"_s), u"Custom"_s);
     }
 
     void RefreshFormTakesTheExchangeSlot() {

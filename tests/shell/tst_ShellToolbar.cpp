@@ -65,13 +65,13 @@ private Q_SLOTS:
         Bar bar;
         bar.Tools.resize(115, 40);
         QCOMPARE(bar.Seen(), u"1 2 3"_s);
-        bar.Drag({110, 20}, {84, 20});  // a step is the 24 pixels of a picture
+        bar.Drag({110, 20}, {80, 20});  // a step is the 30 pixels of a button
         QCOMPARE(bar.Seen(), u"2 3 4"_s);
-        bar.Drag({110, 20}, {60, 20});
+        bar.Drag({110, 20}, {50, 20});
         QCOMPARE(bar.Seen(), u"4 5 6"_s);
         bar.Drag({94, 20}, {114, 20});
         QCOMPARE(bar.Seen(), u"4 5 6"_s);  // too short a way
-        bar.Drag({91, 20}, {115, 20});
+        bar.Drag({91, 20}, {121, 20});
         QCOMPARE(bar.Seen(), u"3 4 5"_s);
         QVERIFY(bar.Clicked.isEmpty());
     }

@@ -271,11 +271,38 @@ private Q_SLOTS:
         const auto* area = desk.Shell->findChild<QMdiArea*>();
         const QRect clock = area->subWindowList().first()->geometry();
         QVERIFY(qAbs(clock.width() - 200) <= 1);
-        // The test's screen leaves a maximised window its size of 400 by 400, so that toolbar and
-        // status bar take 400 less the present height of the inner area.
-        const int bars = 400 - area->viewport()->height();
-        QVERIFY(qAbs(clock.center().x() - 400) <= 2);
-        QVERIFY(qAbs(clock.center().y() - (800 - bars) / 2) <= 2);
+        // The test's screen leaves a maximised window its size, so that toolbar and status bar take
+        // the window's height less that of the inner area.
+        const int bars = desk.Shell->height() - area->viewport()->height();
+        QVERIFY(qAbs(clock.center().x() - 400) <= 3);
+        QVERIFY(qAbs(clock.center().y() - (800 - bars) / 2) <= 3);
+    }
+
+    /// The stored place belongs to a normal window, and waits for one.
+    void PositionKeysOfAMaximisedShell() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/TempolarkCentral.ini"_s,
+                               "Window Left=150\r\nWindow Top=300\r\nWindow Width=6000\r\n"
+                               "Window Height=6000\r\nWindow State=Maximized\r\n");
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Shell->WindowState(), 2);
+        desk.Stop();
+        const QByteArray file = desk.User(u"TempolarkCentral.ini"_s);
+        QVERIFY(file.contains("Window Left=150\r\n"));
+        QVERIFY(file.contains("Window Width=6000\r\n"));
+    }
+
+    void WhatNobodyChangedKeepsItsNumber() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/TempolarkCentral.ini"_s,
+                               "Window Left=100\r\nWindow Top=-1\r\nWindow Width=15000\r\n"
+                               "Window Height=6000\r\n");
+        QVERIFY(desk.Start());
+        desk.Stop();
+        // 15000 twips are more than the screen has; the window is 400 of 800 pixels high.
+        const QByteArray file = desk.User(u"TempolarkCentral.ini"_s);
+        QVERIFY(file.contains("Window Width=15000\r\n"));
+        QVERIFY(file.contains("Window Top=3000\r\n"));
     }
 
     void AutoStartedClockStandsInTheMiddle_data() {

@@ -42,6 +42,14 @@ struct ZoneShell final : IShell {
     QString Setting(const QString& name) const override {
         return name == u"Speak Time Zone Details"_s ? Speak : QString();
     }
+    QString RemoveZone(const QString& name) override {
+        Removed += name;
+        return Remove ? Remove(name) : QString();
+    }
+    void ShowClockHelp() override {}
+
+    QStringList Removed;
+    std::function<QString(const QString& name)> Remove;
 };
 
 /// The window of zones over three zones of a database and two profiles.
@@ -61,6 +69,9 @@ struct ZoneWindowDesk : ZoneListDesk {
         Profile(u"Oslo.ini"_s, "W. Europe Standard Time", -60);
         Profile(u"Lima.ini"_s, "SA Pacific Standard Time", 300);
         Module.Paths = Paths;
+        Shell.Remove = [this](const QString& name) {
+            return mduTimeZones::DeleteZoneFile(Machine.Services, Paths, name);
+        };
     }
 
     void Open() {

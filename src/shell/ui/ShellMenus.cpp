@@ -56,6 +56,11 @@ QMenu* ShellMenus::Menu(const QString& name) const {
     return found == menus_.end() ? nullptr : found->second;
 }
 
+QSize ShellMenus::SizeNow(const QString& name) {
+    Refill(tops_.at(name));
+    return menus_.at(name)->sizeHint();
+}
+
 void ShellMenus::Popup(const QString& name, const QPoint& place) {
     const QString& top = tops_.at(name);
     if (top != name) {

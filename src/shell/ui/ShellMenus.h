@@ -24,6 +24,9 @@ public:
     /// The menu or submenu of that name; null if there is none. Submenus carry their entry's name.
     QMenu* Menu(const QString& name) const;
 
+    /// The size that the menu will have when it opens now.
+    QSize SizeNow(const QString& name);
+
     /// Refreshes the menu and pops it up there, on the screen.
     void Popup(const QString& name, const QPoint& place);
 

@@ -18,7 +18,7 @@ void ToolBar::mouseMoveEvent(QMouseEvent* event) {
     if (dragLast_ == 0) {
         if (along > LastEdge()) {
             dragLast_ = along;
-            dragStep_ = std::max(1, Button(shell::Tool::Launch)->iconSize().width());
+            dragStep_ = ExtentOf(slots_.front());
         }
         return;
     }

@@ -46,7 +46,8 @@ public:
 
     /// The help of the shell, or of the file @p name; the window in front tells the page.
     void ShowHelp(const QString& name = {});
-    void ShowClockHelp();
+
+    void ShowEye();  ///< puts the eye's first picture into the status bar
 
     // IForm
     QString Name() const override { return QStringLiteral("frmMain"); }
@@ -70,6 +71,8 @@ public:
     int BackColor() const override { return backColour_; }
     int LaunchTempolark(const QString& name) override;
     QString Setting(const QString& name) const override;
+    QString RemoveZone(const QString& name) override;
+    void ShowClockHelp() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -90,7 +93,6 @@ private:
     void FirstTick();
     void MessageTick();
     void FillLateMenus();
-    void ShowEye();
     void ShowTime();
     void SetHeaderVisible(bool visible);
     void ArrangeHeader();
@@ -110,7 +112,9 @@ private:
     void ApplyScreenSaverLook();
     void ShowAtStart();
     void SetBackgroundColour(const QString& colourName);
+    void ApplyBackColour();
     void WriteSetting(const QString& key, const QString& value);
+    void WriteSettings();
     void SaveCentralSettings();
     void SaveWindowPlacement();
     void SaveToolbarLayout();
@@ -142,8 +146,7 @@ private:
     void HandleCentralMenus();
     void HandleClockMenus();
     void OpenLast(const shell::MenuItem& item);
-    void RemoveZone(const shell::MenuItem& item);
-    void RemoveZoneNow(const QString& name);
+    void ClickRemove(const shell::MenuItem& item);
     void RunOpenedItem(int index);
     void Arrange(shell::Arrangement code);
 
@@ -152,6 +155,7 @@ private:
     int shellStage_ = 2;  ///< 2 until the first tick of timerCtrl, 3 for the next, then 1
     int backColour_ = 0;
     QSize normalSize_;
+    QRect appliedPlace_;  ///< where the settings have put the window; null: not yet
     QString newClockTag_ = QStringLiteral("False");
     ClockProperties centralProperties_;
     shell::LastOpened lastOpened_;

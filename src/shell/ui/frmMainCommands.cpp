@@ -69,7 +69,7 @@ void frmMain::HandleToolButton(int index) {
 
 void frmMain::PopupAtButton(int index, const QString& menu) {
     const QToolButton* button = toolbar_->Button(index);
-    const QSize size = menus_->Menu(menu)->sizeHint();
+    const QSize size = menus_->SizeNow(menu);
     QPoint place;
     switch (toolbar_->AlignCode()) {
         case shell::Align::Bottom:
@@ -131,7 +131,11 @@ void frmMain::OpenShortcuts() {
 
 void frmMain::OpenTimeZones() {
     if (timeZones_) {
-        area_->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(timeZones_->parentWidget()));
+        auto* frame = qobject_cast<QMdiSubWindow*>(timeZones_->parentWidget());
+        if (frame->isMinimized()) {
+            frame->showNormal();
+        }
+        area_->setActiveSubWindow(frame);
         timeZones_->setFocus();
         return;
     }

@@ -16,6 +16,7 @@
 #include "shell/ui/StatusBar.h"
 #include "shell/ui/ToolBar.h"
 #include "shell/ui/frmMain.h"
+#include "timezones/ZoneFilesOfRows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,9 +28,6 @@ constexpr float TimeZone = 1;
 constexpr float Window = 8;
 constexpr float Main = 9;
 }  // namespace MenuId
-
-constexpr int YesNoQuestion = 4 + 32;
-constexpr int Yes = 6;
 
 const QString IniFilter = u"Ini File (*.ini)"_s;
 
@@ -48,7 +46,7 @@ void frmMain::HandleFileMenus() {
     handlers_[u"TimeZone"_s] = [this](int i, const MenuItem&) { DoMenuItem(MenuId::TimeZone, i); };
     handlers_[u"FileItem"_s] = [this](int, const MenuItem& item) { OpenLast(item); };
     handlers_[u"ChooseTimeZone"_s] = [this](int, const MenuItem&) { OpenTimeZones(); };
-    handlers_[u"DeleteTimeZone"_s] = [this](int, const MenuItem& item) { RemoveZone(item); };
+    handlers_[u"DeleteTimeZone"_s] = [this](int, const MenuItem& item) { ClickRemove(item); };
     handlers_[u"Exit"_s] = [this](int, const MenuItem&) { Unload(); };
     handlers_[u"SetShortcut"_s] = [this](int, const MenuItem&) { OpenShortcuts(); };
     handlers_[u"Opened"_s] = [this](int i, const MenuItem&) { RunOpenedItem(i); };
@@ -79,6 +77,8 @@ void frmMain::HandleCentralMenus() {
     };
     handlers_[u"ToolBarSize"_s] = [this](int, const MenuItem& item) {
         toolbar_->ApplyToolbarSize(item.Caption);
+        const QString place = Setting(u"Tool Bar"_s);
+        toolbar_->setVisible(place != u"None"_s && place != u"Hide"_s);
     };
     handlers_[u"ToolBarPositions"_s] = [this](int, const MenuItem& item) {
         ApplyToolbarPosition(item.Caption);
@@ -137,11 +137,15 @@ void frmMain::HandleClockMenus() {
 
 void frmMain::DoMenuItem(float menuId, int index) {
     if (menuId == MenuId::TimeZone) {
-        const QString tag = menuState_[u"TimeZone"_s](index).Tag;
-        if (tag.isEmpty()) {
-            launcher_.LaunchFromFileDialog();
-        } else {
+        const shell::MenuArray& zones = menuState_[u"TimeZone"_s];
+        if (index < 1 || index > zones.Count()) {
+            return;
+        }
+        const QString tag = zones(index).Tag;
+        if (!tag.isEmpty()) {
             LaunchTempolark(tag);
+        } else if (launcher_.LaunchFromFileDialog() != 0) {
+            SetHeaderVisible(false);
         }
     } else if (menuId == MenuId::Window) {
         switch (index) {
@@ -225,7 +229,7 @@ void frmMain::RunOpenedItem(int index) {
     }
 }
 
-void frmMain::RemoveZone(const shell::MenuItem& item) {
+void frmMain::ClickRemove(const shell::MenuItem& item) {
     const bool all = item.Tag.isEmpty();
     const QStringList names = all ? shell::PropertyFileNames(program_.Services.FileSystem,
                                                              program_.Module.Paths.ZoneFileFolder)
@@ -235,16 +239,17 @@ void frmMain::RemoveZone(const shell::MenuItem& item) {
                   names.size())
             : u"Do you want to remove the time zone %1, with the settings of its clock?"_s.arg(
                   item.Tag);
-    if (ShowMsgbox(question, YesNoQuestion, u"Remove Time Zone"_s) != Yes) {
+    if (ShowMsgbox(question, MsgBox::YesNoQuestion, u"Remove Time Zone"_s) != MsgBox::Yes) {
         return;
     }
     for (const QString& name : names) {
-        RemoveZoneNow(name);
+        const QString problem = RemoveZone(name);
+        ShowStatusMsg(problem.isEmpty() ? u"Removed the time zone %1"_s.arg(name) : problem);
     }
 }
 
 // A clock that is open goes first: it writes its file once more when it closes.
-void frmMain::RemoveZoneNow(const QString& name) {
+QString frmMain::RemoveZone(const QString& name) {
     for (int i = program_.Windows.Count() - 1; i > 0; --i) {
         IForm& window = program_.Windows[i];
         if (window.Name() == ClockWindowName && window.Caption() == name) {
@@ -252,20 +257,16 @@ void frmMain::RemoveZoneNow(const QString& name) {
         }
     }
     if (shell::IsClockWindowOpen(program_.Windows, name)) {
-        ShowStatusMsg(u"The clock of %1 is still open"_s.arg(name));
-        return;
+        return u"The clock of %1 is still open"_s.arg(name);
     }
-    const QString file = program_.Module.Paths.ZoneFileFolder + name + u".ini"_s;
-    if (mduLib::FileExists(program_.Services.FileSystem, file) &&
-        !program_.Services.FileSystem.Delete(file)) {
-        ShowStatusMsg(u"%1 can't be removed"_s.arg(file));
-        return;
-    }
-    if (!mduLib::GetPropertyRaw(name, program_.Module.AutoStartList).isEmpty()) {
+    const QString problem =
+        mduTimeZones::DeleteZoneFile(program_.Services, program_.Module.Paths, name);
+    if (problem.isEmpty() &&
+        !mduLib::GetPropertyRaw(name, program_.Module.AutoStartList).isEmpty()) {
         shell::SetAutoStartEntry(program_.Module.AutoStartList, {}, name, true);
         SaveAutoStartList();
     }
-    ShowStatusMsg(u"Removed the time zone %1"_s.arg(name));
+    return problem;
 }
 
 void frmMain::Arrange(shell::Arrangement code) {

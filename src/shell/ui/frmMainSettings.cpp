@@ -54,11 +54,14 @@ void frmMain::ApplyCentralProperties(bool keepPlacement) {
     ApplyStatusBarPosition(Setting(u"Status Bar"_s));
     // A picker belongs to a click; a file that asks for one leaves the colour as it is.
     const QString colour = Setting(u"Window Background Colour"_s);
-    SetBackgroundColour(mduUILib::IsCustomColour(colour) ? u"Transparent"_s : colour);
+    if (mduUILib::IsCustomColour(colour)) {
+        ApplyBackColour();
+    } else {
+        SetBackgroundColour(colour);
+    }
     ApplyWindowBorder(Setting(u"Window Border"_s));
     ApplyTitleBar(mduUILib::YesNoToBool(Setting(u"Window Title Bar"_s)));
     header_->SetVersionLocation(u"Version "_s + QCoreApplication::applicationVersion());
-    header_->ApplyHeaderStyle(Setting(u"Heading Variation"_s));
 }
 
 // The border that a frame around the clocks has: none, sunken, or a plain line.
@@ -118,10 +121,16 @@ void frmMain::ApplyBackgroundFile() {
 }
 
 void frmMain::ApplyPlacement() {
-    const auto number = [this](const QString& key) {
-        return mduAPILib::Val(mduLib::GetProperty(key, centralProperties_));
-    };
+    const auto number = [this](const QString& key) { return mduAPILib::Val(Setting(key)); };
     const QRect whole = screen()->availableGeometry();
+    if (StoredWindowState() != 0) {
+        // The place to come back to; the clocks that start by themselves are sized by the shell as
+        // it will be seen.
+        normalSize_ = whole.size() * 3 / 4;
+        move(whole.topLeft() + QPoint(whole.width(), whole.height()) / 8);
+        resize(StoredWindowState() == 2 ? whole.size() : normalSize_);
+        return;
+    }
     const auto extent = [](double twips, int present) {
         return twips > 0 ? mduAPILib::RoundToInteger(twips / TwipsPerPixel) : present / 4;
     };
@@ -135,10 +144,6 @@ void frmMain::ApplyPlacement() {
                         place(number(u"Window Top"_s), whole.top(), whole.height() - height()));
     move(WithinReach({corner, QWidget::size()}).topLeft());
     normalSize_ = QWidget::size();
-    // The clocks that start by themselves are sized by the shell as it will be seen.
-    if (StoredWindowState() == 2) {
-        resize(whole.size());
-    }
 }
 
 int frmMain::StoredWindowState() const {
@@ -172,6 +177,9 @@ void frmMain::ShowAtStart() {
     }
     resize(normalSize_);
     SetWindowState(StoredWindowState());
+    if (StoredWindowState() == 0) {
+        appliedPlace_ = QRect(pos(), size());
+    }
 }
 
 void frmMain::SetBackgroundColour(const QString& colourName) {
@@ -186,17 +194,25 @@ void frmMain::SetBackgroundColour(const QString& colourName) {
     } else if (colourName.trimmed().toLower() != u"transparent"_s) {
         backColour_ = mduUILib::ColourValue(QString(colourName), program_.Services.Random);
     }
-    area_->setBackground(QColor(drawing::ToRgb(backColour_)));
-    header_->SetBackColour(backColour_);
-    shell::SyncClockBackColours(program_.Windows, backColour_);
+    ApplyBackColour();
     if (name != Setting(u"Window Background Colour"_s)) {
         WriteSetting(u"Window Background Colour"_s, name);
     }
 }
 
+void frmMain::ApplyBackColour() {
+    area_->setBackground(QColor(drawing::ToRgb(backColour_)));
+    header_->SetBackColour(backColour_);
+    shell::SyncClockBackColours(program_.Windows, backColour_);
+}
+
 // Toggles are written at once, so that they outlast a crash.
 void frmMain::WriteSetting(const QString& key, const QString& value) {
     mduLib::PutProperty(key, value, centralProperties_);
+    WriteSettings();
+}
+
+void frmMain::WriteSettings() {
     if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, centralProperties_, IniFile())) {
         ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
     }
@@ -206,9 +222,7 @@ void frmMain::SaveCentralSettings() {
     shell::SaveCentralLook({backColour_, toolbar_->AlignCode(), toolbar_->isVisibleTo(frame_),
                             toolbar_->SizeName(), statusBar_->isVisibleTo(frame_), WindowState()},
                            centralProperties_);
-    if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, centralProperties_, IniFile())) {
-        ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
-    }
+    WriteSettings();
 }
 
 // Which buttons the user has kept. Every start sets the bar up from the catalogue all the same.
@@ -218,23 +232,25 @@ void frmMain::SaveToolbarLayout() {
 }
 
 void frmMain::SaveWindowPlacement() {
-    platform::Files& files = program_.Services.FileSystem;
-    const QString file = IniFile();
     // What the property window saved meanwhile stays.
     ClockProperties fresh;
-    if (mduLib::ReadPropertyFile(files, file, fresh)) {
+    if (mduLib::ReadPropertyFile(program_.Services.FileSystem, IniFile(), fresh)) {
         centralProperties_ = fresh;
     }
     if (WindowState() == 0) {
-        const auto store = [this](const QString& key, int pixels) {
-            mduLib::PutProperty(key,
-                                mduAPILib::SingleText(static_cast<float>(pixels * TwipsPerPixel)),
-                                centralProperties_);
+        // What nobody has changed keeps its number: a small screen may have cut it for this time.
+        const auto store = [this](const QString& key, int pixels, int applied) {
+            if (pixels != applied || mduAPILib::Val(Setting(key)) == -1) {
+                const double twips = pixels * TwipsPerPixel;
+                mduLib::PutProperty(key, mduAPILib::SingleText(static_cast<float>(twips)),
+                                    centralProperties_);
+            }
         };
-        store(u"Window Top"_s, y());
-        store(u"Window Left"_s, x());
-        store(u"Window Width"_s, width());
-        store(u"Window Height"_s, height());
+        const bool known = !appliedPlace_.isNull();
+        store(u"Window Top"_s, y(), known ? appliedPlace_.y() : y() - 1);
+        store(u"Window Left"_s, x(), known ? appliedPlace_.x() : x() - 1);
+        store(u"Window Width"_s, width(), appliedPlace_.width());
+        store(u"Window Height"_s, height(), appliedPlace_.height());
     }
     // A screen-saver run hides the bar for its own time only.
     if (!IsScreenSaverRun()) {
@@ -244,6 +260,6 @@ void frmMain::SaveWindowPlacement() {
             centralProperties_);
         mduLib::PutProperty(u"Toolbar Size"_s, toolbar_->SizeName(), centralProperties_);
     }
-    mduLib::RewritePropertyFile(files, centralProperties_, file);
+    WriteSettings();
     SaveToolbarLayout();
 }

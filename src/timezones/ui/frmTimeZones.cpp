@@ -12,8 +12,6 @@ using mduTimeZones::ShowFilter;
 
 namespace {
 
-constexpr int YesNoQuestion = 4 + 32;  // two buttons and a question mark
-constexpr int Yes = 6;
 constexpr int PaleYellow = 255 + 255 * 256 + 180 * 65536;
 
 }  // namespace
@@ -109,7 +107,7 @@ void frmTimeZones::TellOutcome(const RowsOutcome& outcome, const QString& done) 
 // A press of the map's button ends in the box, so its drag must end before.
 int frmTimeZones::Ask(const QString& text, const QString& title) {
     imgMap_->EndDrag();
-    return shell_ == nullptr ? 0 : shell_->ShowMsgbox(text, YesNoQuestion, title);
+    return shell_ == nullptr ? 0 : shell_->ShowMsgbox(text, MsgBox::YesNoQuestion, title);
 }
 
 void frmTimeZones::SaveCheckedZones() {
@@ -120,11 +118,18 @@ void frmTimeZones::SaveCheckedZones() {
 
 void frmTimeZones::DeleteCheckedZones() {
     if (Ask(u"Do you want to delete the selected time zone profiles?"_s, u"Delete Selected"_s) !=
-        Yes) {
+        MsgBox::Yes) {
         return;
     }
-    TellOutcome(mduTimeZones::DeleteCheckedZones(program_.Services, program_.Module.Paths, list_),
-                u"deleted"_s);
+    // The shell also closes the clocks of these zones, which would write their files again.
+    const auto remove = [this](const QString& name) {
+        return shell_ != nullptr
+                   ? shell_->RemoveZone(name)
+                   : mduTimeZones::DeleteZoneFile(program_.Services, program_.Module.Paths, name);
+    };
+    TellOutcome(
+        mduTimeZones::DeleteCheckedZones(program_.Services, program_.Module.Paths, list_, remove),
+        u"deleted"_s);
     LoadZoneList(list_.Show);
 }
 
@@ -133,7 +138,7 @@ void frmTimeZones::ConfirmSave() {
     if (names.isEmpty()) {
         return;
     }
-    if (Ask(mduTimeZones::SaveQuestion(names), u"Save Seleted Time Zones"_s) == Yes) {
+    if (Ask(mduTimeZones::SaveQuestion(names), u"Save Seleted Time Zones"_s) == MsgBox::Yes) {
         SaveCheckedZones();
     }
 }
@@ -151,8 +156,7 @@ void frmTimeZones::ShowZoneDetails(int position) {
     if (shell_ == nullptr) {
         return;
     }
-    const QString speak = shell_->Setting(u"Speak Time Zone Details"_s);
-    if (!speak.isEmpty() && mduUILib::YesNoToBool(speak)) {
+    if (mduUILib::YesNoToBool(shell_->Setting(u"Speak Time Zone Details"_s))) {
         shell_->PurgeSpeech();
         shell_->SpeakMessage(tag);
     }
