@@ -43,7 +43,6 @@ private:
 /// Working values of the face and the tick.
 struct DialState {
     int StyleIndex = 0;
-    std::int16_t MusicIndex = 0;
 };
 
 /// The fields of one clock.
