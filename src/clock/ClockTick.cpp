@@ -9,11 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
+using timers::NormalInterval;
+
 namespace {
 
-constexpr int NormalInterval = 1000;  // milliseconds
-constexpr int FirstTickInterval = 10;
-constexpr int StyleRhythm = 10;  // seconds
+constexpr int FirstTickInterval = 10;  // milliseconds
+constexpr int StyleRhythm = 10;        // seconds
 
 }  // namespace
 

@@ -3,17 +3,19 @@
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/SpeechFlags.h"
 
 using namespace Qt::StringLiterals;
 
 namespace speech {
+
+using platform::SpeechFlag::PurgeBeforeSpeak;
 
 namespace {
 
 constexpr int IdlePicture = 3;
 constexpr int MutedPicture = 4;
 constexpr int SpeakingPicture = 5;
-constexpr int PurgeBeforeSpeak = 2;
 constexpr QStringView PurgeText = u".";
 
 }  // namespace

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "foundation/ClockProperty.h"
-#include "foundation/Controls.h"
-#include "foundation/ModuleState.h"
-#include "platform/Services.h"
-#include "timezones/TimeZoneRecord.h"
+#include "timezones/ClockContext.h"
 
 namespace speech {
 
@@ -24,14 +20,6 @@ public:
     virtual ClockProperties& EditProperties() = 0;
 };
 
-/// What the speaking parts of one clock share; all of it outlives them.
-struct SpeechContext {
-    const ClockProperties& Properties;
-    const TimeZoneRecord& Zone;
-    mduUILib::ClockControls& Controls;
-    const platform::Services& Services;
-    const ModuleState& Module;
-    SpeechHost& Host;
-};
+using SpeechContext = ClockContext<SpeechHost>;
 
 }  // namespace speech

@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-#include "timezones/ZoneArithmetic.h"
+#include "platform/SpeechFlags.h"
 
 namespace speech {
 
 namespace {
 
 constexpr int DefaultFlags = 0;
-constexpr int PurgeBeforeSpeak = 2;
 
 }  // namespace
 
@@ -22,10 +21,6 @@ void SpokenPatterns::ReadPatterns() {
 bool SpokenPatterns::AnyPattern() const {
     return std::any_of(patterns_.begin(), patterns_.end(),
                        [](const SpeechPattern& pattern) { return pattern.IsOn(); });
-}
-
-QDateTime SpokenPatterns::ClockTime() const {
-    return mduTimeZones::GetClockTime(context_.Zone, context_.Services.Clock.Now());
 }
 
 bool SpokenPatterns::SpeakPatternOfKind(const QDateTime& clockTime, int kind, bool force,
@@ -44,7 +39,7 @@ void SpokenPatterns::CheckSpokenTime() {
         context_.Controls.lblActionMsg(1).Visible) {
         return;
     }
-    const QDateTime now = ClockTime();
+    const QDateTime now = context_.ClockTime();
     if (now == spokenAt_) {
         return;
     }
@@ -59,9 +54,9 @@ void SpokenPatterns::CheckSpokenTime() {
 
 void SpokenPatterns::SpeakTimeNow() {
     ReadPatterns();
-    const QDateTime now = ClockTime();
+    const QDateTime now = context_.ClockTime();
     for (int kind = DayPattern; kind >= SecondPattern; --kind) {
-        if (SpeakPatternOfKind(now, kind, true, PurgeBeforeSpeak)) {
+        if (SpeakPatternOfKind(now, kind, true, platform::SpeechFlag::PurgeBeforeSpeak)) {
             return;
         }
     }

@@ -34,7 +34,6 @@ public:
 
 private:
     bool AnyPattern() const;
-    QDateTime ClockTime() const;
 
     SpeechContext context_;
     ClockVoice& voice_;

@@ -7,7 +7,6 @@
 #include "foundation/PropertyLookup.h"
 #include "foundation/Twips.h"
 #include "timers/TimerFile.h"
-#include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,9 +14,8 @@ namespace timers {
 
 namespace {
 
-constexpr int NormalInterval = 1000;  // milliseconds
-constexpr int MovingInterval = 100;
-constexpr double EatenStep = 15;  // twips
+constexpr int MovingInterval = 100;  // milliseconds
+constexpr double EatenStep = 15;     // twips
 constexpr double FaceMargin = 15;
 constexpr double TopOfFace = 0.04;  // of the face's height
 constexpr double FontOfFace = 0.035;
@@ -65,7 +63,7 @@ void ClockMessages::SetMessageExpiry(const QDateTime& clockTime, int minutes) {
 void ClockMessages::RunMessage(int left, int width) {
     left_ = left;
     width_ = width;
-    const QDateTime clockTime = ClockTime();
+    const QDateTime clockTime = context_.ClockTime();
     Expire(clockTime);
     if (IsCountingDown()) {
         CountDown(clockTime);
@@ -170,10 +168,6 @@ float ClockMessages::MessageTop() const {
 
 float ClockMessages::Pixels(double twips) const {
     return static_cast<float>(twips / TwipsPerPixel * context_.Host.DevicePixelRatio());
-}
-
-QDateTime ClockMessages::ClockTime() const {
-    return mduTimeZones::GetClockTime(context_.Zone, context_.Services.Clock.Now());
 }
 
 }  // namespace timers

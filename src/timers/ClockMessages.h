@@ -70,7 +70,6 @@ private:
     void SetActionCaption(const QString& caption);
     void Tell(MessageEvent event, const QString& text = {}) const;
     bool IsCountingDown() const;
-    QDateTime ClockTime() const;
     int ActionColour() const;
     void ShowActionMarks(bool visible);
     void PlaceActionMarks();

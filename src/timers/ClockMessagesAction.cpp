@@ -65,7 +65,7 @@ bool ClockMessages::StartCountdown(const QDateTime& clockTime, int minutes) {
 
 void ClockMessages::PostponeAction(int minutes) {
     if (IsCountingDown()) {
-        actionDeadline_ = mduAPILib::MomentText(ClockTime().addSecs(60LL * minutes));
+        actionDeadline_ = mduAPILib::MomentText(context_.ClockTime().addSecs(60LL * minutes));
     }
 }
 

@@ -4,6 +4,8 @@
 
 namespace timers {
 
+inline constexpr int HalfDay = 12;  ///< hours; the dial has no more
+
 /// One timer of a clock. The dial has twelve hours, so a time stands for both halves of the day.
 struct ClockTimer {
     QString TimerTime;       ///< "hh:mm", such as "03:05"; empty in a cleared slot

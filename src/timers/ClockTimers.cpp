@@ -7,7 +7,6 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "timers/TimerFile.h"
-#include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +14,6 @@ namespace timers {
 
 namespace {
 
-constexpr int HalfDay = 12;     // hours
 constexpr int SpotsOfHour = 5;  // minute spots on the dial
 constexpr int PlacesOfSpot = 12;
 
@@ -60,7 +58,7 @@ void ClockTimers::LoadTimers(const QString& path) {
 }
 
 void ClockTimers::LoadLine(const QString& line) {
-    const QDateTime clockTime = ClockTime();
+    const QDateTime clockTime = context_.ClockTime();
     const std::optional<TimerLine> parsed = ParseTimerLine(line, clockTime.date().year());
     if (!parsed) {
         return;
@@ -108,7 +106,7 @@ bool ClockTimers::MayWrite(const QString& path) {
 }
 
 QStringList ClockTimers::TimerLines() const {
-    const QDateTime clockTime = ClockTime();
+    const QDateTime clockTime = context_.ClockTime();
     QStringList lines;
     for (const ClockTimer& timer : timers_) {
         if (!timer.IsFree()) {
@@ -165,7 +163,7 @@ void ClockTimers::ClearTimerSlot(int slot) {
 
 // A dial of twelve hours has five spots for each, and each spot twelve places.
 void ClockTimers::PlaceTimerMark(int slot, const QString& time) {
-    const std::optional<QTime> parsed = TimeOfText(time, ClockTime().date().year());
+    const std::optional<QTime> parsed = TimeOfText(time, context_.ClockTime().date().year());
     if (!parsed) {
         return;
     }
@@ -198,10 +196,6 @@ int ClockTimers::SetNewTimer(const QString& time) {
     ChangeTimer(slot, timer);
     PlaceTimerMark(slot, time);
     return slot;
-}
-
-QDateTime ClockTimers::ClockTime() const {
-    return mduTimeZones::GetClockTime(context_.Zone, context_.Services.Clock.Now());
 }
 
 QString ClockTimers::Property(const QString& name) const {

@@ -69,7 +69,6 @@ private:
     void LoadLine(const QString& line);
     bool MayWrite(const QString& path);
     void AddSlot();
-    QDateTime ClockTime() const;
     QString Property(const QString& name) const;
 
     void ForgetFired(int dialMinute);

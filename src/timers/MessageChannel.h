@@ -2,6 +2,8 @@
 
 namespace timers {
 
+inline constexpr int NormalInterval = 1000;  ///< of `timClock` while no message runs; milliseconds
+
 /// The one running message of a clock, and the action that counts down.
 class MessageChannel {
 public:

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "foundation/ClockProperty.h"
-#include "foundation/Controls.h"
-#include "foundation/ModuleState.h"
-#include "platform/Services.h"
-#include "timezones/TimeZoneRecord.h"
+#include "timezones/ClockContext.h"
 
 namespace timers {
 
@@ -37,14 +33,6 @@ public:
     virtual ClockProperties& EditProperties() = 0;
 };
 
-/// What the timer parts of one clock share; all of it outlives them.
-struct TimerContext {
-    const ClockProperties& Properties;
-    const TimeZoneRecord& Zone;
-    mduUILib::ClockControls& Controls;
-    const platform::Services& Services;
-    const ModuleState& Module;
-    TimerHost& Host;
-};
+using TimerContext = ClockContext<TimerHost>;
 
 }  // namespace timers

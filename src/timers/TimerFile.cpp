@@ -10,7 +10,6 @@ namespace timers {
 
 namespace {
 
-constexpr int HalfDay = 12;              // hours
 constexpr qsizetype ShortestMoment = 7;  // a head below this length is a time alone
 
 // line = head "@" message [ "@" ignored ] | head "=" message [ "=" ignored ]

@@ -19,8 +19,7 @@ using clockcore::ClockState;
 
 namespace {
 
-constexpr int FirstShot = 10;  // milliseconds until the first tick
-constexpr int NormalInterval = 1000;
+constexpr int FirstShot = 10;         // milliseconds until the first tick
 constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
 
 }  // namespace
@@ -40,14 +39,15 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       calculator_(Context()),
       background_(Context()),
       overlays_(Context()),
-      messages_(TimerParts(),
-                [this](const QString& action) { timers::RunAction(TimerParts(), action); }),
-      timers_(TimerParts(), messages_),
-      actions_(TimerParts()),
-      sounds_(TimerParts()),
-      voice_(SpeechParts()),
-      spoken_(SpeechParts(), voice_),
-      music_(SpeechParts()),
+      messages_(
+          Parts<timers::TimerHost>(),
+          [this](const QString& action) { timers::RunAction(Parts<timers::TimerHost>(), action); }),
+      timers_(Parts<timers::TimerHost>(), messages_),
+      actions_(Parts<timers::TimerHost>()),
+      sounds_(Parts<timers::TimerHost>()),
+      voice_(Parts<speech::SpeechHost>()),
+      spoken_(Parts<speech::SpeechHost>(), voice_),
+      music_(Parts<speech::SpeechHost>()),
       face_(data_, controls_, *this, {dial_, digital_, calculator_, background_, overlays_},
             program.Services.Clock, program.Services.Random),
       tick_(data_,
@@ -136,7 +136,7 @@ void frmTempolark::Load() {
     placement_.SetOuterSize({0, 0});
     controls_.imgSpeaker(1).Visible = false;
     SetTimerInterval(FirstShot);
-    SetTimerInterval(NormalInterval);  // from then on; the first shot comes all the same
+    SetTimerInterval(timers::NormalInterval);  // from then on; the first shot comes all the same
 }
 
 void frmTempolark::LayOutTimerMarks() {

@@ -174,8 +174,12 @@ private:
     ClockProperties& EditProperties() override { return data_.EditProperties(); }
     bool IsActiveClock() const override;
     void SetSpeakerPicture(int number) override;
-    timers::TimerContext TimerParts();
-    speech::SpeechContext SpeechParts();
+    /// What timers and speech, each with its own kind of host, share.
+    template <class Host>
+    ClockContext<Host> Parts() {
+        return {data_.Properties(), data_.Zone,      controls_,
+                program_.Services,  program_.Module, *this};
+    }
     void FillMenuArrays() override { actions_.FillActionMenu(); }
     void ShowMessageMenu(const QPoint& globalPosition);
     void ShowActionMenu(const QPoint& globalPosition);

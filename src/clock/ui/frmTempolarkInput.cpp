@@ -9,6 +9,7 @@
 #include "clock/ClockMode.h"
 #include "clock/ui/frmTempolark.h"
 #include "drawing/StockPictures.h"
+#include "platform/SpeechFlags.h"
 
 using namespace Qt::StringLiterals;
 
@@ -130,7 +131,7 @@ void frmTempolark::mousePressEvent(QMouseEvent* event) {
     } else if (event->button() == Qt::LeftButton && IsOnAction(at)) {
         mduUILib::Control& mark = controls_.imgAction(1);
         mark.Picture = drawing::GetStockPicture(drawing::StockPicture::ActionSpeaking);
-        SpeakMessage(messages_.PendingAction(), 2, true);
+        SpeakMessage(messages_.PendingAction(), platform::SpeechFlag::PurgeBeforeSpeak, true);
         mark.Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
         CloseWhenSpoken();
     } else {

@@ -7,14 +7,6 @@
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;
 
-timers::TimerContext frmTempolark::TimerParts() {
-    return {data_.Properties(), data_.Zone, controls_, program_.Services, program_.Module, *this};
-}
-
-speech::SpeechContext frmTempolark::SpeechParts() {
-    return {data_.Properties(), data_.Zone, controls_, program_.Services, program_.Module, *this};
-}
-
 // The message and the action move after the face has been painted.
 void frmTempolark::Tick() {
     tick_.Tick();

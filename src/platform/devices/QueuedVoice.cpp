@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
+#include "platform/SpeechFlags.h"
+
 using namespace Qt::StringLiterals;
 
 namespace platform {
 
 namespace {
 
-constexpr int Asynchronous = 1;
-constexpr int PurgeBeforeSpeak = 2;
 constexpr int LongestWait = 24 * 3'600'000;  // milliseconds
 
 QStringList EngineVoices(VoiceCore& core) {
@@ -88,7 +88,7 @@ void QueuedVoice::Apply() {
 
 bool QueuedVoice::Speak(const QString& text, int flags) {
     const bool silent = text == u"."_s;
-    if (silent || (flags & PurgeBeforeSpeak) != 0) {
+    if (silent || (flags & SpeechFlag::PurgeBeforeSpeak) != 0) {
         queue_->Purge(*core_);
     }
     last_ = nullptr;
@@ -96,7 +96,7 @@ bool QueuedVoice::Speak(const QString& text, int flags) {
         return true;
     }
     const auto message = last_ = queue_->Add(core_, text);
-    if ((flags & Asynchronous) == 0) {
+    if ((flags & SpeechFlag::Asynchronous) == 0) {
         message->Wait();  // the clock may be closed meanwhile: no member is used below
     }
     return message->Reason().isEmpty();

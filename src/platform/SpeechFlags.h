@@ -1,0 +1,9 @@
+#pragma once
+
+/// The flags of `platform::Voice::Speak`, to be added up.
+namespace platform::SpeechFlag {
+
+inline constexpr int Asynchronous = 1;      ///< the call returns at once
+inline constexpr int PurgeBeforeSpeak = 2;  ///< what the voice is saying is cut off
+
+}  // namespace platform::SpeechFlag
