@@ -105,6 +105,11 @@ Remove() {
 }
 Exit() { PressButton 20 && WaitFor 10 test -s "$scratch/status" && [[ "$(<"$scratch/status")" == 0 ]]; }
 
+CloseByKey() {
+    xdotool key --clearmodifiers alt+F4
+    WaitFor 10 test -s "$scratch/status"
+}
+
 Prepare
 Check "the shell appears" Start
 sleep 2.5
@@ -130,8 +135,7 @@ Check "the title bar comes back" Central Down Down Return
 Check "the toolbar becomes small" Central $(Times 3 Down) Right Right Return
 Check "removing asks; no keeps the zone" Remove n
 Check "it is still there" Has "Nepal Standard Time"
-xdotool key --window "$(ShellWindow)" --clearmodifiers alt+F4
-Check "the window manager closes the program" WaitFor 10 test -s "$scratch/status"
+Check "the window manager closes the program" CloseByKey
 Check "the small toolbar is kept" Is "Toolbar Size" "Small Size"
 sed -i 's/Toolbar Size=Small Size/Toolbar Size=Large Size/' "$settings"
 
