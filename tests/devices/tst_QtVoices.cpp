@@ -1,6 +1,8 @@
 #include "platform/devices/QtVoices.h"
 
+#include <QAbstractEventDispatcher>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include "devices/StandIn.h"
@@ -17,7 +19,7 @@ QByteArray Engine(const QStringList& voices) {
         script += ' ' + voice.toUtf8().toBase64();
     }
     return script +
-           "\"\nwhile read -r word rest; do\n"
+           "\"\necho > introduced\nwhile read -r word rest; do\n"
            "[ $word = set ] && echo $rest > set\n"
            "[ $word = say ] && { echo speaking; echo ready; }\n"
            "done\n";
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void keepsCommasOutOfDescriptions();
     void countsEveryVoice();
     void speaksBeforeItHasToldItsVoices();
+    void hearsWhatHasArrived();
     void waitsInVainOnlyOnce();
     void hangHoldsUpNobody();
 };
@@ -68,6 +71,20 @@ void tst_QtVoices::speaksBeforeItHasToldItsVoices() {
     QVERIFY2(voice->Speak(u"Noon"_s, 2), qPrintable(voice->LastError()));
     QCOMPARE(program.Told(u"set"_s), u"-1 3 100\n"_s);
     QCOMPARE(voice->Descriptions(), QStringList(u"Ann"_s));
+}
+
+// The event loop takes the answer in before the voices are asked for.
+void tst_QtVoices::hearsWhatHasArrived() {
+    const StandIn program(Engine(QStringList(u"Ann"_s)));
+    QtVoices voices(program.Path());
+    while (program.Told(u"introduced"_s).isEmpty()) {
+        QThread::msleep(1);
+    }
+    // In two turns it learns of the start and of the answer; what follows from it would be a third.
+    for (int turn = 0; turn < 2; ++turn) {
+        QCoreApplication::eventDispatcher()->processEvents(QEventLoop::AllEvents);
+    }
+    QCOMPARE(voices.MakeVoice()->Descriptions(), QStringList(u"Ann"_s));
 }
 
 // Each process that is started leaves a line; the second asking starts none.

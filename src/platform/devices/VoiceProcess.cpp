@@ -51,13 +51,14 @@ VoiceProcess::~VoiceProcess() {
 QStringList VoiceProcess::Voices() {
     const QDeadlineTimer deadline(IntroductionMilliseconds);
     const QPointer<QProcess> alive = &process_;
-    while (!introduced_ && trouble_.isEmpty() &&
-           process_.waitForReadyRead(static_cast<int>(deadline.remainingTime()))) {
+    // What the event loop has taken in already would be waited for in vain.
+    do {
         Read();
         if (!alive) {
             return {};
         }
-    }
+    } while (!introduced_ && trouble_.isEmpty() &&
+             process_.waitForReadyRead(static_cast<int>(deadline.remainingTime())));
     if (!introduced_ && trouble_.isEmpty() && process_.error() != QProcess::FailedToStart) {
         trouble_ = u"The speech engine does not answer"_s;
         process_.kill();
