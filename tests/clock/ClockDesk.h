@@ -14,6 +14,7 @@ struct FakeShell final : IShell {
     QStringList Messages;
     QStringList Boxes;  ///< each as "title: text"
     int Colour = 0x804020;
+    int Helps = 0;
     void ShowStatusMsg(const QString& text) override { Messages += text; }
     int ShowMsgbox(const QString& text, int, const QString& title) override {
         Boxes += title + u": "_s + text;
@@ -27,7 +28,7 @@ struct FakeShell final : IShell {
     int LaunchTempolark(const QString&) override { return 0; }
     QString Setting(const QString&) const override { return {}; }
     QString RemoveZone(const QString&) override { return {}; }
-    void ShowClockHelp() override {}
+    void ShowClockHelp() override { ++Helps; }
 };
 
 /// A frame of the shell with nothing in it.

@@ -339,6 +339,12 @@ private Q_SLOTS:
         desk.Machine.Dialogs.ColourAnswers = {0x102030};
         QVERIFY(choose(u"ClockColourMenu"_s, u"Custom"_s));
         QCOMPARE(Value(clock, u"Window Background Colour"_s), u"1056816"_s);
+        for (QAction* action : open()->actions()) {
+            if (action->text() == u"Help"_s) {
+                action->trigger();
+            }
+        }
+        QCOMPARE(desk.Shell.Helps, 1);
     }
 
     void SharedPictureIsHeldOnce() {

@@ -56,6 +56,7 @@ QMenu* MakeLookMenu(QWidget* clock, int mode, const QStringList& styleFiles,
     menu->addAction(u"Save Current Style"_s, menu, commands.SaveCurrentStyle);
     menu->addAction(u"Save Style As"_s, menu, commands.SaveStyleAs);
     menu->addSeparator();
+    menu->addAction(u"Help"_s, menu, commands.Help);
     menu->addAction(u"Close"_s, menu, commands.Close);
     return menu;
 }

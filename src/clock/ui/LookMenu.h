@@ -13,6 +13,7 @@ struct LookCommands {
     std::function<void(const QString& colour)> SetColour;    ///< a name, or "Custom"
     std::function<void()> SaveCurrentStyle;
     std::function<void()> SaveStyleAs;
+    std::function<void()> Help;
     std::function<void()> Close;
 };
 

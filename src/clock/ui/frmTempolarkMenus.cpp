@@ -97,9 +97,15 @@ void frmTempolark::ShowFormMenu(const QPoint& globalPosition) {
             SetWindowBackColour({}, name);
         }
     };
-    QMenu* menu = clockcore::MakeLookMenu(
-        this, clockcore::GetClockType(data_.Properties()), styles_.Names(),
-        {[this](int mode) { SetClocks(mode); }, setStyle, setColour, [this] { SaveCurrentStyle(); },
-         [this] { SaveStyleAs(); }, [this] { Unload(); }});
+    QMenu* menu =
+        clockcore::MakeLookMenu(this, clockcore::GetClockType(data_.Properties()), styles_.Names(),
+                                {[this](int mode) { SetClocks(mode); }, setStyle, setColour,
+                                 [this] { SaveCurrentStyle(); }, [this] { SaveStyleAs(); },
+                                 [this] {
+                                     if (shell_ != nullptr) {
+                                         shell_->ShowClockHelp();
+                                     }
+                                 },
+                                 [this] { Unload(); }});
     menu->popup(globalPosition);
 }
