@@ -169,6 +169,21 @@ private Q_SLOTS:
         QCOMPARE(desk.Windows.Count(), 1);
     }
 
+    /// The frame that the window system draws is on the screen, too.
+    void TheFrameFitsOnTheScreen() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/TempolarkCentral.ini"_s,
+                               "Window Left=0\r\nWindow Top=0\r\nWindow Width=30000\r\n"
+                               "Window Height=30000\r\n");
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Shell->size(), QSize(800, 800));
+        desk.Machine.Clock.Advance(500);
+        const QRect screen = QApplication::primaryScreen()->availableGeometry();
+        QVERIFY(screen.contains(desk.Shell->frameGeometry()));
+        desk.Stop();
+        QVERIFY(desk.User(u"TempolarkCentral.ini"_s).contains("Window Height=30000\r\n"));
+    }
+
     void PlaceOfTheShell_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QPoint>("place");

@@ -111,6 +111,7 @@ private:
     bool IsScreenSaverRun() const;
     void ApplyScreenSaverLook();
     void ShowAtStart();
+    void FitOnScreen();
     void SetBackgroundColour(const QString& colourName);
     void ApplyBackColour();
     void WriteSetting(const QString& key, const QString& value);

@@ -182,6 +182,21 @@ void frmMain::ShowAtStart() {
     }
 }
 
+// What the window manager puts around the window is known only once it is shown.
+void frmMain::FitOnScreen() {
+    const QRect whole = screen()->availableGeometry();
+    const QSize over = frameGeometry().size() - whole.size();
+    if (WindowState() != 0 || (over.width() <= 0 && over.height() <= 0)) {
+        return;
+    }
+    const bool untouched = QRect(pos(), size()) == appliedPlace_;
+    resize(size() - over.expandedTo({0, 0}));
+    move(whole.topLeft());
+    if (untouched) {
+        appliedPlace_ = QRect(pos(), size());
+    }
+}
+
 void frmMain::SetBackgroundColour(const QString& colourName) {
     QString name = colourName;
     if (mduUILib::IsCustomColour(colourName)) {

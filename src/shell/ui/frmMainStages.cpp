@@ -34,6 +34,7 @@ void frmMain::TimerCtrl() {
             FirstTick();
             break;
         case 3:
+            FitOnScreen();
             if (header_->isVisible()) {
                 header_->ShowHeaderAnimation(Setting(u"Heading Variation"_s));
             }
