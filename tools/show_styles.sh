@@ -26,7 +26,7 @@ for i in "${!shows[@]}"; do
         "$folder/Styles/${shows[i]#*:}.ini" >"$user/TimeZones/$zone.ini"
     echo "$zone=$zone"
 done >"$user/AutoStart.txt"
-width=$((4 * (side + gap) + gap + 60)) height=$((2 * (side + gap) + gap + 900))
+width=$((4 * (side + gap) + gap + 60)) height=$((2 * (side + gap) + gap + 1620))
 sed -e "s/\(:Window Width\)=[^,\r]*/\1=$width/" -e "s/\(:Window Height\)=[^,\r]*/\1=$height/" \
     -e "s/Window Top=-1/Window Top=600/" -e "s/Window Left=-1/Window Left=60/" \
     -e "s/Window Background Colour=[^,]*/Window Background Colour=4007459/" \
