@@ -47,7 +47,7 @@ QStringList CentralKeys() {
                "Window Top|Window Left|Window Width|Window Height|Window State|"
                "Window Background Colour|Window Background File|Window Border|Window Title Bar|"
                "Toolbar Size|Tool Bar|Status Bar|Auto Show Balloon Tips|Heading Variation|"
-               "Start Message")
+               "Start Message|Speak Time Zone Details")
         .split(u'|');
 }
 
