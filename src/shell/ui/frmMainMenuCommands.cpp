@@ -259,8 +259,7 @@ QString frmMain::RemoveZone(const QString& name) {
     if (shell::IsClockWindowOpen(program_.Windows, name)) {
         return u"The clock of %1 is still open"_s.arg(name);
     }
-    const QString problem =
-        mduTimeZones::DeleteZoneFile(program_.Services, program_.Module.Paths, name);
+    QString problem = mduTimeZones::DeleteZoneFile(program_.Services, program_.Module.Paths, name);
     if (problem.isEmpty() &&
         !mduLib::GetPropertyRaw(name, program_.Module.AutoStartList).isEmpty()) {
         shell::SetAutoStartEntry(program_.Module.AutoStartList, {}, name, true);
