@@ -54,7 +54,11 @@ frmMain::frmMain(const Program& program)
 }
 
 frmMain::~frmMain() {
-    // The clocks go first: they still take leave of the window list and of the shell.
+    // The clocks go first: they still take leave of the window list and of the shell. What happens
+    // to their area meanwhile is nobody's business any more.
+    area_->viewport()->removeEventFilter(this);
+    disconnect(area_, nullptr, this, nullptr);
+    header_ = nullptr;
     delete area_;
     program_.Windows.Remove(*this);
 }

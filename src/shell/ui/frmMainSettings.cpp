@@ -138,7 +138,10 @@ void frmMain::ApplyPlacement() {
                      extent(number(u"Window Height"_s), whole.height()));
     resize(size.boundedTo(whole.size()).expandedTo({200, 150}));
     const auto place = [](double twips, int from, int room) {
-        return twips == -1 ? from + room / 2 : mduAPILib::RoundToInteger(twips / TwipsPerPixel);
+        constexpr int farthest = 100'000;  // pixels: no screen reaches there
+        return twips == -1 ? from + room / 2
+                           : std::clamp(mduAPILib::RoundToInteger(twips / TwipsPerPixel), -farthest,
+                                        farthest);
     };
     const QPoint corner(place(number(u"Window Left"_s), whole.left(), whole.width() - width()),
                         place(number(u"Window Top"_s), whole.top(), whole.height() - height()));
