@@ -1,21 +1,18 @@
-#include <sys/prctl.h>
-#include <unistd.h>
-
 #include <QAudioDevice>
 #include <QAudioOutput>
 #include <QCoreApplication>
 #include <QMediaDevices>
 #include <QMediaPlayer>
-#include <QSocketNotifier>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
+#include "platform/devices/HelperProcess.h"
+
 using namespace Qt::StringLiterals;
+using platform::Answer;
+using platform::Leave;
 
 // A media player in a process of its own. When a sound server goes away, the toolkit's thread of
 // sound never comes back, and whoever takes the player down, or asks for a device, waits for it. So
@@ -39,20 +36,9 @@ constexpr float FullVolume = 100.0F;
 constexpr qint64 SlackMilliseconds = 5'000;
 constexpr qint64 SlackFactor = 3;
 
-void Answer(const QByteArray& line) {
-    std::puts(line.constData());
-    std::fflush(stdout);
-}
-
-/// What hangs can't be taken down; so nothing is.
-[[noreturn]] void Leave() {
-    std::_Exit(0);
-}
-
 class Player {
 public:
-    Player() : input_(STDIN_FILENO, QSocketNotifier::Read) {
-        QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { Read(); });
+    Player() : orders_([this](const QByteArrayList& words) { Obey(words); }) {
         QObject::connect(&report_, &QTimer::timeout, &report_, [this] { Report(); });
         QObject::connect(&player_, &QMediaPlayer::playbackStateChanged, &player_,
                          [this](QMediaPlayer::PlaybackState state) { Follow(state); });
@@ -139,20 +125,6 @@ private:
                                                 QAudio::LinearVolumeScale));
     }
 
-    void Read() {
-        char buffer[4096];
-        const ssize_t size = ::read(STDIN_FILENO, buffer, sizeof buffer);
-        if (size <= 0) {
-            Leave();
-        }
-        pending_.append(buffer, size);
-        for (qsizetype end = 0; (end = pending_.indexOf('\n')) >= 0;) {
-            const QByteArray line = pending_.left(end);
-            pending_.remove(0, end + 1);
-            Obey(line.split(' '));
-        }
-    }
-
     void Obey(const QByteArrayList& words) {
         if (words[0] == "play" && words.size() == 3) {
             Begin(words[1], QString::fromUtf8(QByteArray::fromBase64(words[2])));
@@ -170,9 +142,8 @@ private:
 
     QAudioOutput output_;
     QMediaPlayer player_;
-    QSocketNotifier input_;
+    platform::OrderLines orders_;
     QTimer report_;
-    QByteArray pending_;
     QByteArray number_;      ///< of the present piece
     qint64 position_ = 0;    ///< in it, as told last
     bool underWay_ = false;  ///< neither its end nor a failure has been told
@@ -181,8 +152,7 @@ private:
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Where it hangs it would not see the end of its input.
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    platform::EndWithParent();
     // The toolkit's other back end crashes where one of its many parts is not installed.
     if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND")) {
         qputenv("QT_MEDIA_BACKEND", "ffmpeg");

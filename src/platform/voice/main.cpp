@@ -1,19 +1,16 @@
-#include <sys/prctl.h>
-#include <unistd.h>
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QSocketNotifier>
 #include <QTextToSpeech>
 #include <QTimer>
 #include <QVoice>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <utility>
 
+#include "platform/devices/HelperProcess.h"
+
 using namespace Qt::StringLiterals;
+using platform::Answer;
+using platform::Leave;
 
 // A speech engine in a process of its own, so that one that crashes or hangs costs a message and
 // never the program. Texts travel as base64, one command or answer to a line:
@@ -35,16 +32,6 @@ constexpr int StumblesWithin = 2000;  // milliseconds; a laden machine is slow
 constexpr int MostStumbles = 30;
 constexpr double Nuance = 0.003;
 constexpr int AgainAfter = 50;  // milliseconds
-
-void Answer(const QByteArray& line) {
-    std::puts(line.constData());
-    std::fflush(stdout);
-}
-
-/// Engines crash when they are taken down at work; so they are not taken down.
-[[noreturn]] void Leave() {
-    std::_Exit(0);
-}
 
 /// The engines to try, in a fixed order: the toolkit lists them in a different one at each run.
 QStringList EngineNames(const QString& picked) {
@@ -78,12 +65,12 @@ std::unique_ptr<QTextToSpeech> PickEngine(const QString& picked) {
 class Speaker {
 public:
     explicit Speaker(std::unique_ptr<QTextToSpeech> engine)
-        : engine_(std::move(engine)), input_(STDIN_FILENO, QSocketNotifier::Read) {
+        : engine_(std::move(engine)),
+          orders_([this](const QByteArrayList& words) { Obey(words); }) {
         idle_.setSingleShot(true);
         again_.setSingleShot(true);
         QObject::connect(&again_, &QTimer::timeout, &again_, [this] { Say(); });
         QObject::connect(&idle_, &QTimer::timeout, &idle_, [] { Leave(); });
-        QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { Read(); });
         QObject::connect(engine_.get(), &QTextToSpeech::stateChanged, engine_.get(),
                          [this](QTextToSpeech::State state) { Tell(state); });
         QObject::connect(engine_.get(), &QTextToSpeech::errorOccurred, engine_.get(),
@@ -129,20 +116,6 @@ private:
 
     void TellError() { Answer("error " + reason_.toUtf8().toBase64()); }
 
-    void Read() {
-        char buffer[4096];
-        const ssize_t size = ::read(STDIN_FILENO, buffer, sizeof buffer);
-        if (size <= 0) {
-            Leave();
-        }
-        pending_.append(buffer, size);
-        for (qsizetype end = 0; (end = pending_.indexOf('\n')) >= 0;) {
-            const QByteArray line = pending_.left(end);
-            pending_.remove(0, end + 1);
-            Obey(line.split(' '));
-        }
-    }
-
     void Obey(const QByteArrayList& words) {
         if (words[0] == "say" && words.size() == 2) {
             text_ = QString::fromUtf8(QByteArray::fromBase64(words[1]));
@@ -160,11 +133,10 @@ private:
     }
 
     std::unique_ptr<QTextToSpeech> engine_;
-    QSocketNotifier input_;
+    platform::OrderLines orders_;
     QTimer idle_;  ///< ends the process
     QTimer again_;
     QElapsedTimer since_;  ///< when it began to speak
-    QByteArray pending_;
     QString text_;
     bool speaking_ = false;
     double rate_ = 0;
@@ -175,8 +147,7 @@ private:
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Where an engine hangs the end of the input would not be seen.
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    platform::EndWithParent();
     QCoreApplication application(argc, argv);
     auto engine = PickEngine(QCoreApplication::arguments().value(1));
     if (!engine) {

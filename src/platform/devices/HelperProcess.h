@@ -1,0 +1,62 @@
+#pragma once
+
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <QByteArrayList>
+#include <QSocketNotifier>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+
+/// What the helper processes have in common: orders come as lines on the standard input, answers go
+/// as lines to the standard output, and the process ends with its input.
+namespace platform {
+
+inline void Answer(const QByteArray& line) {
+    std::puts(line.constData());
+    std::fflush(stdout);
+}
+
+/// Ends the process at once. Devices that hang, or crash while they are taken down, can't be waited
+/// for; so nothing is taken down.
+[[noreturn]] inline void Leave() {
+    std::_Exit(0);
+}
+
+/// Ends the process with the one that started it: where a device hangs, the end of the input would
+/// not be seen.
+inline void EndWithParent() {
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+}
+
+/// Hands each line of the standard input on, split at its blanks; `Leave`s at its end.
+class OrderLines {
+public:
+    explicit OrderLines(std::function<void(const QByteArrayList& words)> obey)
+        : obey_(std::move(obey)), input_(STDIN_FILENO, QSocketNotifier::Read) {
+        QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { Read(); });
+    }
+
+private:
+    void Read() {
+        char buffer[4096];
+        const ssize_t size = ::read(STDIN_FILENO, buffer, sizeof buffer);
+        if (size <= 0) {
+            Leave();
+        }
+        pending_.append(buffer, size);
+        for (qsizetype end = 0; (end = pending_.indexOf('\n')) >= 0;) {
+            const QByteArray line = pending_.left(end);
+            pending_.remove(0, end + 1);
+            obey_(line.split(' '));
+        }
+    }
+
+    std::function<void(const QByteArrayList& words)> obey_;
+    QSocketNotifier input_;
+    QByteArray pending_;
+};
+
+}  // namespace platform
