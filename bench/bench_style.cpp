@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString StylePath(const QString& name) {
-    return u"" TEMPOLARK_SOURCE_DIR "/data/Styles/"_s + name;
+    return u"" TEMPOLARK_STYLES_DIR "/"_s + name;
 }
 
 frmTempolark* Running(const Program& program, Desk& desk, const QString& zone) {

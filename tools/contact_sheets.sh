@@ -14,6 +14,7 @@ export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$out" "$work/app" "$work/tiles"
 cp -r data/. "$work/app"
+tools/stock/make_styles.sh "$work/app/Styles"
 
 # Draw FILE TILE TIME SIZE: TILE is shown under the picture.
 Draw() {
@@ -51,7 +52,7 @@ Sheet() {
 }
 
 number=100
-for file in data/Styles/*.ini; do
+for file in "$work"/app/Styles/*.ini; do
     Draw "$file" "$((number += 1))~$(basename "$file" .ini)" 10:08:42 300x300
 done
 Sheet styles 6 14
@@ -75,7 +76,7 @@ Sheet hands 12 11
 
 number=100
 while read -r style; do
-    With numbers data/Styles/"Marble Roman.ini" "Hour Number Style=$style"
+    With numbers "$work/app/Styles/Marble Roman.ini" "Hour Number Style=$style"
     Draw "$work/numbers.ini" "$((number += 1))~$style" 10:08:42 300x300
 done < <(Choices 'Hour Number Style')
 Sheet numbers 6 14
@@ -84,7 +85,7 @@ number=100
 while read -r special; do
     file=data/ini/Tempolark.ini kind=Analogue
     [[ "$special" == Digital* ]] && kind=Digital
-    [[ "$special" == "World Map" ]] && file="data/Styles/World Map.ini" kind=Digital
+    [[ "$special" == "World Map" ]] && file="$work/app/Styles/World Map.ini" kind=Digital
     With special "$file" "Clock Special=$special" "Clocks=$kind" \
         "Time Zone Label Size=0"
     for time in 00:00:00 03:07:20 06:30:45 10:08:42 15:15:15 21:52:36; do

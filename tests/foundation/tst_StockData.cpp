@@ -12,7 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QDir Data(const QString& folder) {
-    return QDir(QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/") + folder);
+    return QDir(folder == "Styles"_L1 ? QStringLiteral(TEMPOLARK_STYLES_DIR)
+                                      : QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/") + folder);
 }
 
 QStringList StyleNames() {

@@ -1,13 +1,13 @@
 #!/bin/bash
-# Writes the styles in data/Styles: each is the default clock file with the values that styles.txt
+# Writes the styles into a folder, which holds nothing else: each is the default clock file with the values that styles.txt
 # gives it, so that all have the default's rows, in its order, with its choices.
 #
-#   tools/stock/make_styles.sh [FOLDER]
+#   tools/stock/make_styles.sh FOLDER
 #
 # A colour may be given as #RRGGBB; the file then holds its number. An unknown key is refused.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-folder=${1:-data/Styles}
+folder=${1:?usage: tools/stock/make_styles.sh FOLDER}
 mkdir -p "$folder"
 rm -f "$folder"/*.ini
 
