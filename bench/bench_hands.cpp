@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "drawing/Hands.h"
+#include "drawing/HandStyles.h"
 #include "drawing/Hands3D.h"
 #include "support/NaiveHands.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/Hands.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -30,11 +31,9 @@ double CentreOf(double percent, int extent) {
 
 HandsFrame::Hand MakeHand(const HandLook& look, double angle, int diameter,
                           platform::RandomNumbers& random) {
-    HandsFrame::Hand hand{look.Style, angle, 0, 0,
-                          mduUILib::ColourValue(QString(look.Colour), random)};
+    HandsFrame::Hand hand{look.Style, angle, 0, 0, mduUILib::ColourValue(look.Colour, random)};
     if (look.Style != HandStyle::Unknown) {
-        const bool isPen = look.Style == HandStyle::Line || look.Style == HandStyle::Frame;
-        hand.LineWidth = isPen ? std::min(look.LineWidth, LargestPen) : look.LineWidth;
+        hand.LineWidth = IsPen(look.Style) ? std::min(look.LineWidth, LargestPen) : look.LineWidth;
         hand.Length = ToPoint(look.LengthPercent * diameter / 200);
     }
     return hand;
@@ -56,7 +55,7 @@ AnalogueLook ReadAnalogueLook(const ClockProperties& properties) {
             ReadHand(u"Minute Hand"_s, properties),
             ReadHand(u"Second Hand"_s, properties),
             value(u"Hand Head Colour"_s),
-            value(u"Clock Special"_s).trimmed()};
+            ReadClockSpecial(properties)};
 }
 
 QPointF ClockCentre(const AnalogueLook& look, int scaleWidth, int scaleHeight) {
@@ -78,11 +77,11 @@ HandsFrame MakeHandsFrame(const Surface& surface, const AnalogueLook& look, cons
     frame.Cx = ToPoint(centre.x());
     frame.Cy = ToPoint(centre.y());
     const int diameter = std::min(surface.ScaleWidth(), surface.ScaleHeight());
-    const HandAngles angles = AnglesAt(time, look.ClockSpecial);
+    const HandAngles angles = AnglesAt(time, look.Special);
     frame.Hands = {MakeHand(look.Hour, angles.Hour, diameter, random),
                    MakeHand(look.Minute, angles.Minute, diameter, random),
                    MakeHand(look.Second, angles.Second, diameter, random)};
-    frame.HeadColour = mduUILib::ColourValue(QString(look.HeadColour), random);
+    frame.HeadColour = mduUILib::ColourValue(look.HeadColour, random);
     frame.Height = surface.Height();
     return frame;
 }

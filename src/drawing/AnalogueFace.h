@@ -4,7 +4,7 @@
 #include <array>
 
 #include "drawing/Angles.h"
-#include "drawing/Hands.h"
+#include "drawing/HandStyles.h"
 #include "foundation/ClockProperty.h"
 #include "platform/Machine.h"
 
@@ -24,7 +24,7 @@ struct AnalogueLook {
     double CentralY = -1;
     HandLook Hour, Minute, Second;
     QString HeadColour;
-    QString ClockSpecial;
+    ClockSpecial Special = ClockSpecial::None;
 };
 
 AnalogueLook ReadAnalogueLook(const ClockProperties& properties);

@@ -6,19 +6,15 @@
 #include <span>
 
 #include "drawing/Angles.h"
-#include "drawing/Hands3D.h"
 #include "drawing/PixelPrimitives.h"
 #include "foundation/Numbers.h"
 #include "foundation/TextHelpers.h"
-
-using namespace Qt::StringLiterals;
 
 namespace drawing {
 
 namespace {
 
 constexpr double TailRatio = 0.3;
-constexpr float TailRatio3D = 0.3F;
 constexpr double SideRatio = 0.02;
 
 /// A point at a distance from the centre.
@@ -37,12 +33,9 @@ void Connect(Surface& surface, const QPoint& from, const QPoint& to, int colour,
     surface.Line(from.x(), from.y(), to.x(), to.y(), colour, lineWidth);
 }
 
-/// A pen's width in device pixels.
-int PenWidth(int lineWidth, double devicePixelRatio) {
-    return mduAPILib::RoundToInteger(lineWidth * devicePixelRatio);
-}
-
-QRect Around(std::span<const QPoint> points, int margin) {
+/// With half of the pen and its soft edge.
+QRect Around(std::span<const QPoint> points, int lineWidth) {
+    const int margin = std::max(1, lineWidth) / 2 + 2;
     QRect bounds;
     for (const QPoint& point : points) {
         bounds |= QRect(point, QSize(1, 1));
@@ -54,47 +47,6 @@ QRect Around(std::span<const QPoint> points, int margin) {
 
 int ToPoint(double value) {
     return std::clamp(mduAPILib::RoundToInteger(value), -32768, 32767);
-}
-
-HandStyle ReadHandStyle(const QString& text) {
-    static const QStringList names = {
-        u"Line"_s,    u"Frame"_s, u"3D Metal Simple"_s, u"3D Gold Simple"_s, u"3D Metal"_s,
-        u"3D Gold"_s, u"3D"_s};
-    return static_cast<HandStyle>(names.indexOf(text.trimmed()) + 1);
-}
-
-void DrawClockHand(Surface& surface, HandStyle style, int cx, int cy, double angle, int length,
-                   int colour, int lineWidth) {
-    if (length <= 0) {
-        return;
-    }
-    const double ratio = surface.DevicePixelRatio();
-    const int pen = PenWidth(lineWidth, ratio);
-    switch (style) {
-        case HandStyle::Line:
-            DrawSimpleLine(surface, cx, cy, angle, length, colour, pen);
-            break;
-        case HandStyle::Frame:
-            DrawFrame(surface, cx, cy, angle, length, colour, pen);
-            break;
-        case HandStyle::MetalSimple:
-        case HandStyle::GoldSimple:
-            Draw3DSimpleLine(surface, cx, cy, angle, length, TailRatio3D,
-                             style == HandStyle::GoldSimple ? GoldTone : MetalTone,
-                             lineWidth * ratio);
-            break;
-        case HandStyle::Metal:
-            Draw3D(surface, cx, cy, angle, length, TailRatio3D, MetalTone, lineWidth);
-            break;
-        case HandStyle::Gold:
-            Draw3D(surface, cx, cy, angle, length, TailRatio3D, GoldTone, lineWidth);
-            break;
-        case HandStyle::Solid:
-            Draw3D(surface, cx, cy, angle, length, TailRatio3D, colour, lineWidth);
-            break;
-        default:
-            break;
-    }
 }
 
 void DrawSimpleLine(Surface& surface, int cx, int cy, double angle, int length, int colour,
@@ -128,30 +80,12 @@ void DrawCentrePoint(Surface& surface, int cx, int cy, int colour) {
     }
 }
 
-QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth,
-                 double devicePixelRatio) {
-    if (length <= 0) {
-        return {};
-    }
-    // For a pen: its half and the soft edge.
-    const int margin = std::max(1, PenWidth(lineWidth, devicePixelRatio)) / 2 + 2;
-    const auto withShadow = [devicePixelRatio](const QRect& hand) {
-        return hand | hand.translated(ShadowOffset(devicePixelRatio));
-    };
-    switch (style) {
-        case HandStyle::Unknown:
-            return {};
-        case HandStyle::Line:
-            return Around(std::array{QPoint(cx, cy), PointAt(cx, cy, length, angle)}, margin);
-        case HandStyle::Frame:
-            return Around(FramePoints(cx, cy, angle, length), margin);
-        case HandStyle::MetalSimple:
-        case HandStyle::GoldSimple:
-            return withShadow(
-                BarBounds(cx, cy, angle, length, TailRatio3D, lineWidth * devicePixelRatio));
-        default:
-            return withShadow(KiteBounds(cx, cy, angle, length, TailRatio3D, lineWidth));
-    }
+QRect LineBounds(int cx, int cy, double angle, int length, int lineWidth) {
+    return Around(std::array{QPoint(cx, cy), PointAt(cx, cy, length, angle)}, lineWidth);
+}
+
+QRect FrameBounds(int cx, int cy, double angle, int length, int lineWidth) {
+    return Around(FramePoints(cx, cy, angle, length), lineWidth);
 }
 
 }  // namespace drawing

@@ -1,36 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <QRect>
 
 #include "drawing/Surface.h"
 
-/// The hands and the hub. Angles are as in `Angles.h`, lengths in device pixels.
+/// The plain hands and the hub. Angles are as in `Angles.h`, lengths and the pen's width are in
+/// device pixels.
 namespace drawing {
 
-/// How a hand is drawn, by its number.
-enum class HandStyle {
-    Unknown = 0,  ///< not drawn
-    Line = 1,
-    Frame = 2,
-    MetalSimple = 3,
-    GoldSimple = 4,
-    Metal = 5,
-    Gold = 6,
-    Solid = 7
-};
-
-/// The style of a property value such as "Line", "Frame" or "3D Metal"; blanks around it are
-/// dropped.
-HandStyle ReadHandStyle(const QString& text);
-
-/// Draws one hand from the centre; nothing unless the length is above 0 and the style is known.
-/// @p lineWidth is the property's: the width of the pen for "Line" and "Frame" and half the width
-/// of the "Simple" hands, both in logical pixels, and a percentage of the length for the others.
-void DrawClockHand(Surface& surface, HandStyle style, int cx, int cy, double angle, int length,
-                   int colour, int lineWidth);
-
-/// One straight line from the centre to the tip, without a tail. Here and in `DrawFrame` the pen's
-/// width is in device pixels.
+/// One straight line from the centre to the tip, without a tail.
 void DrawSimpleLine(Surface& surface, int cx, int cy, double angle, int length, int colour,
                     int lineWidth);
 
@@ -48,9 +26,8 @@ int CentrePointRings(int windowHeightInTwips);
 /// A coordinate or length as drawing uses it: rounded half to even, within 16 bits.
 int ToPoint(double value);
 
-/// A rectangle that holds every pixel of a hand with its shadow, closely for the shaded styles; the
-/// width is that of `DrawClockHand`.
-QRect HandBounds(HandStyle style, int cx, int cy, double angle, int length, int lineWidth,
-                 double devicePixelRatio = 1);
+/// Rectangles that hold every pixel of a line and of a frame.
+QRect LineBounds(int cx, int cy, double angle, int length, int lineWidth);
+QRect FrameBounds(int cx, int cy, double angle, int length, int lineWidth);
 
 }  // namespace drawing

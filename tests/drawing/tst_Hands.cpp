@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "drawing/Angles.h"
+#include "drawing/HandStyles.h"
 #include "drawing/Hands.h"
 
 using namespace Qt::StringLiterals;

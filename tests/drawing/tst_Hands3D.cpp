@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "drawing/Angles.h"
-#include "drawing/Hands.h"
+#include "drawing/HandStyles.h"
 #include "drawing/Hands3D.h"
 
 using drawing::HandStyle;
