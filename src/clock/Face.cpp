@@ -121,7 +121,7 @@ void Face::RecolourNumbers() {
     if (!parts_.Dial.NumbersAreRandom()) {
         return;
     }
-    if (look_.ClockSpecial == u"Analogue Hour Number Random Colour"_s) {
+    if (look_.Special == drawing::ClockSpecial::RandomNumberColour) {
         parts_.Dial.RecolourNumbers();
     } else {
         parts_.Dial.DrawDialNumbers(true, {}, true);

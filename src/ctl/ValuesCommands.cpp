@@ -11,9 +11,10 @@ namespace ctl {
 namespace {
 
 int Colour(Context& context) {
-    QString text = context.Arguments[0];
+    const QString& text = context.Arguments[0];
     const int value = mduUILib::ColourValue(text, context.Services.Random);
-    PrintJson(QJsonDocument(QJsonObject{{u"value"_s, value}, {u"text"_s, text}}));
+    PrintJson(
+        QJsonDocument(QJsonObject{{u"value"_s, value}, {u"text"_s, mduUILib::ColourWord(text)}}));
     return Done;
 }
 

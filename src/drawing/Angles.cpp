@@ -2,8 +2,6 @@
 
 #include <QStringList>
 
-using namespace Qt::StringLiterals;
-
 namespace drawing {
 
 namespace {
@@ -28,14 +26,14 @@ bool OnLeftMinutes(int value) {
 
 }  // namespace
 
-HandAngles AnglesAt(const HandTime& time, const QString& clockSpecial) {
+HandAngles AnglesAt(const HandTime& time, ClockSpecial special) {
     const HandAngles forward = Forward(time);
     const HandAngles mirrored = Mirrored(time);
-    if (clockSpecial == u"Analogue Backward"_s) {
+    if (special == ClockSpecial::AnalogueBackward) {
         return mirrored;
     }
-    const bool rightHalf = clockSpecial == u"Analogue Right Half"_s;
-    if (!rightHalf && clockSpecial != u"Analogue Left Half"_s) {
+    const bool rightHalf = special == ClockSpecial::AnalogueRightHalf;
+    if (!rightHalf && special != ClockSpecial::AnalogueLeftHalf) {
         return forward;
     }
     // On the right half, what would lie left is mirrored; on the left half, what would lie right.

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "drawing/ClockSpecial.h"
+
 /// Angles of all clock drawing. A point at distance r from the centre (cx, cy) is
 /// (cx + r sin a, cy + r cos a) with y downward: a = 0 points to six o'clock, a = pi to twelve, and
 /// a hand that moves clockwise has a falling angle. The constants are the stored ones, not the
@@ -26,11 +28,11 @@ struct HandAngles {
     double Second = Pi;
 };
 
-/// Where the hands stand. The hour hand moves with the minutes; the others jump. @p clockSpecial is
-/// the value of "Clock Special": "Analogue Backward" mirrors the dial, "Analogue Right Half" and
-/// "Analogue Left Half" fold it; any other text is forward. The folding tests look at whole hours
-/// only, so a hand may lean over the edge of its half for an hour.
-HandAngles AnglesAt(const HandTime& time, const QString& clockSpecial);
+/// Where the hands stand. The hour hand moves with the minutes; the others jump. "Analogue
+/// Backward" mirrors the dial, "Analogue Right Half" and "Analogue Left Half" fold it; any other
+/// special is forward. The folding tests look at whole hours only, so a hand may lean over the edge
+/// of its half for an hour.
+HandAngles AnglesAt(const HandTime& time, ClockSpecial special);
 
 /// The hour, minute and second of a text "hh:mm:ss"; parts that are missing are 0.
 HandTime ReadHandTime(const QString& caption);

@@ -53,7 +53,7 @@ void CalculatorLines::SetCalculatorClock(bool fill) {
     for (const bool zoneLine : {false, true}) {
         const QString colour =
             mduLib::GetProperty(KeyOf(zoneLine, u"Font Colour"_s), face_.Properties);
-        Line(zoneLine).ForeColor = mduUILib::ColourValue(QString(colour), face_.Random);
+        Line(zoneLine).ForeColor = mduUILib::ColourValue(colour, face_.Random);
         Line(zoneLine).Visible = true;
     }
     for (Control& label : face_.Controls.lblDigitalNumber.Members) {

@@ -66,9 +66,9 @@ bool ClockBackground::HasClockPicture() const {
 }
 
 void ClockBackground::ApplyTransparency() {
-    QString colour = Property(u"Window Background Colour"_s);
+    const QString colour = Property(u"Window Background Colour"_s);
     const int value = mduUILib::ColourValue(colour, face_.Random);
-    const bool transparent = colour == "transparent"_L1;
+    const bool transparent = mduUILib::ColourWord(colour) == "transparent"_L1;
     face_.Window.SetTransparent(transparent);
     face_.Window.SetBackColor(transparent ? face_.Window.ParentBackColor() : value);
     UpdateColourKey();

@@ -3,6 +3,7 @@
 
 #include "drawing/AnalogueFace.h"
 #include "drawing/ClockBackground.h"
+#include "drawing/Hands.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 

@@ -129,7 +129,7 @@ void ClockDial::SetCaptions(const DialLook& look, bool shadow) {
 // sides.
 void ClockDial::SetHourNumber(int index, QPointF at, const DialLook& look) {
     const bool isHour = index % 5 == 0;
-    const int size = CaptionSize(index, look.ClockSpecial, look.LogicalHeight, look.NumberSize);
+    const int size = CaptionSize(index, look.Special, look.LogicalHeight, look.NumberSize);
     Control& label = face_.Controls.lblHour(index);
     label.Picture = StockMark(index);
     label.Font = QFont(look.NumberFont);
@@ -179,9 +179,8 @@ std::shared_ptr<const QImage> ClockDial::SpotPicture(const QString& path) const 
 
 // A random colour that comes out as the background gets a second chance.
 int ClockDial::PickNumberColour(const QString& name) const {
-    const int colour = mduUILib::ColourValue(QString(name), face_.Random);
-    return colour == face_.Window.BackColor() ? mduUILib::ColourValue(QString(name), face_.Random)
-                                              : colour;
+    const int colour = mduUILib::ColourValue(name, face_.Random);
+    return colour == face_.Window.BackColor() ? mduUILib::ColourValue(name, face_.Random) : colour;
 }
 
 void ClockDial::ShowMinuteSpots(int /*hour*/) {
@@ -235,8 +234,7 @@ void ClockDial::PaintStill(Surface& surface) const {
 }
 
 void ClockDial::PaintNumbersOver(Surface& surface) const {
-    if (!over_.empty() &&
-        mduLib::GetProperty(u"Clock Special"_s, face_.Properties).trimmed() == RandomNumberColour) {
+    if (!over_.empty() && ReadClockSpecial(face_.Properties) == ClockSpecial::RandomNumberColour) {
         Print(surface, over_);
     }
 }

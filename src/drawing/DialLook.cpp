@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "drawing/AnalogueFace.h"
+#include "drawing/Hands.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 
@@ -12,10 +13,6 @@ using namespace Qt::StringLiterals;
 namespace drawing {
 
 using mduAPILib::RoundToInteger;
-
-bool DialLook::IsBackward() const {
-    return ClockSpecial == "Analogue Backward"_L1;
-}
 
 bool DialLook::IsRandomColour() const {
     return NumberColour.compare("random"_L1, Qt::CaseInsensitive) == 0;
@@ -31,14 +28,14 @@ QPointF DialLook::NumberCentre(bool shadow) const {
 
 QPointF DialLook::NumberPoint(int index, bool shadow) const {
     const QPointF centre = NumberCentre(shadow);
-    const double angle = DialAngle(index, ClockSpecial);
+    const double angle = DialAngle(index, Special);
     const QPointF point(ToPoint(centre.x() + NumberRadius * std::sin(angle)),
                         ToPoint(centre.y() + NumberRadius * std::cos(angle)));
     return IsBackward() ? point + QPointF(2 * Ratio, 0) : point;
 }
 
 QRectF DialLook::SpotPlace(int index) const {
-    const double angle = DialAngle(index, ClockSpecial);
+    const double angle = DialAngle(index, Special);
     const double half = SpotSize / 2.0;
     const int x = RoundToInteger(Centre.x() - half);
     const int y = RoundToInteger(Centre.y() - half);
@@ -56,7 +53,7 @@ DialLook ReadDialLook(const ClockProperties& properties, Canvas& window, const Q
     const double outermost = 0.48 * std::min(surface.ScaleWidth(), surface.ScaleHeight());
     return {
         .Style = NumberStyle(style.isEmpty() ? text(u"Hour Number Style"_s) : style),
-        .ClockSpecial = text(u"Clock Special"_s),
+        .Special = ReadClockSpecial(properties),
         .NumberColour = text(u"Hour Number Colour"_s),
         .NumberFont = text(u"Hour Number Font"_s),
         .NumberSize = number(u"Hour Number Size"_s),

@@ -9,14 +9,11 @@
 
 namespace drawing {
 
-/// The "Clock Special" that gives the numbers other colours at each pass.
-inline constexpr QLatin1StringView RandomNumberColour("Analogue Hour Number Random Colour");
-
 /// All that a dial's layout follows from, read once for each layout: the properties, and the size
 /// of the window. Measures are in device pixels unless told otherwise.
 struct DialLook {
     NumberStyle Style;
-    QString ClockSpecial;
+    ClockSpecial Special = ClockSpecial::None;
     QString NumberColour;  ///< a colour name
     QString NumberFont;
     int NumberSize = -1;  ///< of captions, in points; -1 for a size that follows the surface
@@ -30,8 +27,8 @@ struct DialLook {
     double OuterHeight = 0;  ///< of the window, in twips
     double Ratio = 1;        ///< device pixels to a logical pixel
 
-    bool IsBackward() const;
-    bool IsRecoloured() const { return ClockSpecial == RandomNumberColour; }
+    bool IsBackward() const { return Special == ClockSpecial::AnalogueBackward; }
+    bool IsRecoloured() const { return Special == ClockSpecial::RandomNumberColour; }
     bool IsRandomColour() const;  ///< the colour of the numbers is "Random"
 
     /// The point of the number ring where an index stands. A shadow's ring lies 2 logical pixels to

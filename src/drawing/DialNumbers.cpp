@@ -70,41 +70,41 @@ bool NumberStyle::ShowsCaption(int hour) const {
     return !hidingStyles.contains(text_, Qt::CaseInsensitive);
 }
 
-double DialAngle(int index, const QString& clockSpecial) {
+double DialAngle(int index, ClockSpecial special) {
     const double forward = Pi - TwoPi * index / 60;
     const double mirrored = TwoPi * index / 60 - Pi;
     const bool onRight = index < 31;
-    if (clockSpecial == "Analogue Backward"_L1) {
+    if (special == ClockSpecial::AnalogueBackward) {
         return mirrored;
     }
-    if (clockSpecial == "Analogue Right Half"_L1) {
+    if (special == ClockSpecial::AnalogueRightHalf) {
         return onRight ? forward : mirrored;
     }
-    if (clockSpecial == "Analogue Left Half"_L1) {
+    if (special == ClockSpecial::AnalogueLeftHalf) {
         return onRight ? mirrored : forward;
     }
     return forward;
 }
 
-int CaptionSize(int index, const QString& clockSpecial, double scaleHeight, int hourNumberSize) {
+int CaptionSize(int index, ClockSpecial special, double scaleHeight, int hourNumberSize) {
     const auto whole = [](double size) {
         return std::max(static_cast<int>(size), SmallestCaption);
     };
     const double small = 0.05 * scaleHeight;
     const double large = 0.1 * scaleHeight;
-    if (clockSpecial == "Analogue Hour Font Even"_L1) {
+    if (special == ClockSpecial::HourFontEven) {
         return whole(index % 2 == 0 ? large : small);
     }
-    if (clockSpecial == "Analogue Hour Font Quarter"_L1) {
+    if (special == ClockSpecial::HourFontQuarter) {
         return whole(index % 3 == 0 ? large : small);
     }
-    if (clockSpecial == "Analogue Hour Font Triangle"_L1) {
+    if (special == ClockSpecial::HourFontTriangle) {
         return whole(index % 4 == 0 ? large : small);
     }
-    if (clockSpecial == "Analogue Hour Font Big to Small"_L1) {
+    if (special == ClockSpecial::HourFontBigToSmall) {
         return whole(scaleHeight * (index / 30.0 + 0.6) / index);
     }
-    if (clockSpecial == "Analogue Hour Font Small to Big"_L1) {
+    if (special == ClockSpecial::HourFontSmallToBig) {
         return whole(scaleHeight * (index + 12) / 700);
     }
     return hourNumberSize == -1 ? whole(small) : hourNumberSize;

@@ -4,11 +4,12 @@
 #include <QRectF>
 #include <QString>
 
+#include "drawing/ClockSpecial.h"
 #include "drawing/FontText.h"
 
 /// Where everything on a dial stands, worked out from plain values. An index runs from 1 to 60 and
 /// stands at that minute, 60 at twelve o'clock; an hour runs from 1 to 12 and stands at index
-/// hour * 5. Special faces go by the exact value of "Clock Special".
+/// hour * 5.
 namespace drawing {
 
 /// What an "Hour Number Style" says. The words are sought anywhere in the text, letter case aside:
@@ -43,12 +44,12 @@ private:
 
 /// The angle of an index, as in `Angles.h`. A special face folds or mirrors the dial as it does
 /// with the hands; which hour then stands where is not corrected.
-double DialAngle(int index, const QString& clockSpecial);
+double DialAngle(int index, ClockSpecial special);
 
 /// The size of a caption in points. @p scaleHeight is the surface's height in logical pixels, which
 /// worked-out sizes follow, in whole points, 4 at least; @p hourNumberSize is used as it stands
 /// unless it is -1 or a special face has a size of its own.
-int CaptionSize(int index, const QString& clockSpecial, double scaleHeight, int hourNumberSize);
+int CaptionSize(int index, ClockSpecial special, double scaleHeight, int hourNumberSize);
 
 /// Whether a "Minute Spot Style" wants a spot at an index.
 bool WantsSpot(const QString& style, int index);

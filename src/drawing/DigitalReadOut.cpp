@@ -80,15 +80,15 @@ void DigitalReadOut::DrawDigitalClock(const QString& format) {
 
 void DigitalReadOut::SetDigitalLayout() {
     motion_.Finish();
-    const QString special = Special();
+    const ClockSpecial special = Special();
     Fill(Value(u"Digital Clock Format"_s));
     SetFonts();
     SetSizes();
     PlaceModel();
-    if (special == u"Digital Vertical"_s) {
+    if (special == ClockSpecial::DigitalVertical) {
         Stack();
     } else {
-        LineUp(special == u"Digital Backward"_s);
+        LineUp(special == ClockSpecial::DigitalBackward);
     }
     face_.Window.ShowChanges();
 }
@@ -116,10 +116,6 @@ int DigitalReadOut::GetDigitalFontSize() const {
 int DigitalReadOut::GetDigitalTravel() const {
     const double height = static_cast<double>(Labels()(1).Height);
     return mduAPILib::RoundToInteger(face_.Window.Surface().ScaleHeight() - height / 2);
-}
-
-QString DigitalReadOut::Special() const {
-    return Value(u"Clock Special"_s).trimmed();
 }
 
 QString DigitalReadOut::Value(const QString& key) const {
@@ -181,7 +177,7 @@ void DigitalReadOut::SetSizes() {
     const float colon = widthOf(u":"_s);
     const float mark = std::max(widthOf(u"AM"_s), widthOf(u"PM"_s));
     const float column = std::max(digits, mark);
-    const bool stacked = Special() == u"Digital Vertical"_s;
+    const bool stacked = Special() == ClockSpecial::DigitalVertical;
     const std::array<float, 6> widths = {digits, colon, digits, colon, digits, mark};
     for (std::size_t i = 0; i < widths.size(); ++i) {
         Control& label = Labels().Members[i];
@@ -247,15 +243,15 @@ LabelSteps DigitalReadOut::Steps(double amplitude, int pause, int mode) const {
 
 void DigitalReadOut::Animate() {
     const double travel = GetDigitalTravel();
-    const QString special = Special();
-    if (special == u"Digital Up Down"_s) {
+    const ClockSpecial special = Special();
+    if (special == ClockSpecial::DigitalUpDown) {
         LabelSteps steps = Steps(travel, 80, 1);
         const LabelSteps back = Steps(0, 3, 1);
         steps.insert(steps.end(), back.begin(), back.end());
         motion_.Play(std::move(steps));
-    } else if (special == u"Digital Up Down Wave"_s) {
+    } else if (special == ClockSpecial::DigitalUpDownWave) {
         motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 5), 1, 3));
-    } else if (special == u"Digital Wave"_s) {
+    } else if (special == ClockSpecial::DigitalWave) {
         motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 8), 0, 4));
     }
 }

@@ -3,6 +3,7 @@
 #include <QTime>
 
 #include "drawing/Angles.h"
+#include "drawing/ClockSpecial.h"
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
 #include "drawing/LabelMotion.h"
@@ -36,7 +37,7 @@ public:
     int GetDigitalTravel() const;
 
 private:
-    QString Special() const;  ///< the effect of "Clock Special"
+    ClockSpecial Special() const { return ReadClockSpecial(face_.Properties); }
     QString Value(const QString& key) const;
     HandTime WriteCaption(const QString& format);
     void Fill(const QString& format);

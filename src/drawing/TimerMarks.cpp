@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "drawing/AnalogueFace.h"
+#include "drawing/Hands.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 
@@ -25,8 +26,7 @@ QPointF OnTheRing(const Surface& surface, const ClockProperties& properties, int
     const int radius = mduAPILib::ToInt16(diameter * 0.42 * position / 100);
     const QPointF centre = ClockCentre(properties, surface.ScaleWidth(), surface.ScaleHeight());
     const double angle = Pi - (place / 60.0 / 12 + spot / 60.0) * 2 * Pi;
-    const bool backward =
-        mduLib::GetProperty(u"Clock Special"_s, properties).trimmed() == u"Analogue Backward"_s;
+    const bool backward = ReadClockSpecial(properties) == ClockSpecial::AnalogueBackward;
     const double across = radius * std::sin(angle) * (backward ? -1 : 1);
     return {ToPoint(centre.x()) + across - mark.width(),
             ToPoint(centre.y()) + radius * std::cos(angle) - mark.height()};

@@ -40,24 +40,24 @@ int ColourNumber(const QString& text) {
 
 }  // namespace
 
-int ColourValue(QString& text, platform::RandomNumbers& random) {
-    text = text.trimmed().toLower();
-    if (text == "random"_L1) {
+QString ColourWord(const QString& text) {
+    return text.trimmed().toLower();
+}
+
+int ColourValue(const QString& text, platform::RandomNumbers& random) {
+    const QString word = ColourWord(text);
+    if (word == "random"_L1) {
         return RandomColour(random);
     }
-    if (text == "transparent"_L1) {
+    if (word == "transparent"_L1) {
         return TransparentKey;
     }
     for (const NamedColour& colour : Colours) {
-        if (text.compare(colour.Name, Qt::CaseInsensitive) == 0) {
+        if (word.compare(colour.Name, Qt::CaseInsensitive) == 0) {
             return colour.Value;
         }
     }
-    return ColourNumber(text);
-}
-
-int ColourValue(QString&& text, platform::RandomNumbers& random) {
-    return ColourValue(text, random);
+    return ColourNumber(word);
 }
 
 QString ColourName(int colour) {
@@ -67,6 +67,12 @@ QString ColourName(int colour) {
         }
     }
     return QString::number(colour);
+}
+
+const QStringList& MenuColours() {
+    static const QStringList names = {u"Black"_s,   u"Blue"_s, u"Cyan"_s,  u"Green"_s,
+                                      u"Magenta"_s, u"Red"_s,  u"White"_s, u"Yellow"_s};
+    return names;
 }
 
 bool IsCustomColour(const QString& text) {

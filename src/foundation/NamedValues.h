@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "foundation/ClockProperty.h"
 #include "platform/Machine.h"
@@ -12,12 +13,17 @@ inline constexpr int TransparentKey = 0xFFFFFF;      ///< the colour key of tran
 inline constexpr int TransparentWindow = 0x1000002;  ///< a window's colour while it is transparent
 
 /// A colour number from a text: red in the low byte, then green, then blue. Names, "random", or any
-/// number; all else is black. "white" is 0xFFFFFD, since 0xFFFFFF is the transparent key. The text
-/// itself is trimmed and lower-cased, in the caller's variable as well.
-int ColourValue(QString& text, platform::RandomNumbers& random);
-int ColourValue(QString&& text, platform::RandomNumbers& random);
+/// number; all else is black. "white" is 0xFFFFFD, since 0xFFFFFF is the transparent key. Blanks
+/// around the text and letter case don't count.
+int ColourValue(const QString& text, platform::RandomNumbers& random);
+
+/// A colour's text as it is compared: without the blanks around it, in lower case.
+QString ColourWord(const QString& text);
 
 QString ColourName(int colour);  ///< "Red", ... or the number in decimal
+
+/// The eight colours that every menu of colours offers, by name.
+const QStringList& MenuColours();
 
 bool IsCustomColour(const QString& text);  ///< exactly "Custom"
 

@@ -80,7 +80,7 @@ void ClockMessages::SetActionColour(const QString& colour) {
         return;
     }
     context_.Controls.lblActionMsg(1).ForeColor =
-        mduUILib::ColourValue(QString(colour), context_.Services.Random);
+        mduUILib::ColourValue(colour, context_.Services.Random);
     const QString key = u"Message Action Colour"_s;
     const QString colours = mduLib::GetPropertyRaw(key, context_.Properties);
     mduLib::PutPropertyRaw(key, WithActionColour(colours, pendingAction_, colour),

@@ -122,7 +122,7 @@ void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTime
     timer.Message = line.Message;
     timer.DisplayMinutes = NumberText(mduAPILib::Val(line.Meta[0]));
     if (line.Meta.size() > 1) {
-        timer.MessageColour = mduUILib::ColourValue(QString(line.Meta[1]), random);
+        timer.MessageColour = mduUILib::ColourValue(line.Meta[1], random);
     }
     timer.SoundFile = line.Meta.value(2, timer.SoundFile);
     timer.TimerAction = line.Meta.value(3, timer.TimerAction);

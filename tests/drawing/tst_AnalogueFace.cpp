@@ -28,7 +28,7 @@ class tst_AnalogueFace : public QObject {
         look.Minute = {drawing::HandStyle::Line, u"Black"_s, 75, 4};
         look.Second = {drawing::HandStyle::Line, u"Red"_s, 85, 1};
         look.HeadColour = u"Green"_s;
-        look.ClockSpecial = u"None"_s;
+        look.Special = drawing::ClockSpecial::None;
         return look;
     }
 

@@ -56,7 +56,8 @@ private Q_SLOTS:
     void Hands() {
         QFETCH(QString, special);
         QFETCH(QList<int>, time);
-        const drawing::HandAngles angles = drawing::AnglesAt({time[0], time[1], time[2]}, special);
+        const drawing::HandAngles angles =
+            drawing::AnglesAt({time[0], time[1], time[2]}, drawing::ReadClockSpecial(special));
         QTEST(PlaceOf(angles.Hour), "hour");
         QTEST(PlaceOf(angles.Minute), "minute");
         QTEST(PlaceOf(angles.Second), "second");

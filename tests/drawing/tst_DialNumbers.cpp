@@ -121,7 +121,8 @@ private Q_SLOTS:
         QFETCH(QString, special);
         QFETCH(int, index);
         QFETCH(double, angle);
-        QVERIFY(std::abs(drawing::DialAngle(index, special) - angle) < 1e-9);
+        QVERIFY(std::abs(drawing::DialAngle(index, drawing::ReadClockSpecial(special)) - angle) <
+                1e-9);
     }
 
     void Size_data() {
@@ -160,7 +161,9 @@ private Q_SLOTS:
         QFETCH(int, index);
         QFETCH(double, scaleHeight);
         QFETCH(int, property);
-        QTEST(drawing::CaptionSize(index, special, scaleHeight, property), "size");
+        QTEST(
+            drawing::CaptionSize(index, drawing::ReadClockSpecial(special), scaleHeight, property),
+            "size");
     }
 
     void Spots_data() {

@@ -11,7 +11,8 @@ class tst_NamedValues : public QObject {
 private Q_SLOTS:
     void readsColours_data();
     void readsColours();
-    void lowersTheCallersText();
+    void lowersAColoursWord();
+    void offersEightColours();
     void drawsRandomColours();
     void namesColours_data();
     void namesColours();
@@ -62,15 +63,15 @@ void tst_NamedValues::readsColours() {
     QCOMPARE(random.Seeds, 0);
 }
 
-void tst_NamedValues::lowersTheCallersText() {
-    FakeRandom random;
-    QString text = u" White "_s;
-    mduUILib::ColourValue(text, random);
-    QCOMPARE(text, u"white"_s);
-    text = u" No Colour "_s;
-    mduUILib::ColourValue(text, random);
-    QCOMPARE(text, u"no colour"_s);
-    QCOMPARE(mduUILib::ColourValue(u"Red"_s, random), 255);
+void tst_NamedValues::lowersAColoursWord() {
+    QCOMPARE(mduUILib::ColourWord(u" White "_s), u"white"_s);
+    QCOMPARE(mduUILib::ColourWord(u" No Colour "_s), u"no colour"_s);
+    QCOMPARE(mduUILib::ColourWord({}), QString());
+}
+
+void tst_NamedValues::offersEightColours() {
+    QCOMPARE(mduUILib::MenuColours().join(u' '),
+             u"Black Blue Cyan Green Magenta Red White Yellow"_s);
 }
 
 void tst_NamedValues::drawsRandomColours() {

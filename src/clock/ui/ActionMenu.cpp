@@ -1,6 +1,7 @@
 #include "clock/ui/ActionMenu.h"
 
 #include "clock/ui/MenuEntries.h"
+#include "foundation/NamedValues.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,8 +22,7 @@ void AddColours(QMenu& menu, const QString& present,
                 const std::function<void(const QString&)>& choose) {
     QMenu* colours = menu.addMenu(u"Set Action Message Font Colour"_s);
     colours->setObjectName(u"SetActionMsgColour"_s);
-    for (const QString& name : {u"Black"_s, u"Blue"_s, u"Cyan"_s, u"Green"_s, u"Magenta"_s,
-                                u"Red"_s, u"White"_s, u"Yellow"_s}) {
+    for (const QString& name : mduUILib::MenuColours()) {
         Mark(*AddEntry(*colours, name, [choose, name] { choose(name); }), name == present);
     }
 }

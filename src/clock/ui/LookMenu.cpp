@@ -2,6 +2,7 @@
 
 #include "clock/ClockMode.h"
 #include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,8 +37,8 @@ void AddStyles(QMenu& menu, QStringList files, const std::function<void(const QS
 void AddColours(QMenu& menu, const std::function<void(const QString&)>& choose) {
     QMenu* colours = menu.addMenu(u"Clock Colour"_s);
     colours->setObjectName(u"ClockColourMenu"_s);
-    for (const QString& name : {u"Black"_s, u"Blue"_s, u"Cyan"_s, u"Green"_s, u"Magenta"_s,
-                                u"Red"_s, u"White"_s, u"Yellow"_s, u"Transparent"_s, u"Custom"_s}) {
+    for (const QString& name :
+         mduUILib::MenuColours() + QStringList{u"Transparent"_s, u"Custom"_s}) {
         colours->addAction(name, &menu, [choose, name] { choose(name); });
     }
 }

@@ -210,7 +210,7 @@ void frmMain::SetBackgroundColour(const QString& colourName) {
         backColour_ = picked;
         name = mduUILib::ColourName(picked);
     } else if (colourName.trimmed().toLower() != u"transparent"_s) {
-        backColour_ = mduUILib::ColourValue(QString(colourName), program_.Services.Random);
+        backColour_ = mduUILib::ColourValue(colourName, program_.Services.Random);
     }
     ApplyBackColour();
     if (name != Setting(u"Window Background Colour"_s)) {

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
 #include "shell/StartMessage.h"
 #include "shell/ui/ClockArea.h"
 #include "shell/ui/HeaderArt.h"
@@ -15,9 +16,6 @@ namespace {
 
 constexpr int BusyInterval = 400;  // milliseconds, while the message line holds something
 constexpr int IdleInterval = 10000;
-
-const QStringList ColourNames = {u"Black"_s,   u"Blue"_s, u"Cyan"_s,  u"Green"_s,
-                                 u"Magenta"_s, u"Red"_s,  u"White"_s, u"Yellow"_s};
 
 void FillColours(shell::MenuArray& menu, const QStringList& names) {
     int index = 0;
@@ -57,9 +55,9 @@ void frmMain::FirstTick() {
 }
 
 void frmMain::FillLateMenus() {
-    FillColours(menuState_[u"BGColour"_s], ColourNames + QStringList{u"Custom"_s});
+    FillColours(menuState_[u"BGColour"_s], mduUILib::MenuColours() + QStringList{u"Custom"_s});
     FillColours(menuState_[u"ClockColours"_s],
-                ColourNames + QStringList{u"Transparent"_s, u"Custom"_s});
+                mduUILib::MenuColours() + QStringList{u"Transparent"_s, u"Custom"_s});
     const QString& folder = program_.Module.Paths.StylesFolder;
     QStringList styles;
     for (const QString& file : program_.Services.FileSystem.FileNames(folder)) {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStringList>
+
+#include "foundation/ClockProperty.h"
+
+namespace drawing {
+
+/// The effects of "Clock Special", one at a time.
+enum class ClockSpecial {
+    None,
+    AnalogueBackward,    ///< the dial is mirrored
+    RandomNumberColour,  ///< the numbers take other colours at each pass
+    AnalogueLeftHalf,    ///< the dial is folded: what would lie right is mirrored
+    AnalogueRightHalf,
+    HourFontEven,  ///< from here on, captions with sizes of their own
+    HourFontTriangle,
+    HourFontQuarter,
+    HourFontSmallToBig,
+    HourFontBigToSmall,
+    DigitalBackward,  ///< from here on, digits that are laid out or move in another way
+    DigitalUpDown,
+    DigitalWave,
+    DigitalUpDownWave,
+    DigitalVertical,
+    WorldMap  ///< a name for styles with a map as their ground; it changes nothing by itself
+};
+
+/// Blanks around the text are dropped, letter case counts; any other text is `None`.
+ClockSpecial ReadClockSpecial(const QString& text);
+ClockSpecial ReadClockSpecial(const ClockProperties& properties);
+
+QStringList ClockSpecialNames();
+
+}  // namespace drawing
