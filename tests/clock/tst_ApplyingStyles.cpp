@@ -184,6 +184,29 @@ private Q_SLOTS:
         QCOMPARE(clock->GetLocation(), u"My Time"_s);
     }
 
+    /// What a style brings along is loaded with it, and gone with the next style.
+    void StyleBringsItsPictureAndItsFlag() {
+        Desk desk;
+        QImage picture(6, 4, QImage::Format_RGB32);
+        picture.fill(qRgb(200, 20, 30));
+        picture.save(desk.Machine.AppFolder() + u"/red.bmp"_s);
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        const mduUILib::ClockControls& controls = clock->Controls();
+        clock->SetClockStyle(WriteStyle(desk, u"Red.ini"_s,
+                                        {{u"Clock Image File"_s, u".\\red.bmp"_s},
+                                         {u"Flag File"_s, u".\\red.bmp"_s},
+                                         {u"Flag Position"_s, u"Top left"_s}}));
+        QVERIFY(controls.imgClock(1).Picture != nullptr);
+        QCOMPARE(Corner(clock), qRgb(200, 20, 30));
+        QVERIFY(controls.imgFlag(1).Visible);
+        QCOMPARE(controls.imgFlag(1).Picture->pixel(0, 0), qRgb(200, 20, 30));
+        clock->SetClockStyle(
+            WriteStyle(desk, u"Bare.ini"_s,
+                       {{u"Clock Image File"_s, u"None"_s}, {u"Flag File"_s, u"None"_s}}));
+        QVERIFY(controls.imgClock(1).Picture == nullptr);
+        QVERIFY(!controls.imgFlag(1).Visible);
+    }
+
     void ColourPickerOfTheClock() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
@@ -222,6 +245,25 @@ private Q_SLOTS:
         QCOMPARE(desk.Key(u"UTC"_s, u"Time Zone Name Left"_s), u"-1"_s);  // stays automatic
         QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Lato"_s);
         QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Path(u"UTC"_s));
+    }
+
+    void SaveCurrentStyleKeepsTheFontBehindPaintedNumbers_data() {
+        QTest::addColumn<QString>("numbers");
+        QTest::newRow("Roman") << u"Roman 12"_s;
+        QTest::newRow("True Roman") << u"True Roman 12"_s;
+        QTest::newRow("3D") << u"3D 12"_s;
+        QTest::newRow("captions") << u"Number 12"_s;
+    }
+    void SaveCurrentStyleKeepsTheFontBehindPaintedNumbers() {
+        QFETCH(QString, numbers);
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->SetClockStyle(WriteStyle(
+            desk, u"S.ini"_s,
+            {{u"Hour Number Style"_s, numbers}, {u"Hour Number Font"_s, u"Cantarell"_s}}));
+        desk.Machine.Clock.Advance(1000);
+        clock->SaveCurrentStyle();
+        QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Cantarell"_s);
     }
 
     void SaveCurrentStyleOfAMaximisedClock() {
