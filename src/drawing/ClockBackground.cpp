@@ -15,6 +15,12 @@ namespace {
 
 constexpr int WipeModes = 5;
 
+/// The pictures that take their turn: also those that no picker of old offered.
+bool TakesItsTurn(const QString& name) {
+    return mduUILib::IsPictureFile(name) || name.endsWith(u".png"_s, Qt::CaseInsensitive) ||
+           name.endsWith(u".jpeg"_s, Qt::CaseInsensitive);
+}
+
 }  // namespace
 
 ClockBackground::ClockBackground(const FaceContext& face)
@@ -119,7 +125,7 @@ ClockBackground::Candidates ClockBackground::FindCandidates() const {
                                : face_.Paths.ImagesFolder + u"Background/"_s;
     QStringList names = mduLib::ListFolderFiles(face_.FileSystem, folder, {}, u"@"_s)
                             .split(u'@', Qt::SkipEmptyParts);
-    names.removeIf([](const QString& name) { return !mduUILib::IsPictureFile(name); });
+    names.removeIf([](const QString& name) { return !TakesItsTurn(name); });
     names.sort(Qt::CaseInsensitive);
     return {folder, names};
 }

@@ -423,6 +423,21 @@ private Q_SLOTS:
         QVERIFY(face_->Window.Status.isEmpty());
     }
 
+    // Whatever is loaded by its name takes its turn, too.
+    void RotationTakesEveryKindOfPicture() {
+        face_->Set(u"Clock Image File"_s, WriteBitmap(u"pictures/1.bmp"_s, Red));
+        WriteBitmap(u"pictures/2.png"_s, Green);
+        WriteBitmap(u"pictures/3.JPEG"_s, Blue);
+        WriteBitmap(u"pictures/4.jpg"_s, White);
+        WriteBitmap(u"pictures/5png"_s, Red);
+        background_->LoadClockPicture();
+        QCOMPARE(Change(), Green);
+        QCOMPARE(Change(), Blue);
+        QCOMPARE(Change(), White);
+        QCOMPARE(Change(), Red);
+        QCOMPARE(Change(), Green);
+    }
+
     void ASinglePictureStays() {
         face_->Set(u"Clock Image File"_s, WriteBitmap(u"pictures/1.bmp"_s, Red));
         background_->LoadClockPicture();
@@ -466,12 +481,13 @@ private Q_SLOTS:
     void WipesComeInTurn() {
         LoadFirstOfThree();
         // After 256 ms of 500 each mode has revealed another part. Probed: the top right, the
-        // bottom left, the bottom of a column of mode 5 that has come down.
-        const QList<QList<bool>> revealed = {{true, false, false},
-                                             {false, true, true},
-                                             {true, true, true},
-                                             {false, true, true},
-                                             {false, true, true}};
+        // bottom left, and the bottom of a column of mode 5 that has not begun; then whether a grey
+        // band runs down before the middle.
+        const QList<QList<bool>> revealed = {{true, false, false, false},
+                                             {false, true, true, true},
+                                             {true, true, true, false},
+                                             {false, true, true, false},
+                                             {false, true, false, false}};
         for (int turn = 0; turn < 6; ++turn) {
             const QRgb before = PixelAt(100, 100);
             background_->ShowAutoBackground();
@@ -480,7 +496,8 @@ private Q_SLOTS:
             const QList<bool>& mode = revealed[turn % 5];
             QCOMPARE(image.pixel(196, 5) != before, mode[0]);
             QCOMPARE(image.pixel(3, 196) != before, mode[1]);
-            QCOMPARE(image.pixel(20, 196) != before, mode[2]);
+            QCOMPARE(image.pixel(12, 190) != before, mode[2]);
+            QCOMPARE(image.pixel(110, 190) != before && image.pixel(130, 190) == before, mode[3]);
             face_->Machine.Clock.Advance(400);
         }
     }
