@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "drawing/SeenArea.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
-#include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 
 using namespace Qt::StringLiterals;
@@ -85,21 +85,12 @@ void ClockBackground::UpdateColourKey() {
     face_.Window.SetColourKey(face_.Window.IsTransparent() || IsShape(Property(u"Clock Shape"_s)));
 }
 
-WindowMeasures ClockBackground::Measures() const {
-    Surface& surface = face_.Window.Surface();
-    const QSizeF outer = face_.Window.OuterSize() / surface.TwipsPerDevicePixel();
-    return {
-        QSize(mduAPILib::RoundToInteger(outer.width()), mduAPILib::RoundToInteger(outer.height())),
-        QRect(face_.Window.SurfaceOffset(), QSize(surface.ScaleWidth(), surface.ScaleHeight())),
-        surface.DevicePixelRatio()};
-}
-
 void ClockBackground::SetWindowShape() {
     constexpr int minimised = 1;
     if (face_.Window.WindowState() == minimised) {
         return;
     }
-    shaped_ = Measures();
+    shaped_ = MeasuresOf(face_.Window);
     face_.Window.SetWindowRgn(
         WindowFigure(Property(u"Window Shape"_s), *shaped_).value_or(QRegion()));
 }
@@ -111,7 +102,7 @@ void ClockBackground::SetClockShape() {
 }
 
 void ClockBackground::ApplySurface() {
-    if (shaped_ != Measures()) {
+    if (shaped_ != MeasuresOf(face_.Window)) {
         SetWindowShape();
     }
     LoadWindowPicture();

@@ -51,7 +51,6 @@ private:
     QString PathOf(const QString& name) const;
     Picture LoadNamed(const QString& path);
     void TakeClockPicture(const Picture& picture);
-    WindowMeasures Measures() const;
     void UpdateColourKey();
 
     void Place(const Surface& surface) const;
