@@ -28,6 +28,10 @@ constexpr double Margin = 4;        // pixels kept free at the left
 constexpr double LinesApart = 0.4;  // of a line's height
 constexpr double Filled = 0.92;     // of the surface, by lines of an automatic size
 
+constexpr double HintSize = 0.6;                      // of the local line's
+constexpr double SmallestHint = 7, LargestHint = 12;  // points
+constexpr double HintApart = 0.5;                     // of the hint's height
+
 /// No date and time is wider.
 QString WidestMoment() {
     return u"00/00/0000 00:00:00"_s;
@@ -44,6 +48,7 @@ void CalculatorLines::DrawCalculatorClock() {
 }
 
 void CalculatorLines::SetCalculatorClock(bool fill) {
+    isTyping_ = false;
     if (fill) {
         ShowPresentTime();
     } else {
@@ -80,9 +85,12 @@ void CalculatorLines::SetCalculatorLayout() {
         PlaceAcross(zoneLine);
     }
     PlaceBelowEachOther();
+    ShowHint();
 }
 
 void CalculatorLines::HideCalculatorClock() {
+    isTyping_ = false;
+    ShowHint();
     Line(false).Visible = false;
     Line(true).Visible = false;
 }
@@ -90,7 +98,11 @@ void CalculatorLines::HideCalculatorClock() {
 void CalculatorLines::BeginInput() {
     before_ = {Line(false).Tag, Line(true).Tag, face_.Controls.lblLocation(1).Caption};
     caret_ = {};
+    isTyping_ = true;
     MoveCaretTo(false);
+    ShowHint();
+    face_.Window.ShowStatus(
+        u"Type a time. Tab changes the line, Esc goes back to the present time."_s);
     face_.Window.ShowChanges();
 }
 
@@ -192,7 +204,32 @@ void CalculatorLines::MoveCaretTo(bool zoneLine) {
     PlaceAcross(zoneLine);
 }
 
+// Below the lines, in the colour of the first, where that leaves room.
+void CalculatorLines::ShowHint() {
+    const Surface& surface = face_.Window.Surface();
+    const double ratio = surface.DevicePixelRatio();
+    Control& hint = face_.Controls.lblClock(1);
+    hint.Visible = isTyping_;
+    if (!isTyping_) {
+        return;
+    }
+    hint.Caption = u"Esc: present time"_s;
+    hint.ForeColor = Line(false).ForeColor;
+    hint.Font = Line(false).Font;
+    hint.Font.setPointSizeF(
+        std::clamp(HintSize * hint.Font.pointSizeF(), SmallestHint, LargestHint));
+    AutoSize(hint, ratio);
+    const double height = static_cast<double>(hint.Height);
+    const double free = surface.ScaleWidth() - static_cast<double>(hint.Width);
+    const double top = static_cast<double>(Line(true).Top + Line(true).Height) + HintApart * height;
+    hint.Left = static_cast<float>(std::nearbyint(free / 2));
+    hint.Top = static_cast<float>(std::nearbyint(top));
+    hint.Visible = free >= 0 && top + height <= surface.ScaleHeight();
+}
+
 void CalculatorLines::GiveBackTexts() {
+    isTyping_ = false;
+    ShowHint();
     face_.Controls.lblLocation(1).Caption = before_.Location;
     ShowText(false, before_.Local);
     ShowText(true, before_.Zone);

@@ -10,6 +10,9 @@ namespace drawing {
 
 /// The calculator: the local time and the same moment in the clock's zone, converted both ways.
 /// The plain date and time of a line, without its prefix and the caret, is in the line's `Tag`.
+///
+/// While a line is typed into the clock stands still. A small hint below the lines, in `lblClock`,
+/// then tells the way back, if there is room for it; the status bar tells it in any case.
 class CalculatorLines final : public CalculatorClock {
 public:
     explicit CalculatorLines(const FaceContext& face) : face_(face) {}
@@ -47,6 +50,7 @@ private:
     bool IsAutomatic(bool zoneLine) const;
     double AutomaticSize() const;
 
+    void ShowHint();
     void MoveCaretTo(bool zoneLine);
     void GiveBackTexts();
     void EditLine(int keyCode);
@@ -54,6 +58,7 @@ private:
     void NameZoneAtTypedTime(const QString& zoneText);
 
     FaceContext face_;
+    bool isTyping_ = false;
     bool editingZoneLine_ = false;
     TitleCaret caret_;
     struct {

@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "drawing/SeenArea.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
-#include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 
 using namespace Qt::StringLiterals;
@@ -14,6 +14,12 @@ namespace drawing {
 namespace {
 
 constexpr int WipeModes = 5;
+
+/// The pictures that take their turn: also those that no picker of old offered.
+bool TakesItsTurn(const QString& name) {
+    return mduUILib::IsPictureFile(name) || name.endsWith(u".png"_s, Qt::CaseInsensitive) ||
+           name.endsWith(u".jpeg"_s, Qt::CaseInsensitive);
+}
 
 }  // namespace
 
@@ -79,21 +85,12 @@ void ClockBackground::UpdateColourKey() {
     face_.Window.SetColourKey(face_.Window.IsTransparent() || IsShape(Property(u"Clock Shape"_s)));
 }
 
-WindowMeasures ClockBackground::Measures() const {
-    Surface& surface = face_.Window.Surface();
-    const QSizeF outer = face_.Window.OuterSize() / surface.TwipsPerDevicePixel();
-    return {
-        QSize(mduAPILib::RoundToInteger(outer.width()), mduAPILib::RoundToInteger(outer.height())),
-        QRect(face_.Window.SurfaceOffset(), QSize(surface.ScaleWidth(), surface.ScaleHeight())),
-        surface.DevicePixelRatio()};
-}
-
 void ClockBackground::SetWindowShape() {
     constexpr int minimised = 1;
     if (face_.Window.WindowState() == minimised) {
         return;
     }
-    shaped_ = Measures();
+    shaped_ = MeasuresOf(face_.Window);
     face_.Window.SetWindowRgn(
         WindowFigure(Property(u"Window Shape"_s), *shaped_).value_or(QRegion()));
 }
@@ -105,7 +102,7 @@ void ClockBackground::SetClockShape() {
 }
 
 void ClockBackground::ApplySurface() {
-    if (shaped_ != Measures()) {
+    if (shaped_ != MeasuresOf(face_.Window)) {
         SetWindowShape();
     }
     LoadWindowPicture();
@@ -119,7 +116,7 @@ ClockBackground::Candidates ClockBackground::FindCandidates() const {
                                : face_.Paths.ImagesFolder + u"Background/"_s;
     QStringList names = mduLib::ListFolderFiles(face_.FileSystem, folder, {}, u"@"_s)
                             .split(u'@', Qt::SkipEmptyParts);
-    names.removeIf([](const QString& name) { return !mduUILib::IsPictureFile(name); });
+    names.removeIf([](const QString& name) { return !TakesItsTurn(name); });
     names.sort(Qt::CaseInsensitive);
     return {folder, names};
 }

@@ -18,7 +18,8 @@ namespace drawing {
 ///
 /// The dial picture is `imgClock(1)`; `imgClock(0)` holds the next one while a wipe brings it in.
 /// The window's picture is `picFrame(1)`: a mat over the whole surface. A "Clock Shape" cuts the
-/// dial picture to that figure around the clock's centre.
+/// dial picture to that figure around the clock's centre; without a picture the figure is a plate
+/// in the window's colour (`ClockPlate.h`).
 class ClockBackground final : public Background {
 public:
     explicit ClockBackground(const FaceContext& face);
@@ -42,7 +43,7 @@ private:
     struct Placing {
         QSize Surface;
         QRect Box;          ///< of the picture
-        QPainterPath Hole;  ///< what is seen of it; empty means all
+        QPainterPath Hole;  ///< what is seen of it, or the plate in its place; empty means all
         int Brightness = 100;
     };
 
@@ -50,14 +51,14 @@ private:
     QString PathOf(const QString& name) const;
     Picture LoadNamed(const QString& path);
     void TakeClockPicture(const Picture& picture);
-    WindowMeasures Measures() const;
     void UpdateColourKey();
 
     void Place(const Surface& surface) const;
     QRect PictureBox(const Surface& surface) const;
     bool CoversAll(const Picture& picture) const;
     void PaintWipe(QPainter& painter, double devicePixelRatio) const;
-    void PaintLayers(QPainter& painter, const Picture& dial, Picture& stretched) const;
+    void PaintLayers(QPainter& painter, const Picture& dial, Picture& stretched,
+                     double devicePixelRatio) const;
     void PaintDial(QPainter& painter, const Picture& dial, Picture& stretched) const;
 
     struct Candidates {

@@ -3,6 +3,7 @@
 
 #include "drawing/AnalogueFace.h"
 #include "drawing/ClockBackground.h"
+#include "drawing/ClockPlate.h"
 #include "drawing/Hands.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -88,7 +89,9 @@ void ClockBackground::Place(const Surface& surface) const {
     }
     placing_.Surface = SizeOf(surface);
     placing_.Box = speck ? Around(centre, {SpeckSide, SpeckSide}) : PictureBox(surface);
-    placing_.Hole = ShapePath(Property(u"Clock Shape"_s), Around(centre, placing_.Box.size()));
+    placing_.Hole = ShapePath(Property(u"Clock Shape"_s), imgClock(1).Picture
+                                                              ? Around(centre, placing_.Box.size())
+                                                              : PlateBox(centre, surface));
     placing_.Brightness = mduAPILib::IntegerValue(Property(u"Clock Image Brightness(%)"_s));
     mduUILib::Control& image = imgClock(1);
     image.Width = static_cast<float>(placing_.Box.width());
@@ -112,7 +115,7 @@ void ClockBackground::DrawBackgroundPicture(Surface& surface) const {
     }
     surface.Cls(face_.Window.BackColor());
     surface.Paint([&](QPainter& painter) {
-        PaintLayers(painter, picture, dial_);
+        PaintLayers(painter, picture, dial_, surface.DevicePixelRatio());
         if (wipe_.IsUnderWay()) {
             PaintWipe(painter, surface.DevicePixelRatio());
         }
@@ -129,16 +132,23 @@ void ClockBackground::PaintWipe(QPainter& painter, double devicePixelRatio) cons
     painter.setClipRegion(WipeRevealed(wipe_.Mode(), placing_.Surface, wipe_.Part()),
                           Qt::IntersectClip);
     painter.fillRect(QRect(QPoint(), placing_.Surface), QColor(ToRgb(face_.Window.BackColor())));
-    PaintLayers(painter, face_.Controls.imgClock(0).Picture, next_);
+    PaintLayers(painter, face_.Controls.imgClock(0).Picture, next_, devicePixelRatio);
     painter.restore();
     PaintWipeBand(painter, wipe_.Mode(), placing_.Surface, wipe_.Part(), devicePixelRatio);
 }
 
-void ClockBackground::PaintLayers(QPainter& painter, const Picture& dial,
-                                  Picture& stretched) const {
+void ClockBackground::PaintLayers(QPainter& painter, const Picture& dial, Picture& stretched,
+                                  double devicePixelRatio) const {
     mat_ = face_.Pictures.Scaled(face_.Controls.picFrame(1).Picture, placing_.Surface);
     if (mat_) {
         painter.drawImage(0, 0, *mat_);
+    }
+    if (!dial && !placing_.Hole.isEmpty()) {
+        const PlateGround ground = mat_                           ? PlateGround::Picture
+                                   : face_.Window.IsTransparent() ? PlateGround::SeeThrough
+                                                                  : PlateGround::Colour;
+        PaintPlate(painter, placing_.Hole, QColor(ToRgb(face_.Window.BackColor())), ground,
+                   devicePixelRatio);
     }
     PaintDial(painter, dial, stretched);
 }

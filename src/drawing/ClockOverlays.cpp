@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace drawing {
 
+using mduUILib::Control;
+
 namespace {
 
 constexpr double Automatic = -1;
@@ -22,12 +24,13 @@ constexpr double SpeakerMargin = 4;
 constexpr double LeastSpeaker = 14, LargestSpeaker = 32;
 constexpr double SpeakerGrowth = 0.07;  // of the surface's height
 constexpr double HandleSide = 16;
+constexpr double ClearOfOthers = 3;
 
 float Whole(double value) {
     return static_cast<float>(mduAPILib::RoundToInteger(value));
 }
 
-void SetSquare(mduUILib::Control& control, double left, double top, int side) {
+void SetSquare(Control& control, double left, double top, int side) {
     control.Left = Whole(left);
     control.Top = Whole(top);
     control.Width = control.Height = static_cast<float>(side);
@@ -38,8 +41,8 @@ void SetSquare(mduUILib::Control& control, double left, double top, int side) {
 void ClockOverlays::LayOutOverlays() {
     ReadProperties();
     SetFlagPosition();
-    SetSpeakerPosition();
     SetTransparentIconPosition();
+    SetSpeakerPosition();
     // Those that the mode does not show stay hidden.
     if (face_.Controls.lblLocation(1).Visible) {
         SetLocationLabel();
@@ -53,6 +56,53 @@ void ClockOverlays::ReadProperties() {
     sunMoonSize_ = mduAPILib::Val(mduLib::GetProperty(u"Sun Moon Size"_s, face_.Properties));
     locationLook_ = ReadLocationLook(face_.Properties, face_.Random);
     locationShown_.reset();
+    const QString shape = mduLib::GetProperty(u"Window Shape"_s, face_.Properties);
+    windowShape_ = IsShape(shape) ? shape : QString();
+    measured_.reset();
+    seen_ = {};
+}
+
+const SeenArea& ClockOverlays::Seen() {
+    if (!sunMoonSize_) {
+        ReadProperties();
+    }
+    if (!windowShape_.isEmpty()) {
+        const WindowMeasures window = MeasuresOf(face_.Window);
+        if (measured_ != window) {
+            measured_ = window;
+            seen_ = SeenThrough(windowShape_, window);
+        }
+    }
+    return seen_;
+}
+
+/// What is shown of the read-out and of the overlays that are placed before this one.
+std::vector<QRectF> ClockOverlays::Taken(const Control& before) const {
+    const mduUILib::ClockControls& controls = face_.Controls;
+    std::vector<QRectF> taken;
+    for (const mduUILib::ControlArray* array :
+         {&controls.lblDigitalNumber, &controls.lblTimeInput, &controls.lblTimeOutput,
+          &controls.imgFlag, &controls.shpArea, &controls.imgSpeaker}) {
+        for (const Control& control : array->Members) {
+            if (&control == &before) {
+                return taken;
+            }
+            if (control.Visible) {
+                taken.push_back(control.Rect());
+            }
+        }
+    }
+    return taken;
+}
+
+void ClockOverlays::KeepInside(Control& control) {
+    const SeenArea& seen = Seen();
+    if (!seen.IsWhole()) {
+        const double gap = ClearOfOthers * face_.Window.Surface().DevicePixelRatio();
+        const QPointF way = seen.WayInward(control.Rect(), Taken(control), gap);
+        control.Left += static_cast<float>(way.x());
+        control.Top += static_cast<float>(way.y());
+    }
 }
 
 double ClockOverlays::Pixels(const QString& key) const {
@@ -86,7 +136,9 @@ void ClockOverlays::SetSunMoon() {
     const double left =
         t < 6 ? halfWidth - halfWidth * std::cos(a) : halfWidth + halfWidth * std::cos(Pi - a);
     const double top = halfHeight - halfHeight * std::sin(t < 6 ? a : Pi - a);
-    SetSquare(face_.Controls.imgSunMoon(index), left, top, side);
+    Control& mark = face_.Controls.imgSunMoon(index);
+    SetSquare(mark, left, top, side);
+    KeepInside(mark);
     ShowOneOf(index, side);
 }
 
@@ -114,9 +166,12 @@ void ClockOverlays::SetSpeakerPosition() {
     const double left = Pixels(u"Speaker Image Left"_s);
     const double top = Pixels(u"Speaker Image Top"_s);
     const double margin = SpeakerMargin * ratio;
-    mduUILib::Control& speaker = face_.Controls.imgSpeaker(1);
+    Control& speaker = face_.Controls.imgSpeaker(1);
     SetSquare(speaker, left == Automatic ? margin : left * ratio,
               top == Automatic ? surface.ScaleHeight() - margin - side : top * ratio, side);
+    if (left == Automatic && top == Automatic) {
+        KeepInside(speaker);
+    }
     if (!speaker.Picture || speaker.Picture == speakerIdle_) {
         speaker.Picture = speakerIdle_ = Stock(StockPicture::SpeakerIdle, side);
     }
@@ -127,9 +182,12 @@ void ClockOverlays::SetTransparentIconPosition() {
     const int side = mduAPILib::RoundToInteger(HandleSide * ratio);
     const double left = Pixels(u"Transparent Icon Left"_s);
     const double top = Pixels(u"Transparent Icon Top"_s);
-    mduUILib::Control& handle = face_.Controls.shpArea(1);
+    Control& handle = face_.Controls.shpArea(1);
     SetSquare(handle, left == Automatic ? 0 : left * ratio, top == Automatic ? 0 : top * ratio,
               side);
+    if (left == Automatic && top == Automatic) {
+        KeepInside(handle);
+    }
     handle.Visible = face_.Window.IsTransparent();
     if (handle.Visible) {
         handle.Picture = Stock(StockPicture::Handle, side);
@@ -140,15 +198,19 @@ void ClockOverlays::SetLocationLabel() {
     if (!sunMoonSize_) {
         ReadProperties();
     }
-    mduUILib::Control& label = face_.Controls.lblLocation(1);
+    Control& label = face_.Controls.lblLocation(1);
     const Surface& surface = face_.Window.Surface();
     LocationKey key{label.Caption, surface.ScaleWidth(), surface.ScaleHeight()};
     if (locationShown_ == key) {
         return;
     }
     locationShown_ = std::move(key);
-    PlaceLocationLabel(label, locationLook_, surface,
-                       ClockCentre(face_.Properties, surface.ScaleWidth(), surface.ScaleHeight()));
+    const QPointF centre =
+        ClockCentre(face_.Properties, surface.ScaleWidth(), surface.ScaleHeight());
+    PlaceLocationLabel(label, locationLook_, surface, centre, Seen());
+    if (label.Visible && locationLook_.HasOwnPlace()) {
+        KeepInside(label);
+    }
 }
 
 void ClockOverlays::HideLocationLabel() {

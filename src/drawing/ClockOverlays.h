@@ -1,16 +1,23 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
 #include "drawing/LocationLabel.h"
+#include "drawing/SeenArea.h"
 #include "drawing/StockPictures.h"
 
 namespace drawing {
 
 /// What lies over the dial: the flag, the sun or the moon, the speaker, the handle of a transparent
 /// window, the zone's name. They stand on whole pixels, in pictures of their final size.
+///
+/// Where the window has an outline ("Window Shape"), whatever stands at a place of its own choice
+/// moves inward until it is seen whole, clear of the read-out and of what was placed before it: the
+/// flag, the handle, the speaker, and last the sun and the name. What has a place of the user's
+/// stays there.
 ///
 /// The sun and the name are shown once a second, so the properties they go by are read by
 /// `LayOutOverlays` only: it is called whenever the properties or the surface have changed.
@@ -44,6 +51,9 @@ private:
     };
 
     void ReadProperties();
+    const SeenArea& Seen();
+    std::vector<QRectF> Taken(const mduUILib::Control& before) const;
+    void KeepInside(mduUILib::Control& control);
     void ShowFlagAsIcon();
     void ShowStoredIcon();
     void PlaceFlag(const QString& position);
@@ -57,6 +67,9 @@ private:
     std::shared_ptr<const QImage> sunMoon_[2];
     std::optional<std::shared_ptr<const QImage>> icon_;  ///< the flag in the window's icon
     std::optional<double> sunMoonSize_;                  ///< logical pixels, once it has been read
+    QString windowShape_;                                ///< empty for a plain rectangle
+    std::optional<WindowMeasures> measured_;             ///< what `seen_` has been worked out for
+    SeenArea seen_;
     LocationLook locationLook_;
     std::optional<LocationKey> locationShown_;
 };

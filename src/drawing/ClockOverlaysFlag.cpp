@@ -71,6 +71,7 @@ void ClockOverlays::PlaceFlag(const QString& position) {
     const bool left = position.contains(u"left"_s, Qt::CaseInsensitive);
     flag.Top = static_cast<float>(bottom ? scaleHeight - height : 0);
     flag.Left = static_cast<float>(left ? 0 : scaleWidth - width);
+    KeepInside(flag);
     const QSize size(mduAPILib::RoundToInteger(width), mduAPILib::RoundToInteger(height));
     if (!size.isEmpty() && size.width() <= mduUILib::PictureStore::LargestSide) {
         flag.Picture = face_.Pictures.Scaled(flag_, size);

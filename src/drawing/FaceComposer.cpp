@@ -37,9 +37,10 @@ FaceComposer::FaceComposer(Canvas& canvas, const mduUILib::ClockControls& contro
       dial_(dial),
       background_(background),
       arrays_{&controls.imgSunMoon,    &controls.lblDigitalNumber, &controls.lblTimeInput,
-              &controls.lblTimeOutput, &controls.imgFlag,          &controls.lblLocation,
-              &controls.imgTimer,      &controls.lblMsg,           &controls.lblActionMsg,
-              &controls.imgAction,     &controls.shpArea,          &controls.imgSpeaker} {}
+              &controls.lblTimeOutput, &controls.lblClock,         &controls.imgFlag,
+              &controls.lblLocation,   &controls.imgTimer,         &controls.lblMsg,
+              &controls.lblActionMsg,  &controls.imgAction,        &controls.shpArea,
+              &controls.imgSpeaker} {}
 
 QRegion FaceComposer::Compose(const std::optional<HandsFrame>& hands) {
     Surface& surface = canvas_.Surface();

@@ -59,7 +59,8 @@ public:
     /// Begins the input state: the caret stands in the line of the local time.
     virtual void BeginInput() {}
     /// One key of the input state, as a virtual key code (13 Enter, 27 Esc, 9 Tab, 37 and 39 left
-    /// and right, 45 Insert, 46 Delete, 8 Backspace) or the code of a typed character.
+    /// and right, 45 Insert, 46 Delete, 8 Backspace), one of `TitleEdit.h`, or the code of a typed
+    /// character.
     /// @return false when the key ended the input.
     virtual bool EditCalculatorKey(int /*keyCode*/) { return false; }
 };

@@ -38,6 +38,20 @@ float Place(double stored, double automatic, double extent, double whole, double
     return static_cast<float>(mduAPILib::RoundToInteger(inside));
 }
 
+void LayOut(mduUILib::Control& label, double points, const LocationLook& look,
+            const Surface& surface, const QPointF& centre) {
+    const double ratio = surface.DevicePixelRatio();
+    label.Font = LabelFont(points);
+    AutoSize(label, ratio);
+    const double width = surface.ScaleWidth();
+    const double height = surface.ScaleHeight();
+    const QPointF automatic =
+        look.Digital ? QPointF(width / 2, height * DownDigits)
+                     : QPointF(centre.x(), centre.y() + std::min(width, height) * BelowCentre);
+    label.Left = Place(look.Left, automatic.x(), static_cast<double>(label.Width), width, ratio);
+    label.Top = Place(look.Top, automatic.y(), static_cast<double>(label.Height), height, ratio);
+}
+
 }  // namespace
 
 LocationLook ReadLocationLook(const ClockProperties& properties, platform::RandomNumbers& random) {
@@ -72,24 +86,19 @@ double LocationPoints(const QString& name, const LocationLook& look, const Surfa
 }
 
 void PlaceLocationLabel(mduUILib::Control& label, const LocationLook& look, const Surface& surface,
-                        const QPointF& centre) {
-    const double points =
-        look.Points < 0 ? LocationPoints(label.Caption, look, surface) : look.Points;
+                        const QPointF& centre, const SeenArea& seen) {
+    double points = look.Points < 0 ? LocationPoints(label.Caption, look, surface) : look.Points;
     label.Visible = points > 0;
     if (!label.Visible) {
         return;
     }
     label.ForeColor = look.Colour;
-    label.Font = LabelFont(points);
-    AutoSize(label, surface.DevicePixelRatio());
-    const double width = surface.ScaleWidth();
-    const double height = surface.ScaleHeight();
-    const QPointF automatic =
-        look.Digital ? QPointF(width / 2, height * DownDigits)
-                     : QPointF(centre.x(), centre.y() + std::min(width, height) * BelowCentre);
-    const double ratio = surface.DevicePixelRatio();
-    label.Left = Place(look.Left, automatic.x(), static_cast<double>(label.Width), width, ratio);
-    label.Top = Place(look.Top, automatic.y(), static_cast<double>(label.Height), height, ratio);
+    LayOut(label, points, look, surface, centre);
+    const bool mayShrink = look.Points < 0 && look.HasOwnPlace();
+    while (mayShrink && points > SmallestPoints && !seen.Holds(label.Rect())) {
+        points = std::max(points - PointStep, SmallestPoints);
+        LayOut(label, points, look, surface, centre);
+    }
 }
 
 }  // namespace drawing

@@ -2,6 +2,7 @@
 
 #include <QPointF>
 
+#include "drawing/SeenArea.h"
 #include "drawing/Surface.h"
 #include "foundation/ClockProperty.h"
 #include "foundation/Controls.h"
@@ -16,6 +17,8 @@ struct LocationLook {
     double Top = -1;
     int Colour = 0;
     bool Digital = false;  ///< the read-out takes the middle of the surface
+
+    bool HasOwnPlace() const { return Left == -1 && Top == -1; }  ///< both are automatic
 };
 
 /// A colour by chance is drawn here, once for each reading.
@@ -28,8 +31,9 @@ double LocationPoints(const QString& name, const LocationLook& look, const Surfa
 
 /// Lays the label out around its caption. The automatic place is the middle of the lower half of
 /// the dial around @p centre (0.2 of the smaller side below it), or 0.82 of the height below a
-/// read-out; whatever fits stays within the surface.
+/// read-out; whatever fits stays within the surface. At that place a name of automatic size becomes
+/// smaller until all of it is @p seen, but not below 6 points.
 void PlaceLocationLabel(mduUILib::Control& label, const LocationLook& look, const Surface& surface,
-                        const QPointF& centre);
+                        const QPointF& centre, const SeenArea& seen = {});
 
 }  // namespace drawing

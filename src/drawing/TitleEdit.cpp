@@ -12,10 +12,14 @@ enum Key { Backspace = 8, Enter = 13, FirstCharacter = 32, Left = 37, Right = 39
 constexpr int Delete = 46;
 constexpr int LastCharacter = 0xFFFF;
 
-bool IsTyped(int keyCode) {
-    return keyCode >= FirstCharacter && keyCode <= LastCharacter &&
-           !QChar::isSurrogate(static_cast<char32_t>(keyCode)) &&
-           QChar::isPrint(static_cast<char32_t>(keyCode));
+/// The character of a code that is no control key; 0 for one that is not typed.
+int CharacterOf(int keyCode) {
+    const bool isTypedKey = (keyCode & ~LastCharacter) == TypedKey(u'\0');
+    const int code = isTypedKey ? keyCode & LastCharacter : keyCode;
+    const bool isTyped = code >= FirstCharacter && code <= LastCharacter &&
+                         !QChar::isSurrogate(static_cast<char32_t>(code)) &&
+                         QChar::isPrint(static_cast<char32_t>(code));
+    return isTyped ? code : 0;
 }
 
 void Type(QString& text, QChar character, TitleCaret& caret) {
@@ -45,6 +49,12 @@ bool Edit(QString& text, int keyCode, TitleCaret& caret) {
         case Right:
             caret.Position = std::min(caret.Position + 1, static_cast<int>(text.size()));
             return true;
+        case HomeKey:
+            caret.Position = 0;
+            return true;
+        case EndKey:
+            caret.Position = static_cast<int>(text.size());
+            return true;
         case Insert:
             caret.Insert = !caret.Insert;
             return true;
@@ -57,11 +67,11 @@ bool Edit(QString& text, int keyCode, TitleCaret& caret) {
         default:
             break;
     }
-    if (!IsTyped(keyCode)) {
-        return false;
+    const int character = CharacterOf(keyCode);
+    if (character != 0) {
+        Type(text, QChar(character), caret);
     }
-    Type(text, QChar(keyCode), caret);
-    return true;
+    return character != 0;
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ constexpr double FaceMargin = 15;
 constexpr double TopOfFace = 0.04;  // of the face's height
 constexpr double FontOfFace = 0.035;
 constexpr double SmallestFont = 8;     // points
+constexpr double WideEnough = 0.6;     // of the face's width, for a message in an outline
 constexpr double LongestStep = 32767;  // twips
 constexpr qint64 HalfDaySeconds = 43'200;
 
@@ -107,6 +108,16 @@ void ClockMessages::EndMessage() {
     }
 }
 
+ClockMessages::Way ClockMessages::WayOfMessage(float height) const {
+    const std::optional<QRectF> row = context_.Host.RowInOutline(
+        static_cast<double>(MessageTop()), static_cast<double>(height), WideEnough * width_);
+    if (!row) {
+        return {0, static_cast<float>(left_ + width_), std::nullopt};
+    }
+    return {static_cast<float>(row->left()), static_cast<float>(row->right()),
+            static_cast<float>(row->top())};
+}
+
 void ClockMessages::MoveMessage() {
     if (context_.Host.TimerInterval() != MovingInterval) {
         context_.Host.SetTimerInterval(MovingInterval);
@@ -114,9 +125,11 @@ void ClockMessages::MoveMessage() {
     TypeNextCharacter();
     mduUILib::Control& label = context_.Controls.lblMsg(1);
     context_.Host.FitLabel(label);
-    StepLeft();
+    const Way way = WayOfMessage(label.Height);
+    label.Top = way.Top.value_or(label.Top);
+    StepLeft(way);
     if (messageCursor_ == pendingMessage_.size() && label.Caption.isEmpty()) {
-        RestartFromTheRight();
+        RestartFromTheRight(way);
     }
 }
 
@@ -126,9 +139,9 @@ void ClockMessages::TypeNextCharacter() {
     messageCursor_ += static_cast<int>(length);
 }
 
-void ClockMessages::StepLeft() {
+void ClockMessages::StepLeft(const Way& way) {
     mduUILib::Control& label = context_.Controls.lblMsg(1);
-    if (label.Left > 0) {
+    if (label.Left > way.Left) {
         const double speed =
             mduAPILib::Val(mduLib::GetProperty(u"Message Display Speed"_s, context_.Properties));
         label.Left -= Pixels(std::clamp(speed, 1.0, LongestStep));
@@ -139,15 +152,15 @@ void ClockMessages::StepLeft() {
         label.Caption.remove(0, CharacterLength(label.Caption, 0));
     }
     if (label.Caption.trimmed().isEmpty()) {
-        RestartFromTheRight();
+        RestartFromTheRight(way);
     }
 }
 
-void ClockMessages::RestartFromTheRight() {
+void ClockMessages::RestartFromTheRight(const Way& way) {
     messageCursor_ = 0;
     mduUILib::Control& label = context_.Controls.lblMsg(1);
     label.Caption = u"  "_s;
-    label.Left = static_cast<float>(left_ + width_) - 2 * Pixels(FaceMargin);
+    label.Left = way.Right - 2 * Pixels(FaceMargin);
 }
 
 void ClockMessages::Tell(MessageEvent event, const QString& text) const {

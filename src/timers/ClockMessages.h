@@ -18,7 +18,8 @@ enum class MessageEvent { Shows, Hides, ActionCaption, ActionRuns };
 ///
 /// A message enters at the right end of the face, is typed out a character at a time while it moves
 /// left, is eaten at the left end and starts anew, until it expires or is hidden. While it runs,
-/// `timClock` ticks ten times a second.
+/// `timClock` ticks ten times a second. In a window with an outline both keep to rows that are wide
+/// enough for them.
 class ClockMessages final : public MessageChannel {
 public:
     using Watcher = std::function<void(MessageEvent event, const QString& text)>;
@@ -61,10 +62,16 @@ private:
     void Expire(const QDateTime& clockTime);
     void HideLabel();
     void EndMessage();
+    /// Where a message runs, in device pixels; without a top it stays as high as it is.
+    struct Way {
+        float Left = 0, Right = 0;
+        std::optional<float> Top;
+    };
+    Way WayOfMessage(float height) const;
     void MoveMessage();
     void TypeNextCharacter();
-    void StepLeft();
-    void RestartFromTheRight();
+    void StepLeft(const Way& way);
+    void RestartFromTheRight(const Way& way);
     void CountDown(const QDateTime& clockTime);
     void FinishAction();
     void SetActionCaption(const QString& caption);
@@ -73,6 +80,7 @@ private:
     int ActionColour() const;
     void ShowActionMarks(bool visible);
     void PlaceActionMarks();
+    QRectF RowOfAction(float height, float width) const;
     void SetLabelFont(mduUILib::Control& label) const;
     float MessageTop() const;
     float Pixels(double twips) const;

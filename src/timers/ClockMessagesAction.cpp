@@ -141,6 +141,14 @@ void ClockMessages::ShowActionMarks(bool visible) {
     context_.Controls.imgAction(1).Visible = visible;
 }
 
+// Below the message; in an outline in the first row there that takes all of it.
+QRectF ClockMessages::RowOfAction(float height, float width) const {
+    const auto top = static_cast<double>(WayOfMessage(height).Top.value_or(MessageTop()) + height);
+    const auto extent = static_cast<double>(height);
+    return context_.Host.RowInOutline(top, extent, static_cast<double>(width))
+        .value_or(QRectF(left_, top, width_, extent));
+}
+
 // The mark and its label stand side by side below the message, in the middle of the face.
 void ClockMessages::PlaceActionMarks() {
     mduUILib::Control& label = context_.Controls.lblActionMsg(1);
@@ -148,10 +156,11 @@ void ClockMessages::PlaceActionMarks() {
     context_.Host.FitLabel(label);
     const auto gap = static_cast<float>(Gap * context_.Host.DevicePixelRatio());
     const float whole = mark.Width + gap + label.Width;
-    mark.Left =
-        static_cast<float>(left_) + std::max(0.0F, (static_cast<float>(width_) - whole) / 2);
+    const QRectF row = RowOfAction(label.Height + gap, whole);
+    mark.Left = static_cast<float>(row.left()) +
+                std::max(0.0F, (static_cast<float>(row.width()) - whole) / 2);
     label.Left = mark.Left + mark.Width + gap;
-    label.Top = MessageTop() + label.Height + gap;
+    label.Top = static_cast<float>(row.top());
     mark.Top = label.Top + (label.Height - mark.Height) / 2;
 }
 

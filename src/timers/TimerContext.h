@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QRectF>
+#include <optional>
+
 #include "timezones/ClockContext.h"
 
 namespace timers {
@@ -30,6 +33,12 @@ public:
     virtual int BackColor() const = 0;
     virtual double DevicePixelRatio() const = 0;
     virtual int ScaleHeight() const = 0;  ///< of the drawing surface, in device pixels
+    /// The room for a line of text of that height in the window's outline: the first row, @p top or
+    /// below it, that is @p width wide, else the widest. Nothing in a window without an outline.
+    virtual std::optional<QRectF> RowInOutline(double /*top*/, double /*height*/,
+                                               double /*width*/) const {
+        return std::nullopt;
+    }
     virtual ClockProperties& EditProperties() = 0;
 };
 

@@ -184,6 +184,53 @@ private Q_SLOTS:
         QCOMPARE(clock->GetLocation(), u"My Time"_s);
     }
 
+    /// What a style brings along is loaded with it, and gone with the next style.
+    void StyleBringsItsPictureAndItsFlag() {
+        Desk desk;
+        QImage picture(6, 4, QImage::Format_RGB32);
+        picture.fill(qRgb(200, 20, 30));
+        picture.save(desk.Machine.AppFolder() + u"/red.bmp"_s);
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        const mduUILib::ClockControls& controls = clock->Controls();
+        clock->SetClockStyle(WriteStyle(desk, u"Red.ini"_s,
+                                        {{u"Clock Image File"_s, u".\\red.bmp"_s},
+                                         {u"Flag File"_s, u".\\red.bmp"_s},
+                                         {u"Flag Position"_s, u"Top left"_s}}));
+        QVERIFY(controls.imgClock(1).Picture != nullptr);
+        QCOMPARE(Corner(clock), qRgb(200, 20, 30));
+        QVERIFY(controls.imgFlag(1).Visible);
+        QCOMPARE(controls.imgFlag(1).Picture->pixel(0, 0), qRgb(200, 20, 30));
+        clock->SetClockStyle(
+            WriteStyle(desk, u"Bare.ini"_s,
+                       {{u"Clock Image File"_s, u"None"_s}, {u"Flag File"_s, u"None"_s}}));
+        QVERIFY(controls.imgClock(1).Picture == nullptr);
+        QVERIFY(!controls.imgFlag(1).Visible);
+    }
+
+    // The flag makes way for the digits as they are after the change of size.
+    void AResizedShapeKeepsTheFlagOffTheDigits() {
+        Desk desk;
+        QImage picture(6, 4, QImage::Format_RGB32);
+        picture.fill(qRgb(200, 20, 30));
+        picture.save(desk.Machine.AppFolder() + u"/red.bmp"_s);
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->SetClockStyle(WriteStyle(desk, u"D.ini"_s,
+                                        {{u"Clocks"_s, u"Digital"_s},
+                                         {u"Window Shape"_s, u"Diamond"_s},
+                                         {u"Flag File"_s, u".\\red.bmp"_s},
+                                         {u"Flag Position"_s, u"Top right"_s}}));
+        const mduUILib::ClockControls& controls = clock->Controls();
+        for (const QSize& size : {QSize(300, 250), QSize(500, 300), QSize(260, 200)}) {
+            clock->parentWidget()->resize(size);
+            QCOMPARE(clock->PaintedSurface().Image().size(), size);
+            QVERIFY(controls.imgFlag(1).Visible);
+            for (int digit = 1; digit <= 5; ++digit) {
+                const QRectF digits = controls.lblDigitalNumber(digit).Rect();
+                QVERIFY(!digits.intersects(controls.imgFlag(1).Rect()));
+            }
+        }
+    }
+
     void ColourPickerOfTheClock() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
@@ -222,6 +269,25 @@ private Q_SLOTS:
         QCOMPARE(desk.Key(u"UTC"_s, u"Time Zone Name Left"_s), u"-1"_s);  // stays automatic
         QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Lato"_s);
         QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Path(u"UTC"_s));
+    }
+
+    void SaveCurrentStyleKeepsTheFontBehindPaintedNumbers_data() {
+        QTest::addColumn<QString>("numbers");
+        QTest::newRow("Roman") << u"Roman 12"_s;
+        QTest::newRow("True Roman") << u"True Roman 12"_s;
+        QTest::newRow("3D") << u"3D 12"_s;
+        QTest::newRow("captions") << u"Number 12"_s;
+    }
+    void SaveCurrentStyleKeepsTheFontBehindPaintedNumbers() {
+        QFETCH(QString, numbers);
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->SetClockStyle(WriteStyle(
+            desk, u"S.ini"_s,
+            {{u"Hour Number Style"_s, numbers}, {u"Hour Number Font"_s, u"Cantarell"_s}}));
+        desk.Machine.Clock.Advance(1000);
+        clock->SaveCurrentStyle();
+        QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Cantarell"_s);
     }
 
     void SaveCurrentStyleOfAMaximisedClock() {
@@ -292,7 +358,14 @@ private Q_SLOTS:
                  u"Nepal Standard Time: 01/02/2026 16:00:00"_s);
         QTest::keyClick(clock, Qt::Key_C, Qt::ControlModifier);  // not for the calculator
         QCOMPARE(clock->Controls().lblTimeInput(1).Caption, u"Local Time: 1/2/2026 10:15 _"_s);
+        QTest::keyClick(clock, Qt::Key_Home);
+        QTest::keyClicks(clock, u".-"_s);
+        QTest::keyClick(clock, Qt::Key_End);
+        QTest::keyClicks(clock, u"%'"_s);
+        QCOMPARE(clock->Controls().lblTimeInput(1).Tag, u".-1/2/2026 10:15%'"_s);
+        QVERIFY(clock->Controls().lblClock(1).Visible);
         clock->SetClocks(1);  // leaves the input state
+        QVERIFY(!clock->Controls().lblClock(1).Visible);
         QCOMPARE(clock->GetLocation(), u"Nepal Standard Time"_s);
         clock->SetClocks(3);
         QTest::keyClick(clock, Qt::Key_Tab);

@@ -55,6 +55,29 @@ private Q_SLOTS:
         QVERIFY(!clock->Controls().lblMsg(1).Visible);
     }
 
+    // A diamond of 300 by 200: at the message's usual height, 8 pixels down, it is 20 pixels wide.
+    void AMessageRunsInsideTheOutline() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/TimeZones/UTC.ini"_s,
+                               desk.Machine.ReadFile(u"ini/Tempolark.ini"_s)
+                                   .replace("Window Shape=Normal", "Window Shape=Diamond")
+                                   .replace("Window Width=-1", "Window Width=4500")
+                                   .replace("Window Height=-1", "Window Height=3000"));
+        desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,None,0#12:1@Tea is ready\r\n");
+        const frmTempolark* clock = desk.Running(u"UTC"_s);
+        QCOMPARE(clock->PaintedSurface().Image().size(), QSize(300, 200));
+        desk.Machine.Clock.Advance(61 * 1000);
+        const mduUILib::Control& label = clock->Controls().lblMsg(1);
+        QVERIFY(label.Visible);
+        // 0.6 of the width are there from about 0.3 of the height on.
+        QVERIFY(label.Top > 55 && label.Top < 65);
+        for (int step = 0; step < 200; ++step) {
+            desk.Machine.Clock.Advance(100);
+            QVERIFY(label.Left >= 50);
+            QVERIFY(label.Left <= 245);
+        }
+    }
+
     void ClosingWritesTheTimers() {
         Desk desk;
         desk.Machine.WriteFile(TimerPath(u"UTC"_s), "5,red,,None,0#15:30@Later\r\n");

@@ -55,8 +55,8 @@ private Q_SLOTS:
         QTest::newRow("3 in the row") << 3 << QPoint(199, 24) << true;
         QTest::newRow("3 in the column") << 3 << QPoint(49, 99) << true;
         QTest::newRow("3 beyond both") << 3 << QPoint(50, 25) << false;
-        QTest::newRow("4 column 49") << 4 << QPoint(49, 0) << true;
-        QTest::newRow("4 column 50") << 4 << QPoint(50, 99) << false;
+        QTest::newRow("4 column 49") << 4 << QPoint(49, 99) << true;
+        QTest::newRow("4 column 50") << 4 << QPoint(50, 0) << false;
         QTest::newRow("5 first column, upper half") << 5 << QPoint(3, 49) << true;
         QTest::newRow("5 first column, lower half") << 5 << QPoint(3, 50) << false;
         QTest::newRow("5 second column") << 5 << QPoint(12, 99) << false;

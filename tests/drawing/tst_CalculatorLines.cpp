@@ -1,4 +1,5 @@
 #include <QTest>
+#include <functional>
 
 #include "drawing/CalculatorLines.h"
 #include "drawing/LabelText.h"
@@ -55,6 +56,7 @@ struct BlankLines : Lines {
     BlankLines() {
         Calculator.SetCalculatorClock(false);
         Calculator.BeginInput();
+        Face.Window.Status.clear();
     }
 };
 
@@ -93,6 +95,9 @@ private Q_SLOTS:
     void IgnoresOtherKeys();
     void CapsTheText();
     void BeginsAnewInTheLocalLine();
+    void TellsOfEscWhileItStandsStill();
+    void PlacesTheHintBelowTheLines();
+    void TellsOfEscInTheStatusBarWithoutRoom();
     void SurvivesBadInput_data();
     void SurvivesBadInput();
 };
@@ -408,6 +413,66 @@ void tst_CalculatorLines::BeginsAnewInTheLocalLine() {
     lines.Press(37);
     lines.Type(u"1"_s);
     QCOMPARE(lines.Local().Tag, u"15/06/2026 12:00:010"_s);
+}
+
+void tst_CalculatorLines::TellsOfEscWhileItStandsStill() {
+    Lines lines;
+    const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
+    lines.Calculator.SetCalculatorClock(true);
+    QVERIFY(!hint.Visible);
+    for (const auto& leave : std::initializer_list<std::function<void()>>{
+             [&] { lines.Press(27); }, [&] { lines.Calculator.SetCalculatorClock(true); },
+             [&] { lines.Calculator.HideCalculatorClock(); }}) {
+        lines.Calculator.BeginInput();
+        QVERIFY(hint.Visible);
+        QCOMPARE(hint.Caption, u"Esc: present time"_s);
+        lines.Press(13);
+        QVERIFY(hint.Visible);
+        lines.Calculator.SetCalculatorLayout();
+        QVERIFY(hint.Visible);
+        leave();
+        QVERIFY(!hint.Visible);
+        lines.Calculator.SetCalculatorLayout();
+        QVERIFY(!hint.Visible);
+    }
+}
+
+void tst_CalculatorLines::PlacesTheHintBelowTheLines() {
+    Lines lines;
+    const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    QCOMPARE(hint.Font.family(), u"Liberation Sans"_s);
+    QCOMPARE(hint.Font.pointSizeF(), 7.2);  // 0.6 of 12
+    QCOMPARE(hint.ForeColor, 0x0000FF);
+    QVERIFY(qAbs(hint.Left + hint.Width / 2 - 300) <= 1);
+    const float below = hint.Top - lines.Zone().Top - lines.Zone().Height;
+    QVERIFY(qAbs(below - hint.Height / 2) <= 1);
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"40"_s);
+    lines.Calculator.SetCalculatorLayout();
+    QCOMPARE(hint.Font.pointSizeF(), 12.0);
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"6"_s);
+    lines.Calculator.SetCalculatorLayout();
+    QCOMPARE(hint.Font.pointSizeF(), 7.0);
+}
+
+void tst_CalculatorLines::TellsOfEscInTheStatusBarWithoutRoom() {
+    Lines lines;
+    const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
+    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.BeginInput();
+    QCOMPARE(
+        lines.Face.Window.Status,
+        QStringList{u"Type a time. Tab changes the line, Esc goes back to the present time."_s});
+    lines.Face.Window.Resize(600, 60);
+    lines.Calculator.SetCalculatorLayout();
+    QVERIFY(!hint.Visible);
+    lines.Face.Window.Resize(60, 300);
+    lines.Calculator.SetCalculatorLayout();
+    QVERIFY(!hint.Visible);
+    lines.Face.Window.Resize(300, 300);
+    lines.Calculator.SetCalculatorLayout();
+    QVERIFY(hint.Visible);
 }
 
 void tst_CalculatorLines::SurvivesBadInput_data() {

@@ -269,6 +269,87 @@ private Q_SLOTS:
         QVERIFY(between > 0);
     }
 
+    void ClockShapeWithoutAPicture_data() {
+        QTest::addColumn<QString>("shape");
+        QTest::addColumn<QRgb>("corner");
+        QTest::addColumn<QRgb>("top");
+        const QRgb colour = 0xFF64C896;
+        const QRgb shade = 0xFF50A078;
+        QTest::newRow("circle") << u"Circle"_s << shade << colour;
+        QTest::newRow("ellips") << u"Ellips"_s << shade << colour;
+        QTest::newRow("diamond") << u"Diamond"_s << shade << colour;
+        QTest::newRow("octagon") << u"Octagon"_s << shade << colour;
+        QTest::newRow("pentagon") << u"Pentagon"_s << shade << shade;
+        QTest::newRow("normal") << u"Normal"_s << colour << colour;
+        QTest::newRow("unknown") << u"Ellipse"_s << colour << colour;
+    }
+
+    // A plate in the window's colour.
+    void ClockShapeWithoutAPicture() {
+        QFETCH(QString, shape);
+        face_->Window.Colour = 0x96C864;
+        face_->Set(u"Clock Shape"_s, shape);
+        background_->SetClockShape();
+        QCOMPARE(PixelAt(100, 100), 0xFF64C896);
+        QTEST(PixelAt(3, 3), "corner");
+        QTEST(PixelAt(100, 10), "top");
+    }
+
+    void APlateStandsAroundTheCentre() {
+        Make(400, 200);
+        face_->Window.Colour = 0x96C864;
+        face_->Set(u"Clock CentralX(%)"_s, u"25"_s);
+        face_->Set(u"Clock Shape"_s, u"Diamond"_s);
+        background_->SetClockShape();
+        QCOMPARE(PixelAt(10, 100), 0xFF64C896);
+        QCOMPARE(PixelAt(190, 100), 0xFF64C896);
+        QCOMPARE(PixelAt(220, 100), 0xFF50A078);
+    }
+
+    void APlateOnTheWindowsPicture() {
+        face_->Window.Colour = 0x96C864;
+        face_->Set(u"Window Background File"_s, WriteBitmap(u"mat.bmp"_s, Green));
+        face_->Set(u"Clock Shape"_s, u"Circle"_s);
+        background_->ApplySurface();
+        QCOMPARE(PixelAt(100, 100), 0xFF64C896);
+        QCOMPARE(PixelAt(2, 2), 0xFF00C700);
+    }
+
+    void APlateInATransparentWindow() {
+        face_->Window.Colour = 0x96C864;
+        face_->Window.Transparent = true;
+        face_->Set(u"Clock Shape"_s, u"Circle"_s);
+        background_->SetClockShape();
+        QCOMPARE(PixelAt(100, 100), 0xFF5AB487);
+        QCOMPARE(PixelAt(2, 2), 0xFF64C896);
+    }
+
+    void APictureTakesThePlaceOfAPlate() {
+        face_->Window.Colour = 0x00FF00;
+        face_->Set(u"Clock Shape"_s, u"Circle"_s);
+        LoadDial(Blue);
+        QCOMPARE(PixelAt(100, 100), Blue);
+        QCOMPARE(PixelAt(2, 2), Green);
+        face_->Set(u"Clock Image File"_s, u"None"_s);
+        background_->LoadClockPicture();
+        QCOMPARE(PixelAt(100, 100), Green);
+        QCOMPARE(PixelAt(2, 2), 0xFF00CC00);
+    }
+
+    // The first picture comes in over the plate, on the plain colour.
+    void AWipeBeginsWithThePlate() {
+        face_->Window.Colour = 0x00FF00;
+        face_->Set(u"Clock Shape"_s, u"Circle"_s);
+        WriteBitmap(u"images/Background/a.bmp"_s, Blue);
+        background_->SetClockShape();
+        background_->ShowAutoBackground();
+        face_->Machine.Clock.Advance(256);  // 102 rows of 200
+        QCOMPARE(PixelAt(100, 50), Blue);
+        QCOMPARE(PixelAt(2, 2), Green);
+        QCOMPARE(PixelAt(100, 150), Green);
+        QCOMPARE(PixelAt(2, 197), 0xFF00CC00);
+    }
+
     void ColourKey_data() {
         QTest::addColumn<QString>("colour");
         QTest::addColumn<QString>("shape");
@@ -423,6 +504,21 @@ private Q_SLOTS:
         QVERIFY(face_->Window.Status.isEmpty());
     }
 
+    // Whatever is loaded by its name takes its turn, too.
+    void RotationTakesEveryKindOfPicture() {
+        face_->Set(u"Clock Image File"_s, WriteBitmap(u"pictures/1.bmp"_s, Red));
+        WriteBitmap(u"pictures/2.png"_s, Green);
+        WriteBitmap(u"pictures/3.JPEG"_s, Blue);
+        WriteBitmap(u"pictures/4.jpg"_s, White);
+        WriteBitmap(u"pictures/5png"_s, Red);
+        background_->LoadClockPicture();
+        QCOMPARE(Change(), Green);
+        QCOMPARE(Change(), Blue);
+        QCOMPARE(Change(), White);
+        QCOMPARE(Change(), Red);
+        QCOMPARE(Change(), Green);
+    }
+
     void ASinglePictureStays() {
         face_->Set(u"Clock Image File"_s, WriteBitmap(u"pictures/1.bmp"_s, Red));
         background_->LoadClockPicture();
@@ -466,12 +562,13 @@ private Q_SLOTS:
     void WipesComeInTurn() {
         LoadFirstOfThree();
         // After 256 ms of 500 each mode has revealed another part. Probed: the top right, the
-        // bottom left, the bottom of a column of mode 5 that has come down.
-        const QList<QList<bool>> revealed = {{true, false, false},
-                                             {false, true, true},
-                                             {true, true, true},
-                                             {false, true, true},
-                                             {false, true, true}};
+        // bottom left, and the bottom of a column of mode 5 that has not begun; then whether a grey
+        // band runs down before the middle.
+        const QList<QList<bool>> revealed = {{true, false, false, false},
+                                             {false, true, true, true},
+                                             {true, true, true, false},
+                                             {false, true, true, false},
+                                             {false, true, false, false}};
         for (int turn = 0; turn < 6; ++turn) {
             const QRgb before = PixelAt(100, 100);
             background_->ShowAutoBackground();
@@ -480,7 +577,8 @@ private Q_SLOTS:
             const QList<bool>& mode = revealed[turn % 5];
             QCOMPARE(image.pixel(196, 5) != before, mode[0]);
             QCOMPARE(image.pixel(3, 196) != before, mode[1]);
-            QCOMPARE(image.pixel(20, 196) != before, mode[2]);
+            QCOMPARE(image.pixel(12, 190) != before, mode[2]);
+            QCOMPARE(image.pixel(110, 190) != before && image.pixel(130, 190) == before, mode[3]);
             face_->Machine.Clock.Advance(400);
         }
     }

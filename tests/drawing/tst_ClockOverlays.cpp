@@ -296,6 +296,130 @@ private Q_SLOTS:
         QVERIFY(face.Controls.imgSpeaker(1).Visible);
     }
 
+    // In a window of 200 by 200 the ellipse reaches from 10 to 189, and down to 189.
+    void OutlineBringsThemInside_data() {
+        QTest::addColumn<QString>("shape");
+        QTest::addColumn<QString>("flag");
+        for (const QString& shape :
+             {u"Circle"_s, u"Ellips"_s, u"Diamond"_s, u"Pentagon"_s, u"Hexagon"_s, u"Octagon"_s}) {
+            for (const QString& flag :
+                 {u"Top right"_s, u"Top left"_s, u"Bottom right"_s, u"Bottom left"_s}) {
+                QTest::addRow("%s %s", qPrintable(shape), qPrintable(flag)) << shape << flag;
+            }
+        }
+    }
+    void OutlineBringsThemInside() {
+        QFETCH(QString, shape);
+        QFETCH(QString, flag);
+        Overlaid face;
+        face.WriteFlag();
+        face.Set(u"Window Shape"_s, shape);
+        face.Set(u"Flag Position"_s, flag);
+        face.Window.Transparent = true;
+        face.Controls.imgSpeaker(1).Visible = true;
+        face.Part.LoadFlag();
+        face.Part.LayOutOverlays();
+        face.Part.SetLocationLabel();
+        const drawing::SeenArea seen =
+            drawing::SeenThrough(shape, drawing::MeasuresOf(face.Window));
+        for (const int minute : {0, 60, 150, 270, 330, 400, 520, 580, 640, 719}) {
+            face.SetTime(minute / 60, minute % 60, 0);
+            face.Part.SetSunMoon();
+            const QList<QRectF> places = {RectOf(face.Flag()), RectOf(face.Controls.shpArea(1)),
+                                          RectOf(face.Controls.imgSpeaker(1)),
+                                          RectOf(face.Controls.imgSunMoon(0))};
+            for (const QRectF& place : places) {
+                QVERIFY(seen.Holds(place));
+                for (const QRectF& other : places) {
+                    QVERIFY(place == other || !place.intersects(other));
+                }
+            }
+        }
+        QVERIFY(seen.Holds(RectOf(face.Controls.lblLocation(1))));
+    }
+
+    // A diamond's edge runs from (2, 100) to (100, 198): where it crosses the diagonal, at (51,
+    // 149), the corner of what comes along there stays, 3 pixels about it included.
+    void OutlineBringsThemNoFurther() {
+        Overlaid face;
+        face.Set(u"Window Shape"_s, u"Diamond"_s);
+        face.Part.LayOutOverlays();
+        QCOMPARE(RectOf(face.Controls.imgSpeaker(1)), QRectF(54, 132, 14, 14));
+        face.Set(u"Window Shape"_s, u"Normal"_s);
+        face.Part.LayOutOverlays();
+        QCOMPARE(RectOf(face.Controls.imgSpeaker(1)), QRectF(4, 182, 14, 14));
+    }
+
+    void OutlineLeavesThePlaceOfTheUser_data() {
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<QString>("top");
+        QTest::newRow("both") << u"2"_s << u"3"_s;
+        QTest::newRow("left") << u"2"_s << u"-1"_s;
+        QTest::newRow("top") << u"-1"_s << u"3"_s;
+    }
+    void OutlineLeavesThePlaceOfTheUser() {
+        QFETCH(QString, left);
+        QFETCH(QString, top);
+        Overlaid face;
+        face.Window.Transparent = true;
+        for (const QString& what :
+             {u"Speaker Image "_s, u"Transparent Icon "_s, u"Time Zone Name "_s}) {
+            face.Set(what + u"Left"_s, left);
+            face.Set(what + u"Top"_s, top);
+        }
+        face.Location();
+        const QRectF name = RectOf(face.Location());
+        const QRectF speaker = RectOf(face.Controls.imgSpeaker(1));
+        const QRectF handle = RectOf(face.Controls.shpArea(1));
+        face.Set(u"Window Shape"_s, u"Diamond"_s);
+        QCOMPARE(RectOf(face.Location()), name);
+        QCOMPARE(RectOf(face.Controls.imgSpeaker(1)), speaker);
+        QCOMPARE(RectOf(face.Controls.shpArea(1)), handle);
+    }
+
+    void OutlineFollowsTheWindow() {
+        Overlaid face;
+        face.Set(u"Window Shape"_s, u"Diamond"_s);
+        face.SetTime(12, 0, 0);
+        face.Part.LayOutOverlays();
+        face.Part.SetSunMoon();
+        QCOMPARE(face.Controls.imgSunMoon(1).Left, 20.0F);  // 2, half of its height, 3 twice
+        face.Window.Resize(400, 400);
+        face.Part.SetSunMoon();
+        QCOMPARE(face.Controls.imgSunMoon(1).Left, 22.0F);
+    }
+
+    void OutlineKeepsThemClearOfTheDigits() {
+        Overlaid face;
+        face.WriteFlag();
+        face.Set(u"Window Shape"_s, u"Diamond"_s);
+        face.Part.LayOutOverlays();
+        face.Part.LoadFlag();
+        const QRectF digits(20, 55, 160, 50);
+        QVERIFY(RectOf(face.Flag()).intersects(digits));
+        mduUILib::Control& digit = face.Controls.lblDigitalNumber(3);
+        digit.Left = 20;
+        digit.Top = 55;
+        digit.Width = 160;
+        digit.Height = 50;
+        digit.Visible = true;
+        face.Part.LoadFlag();
+        QVERIFY(!RectOf(face.Flag()).intersects(digits));
+    }
+
+    void OutlineMakesALongNameSmaller() {
+        Overlaid face(400, 200);
+        face.Set(u"Clocks"_s, u"Digital"_s);
+        face.Controls.lblLocation(1).Caption = u"Pacific Standard Time"_s;
+        const double plain = face.Location().Font.pointSizeF();
+        face.Set(u"Window Shape"_s, u"Diamond"_s);
+        const mduUILib::Control& label = face.Location();
+        QVERIFY(label.Font.pointSizeF() < plain);
+        QVERIFY(label.Font.pointSizeF() > 6);
+        face.Set(u"Time Zone Label Size"_s, u"10"_s);
+        QCOMPARE(face.Location().Font.pointSizeF(), 10.0);
+    }
+
     void HandleShowsWhileTransparent() {
         Overlaid face;
         face.Part.SetTransparentIconPosition();

@@ -86,6 +86,8 @@ private Q_SLOTS:
     void GoesUpAndDown();
     void WavesUpAndDown();
     void Waves();
+    void WavesAreRounded_data();
+    void WavesAreRounded();
     void ReadsTheSpecialAtEachSecond();
     void ShowsANewLayoutAtOnce();
     void BeginsEachSecondWhereTheLastEnds();
@@ -194,6 +196,8 @@ void tst_DigitalReadOut::TellsTheTravel() {
     Digits digits;
     digits.Label(1).Height = 31;
     QCOMPARE(digits.ReadOut.GetDigitalTravel(), 184);  // 184.5 to the even number
+    digits.Label(1).Height = 29;
+    QCOMPARE(digits.ReadOut.GetDigitalTravel(), 186);  // 185.5
     digits.Label(1).Height = 30;
     QCOMPARE(digits.ReadOut.GetDigitalTravel(), 185);
 }
@@ -423,6 +427,42 @@ void tst_DigitalReadOut::Waves() {
     QCOMPARE(digits.Face.Window.Shows, 49);
     QVERIFY(qAbs(digits.Label(1).Top - 79.876F) < 0.01F);  // 60 + 23 sin(6.28/6 + 6.28)
     QVERIFY(qAbs(digits.Label(6).Top - 59.853F) < 0.01F);  // 60 + 23 sin(6.28 + 6.28)
+}
+
+// The travel is 200 less half the height. Its fifth or eighth is rounded half to even, and so is
+// the line that the digits move around.
+void tst_DigitalReadOut::WavesAreRounded_data() {
+    QTest::addColumn<QString>("special");
+    QTest::addColumn<QString>("centralY");
+    QTest::addColumn<float>("height");
+    QTest::addColumn<float>("top");  // of label 1 at the first step that moves it
+    const QString together = u"Digital Up Down Wave"_s;
+    const QString wave = u"Digital Wave"_s;
+    const QString sixty = u"30"_s;
+    // sin(2 * -24 * pi / 50) is -0.12533, sin(6.28 / 6 + 6.28 / 50) is 0.92165
+    QTest::newRow("a fifth of 188 is 38") << together << sixty << 24.0F << 55.237F;
+    QTest::newRow("a fifth of 187 is 37") << together << sixty << 26.0F << 55.363F;
+    QTest::newRow("an eighth of 188 is 24") << wave << sixty << 24.0F << 82.120F;
+    QTest::newRow("an eighth of 180 is 22") << wave << sixty << 40.0F << 80.276F;
+    QTest::newRow("around 61") << wave << u"30.3"_s << 30.0F << 82.198F;
+}
+
+void tst_DigitalReadOut::WavesAreRounded() {
+    QFETCH(QString, special);
+    QFETCH(QString, centralY);
+    QFETCH(float, height);
+    QFETCH(float, top);
+    Digits digits;
+    digits.Face.Set(u"Clock Special"_s, special);
+    digits.Face.Set(u"Digital Clock CentralY(%)"_s, centralY);
+    digits.ReadOut.SetDigitalLayout();
+    digits.Label(1).Height = height;
+    digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
+    if (special == u"Digital Up Down Wave"_s) {
+        digits.Face.Machine.Clock.Advance(2);  // k is -24
+    }
+    QVERIFY2(qAbs(digits.Label(1).Top - top) < 0.01F,
+             qPrintable(QString::number(static_cast<double>(digits.Label(1).Top))));
 }
 
 void tst_DigitalReadOut::ReadsTheSpecialAtEachSecond() {

@@ -4,7 +4,10 @@
 
 using namespace Qt::StringLiterals;
 using drawing::EditTitleKey;
+using drawing::EndKey;
+using drawing::HomeKey;
 using drawing::TitleCaret;
+using drawing::TypedKey;
 
 class tst_TitleEdit : public QObject {
     Q_OBJECT
@@ -66,6 +69,15 @@ void tst_TitleEdit::Edits_data() {
     QTest::newRow("deletes before") << Keys{8} << u"ab"_s << u"ab _"_s;
     QTest::newRow("deletes before, within") << Keys{37, 8} << u"ac"_s << u"a_"_s;
     QTest::newRow("deletes nothing at the start") << Keys{37, 37, 37, 8} << u"abc"_s << u"_bc"_s;
+    QTest::newRow("types %") << Keys{TypedKey(u'%')} << u"abc%"_s << u"abc% _"_s;
+    QTest::newRow("types '") << Keys{TypedKey(u'\'')} << u"abc'"_s << u"abc' _"_s;
+    QTest::newRow("types -") << Keys{TypedKey(u'-')} << u"abc-"_s << u"abc- _"_s;
+    QTest::newRow("types .") << Keys{37, TypedKey(u'.')} << u"ab.c"_s << u"ab._"_s;
+    QTest::newRow("types a letter") << Keys{TypedKey(u'Ж')} << u"abcЖ"_s << u"abcЖ _"_s;
+    QTest::newRow("the codes of # and $ are typed") << Keys{35, 36} << u"abc#$"_s << u"abc#$ _"_s;
+    QTest::newRow("home") << Keys{HomeKey} << u"abc"_s << u"_bc"_s;
+    QTest::newRow("end") << Keys{HomeKey, EndKey} << u"abc"_s << u"abc _"_s;
+    QTest::newRow("types between") << Keys{HomeKey, 'x', EndKey, 'y'} << u"xabcy"_s << u"xabcy _"_s;
     QTest::newRow("deletes all") << Keys{8, 8, 8, 8} << QString() << u" _"_s;
 }
 
@@ -103,6 +115,10 @@ void tst_TitleEdit::IgnoresOtherControlKeys_data() {
     for (const int key : {-1, 0, 1, 9, 16, 27, 31, 127, 0x85, 0xD800, 0x10000, 0x7FFFFFFF}) {
         QTest::addRow("%d", key) << key;
     }
+    QTest::newRow("a typed Esc") << TypedKey(QChar(27));
+    QTest::newRow("a typed half") << TypedKey(QChar(0xD800));
+    QTest::newRow("beyond those typed") << 0x1010041;
+    QTest::newRow("another key") << 0x2000025;
 }
 
 void tst_TitleEdit::IgnoresOtherControlKeys() {

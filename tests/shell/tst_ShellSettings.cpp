@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QTest>
 
+#include "clock/ui/frmTempolark.h"
 #include "foundation/PropertyLookup.h"
 #include "shell/ShellDesk.h"
 #include "shell/ui/ClockArea.h"
@@ -239,6 +240,38 @@ private Q_SLOTS:
         QVERIFY(desk.Shell->isVisible());
         QVERIFY(desk.HeaderShows());
         desk.Stop();
+    }
+
+    // "Transparent" leaves the shell's colour as it is: at the start that of the default file, and
+    // the clocks that show it through have it from their first paint on.
+    void TransparentLeavesTheColour() {
+        class FirstColours final : public QObject {
+        public:
+            QList<QRgb> Seen;
+            bool eventFilter(QObject* watched, QEvent* event) override {
+                const auto* clock = dynamic_cast<const frmTempolark*>(watched);
+                if (event->type() == QEvent::Paint && clock != nullptr) {
+                    Seen += clock->PaintedSurface().Image().pixel(1, 1);
+                }
+                return false;
+            }
+        };
+        const QRgb stock = qRgb(0x3D, 0x5A, 0x80);  // 8411709
+        Desk desk;
+        Write(desk, "Window Background Colour=Transparent\r\n");
+        desk.Machine.WriteFile(u"ini/Tempolark.ini"_s,
+                               desk.Machine.ReadFile(u"ini/Tempolark.ini"_s)
+                                   .replace("Window Background Colour=15397106",
+                                            "Window Background Colour=Transparent"));
+        desk.Zone(u"UTC"_s);
+        QVERIFY(desk.Start());
+        QCOMPARE(desk.Shell->BackColor(), 8411709);
+        FirstColours colours;
+        qApp->installEventFilter(&colours);
+        desk.Shell->LaunchTempolark(u"UTC"_s);
+        desk.Settle();
+        QTRY_VERIFY(!colours.Seen.isEmpty());
+        QCOMPARE(colours.Seen, QList<QRgb>(colours.Seen.size(), stock));
     }
 
     void ACustomColourInTheFileAsksNobody() {

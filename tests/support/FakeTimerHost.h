@@ -26,6 +26,7 @@ public:
     int Height = 300;
     ClockProperties Properties;
     std::function<void()> WhileSpeaking;  ///< what the user does in the meantime
+    std::function<std::optional<QRectF>(double top, double height, double width)> Outline;
 
     void SpeakMessage(const QString& text, int flags, bool force) override {
         Events += QStringLiteral("speak:") + text;
@@ -52,6 +53,9 @@ public:
     int BackColor() const override { return Colour; }
     double DevicePixelRatio() const override { return Ratio; }
     int ScaleHeight() const override { return Height; }
+    std::optional<QRectF> RowInOutline(double top, double height, double width) const override {
+        return Outline ? Outline(top, height, width) : std::nullopt;
+    }
     ClockProperties& EditProperties() override { return Properties; }
 
     bool Forced = true;  ///< all speech was forced, with the flags 0

@@ -48,6 +48,8 @@ private Q_SLOTS:
     void TypesAndMoves();
     void IsEatenAtTheLeft();
     void StartsAnew();
+    void RunsInARowOfTheOutline();
+    void CountsDownInARowOfTheOutline();
     void StepsByTheSpeed_data();
     void StepsByTheSpeed();
     void KeepsWholeCharacters();
@@ -171,6 +173,50 @@ void tst_ClockMessages::StartsAnew() {
     QCOMPARE(desk.Messages.MessageCursor(), 0);
     desk.Run();
     QCOMPARE(desk.Label().Caption, u"  C"_s);
+}
+
+// It asks for 0.6 of the face's width, at its own height, from 0.04 of the face's height on.
+void tst_ClockMessages::RunsInARowOfTheOutline() {
+    MessageDesk desk;
+    QList<QRectF> asked;
+    desk.Host.Outline = [&asked](double top, double height, double width) {
+        asked += QRectF(0, top, width, height);
+        return QRectF(100, 50, 260, 20);
+    };
+    desk.Messages.ShowMessage(u"Tea"_s);
+    desk.Run();
+    QCOMPARE(asked, QList<QRectF>{QRectF(0, 12, 240, 20)});
+    QCOMPARE(desk.Label().Top, 50.0F);
+    QCOMPARE(desk.Label().Left, 358.0F);  // 2 before the end at 360
+    desk.Run(52);
+    QCOMPARE(desk.Label().Left, 98.0F);
+    QCOMPARE(desk.Label().Caption.trimmed(), u"Tea"_s);
+    desk.Run(5);  // eaten: first the blanks in front of it, a pixel to the right with each
+    QVERIFY(desk.Label().Caption.trimmed().size() < 3);
+    QVERIFY(desk.Label().Left > 95);
+}
+
+// Its mark, 4 pixels, and "Lock Workstation 120" of 10 for each character; the row below the
+// message's.
+void tst_ClockMessages::CountsDownInARowOfTheOutline() {
+    MessageDesk desk;
+    QList<QRectF> asked;
+    desk.Host.Outline = [&asked](double top, double height, double width) {
+        asked += QRectF(0, top, width, height);
+        return asked.size() % 2 == 1 ? QRectF(100, 50, 260, 24) : QRectF(60, 90, 300, 24);
+    };
+    desk.Controls.imgAction(1).Width = 16;
+    desk.Controls.imgAction(1).Height = 16;
+    desk.Count(u"Lock Workstation"_s, 2);
+    desk.Run();
+    QCOMPARE(desk.ActionLabel().Caption, u"Lock Workstation 120"_s);
+    QCOMPARE(asked.size(), 4);
+    QCOMPARE(asked[2], QRectF(0, 12, 240, 24));
+    QCOMPARE(asked[3], QRectF(0, 74, 220, 24));
+    QCOMPARE(desk.Controls.imgAction(1).Left, 100.0F);  // in the middle of 60 to 360
+    QCOMPARE(desk.ActionLabel().Left, 120.0F);
+    QCOMPARE(desk.ActionLabel().Top, 90.0F);
+    QCOMPARE(desk.Controls.imgAction(1).Top, 92.0F);
 }
 
 void tst_ClockMessages::StepsByTheSpeed_data() {

@@ -171,6 +171,7 @@ private:
     void PlaceMark(int slot, int spot, int place) override;
     double DevicePixelRatio() const override { return surface_->DevicePixelRatio(); }
     int ScaleHeight() const override { return surface_->ScaleHeight(); }
+    std::optional<QRectF> RowInOutline(double top, double height, double width) const override;
     ClockProperties& EditProperties() override { return data_.EditProperties(); }
     bool IsActiveClock() const override;
     void SetSpeakerPicture(int number) override;

@@ -53,6 +53,7 @@ void frmTempolark::TakeSurface() {
     if (running) {
         LayOutFace();
         tick_.RequestRedraw();
+        overlays_.LayOutOverlays();
         face_.DrawClockFace();
     }
 }
@@ -62,7 +63,6 @@ void frmTempolark::TakeSurface() {
 void frmTempolark::LayOutFace() {
     background_.ApplySurface();
     dial_.DrawDialNumbers(data_.IsAnalogue(), {}, false);
-    overlays_.LayOutOverlays();
 }
 
 // The surface holds the whole picture. A part that we did not change ourselves has come to light:

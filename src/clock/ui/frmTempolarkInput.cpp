@@ -9,41 +9,42 @@
 #include "clock/ClockMode.h"
 #include "clock/ui/frmTempolark.h"
 #include "drawing/StockPictures.h"
+#include "drawing/TitleEdit.h"
 #include "platform/SpeechFlags.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The control keys of the calculator.
+constexpr struct {
+    Qt::Key Key;
+    int Code;
+} ControlKeys[] = {
+    {Qt::Key_Tab, 9},
+    {Qt::Key_Backtab, 9},
+    {Qt::Key_Backspace, 8},
+    {Qt::Key_Return, 13},
+    {Qt::Key_Enter, 13},
+    {Qt::Key_Escape, 27},
+    {Qt::Key_Left, 37},
+    {Qt::Key_Right, 39},
+    {Qt::Key_Insert, 45},
+    {Qt::Key_Delete, 46},
+    {Qt::Key_Home, drawing::HomeKey},
+    {Qt::Key_End, drawing::EndKey},
+};
+
 /// The calculator's code of a key: that of a control key, or of the character typed. 0 for a key
 /// that means nothing to it.
 int CalculatorKey(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-            return 9;
-        case Qt::Key_Backspace:
-            return 8;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return 13;
-        case Qt::Key_Escape:
-            return 27;
-        case Qt::Key_Left:
-            return 37;
-        case Qt::Key_Right:
-            return 39;
-        case Qt::Key_Insert:
-            return 45;
-        case Qt::Key_Delete:
-            return 46;
-        default:
-            break;
+    for (const auto& control : ControlKeys) {
+        if (control.Key == event.key()) {
+            return control.Code;
+        }
     }
-    // Four signs share their codes with keys above; no date or time needs them.
     const QString text = event.text();
-    const int code = text.isEmpty() || !text[0].isPrint() ? 0 : text[0].unicode();
-    return code == 37 || code == 39 || code == 45 || code == 46 ? 0 : code;
+    return text.isEmpty() || !text[0].isPrint() ? 0 : drawing::TypedKey(text[0]);
 }
 
 constexpr int CursorSide = 16;  // logical pixels

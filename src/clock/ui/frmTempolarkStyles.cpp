@@ -99,7 +99,8 @@ void frmTempolark::ApplyNextStyle() {
 }
 
 // "Clock Special" and all that was chosen by name is in the properties already; places and fonts
-// may have been changed on the face itself.
+// may have been changed on the face itself. Behind painted numbers twelve o'clock's label is a mere
+// target, and its font nobody's.
 void frmTempolark::StoreFontState() {
     ClockProperties& properties = data_.EditProperties();
     const mduUILib::Control& location = controls_.lblLocation(1);
@@ -115,7 +116,8 @@ void frmTempolark::StoreFontState() {
         storePlace(u"Time Zone Name Top"_s, location.Top);
     }
     const QString numberFont = controls_.lblHour(60).Font.family();
-    if (data_.IsAnalogue() && controls_.lblHour(60).Visible && !numberFont.isEmpty()) {
+    const bool hasCaptions = data_.IsAnalogue() && !dial_.NumbersArePainted();
+    if (hasCaptions && controls_.lblHour(60).Visible && !numberFont.isEmpty()) {
         mduLib::PutProperty(u"Hour Number Font"_s, numberFont, properties);
     }
 }

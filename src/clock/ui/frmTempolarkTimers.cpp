@@ -1,6 +1,7 @@
 // What timers, messages, actions and speech ask of their clock.
 #include "clock/ui/frmTempolark.h"
 #include "drawing/LabelText.h"
+#include "drawing/SeenArea.h"
 #include "drawing/StockPictures.h"
 #include "drawing/TimerMarks.h"
 
@@ -45,6 +46,12 @@ void frmTempolark::PlaceMark(int slot, int spot, int place) {
     mark.Width = mark.Height = static_cast<float>(side);
     mark.Left = static_cast<float>(at.x());
     mark.Top = static_cast<float>(at.y());
+}
+
+std::optional<QRectF> frmTempolark::RowInOutline(double top, double height, double width) const {
+    const QRect surface(0, 0, surface_->ScaleWidth(), surface_->ScaleHeight());
+    const drawing::SeenArea seen(outline_.translated(-SurfaceOffset()) & surface);
+    return seen.RowFor(top, height, width);
 }
 
 bool frmTempolark::IsActiveClock() const {

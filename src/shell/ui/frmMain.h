@@ -153,8 +153,8 @@ private:
 
     Program program_;
     int handle_;
-    int shellStage_ = 2;  ///< 2 until the first tick of timerCtrl, 3 for the next, then 1
-    int backColour_ = 0;
+    int shellStage_ = 2;        ///< 2 until the first tick of timerCtrl, 3 for the next, then 1
+    int backColour_ = 8411709;  ///< until a setting names one, that of the default file
     QSize normalSize_;
     QRect appliedPlace_;  ///< where the settings have put the window; null: not yet
     QString newClockTag_ = QStringLiteral("False");
