@@ -69,6 +69,9 @@ void frmMain::MakeInnerParts() {
                             {[this](const QString& menu) { RefreshMenu(menu); },
                              [this](const QString& name, int index) { ClickMenu(name, index); }});
     menus_->AddTo(*menuBar());
+    menuBar()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(menuBar(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { menus_->Popup(u"BarsMenu"_s, menuBar()->mapToGlobal(at)); });
     HandleFileMenus();
     HandleCentralMenus();
     HandleClockMenus();

@@ -105,6 +105,7 @@ private:
     void ApplyTitleBar(bool shown);
     void ApplyToolbarPosition(const QString& value);
     void ApplyStatusBarPosition(const QString& value);
+    void ShowStatusBarAgain();
     void ApplyBackgroundFile();
     int StoredWindowState() const;
     void LayOutHidden();
@@ -125,6 +126,8 @@ private:
     void FillFileMenu();
     void FillOpenedAction();
     void RefreshAgentMenu();
+    void RefreshBarMenus();
+    void MarkItem(const QString& list, const QString& caption);
     void RefreshCentralMenu();
     void RefreshMainMenu();
     void RefreshWindowMenu();

@@ -110,6 +110,17 @@ void frmMain::ApplyStatusBarPosition(const QString& value) {
     statusBar_->setVisible(place.Visible);
 }
 
+// Where the settings have it; settings that hide it change.
+void frmMain::ShowStatusBarAgain() {
+    const QString stored = Setting(u"Status Bar"_s);
+    if (shell::StatusBarPosition(stored).Visible) {
+        ApplyStatusBarPosition(stored);
+    } else {
+        ApplyStatusBarPosition(u"Yes"_s);
+        WriteSetting(u"Status Bar"_s, u"Yes"_s);
+    }
+}
+
 void frmMain::ApplyBackgroundFile() {
     const QString stored = Setting(u"Window Background File"_s);
     const QString path = mduLib::ResolveAppPath(stored.trimmed(), program_.Module.Paths.AppFolder);
