@@ -97,6 +97,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("align");
         QTest::addColumn<int>("width");  // -1: as wide as the window
         QTest::newRow("bottom") << QByteArray("Yes") << true << 2 << -1;
+        QTest::newRow("small letters") << QByteArray("yes") << true << 2 << -1;
+        QTest::newRow("zero") << QByteArray("0") << true << 2 << -1;
         QTest::newRow("top") << QByteArray("Top") << true << 1 << -1;
         QTest::newRow("left, 255 twips") << QByteArray("Left") << true << 3 << 17;
         QTest::newRow("none") << QByteArray("No") << false << 2 << 0;
@@ -115,6 +117,42 @@ private Q_SLOTS:
         QCOMPARE(bar->AlignCode(), align);
         if (visible) {
             QCOMPARE(bar->width(), width < 0 ? 600 : width);
+        }
+    }
+
+    void AMissingStatusBarKeyReadsAsYes() {
+        Desk desk;
+        Write(desk, "Tool Bar=Top\r\n");
+        QVERIFY(desk.Start());
+        QVERIFY(desk.Shell->findChild<StatusBar*>()->isVisible());
+        QCOMPARE(desk.Caption(u"HideStatusBar"_s), u"Hide Status Bar"_s);
+    }
+
+    void AnUnknownToolBarLeavesTheBar_data() {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<bool>("visible");
+        QTest::addColumn<int>("align");
+        QTest::newRow("at the start") << QString() << true << 1;
+        QTest::newRow("right") << u"Right"_s << true << 4;
+        QTest::newRow("left, hidden") << u"Left:Hide"_s << false << 3;
+    }
+
+    void AnUnknownToolBarLeavesTheBar() {
+        QFETCH(QString, before);
+        QFETCH(bool, visible);
+        Desk desk;
+        Write(desk, "Tool Bar=Middle\r\nToolbar Size=Small Size\r\n");
+        QVERIFY(desk.Start());
+        const auto* bar = desk.Shell->findChild<ToolBar*>();
+        QCOMPARE(bar->frameShape(), QFrame::StyledPanel);
+        for (const QString& value : {before, u"Middle"_s}) {
+            mduLib::PutProperty(u"Tool Bar"_s, value, desk.Module.CurrentProperties);
+            desk.Shell->RefreshForm({});
+        }
+        QCOMPARE(bar->isVisible(), visible);
+        QTEST(bar->AlignCode(), "align");
+        if (visible && bar->AlignCode() == 1) {
+            QCOMPARE(bar->geometry(), QRect(0, 0, 600, 32));  // 480 twips high
         }
     }
 

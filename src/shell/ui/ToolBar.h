@@ -80,7 +80,7 @@ private:
     QString pictureFolder_;
     Hooks hooks_;
     QString sizeName_;
-    int align_;
+    int align_ = 0;
     std::vector<Slot> slots_;
     shell::ToolRow row_;
     int dragLast_ = 0;  ///< where the pointer was along the bar; 0: no drag is under way

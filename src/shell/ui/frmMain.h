@@ -85,6 +85,7 @@ private:
     void MakeHeader();
     bool LaunchNamedClock();
     void TellUnreadableLists();
+    void TellBrokenSettings();
     void ExitShell();
     bool SaveOpenedForms();
 

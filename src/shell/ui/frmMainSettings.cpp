@@ -9,6 +9,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/SettingsFile.h"
 #include "foundation/Twips.h"
 #include "shell/CentralSettings.h"
 #include "shell/ClockCommands.h"
@@ -92,13 +93,16 @@ void frmMain::ApplyTitleBar(bool shown) {
 }
 
 void frmMain::ApplyToolbarPosition(const QString& value) {
-    const shell::ToolbarPlace place = shell::ToolbarPosition(value);
-    if (place.Align != shell::Align::Unsaid) {
-        toolbar_->SetAlign(place.Align);
-        frame_->PlaceToolbar(place.Align);
+    const std::optional<shell::ToolbarPlace> place = shell::ToolbarPosition(value);
+    if (!place) {
+        return;
     }
-    toolbar_->SetBorder(place.Border);
-    toolbar_->setVisible(place.Visible);
+    if (place->Align != shell::Align::Unsaid) {
+        toolbar_->SetAlign(place->Align);
+        frame_->PlaceToolbar(place->Align);
+    }
+    toolbar_->SetBorder(place->Border);
+    toolbar_->setVisible(place->Visible);
 }
 
 void frmMain::ApplyStatusBarPosition(const QString& value) {
@@ -242,7 +246,8 @@ void frmMain::WriteSetting(const QString& key, const QString& value) {
 }
 
 void frmMain::WriteSettings() {
-    if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, centralProperties_, IniFile())) {
+    if (!mduMain::ReplaceSettings(program_.Services.FileSystem, centralProperties_, IniFile(),
+                                  DefaultIniFile())) {
         ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
     }
 }
@@ -262,8 +267,10 @@ void frmMain::SaveToolbarLayout() {
 
 void frmMain::SaveWindowPlacement() {
     // What the property window saved meanwhile stays.
+    const platform::Files& files = program_.Services.FileSystem;
     ClockProperties fresh;
-    if (mduLib::ReadPropertyFile(program_.Services.FileSystem, IniFile(), fresh)) {
+    if (!mduMain::IsBrokenSettings(files, IniFile(), DefaultIniFile()) &&
+        mduLib::ReadPropertyFile(files, IniFile(), fresh)) {
         centralProperties_ = fresh;
     }
     if (WindowState() == 0) {
