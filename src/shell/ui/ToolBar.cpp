@@ -191,6 +191,16 @@ void ToolBar::PlaceButtons() {
         }
         along += extent;
     }
+    hooks_.Hover(0);
+}
+
+int ToolBar::ButtonAt(const QPoint& place) const {
+    for (int i = 1; i <= row_.Count(); ++i) {
+        if (Button(i) != nullptr && row_.IsVisible(i) && Button(i)->geometry().contains(place)) {
+            return i;
+        }
+    }
+    return 0;
 }
 
 int ToolBar::LastEdge() const {
