@@ -236,11 +236,13 @@ private Q_SLOTS:
         desk.Machine.Clock.Advance(10);
         QCOMPARE(area->Picture().size(), QSize(20, 10));
         QCOMPARE(area->viewport()->grab().toImage().pixelColor(3, 3), QColor(Qt::green));
+        QVERIFY(desk.Shell->findChild<HeaderArt*>()->IsOverPicture());
         desk.Stop();
         QVERIFY(QFile::remove(file));
         QVERIFY(desk.Start());
         desk.Machine.Clock.Advance(10);
         QVERIFY(desk.Shell->findChild<ClockArea*>()->Picture().isNull());
+        QVERIFY(!desk.Shell->findChild<HeaderArt*>()->IsOverPicture());
     }
 
     void AWindowOffEveryScreenComesBack_data() {

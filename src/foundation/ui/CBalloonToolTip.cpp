@@ -5,6 +5,7 @@
 #include <QToolTip>
 #include <utility>
 
+#include "foundation/Contrast.h"
 #include "foundation/Numbers.h"
 #include "foundation/Twips.h"
 
@@ -12,11 +13,6 @@ namespace {
 
 QColor FromColour(int colour) {
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
-}
-
-/// What can be read on a colour that was set without one for its text.
-QColor Readable(const QColor& back) {
-    return qGray(back.rgb()) < 128 ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 }  // namespace
@@ -171,7 +167,7 @@ BalloonLook CBalloonToolTip::Look() const {
                      style_ == 1};
     if (backColor_ != Unset) {
         look.Back = FromColour(backColor_);
-        look.Fore = Readable(look.Back);
+        look.Fore = mduUILib::ReadableOn(look.Back);
     }
     if (foreColor_ != Unset) {
         look.Fore = FromColour(foreColor_);

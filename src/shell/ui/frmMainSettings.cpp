@@ -133,6 +133,7 @@ void frmMain::ApplyBackgroundFile() {
         picture = program_.Module.Pictures.Load(program_.Services.FileSystem, path);
     }
     area_->SetPicture(picture ? QPixmap::fromImage(*picture) : QPixmap());
+    header_->SetOverPicture(picture != nullptr);
 }
 
 void frmMain::ApplyPlacement() {
