@@ -223,6 +223,55 @@ private Q_SLOTS:
         QCOMPARE(Stored(desk, u"Window Background Colour"_s), u"8411709"_s);
     }
 
+    void EachSaveAnswers_data() {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("what");
+        QTest::newRow("header") << u"MainItem"_s << 8 << u"the settings of Tempolark Central"_s;
+        QTest::newRow("CProperty")
+            << u"SaveTempolarkCentralSettings"_s << 1 << u"the settings of Tempolark Central"_s;
+        QTest::newRow("toolbar") << u"SaveToolbarSetting"_s << 1 << u"the toolbar"_s;
+    }
+
+    /// A second save has its own answer, though the first may still stand there.
+    void EachSaveAnswers() {
+        QFETCH(QString, entry);
+        QFETCH(int, index);
+        QFETCH(QString, what);
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.ClickItem(entry, index);
+        QCOMPARE(desk.Status(), u"Saved %1 at 12:00:00"_s.arg(what));
+        desk.Machine.Clock.Advance(65000);
+        desk.ClickItem(entry, index);
+        QCOMPARE(desk.Status(), u"Saved %1 at 12:01:05 << Saved %1 at 12:00:00"_s.arg(what));
+    }
+
+    void AFailedSaveIsNoneThatWorked() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        const QString path = desk.Machine.AppFolder() + u"/tester/TempolarkCentral.ini"_s;
+        desk.Machine.Files.Unwritable += path;
+        desk.ClickItem(u"MainItem"_s, 8);
+        QCOMPARE(desk.Status(), path + u" can't be written"_s);
+    }
+
+    void ANewLayoutIsKeptAtTheExit() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->findChild<ToolBar*>()->Offer(2, false);
+        const auto layout = [&desk] {
+            return desk.Machine.Settings.Value(u"TempolarkCentralToolbar"_s, u"tester"_s)
+                .toString();
+        };
+        QCOMPARE(layout(), QString());
+        desk.Stop();
+        QCOMPARE(layout(),
+                 u"\"1,1\" \"1,3\" \"1,4\" \"1,5\" \"1,6\" \"1,7\" \"1,8\" \"3,9\" "
+                 "\"3,10\" \"3,11\" \"3,12\" \"3,14\" \"3,15\" \"3,16\" \"9,19\" "
+                 "\"2,20\""_s);
+    }
+
     void APictureBehindTheClocks() {
         Desk desk;
         QImage picture(20, 10, QImage::Format_RGB32);

@@ -97,15 +97,14 @@ void HeaderArt::SetOverPicture(bool over) {
 void HeaderArt::DressInvitation() {
     const QColor ink = Ink();
     const QColor ground(drawing::ToRgb(backColour_));
-    const QString plate =
-        overPicture_
-            ? u"rgba(%1, %2, %3, 230)"_s.arg(ground.red()).arg(ground.green()).arg(ground.blue())
-            : u"rgba(128, 128, 128, 60)"_s;
+    const QString solid =
+        u"rgba(%1, %2, %3, %4)"_s.arg(ground.red()).arg(ground.green()).arg(ground.blue());
+    const QString plate = overPicture_ ? solid.arg(230) : u"rgba(128, 128, 128, 60)"_s;
+    const QString lit = overPicture_ ? solid.arg(255) : u"rgba(128, 128, 128, 130)"_s;
     invitation_->setStyleSheet(
         u"QPushButton { color: %1; background: %2; border: 1px solid %1;"
         " border-radius: 6px; padding: 0.53em 1.3em; }"
-        "QPushButton:hover, QPushButton:focus { background: rgba(128, 128, 128, 130); }"_s.arg(
-            ink.name(), plate));
+        "QPushButton:hover, QPushButton:focus { background: %3; }"_s.arg(ink.name(), plate, lit));
 }
 
 void HeaderArt::SetVersionLocation(const QString& text) {

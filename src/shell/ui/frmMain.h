@@ -117,7 +117,8 @@ private:
     void SetBackgroundColour(const QString& colourName);
     void ApplyBackColour();
     void WriteSetting(const QString& key, const QString& value);
-    void WriteSettings();
+    bool WriteSettings();
+    void TellSaved(const QString& what);
     void SaveCentralSettings();
     void SaveWindowPlacement();
     void SaveToolbarLayout();

@@ -89,7 +89,10 @@ void frmMain::HandleCentralMenus() {
         WriteSetting(u"Auto Show Balloon Tips"_s, item.Tag);
     };
     handlers_[u"ToolbarCustomize"_s] = [this](int, const MenuItem&) { Customize(*toolbar_, this); };
-    handlers_[u"SaveToolbarSetting"_s] = [this](int, const MenuItem&) { SaveToolbarLayout(); };
+    handlers_[u"SaveToolbarSetting"_s] = [this](int, const MenuItem&) {
+        SaveToolbarLayout();
+        TellSaved(u"the toolbar"_s);
+    };
     handlers_[u"HideStatusBar"_s] = [this](int, const MenuItem& item) {
         if (item.Tag == u"Yes"_s) {
             ApplyStatusBarPosition(u"No"_s);

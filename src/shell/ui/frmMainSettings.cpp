@@ -9,6 +9,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/SavedMessage.h"
 #include "foundation/SettingsFile.h"
 #include "foundation/Twips.h"
 #include "shell/CentralSettings.h"
@@ -246,18 +247,26 @@ void frmMain::WriteSetting(const QString& key, const QString& value) {
     WriteSettings();
 }
 
-void frmMain::WriteSettings() {
+bool frmMain::WriteSettings() {
     if (!mduMain::ReplaceSettings(program_.Services.FileSystem, centralProperties_, IniFile(),
                                   DefaultIniFile())) {
         ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
+        return false;
     }
+    return true;
+}
+
+void frmMain::TellSaved(const QString& what) {
+    ShowStatusMsg(mduLib::SavedMessage(what, program_.Services.Clock.Now()));
 }
 
 void frmMain::SaveCentralSettings() {
     shell::SaveCentralLook({backColour_, toolbar_->AlignCode(), toolbar_->isVisibleTo(frame_),
                             toolbar_->SizeName(), statusBar_->isVisibleTo(frame_), WindowState()},
                            centralProperties_);
-    WriteSettings();
+    if (WriteSettings()) {
+        TellSaved(u"the settings of Tempolark Central"_s);
+    }
 }
 
 // Which buttons the user has kept. Every start sets the bar up from the catalogue all the same.
