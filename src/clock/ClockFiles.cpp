@@ -120,10 +120,10 @@ void ClockFiles::StorePosition(const QRectF& twips) {
     }
 }
 
-void ClockFiles::SavePosition(const QRectF& twips) {
+bool ClockFiles::SavePosition(const QRectF& twips) {
     ReadProperties();
     if (!mayWrite_) {
-        return;
+        return false;
     }
     bool written = true;
     for (const auto& [name, value] : PlaceValues(twips)) {
@@ -132,6 +132,7 @@ void ClockFiles::SavePosition(const QRectF& twips) {
                   written;
     }
     ReportUnless(written);
+    return written;
 }
 
 void ClockFiles::SaveKey(const QString& name) {

@@ -50,8 +50,9 @@ public:
     /// Stores the window's rectangle, in twips, into the properties in memory.
     void StorePosition(const QRectF& twips);
 
-    /// Stores the window's rectangle, in twips, into the file as it now stands on disk.
-    void SavePosition(const QRectF& twips);
+    /// Stores the window's rectangle, in twips, into the file as it now stands on disk. @return
+    /// false when it can't be written
+    bool SavePosition(const QRectF& twips);
 
     /// Brings the present value of a key, with its choices, into the file as it now stands on disk.
     /// What else has been changed waits for its own save.

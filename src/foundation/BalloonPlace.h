@@ -4,12 +4,15 @@
 #include <QPoint>
 #include <QRect>
 
+/// On which side of its tool a balloon's body stands.
+enum class BalloonSide { Above, Below, Left, Right };
+
 /// Where a balloon stands: a rounded body with a small pointer that touches the tool it speaks of.
 struct BalloonPlace {
-    QRect Window;        ///< body and pointer, on the screen
-    QRect Body;          ///< within the window
-    QPoint Tip;          ///< where the pointer ends, within the window
-    bool Below = false;  ///< the body hangs below the tool and the pointer looks up
+    QRect Window;  ///< body and pointer, on the screen
+    QRect Body;    ///< within the window
+    QPoint Tip;    ///< where the pointer ends, within the window
+    BalloonSide Side = BalloonSide::Above;
 
     bool operator==(const BalloonPlace&) const = default;
 };
@@ -22,6 +25,11 @@ struct BalloonPlace {
 /// A body of 200 x 60 for the point (100, 100) on a wide screen begins at (76, 112) with its
 /// pointer 24 pixels inside; with @p centred it begins at (0, 112).
 BalloonPlace PlaceBalloon(const QSize& size, const QRect& tool, const QRect& screen, bool centred);
+
+/// The same for a tool of a column, whose neighbours above and below stay uncovered: the body
+/// stands to the right of the tool, or to its left where the screen ends too soon, and the pointer
+/// ends in the middle of the tool's side.
+BalloonPlace PlaceBalloonBeside(const QSize& size, const QRect& tool, const QRect& screen);
 
 /// The outline of body and pointer, within the window.
 QPainterPath BalloonOutline(const BalloonPlace& place);

@@ -5,6 +5,7 @@
 #include "foundation/FileHelpers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyMerge.h"
+#include "foundation/SettingsFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -235,9 +236,12 @@ SetupResult SetupFiles(ModuleState& state, const platform::Services& services, Q
     const platform::Files& files = services.FileSystem;
     const QString& folder = paths.DataFolder.isEmpty() ? paths.AppFolder : paths.DataFolder;
     paths.CentralFile = folder + u'/' + CentralExeName + u".ini"_s;
-    BringUpToDate(paths, services.FileSystem, paths.CentralFile, paths.CentralDefaultFile());
+    const QString defaultFile = paths.CentralDefaultFile();
+    if (!IsBrokenSettings(files, paths.CentralFile, defaultFile)) {
+        BringUpToDate(paths, services.FileSystem, paths.CentralFile, defaultFile);
+    }
     ReadList(files, paths.ShortcutsFile, state.ShortcutList);
-    ReadList(files, paths.CentralFile, centralProperties);
+    centralProperties = ReadSettings(files, paths.CentralFile, defaultFile);
     state.CurrentProperties = centralProperties;
     ReadList(files, paths.AutoStartFile, state.AutoStartList);
     return result;

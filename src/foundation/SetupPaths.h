@@ -38,7 +38,8 @@ SetupResult SetupUserFiles(ModuleState& state, const platform::Services& service
 bool RefreshCurrentPropertyFile(ModuleState& state, const platform::Services& services);
 
 /// The file work of the shell's `ConfigSetup` behind the choice of the zone name: paths, the
-/// shell's file, the lists. @p centralProperties receives the shell's own keys.
+/// shell's file, the lists. @p centralProperties receives the shell's own keys; the defaults where
+/// its file is broken, which is left as it is (`IsBrokenSettings`).
 SetupResult SetupFiles(ModuleState& state, const platform::Services& services, QString zoneName,
                        ClockProperties& centralProperties);
 

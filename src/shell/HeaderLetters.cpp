@@ -52,8 +52,7 @@ std::optional<std::vector<double>> ArrangeHeaderLetters(int mode, double amplitu
 
 std::optional<std::vector<double>> PlaceHeader(int code, int count,
                                                platform::RandomNumbers& random) {
-    constexpr double amplitude = 1000;
-    return ArrangeHeaderLetters(code, code == 0 ? 0 : amplitude, count, random);
+    return ArrangeHeaderLetters(code, code == 0 ? 0 : HeaderAmplitude, count, random);
 }
 
 std::vector<int> RandomHeaderColours(int count, int backColour, platform::RandomNumbers& random) {

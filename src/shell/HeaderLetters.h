@@ -25,6 +25,9 @@ int HeadingVariationCode(const QString& value);
 std::optional<std::vector<double>> ArrangeHeaderLetters(int mode, double amplitude, int count,
                                                         platform::RandomNumbers& random);
 
+/// How far apart the highest and the lowest letter may stand, in twips.
+inline constexpr double HeaderAmplitude = 1000;
+
 /// The same for a style's code: amplitude 1000, and 0 for code 0. A code outside 0 to 5: nothing.
 std::optional<std::vector<double>> PlaceHeader(int code, int count,
                                                platform::RandomNumbers& random);

@@ -72,16 +72,10 @@ MenuTable EditMenu() {
                     u"Clear"_s, u"Select All"_s, u"-"_s, u"Find"_s, u"Check Spelling"_s})}};
 }
 
-MenuTable ViewMenu() {
-    return {u"View"_s,
-            u"&View"_s,
-            {Sub(u"StatusBarMenu"_s, u"Status Bar"_s,
-                 {Item(u"StatusBarAction"_s, u"Hide Status Bar"_s),
-                  Item(u"ClearStatusMessage"_s, u"Clear Status Message"_s)}),
-             {u"ViewItem"_s, {{}, {}, u"-"_s}, {}},
-             {u"ToolsItem"_s,
-              {{}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, u"Startup"_s},
-              {}}}};
+MenuEntry StatusBarMenu() {
+    return Sub(u"StatusBarMenu"_s, u"Status Bar"_s,
+               {Item(u"StatusBarAction"_s, u"Hide Status Bar"_s),
+                Item(u"ClearStatusMessage"_s, u"Clear Status Message"_s)});
 }
 
 MenuEntry ToolBarMenu() {
@@ -95,6 +89,24 @@ MenuEntry ToolBarMenu() {
                 Item(u"AutoShowToolTips"_s, u"Auto Show Tool Tips"_s),
                 Item(u"ToolbarCustomize"_s, u"Customize Toolbar"_s),
                 Item(u"SaveToolbarSetting"_s, u"Save Current Toolbar Setting"_s)});
+}
+
+// Whatever can be hidden is brought back from here, too: the menu bar itself always stays.
+MenuTable ViewMenu() {
+    return {u"View"_s,
+            u"&View"_s,
+            {StatusBarMenu(),
+             ToolBarMenu(),
+             Item(u"WindowTitleBar"_s, u"Show Window Title Bar"_s),
+             {u"ViewItem"_s, {{}, {}, u"-"_s}, {}},
+             {u"ToolsItem"_s,
+              {{}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, u"Startup"_s},
+              {}}}};
+}
+
+/// On a right click on the menu bar.
+MenuTable BarsMenu() {
+    return {u"BarsMenu"_s, {}, {StatusBarMenu(), ToolBarMenu()}};
 }
 
 MenuTable CentralMenu() {
@@ -134,7 +146,7 @@ const std::vector<MenuTable>& MenuCatalogue() {
         AgentMenu(),   MainMenu(),
         EditMenu(),    ViewMenu(),
         CentralMenu(), WindowMenu(),
-        ClocksMenu()};
+        ClocksMenu(),  BarsMenu()};
     return menus;
 }
 

@@ -9,7 +9,8 @@ namespace shell {
 /// An entry of a menu: an array of items of one name, numbered from 1. "-" is a separator, an empty
 /// caption an item that is not shown until somebody fills it in.
 struct MenuEntry {
-    QString Name;  ///< empty for a separator that is never addressed
+    QString Name;  ///< empty for a separator that is never addressed; the same submenu may stand in
+                   ///< several menus
     std::vector<QString> Captions;
     std::vector<MenuEntry> Children;  ///< not empty: the entry is a submenu
 };

@@ -1,5 +1,7 @@
 #include "shell/ToolbarLook.h"
 
+#include <map>
+
 #include "foundation/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -15,41 +17,27 @@ int ToolbarPictureSide(const QString& sizeName) {
     return sizeName.contains(u"Large Size"_s) ? 48 : 24;
 }
 
-ToolbarPlace ToolbarPosition(const QString& value) {
-    if (value.contains(u':')) {
-        return {false, ToolbarPosition(value.section(u':', 0, 0)).Align, 0};
+std::optional<ToolbarPlace> ToolbarPosition(const QString& value) {
+    static const std::map<QString, ToolbarPlace> places = {
+        {u"Top"_s, {true, Align::Top, 1}},      {u"Bottom"_s, {true, Align::Bottom, 1}},
+        {u"Left"_s, {true, Align::Left, 1}},    {u"Right"_s, {true, Align::Right, 1}},
+        {u"None"_s, {false, Align::Unsaid, 0}}, {u"Hide"_s, {false, Align::Unsaid, 0}}};
+    const auto found = places.find(value.section(u':', 0, 0).trimmed());
+    if (found == places.end()) {
+        return std::nullopt;
     }
-    const QString name = value.trimmed();
-    if (name == u"Top"_s) {
-        return {true, Align::Top, 1};
-    }
-    if (name == u"Bottom"_s) {
-        return {true, Align::Bottom, 1};
-    }
-    if (name == u"Left"_s) {
-        return {true, Align::Left, 1};
-    }
-    if (name == u"Right"_s) {
-        return {true, Align::Right, 1};
-    }
-    return {};
+    const bool hidden = value.contains(u':');
+    return hidden ? ToolbarPlace{false, found->second.Align, 0} : found->second;
 }
 
 StatusBarPlace StatusBarPosition(const QString& value) {
-    const QString name = value.trimmed();
-    if (name == u"Top"_s) {
-        return {true, Align::Top};
-    }
-    if (name == u"Yes"_s) {
-        return {true, Align::Bottom};
-    }
-    if (name == u"Left"_s) {
-        return {true, Align::Left};
-    }
-    if (name == u"Right"_s) {
-        return {true, Align::Right};
-    }
-    return {};
+    static const std::map<QString, StatusBarPlace> places = {{u"top"_s, {true, Align::Top}},
+                                                             {u"left"_s, {true, Align::Left}},
+                                                             {u"right"_s, {true, Align::Right}},
+                                                             {u"no"_s, {false, Align::Unsaid}},
+                                                             {u"none"_s, {false, Align::Unsaid}}};
+    const auto found = places.find(value.trimmed().toLower());
+    return found == places.end() ? StatusBarPlace{true, Align::Bottom} : found->second;
 }
 
 }  // namespace shell

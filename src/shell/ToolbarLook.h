@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 /// Sizes and places of the toolbar.
 namespace shell {
@@ -27,15 +28,18 @@ struct ToolbarPlace {
 };
 
 /// What a value of "Tool Bar" says: "Top", "Left", ..., "None" or "Hide", or a place with ":Hide"
-/// behind it, which keeps the place of a bar that is hidden. Nothing for any other text.
-ToolbarPlace ToolbarPosition(const QString& value);
+/// behind it, which keeps the place of a bar that is hidden. Nothing for any other text: the bar
+/// then stays as it is.
+std::optional<ToolbarPlace> ToolbarPosition(const QString& value);
 
 struct StatusBarPlace {
     bool Visible = false;
     int Align = Align::Unsaid;
 };
 
-/// What a value of "Status Bar" says: "Yes" is at the bottom; "No", "None" and any other text hide.
+/// What a value of "Status Bar" says, letter case aside: "Top", "Left" and "Right" are places, "No"
+/// and "None" hide, and any other text is "Yes", at the bottom. So is a missing key, which reads as
+/// "0".
 StatusBarPlace StatusBarPosition(const QString& value);
 
 }  // namespace shell

@@ -269,6 +269,15 @@ private Q_SLOTS:
         QCOMPARE(desk.Key(u"UTC"_s, u"Time Zone Name Left"_s), u"-1"_s);  // stays automatic
         QCOMPARE(desk.Key(u"UTC"_s, u"Hour Number Font"_s), u"Lato"_s);
         QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Path(u"UTC"_s));
+        QCOMPARE(desk.Shell.Messages, QStringList{u"Saved the style of UTC at 12:00:00"_s});
+    }
+
+    void SaveCurrentStyleTellsOfAFailure() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        desk.Machine.Files.Unwritable += desk.Path(u"UTC"_s);
+        clock->SaveCurrentStyle();
+        QCOMPARE(desk.Shell.Messages, QStringList{desk.Path(u"UTC"_s) + u" can't be written"_s});
     }
 
     void SaveCurrentStyleKeepsTheFontBehindPaintedNumbers_data() {
@@ -297,6 +306,7 @@ private Q_SLOTS:
         clock->SaveCurrentStyle();
         QCOMPARE(desk.Key(u"UTC"_s, u"Window State"_s), u"Maximized"_s);
         QCOMPARE(desk.Key(u"UTC"_s, u"Window Left"_s), u"-1"_s);
+        QCOMPARE(desk.Shell.Messages, QStringList{u"Saved the style of UTC at 12:00:00"_s});
     }
 
     void SaveStyleAsLeavesTheZoneOut() {
@@ -312,7 +322,7 @@ private Q_SLOTS:
         QCOMPARE(mduLib::GetProperty(u"Window Width"_s, style), u"3600"_s);
         QCOMPARE(Value(clock, u"Time Zone Standard Name"_s), u"UTC"_s);
         clock->SaveStyleAs();  // cancelled
-        QVERIFY(desk.Shell.Messages.isEmpty());
+        QCOMPARE(desk.Shell.Messages, QStringList{u"Saved the style Mine at 12:00:00"_s});
     }
 
     void SaveStyleAsOfAMaximisedClockKeepsTheStoredPlace() {

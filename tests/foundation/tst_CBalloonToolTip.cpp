@@ -71,6 +71,9 @@ private Q_SLOTS:
     void ChoosesReadableColours();
     void CutsLongTexts();
     void ShowsOverAControl();
+    void StandsBesideItsTool();
+    void ShowsAfterItsDelay();
+    void ADelayedTipIsCalledOff();
 };
 
 void tst_CBalloonToolTip::Defaults() {
@@ -118,7 +121,7 @@ void tst_CBalloonToolTip::TracksItsPoint() {
     QVERIFY(desk.IsSeen());
     const BalloonPlace& place = desk.Tip.TipWindow()->Place();
     QCOMPARE(place.Window.topLeft() + place.Tip, QPoint(350, 160));
-    QVERIFY(place.Below);
+    QCOMPARE(place.Side, BalloonSide::Below);
 }
 
 void tst_CBalloonToolTip::SetsUp() {
@@ -339,6 +342,50 @@ void tst_CBalloonToolTip::ShowsOverAControl() {
     QCOMPARE(desk.Tip.TrackPosition(), (50 + 110) + (60 + 25) * 65536);
     const BalloonPlace& place = desk.Tip.TipWindow()->Place();
     QCOMPARE(place.Window.topLeft() + place.Tip, QPoint(160 + 30, 85 + 30));
+}
+
+void tst_CBalloonToolTip::StandsBesideItsTool() {
+    Desk desk;
+    desk.Tip.BalloonInfoSetup(desk.Owner.get(), u"Title"_s, u"Text"_s);
+    desk.Tip.SetBeside(true);
+    desk.Tip.Show(10, 100, {40, 30});
+    const BalloonPlace& place = desk.Tip.TipWindow()->Place();
+    QCOMPARE(place.Side, BalloonSide::Right);
+    QCOMPARE(place.Window.topLeft() + place.Tip, QPoint(50 + 10 + 40, 60 + 100 + 15));
+    desk.Tip.BalloonInfoSetup(desk.Owner.get(), u"Title"_s, u"Text"_s);
+    QVERIFY(!desk.Tip.Beside());
+}
+
+void tst_CBalloonToolTip::ShowsAfterItsDelay() {
+    Desk desk;
+    desk.Tip.BalloonInfoSetup(desk.Owner.get(), u"Title"_s, u"Text"_s);
+    desk.Tip.AfterDelay([&desk] { desk.Tip.Show(10, 10); });
+    QVERIFY(desk.Tip.PopupOnDemand());
+    Enter(desk);  // does not begin the wait anew
+    desk.Clock.Advance(499);
+    QVERIFY(!desk.Tip.Shown());
+    desk.Clock.Advance(1);
+    QVERIFY(desk.IsSeen());
+    desk.Clock.Advance(10000);
+    QVERIFY(!desk.IsSeen());
+    desk.Clock.Advance(20000);
+    QVERIFY(!desk.IsSeen());
+}
+
+void tst_CBalloonToolTip::ADelayedTipIsCalledOff() {
+    Desk desk;
+    int calls = 0;
+    desk.Tip.BalloonInfoSetup(desk.Owner.get(), u"Title"_s, u"Text"_s);
+    desk.Tip.AfterDelay([&calls] { ++calls; });
+    desk.Clock.Advance(400);
+    desk.Tip.Destroy();
+    desk.Clock.Advance(1000);
+    QCOMPARE(calls, 0);
+    desk.Tip.AfterDelay([&calls] { ++calls; });
+    desk.Owner->hide();
+    desk.Clock.Advance(1000);
+    QCOMPARE(calls, 0);
+    QCOMPARE(desk.Closings, 0);
 }
 
 QTEST_MAIN(tst_CBalloonToolTip)

@@ -134,6 +134,7 @@ private Q_SLOTS:
             const QByteArray file = desk.User(u"TimeZones/"_s + zone + u".ini"_s);
             QVERIFY(file.contains("Clocks=Digital"));
             QVERIFY(file.contains("Window Background Colour=Red"));
+            QVERIFY(desk.Status().contains(u"Saved the style of "_s + zone));
         }
     }
 

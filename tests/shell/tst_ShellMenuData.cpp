@@ -31,6 +31,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("place");
         QTest::addColumn<QString>("menu");
         QTest::addColumn<QString>("entries");
+        const QString toolBarMenu =
+            u"ToolBarMenu Tool Bar [ToolBarSizeMenu ToolBar Size [ToolBarSize Small "
+            "Size|Small Size with Caption|Large Size|Large Size with Caption]; "
+            "ToolBarPositionMenu Tool Bar Position [ToolBarPositions "
+            "Top|Bottom|Left|Right|Hide]; AutoShowToolTips Auto Show Tool Tips; "
+            "ToolbarCustomize Customize Toolbar; SaveToolbarSetting Save Current Toolbar "
+            "Setting]"_s;
         QTest::newRow("File")
             << 0 << u"File=File"_s
             << u"NewClock New / Open Open [TimeZone] / LastOpened Open Last Opened [FileItem] / "
@@ -53,19 +60,18 @@ private Q_SLOTS:
                                  "All|-|Find|Check Spelling"_s;
         QTest::newRow("View") << 5 << u"View=&View"_s
                               << u"StatusBarMenu Status Bar [StatusBarAction Hide Status Bar; "
-                                 "ClearStatusMessage Clear Status Message] / ViewItem ||- / "
-                                 "ToolsItem ||||||||||||||Startup"_s;
+                                 "ClearStatusMessage Clear Status Message] / "_s +
+                                     toolBarMenu +
+                                     u" / WindowTitleBar Show Window Title Bar / ViewItem ||- / "
+                                     "ToolsItem ||||||||||||||Startup"_s;
         QTest::newRow("CentralProperty")
             << 6 << u"CentralProperty="_s
             << u"BackgroundColour Background Colour [BGColour] / WindowTitleBar Show Window Title "
-               "Bar / ToolBarMenu Tool Bar [ToolBarSizeMenu ToolBar Size [ToolBarSize Small "
-               "Size|Small Size with Caption|Large Size|Large Size with Caption]; "
-               "ToolBarPositionMenu Tool Bar Position [ToolBarPositions "
-               "Top|Bottom|Left|Right|Hide]; AutoShowToolTips Auto Show Tool Tips; "
-               "ToolbarCustomize Customize Toolbar; SaveToolbarSetting Save Current Toolbar "
-               "Setting] / HideStatusBar Hide Status Bar / SaveTempolarkCentralSettings Save "
-               "Tempolark Central Settings / SetScreenSaverMenu Set Screen Saver "
-               "[ScreenSaverTime]"_s;
+               "Bar / "_s +
+                   toolBarMenu +
+                   u" / HideStatusBar Hide Status Bar / SaveTempolarkCentralSettings Save "
+                   "Tempolark Central Settings / SetScreenSaverMenu Set Screen Saver "
+                   "[ScreenSaverTime]"_s;
         QTest::newRow("Window") << 7 << u"Window=&Window"_s
                                 << u"WindowItem Tile|Cascade|Arrang Icons|Maximise All|Restore "
                                    "All|Minimise All|-|Close All|- / OpenedWindow"_s;
@@ -74,11 +80,15 @@ private Q_SLOTS:
             << u"Clock Clock [Clocks Analogue|Digital|Calculator] / ClockStyle Clock Style "
                "[ClockStyles] / ClockColour Clock Colour [ClockColours] / SaveSettings Save "
                "Settings"_s;
+        QTest::newRow("BarsMenu") << 9 << u"BarsMenu="_s
+                                  << u"StatusBarMenu Status Bar [StatusBarAction Hide Status Bar; "
+                                     "ClearStatusMessage Clear Status Message] / "_s +
+                                         toolBarMenu;
     }
 
     void Catalogue() {
         QFETCH(int, place);
-        QCOMPARE(shell::MenuCatalogue().size(), std::size_t(9));
+        QCOMPARE(shell::MenuCatalogue().size(), std::size_t(10));
         const shell::MenuTable& table = shell::MenuCatalogue()[static_cast<std::size_t>(place)];
         QStringList entries;
         for (const shell::MenuEntry& entry : table.Entries) {

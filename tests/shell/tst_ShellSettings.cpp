@@ -98,6 +98,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("align");
         QTest::addColumn<int>("width");  // -1: as wide as the window
         QTest::newRow("bottom") << QByteArray("Yes") << true << 2 << -1;
+        QTest::newRow("small letters") << QByteArray("yes") << true << 2 << -1;
+        QTest::newRow("zero") << QByteArray("0") << true << 2 << -1;
         QTest::newRow("top") << QByteArray("Top") << true << 1 << -1;
         QTest::newRow("left, 255 twips") << QByteArray("Left") << true << 3 << 17;
         QTest::newRow("none") << QByteArray("No") << false << 2 << 0;
@@ -116,6 +118,42 @@ private Q_SLOTS:
         QCOMPARE(bar->AlignCode(), align);
         if (visible) {
             QCOMPARE(bar->width(), width < 0 ? 600 : width);
+        }
+    }
+
+    void AMissingStatusBarKeyReadsAsYes() {
+        Desk desk;
+        Write(desk, "Tool Bar=Top\r\n");
+        QVERIFY(desk.Start());
+        QVERIFY(desk.Shell->findChild<StatusBar*>()->isVisible());
+        QCOMPARE(desk.Caption(u"HideStatusBar"_s), u"Hide Status Bar"_s);
+    }
+
+    void AnUnknownToolBarLeavesTheBar_data() {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<bool>("visible");
+        QTest::addColumn<int>("align");
+        QTest::newRow("at the start") << QString() << true << 1;
+        QTest::newRow("right") << u"Right"_s << true << 4;
+        QTest::newRow("left, hidden") << u"Left:Hide"_s << false << 3;
+    }
+
+    void AnUnknownToolBarLeavesTheBar() {
+        QFETCH(QString, before);
+        QFETCH(bool, visible);
+        Desk desk;
+        Write(desk, "Tool Bar=Middle\r\nToolbar Size=Small Size\r\n");
+        QVERIFY(desk.Start());
+        const auto* bar = desk.Shell->findChild<ToolBar*>();
+        QCOMPARE(bar->frameShape(), QFrame::StyledPanel);
+        for (const QString& value : {before, u"Middle"_s}) {
+            mduLib::PutProperty(u"Tool Bar"_s, value, desk.Module.CurrentProperties);
+            desk.Shell->RefreshForm({});
+        }
+        QCOMPARE(bar->isVisible(), visible);
+        QTEST(bar->AlignCode(), "align");
+        if (visible && bar->AlignCode() == 1) {
+            QCOMPARE(bar->geometry(), QRect(0, 0, 600, 32));  // 480 twips high
         }
     }
 
@@ -186,6 +224,55 @@ private Q_SLOTS:
         QCOMPARE(Stored(desk, u"Window Background Colour"_s), u"8411709"_s);
     }
 
+    void EachSaveAnswers_data() {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("what");
+        QTest::newRow("header") << u"MainItem"_s << 8 << u"the settings of Tempolark Central"_s;
+        QTest::newRow("CProperty")
+            << u"SaveTempolarkCentralSettings"_s << 1 << u"the settings of Tempolark Central"_s;
+        QTest::newRow("toolbar") << u"SaveToolbarSetting"_s << 1 << u"the toolbar"_s;
+    }
+
+    /// A second save has its own answer, though the first may still stand there.
+    void EachSaveAnswers() {
+        QFETCH(QString, entry);
+        QFETCH(int, index);
+        QFETCH(QString, what);
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.ClickItem(entry, index);
+        QCOMPARE(desk.Status(), u"Saved %1 at 12:00:00"_s.arg(what));
+        desk.Machine.Clock.Advance(65000);
+        desk.ClickItem(entry, index);
+        QCOMPARE(desk.Status(), u"Saved %1 at 12:01:05 << Saved %1 at 12:00:00"_s.arg(what));
+    }
+
+    void AFailedSaveIsNoneThatWorked() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        const QString path = desk.Machine.AppFolder() + u"/tester/TempolarkCentral.ini"_s;
+        desk.Machine.Files.Unwritable += path;
+        desk.ClickItem(u"MainItem"_s, 8);
+        QCOMPARE(desk.Status(), path + u" can't be written"_s);
+    }
+
+    void ANewLayoutIsKeptAtTheExit() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Shell->findChild<ToolBar*>()->Offer(2, false);
+        const auto layout = [&desk] {
+            return desk.Machine.Settings.Value(u"TempolarkCentralToolbar"_s, u"tester"_s)
+                .toString();
+        };
+        QCOMPARE(layout(), QString());
+        desk.Stop();
+        QCOMPARE(layout(),
+                 u"\"1,1\" \"1,3\" \"1,4\" \"1,5\" \"1,6\" \"1,7\" \"1,8\" \"3,9\" "
+                 "\"3,10\" \"3,11\" \"3,12\" \"3,14\" \"3,15\" \"3,16\" \"9,19\" "
+                 "\"2,20\""_s);
+    }
+
     void APictureBehindTheClocks() {
         Desk desk;
         QImage picture(20, 10, QImage::Format_RGB32);
@@ -199,11 +286,13 @@ private Q_SLOTS:
         desk.Machine.Clock.Advance(10);
         QCOMPARE(area->Picture().size(), QSize(20, 10));
         QCOMPARE(area->viewport()->grab().toImage().pixelColor(3, 3), QColor(Qt::green));
+        QVERIFY(desk.Shell->findChild<HeaderArt*>()->IsOverPicture());
         desk.Stop();
         QVERIFY(QFile::remove(file));
         QVERIFY(desk.Start());
         desk.Machine.Clock.Advance(10);
         QVERIFY(desk.Shell->findChild<ClockArea*>()->Picture().isNull());
+        QVERIFY(!desk.Shell->findChild<HeaderArt*>()->IsOverPicture());
     }
 
     void AWindowOffEveryScreenComesBack_data() {

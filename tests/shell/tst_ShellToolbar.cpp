@@ -19,6 +19,11 @@ struct Bar {
         Tools.ApplyToolbarSize(u"Small Size"_s);
         Tools.show();
     }
+    void Move(const QPoint& to) {
+        QMouseEvent move(QEvent::MouseMove, to, Tools.mapToGlobal(to), Qt::NoButton,
+                         QGuiApplication::mouseButtons(), {});
+        QCoreApplication::sendEvent(&Tools, &move);
+    }
     QString Seen() const {
         QStringList numbers;
         for (int i = 1; i <= shell::Tool::Count; ++i) {
@@ -46,6 +51,22 @@ struct Bar {
     platform::LocalFiles Files;
     ToolBar Tools;
 };
+
+/// The balloon on the screen; null if there is none.
+static const BalloonWindow* Balloon() {
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        const auto* balloon = dynamic_cast<const BalloonWindow*>(widget);
+        if (balloon != nullptr && balloon->isVisible()) {
+            return balloon;
+        }
+    }
+    return nullptr;
+}
+
+static void Enter(QWidget* button) {
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(button, &enter);
+}
 
 class tst_ShellToolbar : public QObject {
     Q_OBJECT
@@ -127,30 +148,123 @@ private Q_SLOTS:
         QVERIFY(!bar.Tools.Layout().contains(u"17"_s));
     }
 
+    void ADragBegunInTheGapNeedsNoSecondMoveThere() {
+        Bar bar;
+        bar.Tools.resize(115, 40);  // three buttons of 30 pixels, and a gap
+        QTest::mousePress(&bar.Tools, Qt::LeftButton, {}, {110, 20});
+        bar.Move({50, 20});
+        QTest::mouseRelease(&bar.Tools, Qt::LeftButton, {}, {50, 20});
+        QCOMPARE(bar.Seen(), u"3 4 5"_s);
+        QTest::mousePress(&bar.Tools, Qt::RightButton, {}, {110, 20});
+        bar.Move({50, 20});
+        QTest::mouseRelease(&bar.Tools, Qt::RightButton, {}, {50, 20});
+        QCOMPARE(bar.Seen(), u"3 4 5"_s);
+    }
+
+    void BalloonsTellWhatAButtonDoes_data() {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("first") << u"Launch"_s
+                               << u"Create new timezones\r\nLaunch clocks\r\nLaunch previous "
+                                  "opened clocks\r\nChoose timezones\r\nRemove timezones\r\n"
+                                  "Close Tempolark Central"_s;
+        QTest::newRow("middle") << u"Auto Start"_s
+                                << u"Set the selected clock\r\nto start automatically"_s;
+        QTest::newRow("behind a separator")
+            << u"CProperty"_s << u"Set tempolark central settings"_s;
+    }
+
     void BalloonsTellWhatAButtonDoes() {
+        QFETCH(QString, button);
         Desk desk;
         QVERIFY(desk.Start());
-        QEvent enter(QEvent::Enter);
-        QCoreApplication::sendEvent(desk.Button(u"Auto Start"_s), &enter);
-        desk.Machine.Clock.Advance(600);
-        const auto balloons = [] {
-            int visible = 0;
-            for (const QWidget* widget : QApplication::topLevelWidgets()) {
-                visible +=
-                    dynamic_cast<const BalloonWindow*>(widget) != nullptr && widget->isVisible()
-                        ? 1
-                        : 0;
-            }
-            return visible;
-        };
-        QCOMPARE(balloons(), 1);
-        QTest::mousePress(desk.Button(u"Auto Start"_s), Qt::LeftButton);
-        QCOMPARE(balloons(), 0);
-        QTest::mouseRelease(desk.Button(u"Auto Start"_s), Qt::LeftButton, {}, {-50, -50});
+        desk.Machine.Clock.Advance(1000);  // the stages of the start
+        QToolButton* target = desk.Button(button);
+        Enter(target);
+        desk.Machine.Clock.Advance(499);
+        QVERIFY(Balloon() == nullptr);
+        desk.Machine.Clock.Advance(1);
+        const BalloonWindow* balloon = Balloon();
+        QVERIFY(balloon != nullptr);
+        QCOMPARE(balloon->Look().Title, button);
+        QTEST(balloon->Look().Text, "text");
+        // The pointer of the balloon touches the middle of the button's lower edge.
+        const QPoint tip = balloon->pos() + balloon->Place().Tip;
+        QCOMPARE(tip, target->mapToGlobal(QPoint(target->width() / 2, target->height())));
+
+        QTest::mousePress(target, Qt::LeftButton);
+        QVERIFY(Balloon() == nullptr);
+        QTest::mouseRelease(target, Qt::LeftButton, {}, {-50, -50});
         desk.ClickItem(u"AutoShowToolTips"_s, 1);
-        QCoreApplication::sendEvent(desk.Button(u"Auto Start"_s), &enter);
+        Enter(target);
         desk.Machine.Clock.Advance(600);
-        QCOMPARE(balloons(), 0);
+        QVERIFY(Balloon() == nullptr);
+    }
+
+    void NoBalloonForAPointerThatPassesBy() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Machine.Clock.Advance(1000);
+        Enter(desk.Button(u"Launch"_s));
+        desk.Machine.Clock.Advance(300);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(desk.Button(u"Launch"_s), &leave);
+        desk.Machine.Clock.Advance(1000);
+        QVERIFY(Balloon() == nullptr);
+    }
+
+    void ABalloonAtTheSideCoversNoButton() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Machine.Clock.Advance(1000);
+        for (const int side : {3, 4}) {
+            desk.ClickItem(u"ToolBarPositions"_s, side);
+            const auto* bar = desk.Shell->findChild<ToolBar*>();
+            QTRY_VERIFY(bar->height() > bar->width());  // the layout follows
+            Enter(desk.Button(u"Disable"_s));
+            desk.Machine.Clock.Advance(500);
+            const BalloonWindow* balloon = Balloon();
+            QVERIFY(balloon != nullptr);
+            const QRect column(bar->mapToGlobal(QPoint(2, 0)), bar->size() - QSize(4, 0));
+            QVERIFY(!balloon->geometry().intersects(column));
+        }
+    }
+
+    /// What the balloon tells is what a click does.
+    void AfterScrollingTheBalloonIsThatOfTheButtonUnderThePointer() {
+        Bar bar;
+        bar.Tools.resize(95, 40);
+        Enter(bar.Tools.Button(2));
+        QCOMPARE(bar.Hovered.last(), 2);
+        const auto turn = [&bar](const QPointF& at, int delta) {
+            QWheelEvent event(at, bar.Tools.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, {},
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&bar.Tools, &event);
+        };
+        turn({45, 20}, -120);
+        QCOMPARE(bar.Seen(), u"2 3 4"_s);
+        QCOMPARE(bar.Hovered.last(), 3);
+        turn({45, 20}, -120);
+        QCOMPARE(bar.Hovered.last(), 4);
+        turn({93, 20}, 120);
+        QCOMPARE(bar.Hovered.last(), 0);  // behind the buttons
+        bar.Hovered.clear();
+        turn({45, 20}, 120);
+        turn({45, 20}, 120);  // there is nothing more in front
+        QCOMPARE(bar.Seen(), u"1 2 3"_s);
+        QCOMPARE(bar.Hovered, (QList<int>{0, 2}));
+    }
+
+    void ButtonsThatMoveTakeTheBalloonAway() {
+        Bar bar;
+        bar.Tools.resize(95, 40);
+        Enter(bar.Tools.Button(3));
+        QTest::keyClick(bar.Tools.Button(3), Qt::Key_Right);
+        QCOMPARE(bar.Seen(), u"2 3 4"_s);
+        QCOMPARE(bar.Hovered.last(), 0);
+        Enter(bar.Tools.Button(3));
+        bar.Tools.ApplyToolbarSize(u"Large Size"_s);
+        QCOMPARE(bar.Hovered.last(), 0);
     }
 
     void TheCustomizeDialogActsAtOnce() {

@@ -41,16 +41,23 @@ private Q_SLOTS:
         QTest::newRow("top, hidden") << u"Top:Hide"_s << false << 1 << 0;
         QTest::newRow("left, hidden") << u"Left:Hide"_s << false << 3 << 0;
         QTest::newRow("none, hidden") << u"None:Hide"_s << false << 0 << 0;
-        QTest::newRow("garbage") << u"3:4:5"_s << false << 0 << 0;
-        QTest::newRow("empty") << QString() << false << 0 << 0;
+        QTest::newRow("blanks around") << u" Right "_s << true << 4 << 1;
     }
 
     void ToolbarPlaces() {
         QFETCH(QString, value);
-        const shell::ToolbarPlace place = shell::ToolbarPosition(value);
-        QTEST(place.Visible, "visible");
-        QTEST(place.Align, "align");
-        QTEST(place.Border, "border");
+        const std::optional<shell::ToolbarPlace> place = shell::ToolbarPosition(value);
+        QVERIFY(place);
+        QTEST(place->Visible, "visible");
+        QTEST(place->Align, "align");
+        QTEST(place->Border, "border");
+    }
+
+    void OtherTextsSayNothingOfAPlace() {
+        for (const QString& value :
+             {u"3:4:5"_s, QString(), u"0"_s, u"Topp"_s, u":Hide"_s, u"Middle:Hide"_s, u"Yes"_s}) {
+            QVERIFY2(!shell::ToolbarPosition(value), qPrintable(value));
+        }
     }
 
     void StatusBarPlaces_data() {
@@ -63,6 +70,13 @@ private Q_SLOTS:
         QTest::newRow("right") << u"Right"_s << true << 4;
         QTest::newRow("none") << u"None"_s << false << 0;
         QTest::newRow("no") << u"No"_s << false << 0;
+        QTest::newRow("small no") << u" no "_s << false << 0;
+        QTest::newRow("small none") << u"none"_s << false << 0;
+        QTest::newRow("small yes") << u"yes"_s << true << 2;
+        QTest::newRow("small top") << u"top"_s << true << 1;
+        QTest::newRow("missing") << u"0"_s << true << 2;
+        QTest::newRow("empty") << QString() << true << 2;
+        QTest::newRow("unknown") << u"Maybe"_s << true << 2;
     }
 
     void StatusBarPlaces() {

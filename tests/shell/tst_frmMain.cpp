@@ -234,8 +234,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         const QByteArray binary("GIF89a\0\0\xFF", 9);
         const QByteArray longList = QByteArray("UTC=\r\n").repeated(40000);
-        for (const QString& file :
-             {u"AutoStart.txt"_s, u"OpenedForms.txt"_s, u"TempolarkCentral.ini"_s}) {
+        for (const QString& file : {u"AutoStart.txt"_s, u"OpenedForms.txt"_s}) {
             QTest::addRow("binary %s", qPrintable(file)) << file << binary;
             QTest::addRow("40,000 lines %s", qPrintable(file)) << file << longList;
         }

@@ -143,6 +143,7 @@ private:
                                        const QPoint& position) const;
     bool IsOnAction(const QPoint& position) const;
     void Status(const QString& text);
+    void TellSaved(const QString& what);
 
     // The canvas.
     drawing::Surface& Surface() override { return *surface_; }

@@ -6,6 +6,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/SavedMessage.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;
@@ -140,9 +141,13 @@ void frmTempolark::SaveCurrentStyle() {
         Status(data_.PropertyFileName + u" can't be written"_s);
         return;
     }
-    if (WindowState() == 0) {
-        files_.SavePosition(placement_.OuterRect());
+    if (WindowState() != 0 || files_.SavePosition(placement_.OuterRect())) {
+        TellSaved(u"the style of "_s + Caption());
     }
+}
+
+void frmTempolark::TellSaved(const QString& what) {
+    Status(mduLib::SavedMessage(what, program_.Services.Clock.Now()));
 }
 
 void frmTempolark::SaveStyleAs() {
@@ -154,7 +159,9 @@ void frmTempolark::SaveStyleAs() {
     const QString path = clockcore::StyleFiles::SavePath(chosen);
     const std::optional<QRectF> place =
         WindowState() == 0 ? std::optional(placement_.OuterRect()) : std::nullopt;
-    if (!styles_.Write(path, data_.Properties(), place)) {
+    if (styles_.Write(path, data_.Properties(), place)) {
+        TellSaved(u"the style "_s + mduLib::FileBaseName(path, false));
+    } else {
         Status(path + u" can't be written"_s);
     }
 }

@@ -107,7 +107,7 @@ QSize BalloonWindow::BodySize(int widest) const {
             title.height() + gap + text.height() + 2 * Margin};
 }
 
-void BalloonWindow::Appear(const BalloonLook& look, const QRect& tool, bool centred) {
+void BalloonWindow::Appear(const BalloonLook& look, const QRect& tool, BalloonStand stand) {
     look_ = look;
     setAccessibleName(look.Title);
     setAccessibleDescription(look.Text);
@@ -115,7 +115,10 @@ void BalloonWindow::Appear(const BalloonLook& look, const QRect& tool, bool cent
     const QScreen* there = on->virtualSiblingAt(tool.center());
     const QRect room = (there == nullptr ? on : there)->availableGeometry();
     const int widest = std::min(WidestText, room.width() - 2 * Margin);
-    place_ = PlaceBalloon(BodySize(widest), tool, room, centred);
+    const QSize size = BodySize(widest);
+    place_ = stand == BalloonStand::Beside
+                 ? PlaceBalloonBeside(size, tool, room)
+                 : PlaceBalloon(size, tool, room, stand == BalloonStand::Centred);
     setGeometry(place_.Window);
     setMask(QRegion(Outline().toFillPolygon().toPolygon()) |
             QRegion(place_.Body.adjusted(4, 4, -4, -4)));

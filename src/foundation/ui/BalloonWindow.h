@@ -15,13 +15,20 @@ struct BalloonLook {
     bool IsBalloon = true;  ///< otherwise a plain rectangle without a pointer
 };
 
+/// How a balloon stands at its tool.
+enum class BalloonStand {
+    Hanging,  ///< below or above it, to the right
+    Centred,  ///< below or above it, in its middle
+    Beside    ///< at its side
+};
+
 /// The window of a balloon: it paints what it is told and answers a click, and decides nothing.
 class BalloonWindow final : public QWidget {
 public:
     BalloonWindow(QWidget* owner, std::function<void()> onClick);
 
     /// Shows the look beside @p tool, which is given in pixels of the screen.
-    void Appear(const BalloonLook& look, const QRect& tool, bool centred);
+    void Appear(const BalloonLook& look, const QRect& tool, BalloonStand stand);
 
     const BalloonPlace& Place() const { return place_; }
     const BalloonLook& Look() const { return look_; }

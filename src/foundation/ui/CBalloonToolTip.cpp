@@ -3,7 +3,9 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QToolTip>
+#include <utility>
 
+#include "foundation/Contrast.h"
 #include "foundation/Numbers.h"
 #include "foundation/Twips.h"
 
@@ -11,11 +13,6 @@ namespace {
 
 QColor FromColour(int colour) {
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
-}
-
-/// What can be read on a colour that was set without one for its text.
-QColor Readable(const QColor& back) {
-    return qGray(back.rgb()) < 128 ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 }  // namespace
@@ -62,11 +59,21 @@ void CBalloonToolTip::Appear(const QRect& screenTool) {
     ownersWindow_ = owner_->window();
     ownersWindow_->installEventFilter(this);
     shown_ = true;
-    window_->Appear(Look(), screenTool, centered_);
+    window_->Appear(Look(), screenTool,
+                    beside_     ? BalloonStand::Beside
+                    : centered_ ? BalloonStand::Centred
+                                : BalloonStand::Hanging);
     StartWait(Wait::ToGo, visibleTime_);
 }
 
+void CBalloonToolTip::AfterDelay(std::function<void()> show) {
+    popupOnDemand_ = true;
+    delayed_ = std::move(show);
+    StartWait(Wait::ToAppear, delayTime_);
+}
+
 void CBalloonToolTip::Destroy() {
+    delayed_ = nullptr;
     StartWait(Wait::None, 0);
     if (!shown_) {
         return;
@@ -90,6 +97,7 @@ void CBalloonToolTip::SetUp(int icon, QWidget* owner, const QString& title, cons
     foreColor_ = foreColor;
     delayTime_ = 500;
     centered_ = false;
+    beside_ = false;
     visibleTime_ = 10000;
     bool ok = false;
     CreateToolTip(owner, ok);
@@ -159,7 +167,7 @@ BalloonLook CBalloonToolTip::Look() const {
                      style_ == 1};
     if (backColor_ != Unset) {
         look.Back = FromColour(backColor_);
-        look.Fore = Readable(look.Back);
+        look.Fore = mduUILib::ReadableOn(look.Back);
     }
     if (foreColor_ != Unset) {
         look.Fore = FromColour(foreColor_);
@@ -244,9 +252,12 @@ void CBalloonToolTip::StartWait(Wait wait, int milliseconds) {
 
 void CBalloonToolTip::OnTicker() {
     const Wait ended = wait_;
+    const std::function<void()> delayed = std::exchange(delayed_, nullptr);
     StartWait(Wait::None, 0);
     if (ended == Wait::ToGo) {
         Destroy();
+    } else if (delayed) {
+        delayed();
     } else if (ended == Wait::ToAppear && window_ != nullptr && owner_->isVisible()) {
         wasSeen_ = true;
         const QRect tool(owner_->mapToGlobal(QPoint(0, 0)), owner_->size());

@@ -53,6 +53,8 @@ public:
     void SetStyle(int style) { style_ = style; }
     bool Centered() const { return centered_; }  ///< the body stands centred on its tool
     void SetCentered(bool on) { centered_ = on; }
+    bool Beside() const { return beside_; }  ///< stands at the side of its tool; wins over Centered
+    void SetBeside(bool on) { beside_ = on; }
 
     /// Called whenever a tip that was on the screen has gone.
     std::function<void()> Closed;
@@ -65,6 +67,10 @@ public:
     /// rectangle of that size whose left top is the point.
     void Show(int x, int y, const QSize& tool = QSize(0, 0));
     void Destroy();
+
+    /// Makes the tip one on demand, and calls @p show when `DelayTime` has passed, unless the tip
+    /// is destroyed or its owner hidden before.
+    void AfterDelay(std::function<void()> show);
 
     /// These set all properties up and make the window, colours as in `BackColor`.
     void BalloonInfoSetup(QWidget* owner, const QString& title, const QString& text,
@@ -125,6 +131,7 @@ private:
     QString tipText_;
     int style_ = 0;
     bool centered_ = false;
+    bool beside_ = false;
 
     QPointer<QWidget> owner_;
     QPointer<QWidget> ownersWindow_;
@@ -132,6 +139,7 @@ private:
     std::int32_t trackPosition_ = 0;
     QPoint restPoint_;
     bool wasSeen_ = false;  ///< the pointer has had its tip and has not left since
+    std::function<void()> delayed_;
     Wait wait_ = Wait::None;
     std::unique_ptr<platform::Ticker> ticker_;
 };

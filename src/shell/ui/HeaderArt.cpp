@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "drawing/Surface.h"
+#include "foundation/Contrast.h"
 #include "foundation/Twips.h"
 
 using namespace Qt::StringLiterals;
@@ -42,9 +43,6 @@ HeaderArt::HeaderArt(const Program& program, Hooks hooks, QWidget* parent)
     setObjectName(u"picMain"_s);
     invitation_->setObjectName(u"invitation"_s);
     invitation_->setCursor(Qt::PointingHandCursor);
-    QFont font = invitation_->font();
-    font.setPixelSize(17);
-    invitation_->setFont(font);
     connect(invitation_, &QPushButton::clicked, this, [this] { hooks_.Invited(); });
 }
 
@@ -84,14 +82,29 @@ void HeaderArt::ApplyHeaderCode(int code) {
 
 void HeaderArt::SetBackColour(int colour) {
     backColour_ = colour;
-    const QColor ink = Ink();
-    invitation_->setStyleSheet(
-        u"QPushButton { color: %1; background: rgba(128, 128, 128, 60); border: 1px solid %1;"
-        " border-radius: 6px; padding: 9px 22px; }"
-        "QPushButton:hover, QPushButton:focus { background: rgba(128, 128, 128, 130); }"_s.arg(
-            ink.name()));
+    DressInvitation();
     PlaceInvitation();
     update();
+}
+
+void HeaderArt::SetOverPicture(bool over) {
+    overPicture_ = over;
+    DressInvitation();
+    update();
+}
+
+// Over a picture it stands on a plate of the ground's colour.
+void HeaderArt::DressInvitation() {
+    const QColor ink = Ink();
+    const QColor ground(drawing::ToRgb(backColour_));
+    const QString solid =
+        u"rgba(%1, %2, %3, %4)"_s.arg(ground.red()).arg(ground.green()).arg(ground.blue());
+    const QString plate = overPicture_ ? solid.arg(230) : u"rgba(128, 128, 128, 60)"_s;
+    const QString lit = overPicture_ ? solid.arg(255) : u"rgba(128, 128, 128, 130)"_s;
+    invitation_->setStyleSheet(
+        u"QPushButton { color: %1; background: %2; border: 1px solid %1;"
+        " border-radius: 6px; padding: 0.53em 1.3em; }"
+        "QPushButton:hover, QPushButton:focus { background: %3; }"_s.arg(ink.name(), plate, lit));
 }
 
 void HeaderArt::SetVersionLocation(const QString& text) {
@@ -100,33 +113,40 @@ void HeaderArt::SetVersionLocation(const QString& text) {
 }
 
 QColor HeaderArt::Ink() const {
-    return QColor(drawing::ToRgb(backColour_)).lightness() > 128 ? QColor(40, 50, 65)
-                                                                 : QColor(225, 230, 238);
+    return mduUILib::ReadableOn(QColor(drawing::ToRgb(backColour_)));
 }
 
-// As large as the area lets the word be.
-QFont HeaderArt::LetterFont() const {
+// As large as the width lets the word be.
+int HeaderArt::LetterSize() const {
+    return std::clamp(width() / 17, 14, 64);
+}
+
+QFont HeaderArt::LetterFont(double scale) const {
     QFont letterFont = font();
     letterFont.setFamilies({u"DejaVu Serif"_s, u"serif"_s});
     letterFont.setBold(true);
-    letterFont.setPixelSize(std::clamp(width() / 17, 14, 64));
+    letterFont.setPixelSize(std::max(static_cast<int>(LetterSize() * scale), 1));
     return letterFont;
 }
 
-double HeaderArt::Baseline() const {
-    return height() * 0.36;
+shell::HeaderLayout HeaderArt::Layout() const {
+    const QFontMetricsF letters(LetterFont(1));
+    return shell::LayOutHeader({height(), invitation_->height(), fontMetrics().height(),
+                                letters.ascent(), letters.descent(),
+                                shell::HeaderAmplitude / 2 / TwipsPerPixel, LetterSize()});
 }
 
 std::vector<QPointF> HeaderArt::Places() const {
     if (IsMoving()) {
         return show_.Places();
     }
-    const QFontMetricsF metrics(LetterFont());
+    const shell::HeaderLayout layout = Layout();
+    const QFontMetricsF metrics(LetterFont(layout.LetterScale));
     const double word = metrics.horizontalAdvance(shell::HeaderText);
     double x = (width() - word) / 2;
     std::vector<QPointF> places;
     for (std::size_t i = 0; i < offsets_.size(); ++i) {
-        places.emplace_back(x, Baseline() + offsets_[i] / TwipsPerPixel);
+        places.emplace_back(x, layout.Baseline + offsets_[i] * layout.LetterScale / TwipsPerPixel);
         x += metrics.horizontalAdvance(shell::HeaderText[static_cast<qsizetype>(i)]);
     }
     return places;
@@ -135,7 +155,16 @@ std::vector<QPointF> HeaderArt::Places() const {
 void HeaderArt::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QFont letterFont = LetterFont();
+    const shell::HeaderLayout layout = Layout();
+    if (layout.LetterScale > 0) {
+        PaintLetters(painter, LetterFont(layout.LetterScale));
+    }
+    if (layout.ShowsFoot) {
+        PaintFoot(painter);
+    }
+}
+
+void HeaderArt::PaintLetters(QPainter& painter, const QFont& letterFont) const {
     const std::vector<QPointF> places = Places();
     // A pale rim keeps a letter apart from the ground, whatever its colour.
     const QPen rim(Ink(), 1.2);
@@ -145,10 +174,30 @@ void HeaderArt::paintEvent(QPaintEvent*) {
         painter.strokePath(outline, rim);
         painter.fillPath(outline, QColor(drawing::ToRgb(colours_[i])));
     }
-    painter.setPen(Ink());
+}
+
+// In a narrow area the version is worth more.
+void HeaderArt::PaintFoot(QPainter& painter) const {
+    constexpr int apart = 16;
     const QRect lines = rect().adjusted(16, 12, -16, -12);
-    painter.drawText(lines, Qt::AlignBottom | Qt::AlignLeft, versionLocation_);
-    painter.drawText(lines, Qt::AlignBottom | Qt::AlignRight, Maker);
+    PaintLine(painter, lines.left(), versionLocation_);
+    const int maker = fontMetrics().horizontalAdvance(Maker);
+    if (fontMetrics().horizontalAdvance(versionLocation_) + apart + maker <= lines.width()) {
+        PaintLine(painter, lines.right() + 1 - maker, Maker);
+    }
+}
+
+// A picture has no one colour: a rim of the ground's colour keeps the text apart from it.
+void HeaderArt::PaintLine(QPainter& painter, int left, const QString& text) const {
+    const QPoint place(left, height() - 12 - fontMetrics().descent());
+    if (overPicture_) {
+        QPainterPath outline;
+        outline.addText(place, font(), text);
+        painter.strokePath(outline, QPen(QColor(drawing::ToRgb(backColour_)), 4, Qt::SolidLine,
+                                         Qt::RoundCap, Qt::RoundJoin));
+    }
+    painter.setPen(Ink());
+    painter.drawText(place, text);
 }
 
 void HeaderArt::resizeEvent(QResizeEvent*) {
@@ -159,9 +208,20 @@ void HeaderArt::resizeEvent(QResizeEvent*) {
 }
 
 void HeaderArt::PlaceInvitation() {
-    invitation_->adjustSize();
+    // As large as the width lets it be.
+    constexpr int largest = 17;
+    constexpr int smallest = 9;
+    for (int size = largest; size >= smallest; --size) {
+        QFont font = invitation_->font();
+        font.setPixelSize(size);
+        invitation_->setFont(font);
+        invitation_->adjustSize();
+        if (invitation_->width() + 8 <= width()) {
+            break;
+        }
+    }
     const int x = (width() - invitation_->width()) / 2;
-    invitation_->move(x, static_cast<int>(Baseline()) + 110);
+    invitation_->move(x, Layout().InvitationTop);
 }
 
 void HeaderArt::contextMenuEvent(QContextMenuEvent* event) {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "foundation/Program.h"
+#include "shell/HeaderLayout.h"
 #include "shell/HeaderLetters.h"
 
 class QPushButton;
@@ -35,6 +36,10 @@ public:
 
     /// What the letters stand on: red in the low byte.
     void SetBackColour(int colour);
+
+    /// Whether a picture covers that colour; texts then bring it along as their ground.
+    void SetOverPicture(bool over);
+    bool IsOverPicture() const { return overPicture_; }
     void SetVersionLocation(const QString& text);
 
     /// The letters as they are drawn at this moment, and their colours.
@@ -51,8 +56,13 @@ protected:
 private:
     void EndShow();
     void PlaceInvitation();
-    QFont LetterFont() const;
-    double Baseline() const;
+    shell::HeaderLayout Layout() const;
+    int LetterSize() const;
+    QFont LetterFont(double scale) const;
+    void PaintLetters(QPainter& painter, const QFont& letterFont) const;
+    void PaintFoot(QPainter& painter) const;
+    void PaintLine(QPainter& painter, int left, const QString& text) const;
+    void DressInvitation();
     QColor Ink() const;
 
     Program program_;
@@ -60,6 +70,7 @@ private:
     std::unique_ptr<platform::Ticker> ticker_;
     QString variation_;
     int backColour_ = 0;
+    bool overPicture_ = false;
     QString versionLocation_;
     std::vector<QString> letters_;
     std::vector<double> offsets_;  ///< twips below the line

@@ -34,10 +34,12 @@ ShellMenus::ShellMenus(QWidget* owner, shell::MenuState& state, Hooks hooks)
 }
 
 QMenu* ShellMenus::Make(const QString& name, const QString& top) {
-    auto* menu = new QMenu(owner_);
-    menu->setObjectName(name);
-    menus_[name] = menu;
-    tops_[name] = top;
+    QMenu*& menu = menus_[name];
+    if (menu == nullptr) {
+        menu = new QMenu(owner_);
+        menu->setObjectName(name);
+        tops_[name] = top;
+    }
     return menu;
 }
 

@@ -47,5 +47,5 @@ private:
     shell::MenuState& state_;
     Hooks hooks_;
     std::map<QString, QMenu*> menus_;
-    std::map<QString, QString> tops_;  ///< the menu that a submenu belongs to
+    std::map<QString, QString> tops_;  ///< the first menu that a submenu stands in
 };

@@ -37,7 +37,6 @@ ToolBar::ToolBar(const platform::Files& files, const QString& pictureFolder, Hoo
       files_(files),
       pictureFolder_(pictureFolder),
       hooks_(std::move(hooks)),
-      align_(shell::Align::Top),
       slots_(shell::Tool::Count) {
     setObjectName(u"toolbar"_s);
     setAccessibleName(u"Tool Bar"_s);
@@ -45,6 +44,8 @@ ToolBar::ToolBar(const platform::Files& files, const QString& pictureFolder, Hoo
     for (int i = 1; i <= shell::Tool::Count; ++i) {
         MakeButton(i, slots_[static_cast<std::size_t>(i - 1)]);
     }
+    SetAlign(shell::Align::Top);
+    SetBorder(1);
 }
 
 void ToolBar::MakeButton(int index, Slot& slot) {
@@ -190,6 +191,16 @@ void ToolBar::PlaceButtons() {
         }
         along += extent;
     }
+    hooks_.Hover(0);
+}
+
+int ToolBar::ButtonAt(const QPoint& place) const {
+    for (int i = 1; i <= row_.Count(); ++i) {
+        if (Button(i) != nullptr && row_.IsVisible(i) && Button(i)->geometry().contains(place)) {
+            return i;
+        }
+    }
+    return 0;
 }
 
 int ToolBar::LastEdge() const {

@@ -18,7 +18,8 @@ class ToolBar final : public QFrame {
 public:
     struct Hooks {
         std::function<void(int index)> Click;
-        /// The pointer rests on a button; 0: it has left the buttons, or something was pressed.
+        /// The pointer rests on a button; 0: it has left the buttons, or something was pressed, or
+        /// the buttons have moved.
         std::function<void(int index)> Hover;
         std::function<void(const QPoint& onScreen)> Menu;  ///< the right button was pressed
     };
@@ -72,6 +73,9 @@ private:
     bool Scroll(bool forward);
     void ScrollToolButtons();
     void MoveFocus(int from, bool forward);
+    void BeginDrag(int along);
+    int Along(const QPoint& place) const;
+    int ButtonAt(const QPoint& place) const;
     int LastEdge() const;
     bool IsVertical() const;
     void UseCursor(bool dragging);
@@ -80,7 +84,7 @@ private:
     QString pictureFolder_;
     Hooks hooks_;
     QString sizeName_;
-    int align_;
+    int align_ = 0;
     std::vector<Slot> slots_;
     shell::ToolRow row_;
     int dragLast_ = 0;  ///< where the pointer was along the bar; 0: no drag is under way

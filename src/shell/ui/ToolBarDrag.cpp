@@ -6,23 +6,34 @@
 
 #include "shell/ui/ToolBar.h"
 
-void ToolBar::mousePressEvent(QMouseEvent*) {
+int ToolBar::Along(const QPoint& place) const {
+    return IsVertical() ? place.y() : place.x();
+}
+
+// A fast hand is over the buttons again at its first move, so that the press counts, too.
+void ToolBar::mousePressEvent(QMouseEvent* event) {
     hooks_.Hover(0);
+    if (event->button() == Qt::LeftButton) {
+        BeginDrag(Along(event->pos()));
+    }
+}
+
+void ToolBar::BeginDrag(int along) {
+    if (along > LastEdge()) {
+        dragLast_ = along;
+        dragStep_ = ExtentOf(slots_.front());
+    }
 }
 
 void ToolBar::mouseMoveEvent(QMouseEvent* event) {
-    const int along = IsVertical() ? event->pos().y() : event->pos().x();
     if (!(event->buttons() & Qt::LeftButton)) {
         return;
     }
     if (dragLast_ == 0) {
-        if (along > LastEdge()) {
-            dragLast_ = along;
-            dragStep_ = ExtentOf(slots_.front());
-        }
+        BeginDrag(Along(event->pos()));
         return;
     }
-    dragNow_ = along;
+    dragNow_ = Along(event->pos());
     UseCursor(true);
     ScrollToolButtons();
 }
@@ -54,8 +65,8 @@ void ToolBar::mouseReleaseEvent(QMouseEvent*) {
 void ToolBar::wheelEvent(QWheelEvent* event) {
     const QPoint turn = event->angleDelta();
     const int delta = turn.y() != 0 ? turn.y() : turn.x();
-    if (delta != 0) {
-        Scroll(delta < 0);
+    if (delta != 0 && Scroll(delta < 0)) {
+        hooks_.Hover(ButtonAt(event->position().toPoint()));  // it rests on another button now
     }
     event->accept();
 }

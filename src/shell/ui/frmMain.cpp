@@ -8,6 +8,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/SettingsFile.h"
 #include "foundation/SetupPaths.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
@@ -69,6 +70,9 @@ void frmMain::MakeInnerParts() {
                             {[this](const QString& menu) { RefreshMenu(menu); },
                              [this](const QString& name, int index) { ClickMenu(name, index); }});
     menus_->AddTo(*menuBar());
+    menuBar()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(menuBar(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { menus_->Popup(u"BarsMenu"_s, menuBar()->mapToGlobal(at)); });
     HandleFileMenus();
     HandleCentralMenus();
     HandleClockMenus();
@@ -154,11 +158,25 @@ bool frmMain::ConfigSetup() {
 // Told now: what is not read is not written at the end either, when nobody sees a message.
 void frmMain::TellUnreadableLists() {
     const PathTable& paths = program_.Module.Paths;
-    for (const QString& file : {paths.CentralFile, paths.AutoStartFile, paths.OpenedFormsFile()}) {
+    for (const QString& file : {paths.AutoStartFile, paths.OpenedFormsFile()}) {
         if (!mduLib::MayRewrite(program_.Services.FileSystem, file)) {
             ShowStatusMsg(u"%1 can't be read as a property file; it is left as it is"_s.arg(file));
         }
     }
+    TellBrokenSettings();
+}
+
+// They are kept when the shell writes its own, at the end or before.
+void frmMain::TellBrokenSettings() {
+    const platform::Files& files = program_.Services.FileSystem;
+    if (!mduMain::IsBrokenSettings(files, IniFile(), DefaultIniFile())) {
+        return;
+    }
+    const QString kept = files.Read(IniFile())
+                             ? u"kept as "_s + mduMain::NameToKeep(files, IniFile())
+                             : u"left as it is"_s;
+    ShowStatusMsg(
+        u"%1 can't be read as settings; the defaults hold, and it is %2"_s.arg(IniFile(), kept));
 }
 
 int frmMain::LaunchTempolark(const QString& name) {

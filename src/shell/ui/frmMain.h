@@ -85,6 +85,7 @@ private:
     void MakeHeader();
     bool LaunchNamedClock();
     void TellUnreadableLists();
+    void TellBrokenSettings();
     void ExitShell();
     bool SaveOpenedForms();
 
@@ -105,6 +106,7 @@ private:
     void ApplyTitleBar(bool shown);
     void ApplyToolbarPosition(const QString& value);
     void ApplyStatusBarPosition(const QString& value);
+    void ShowStatusBarAgain();
     void ApplyBackgroundFile();
     int StoredWindowState() const;
     void LayOutHidden();
@@ -115,7 +117,8 @@ private:
     void SetBackgroundColour(const QString& colourName);
     void ApplyBackColour();
     void WriteSetting(const QString& key, const QString& value);
-    void WriteSettings();
+    bool WriteSettings();
+    void TellSaved(const QString& what);
     void SaveCentralSettings();
     void SaveWindowPlacement();
     void SaveToolbarLayout();
@@ -125,6 +128,8 @@ private:
     void FillFileMenu();
     void FillOpenedAction();
     void RefreshAgentMenu();
+    void RefreshBarMenus();
+    void MarkItem(const QString& list, const QString& caption);
     void RefreshCentralMenu();
     void RefreshMainMenu();
     void RefreshWindowMenu();

@@ -96,7 +96,10 @@ void frmMain::ShowToolTip(int index) {
     }
     const shell::ToolButton button = shell::SetupToolButton(index, {});
     mduBalloonTipLib::SetupBalloon(tip, toolbar_, button.Tag, button.ToolTipText);
-    mduBalloonTipLib::ShowBalloonOver(tip, *toolbar_, *toolbar_->Button(index));
+    tip.SetBeside(shell::IsVertical(toolbar_->AlignCode()));
+    tip.AfterDelay([this, &tip, index] {
+        mduBalloonTipLib::ShowBalloonOver(tip, *toolbar_, *toolbar_->Button(index));
+    });
 }
 
 // The property window comes later; what it will read is laid out for it.

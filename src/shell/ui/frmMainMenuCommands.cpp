@@ -78,7 +78,9 @@ void frmMain::HandleCentralMenus() {
     handlers_[u"ToolBarSize"_s] = [this](int, const MenuItem& item) {
         toolbar_->ApplyToolbarSize(item.Caption);
         const QString place = Setting(u"Tool Bar"_s);
-        toolbar_->setVisible(place != u"None"_s && place != u"Hide"_s);
+        if (place != u"None"_s && place != u"Hide"_s) {
+            toolbar_->show();
+        }
     };
     handlers_[u"ToolBarPositions"_s] = [this](int, const MenuItem& item) {
         ApplyToolbarPosition(item.Caption);
@@ -87,16 +89,28 @@ void frmMain::HandleCentralMenus() {
         WriteSetting(u"Auto Show Balloon Tips"_s, item.Tag);
     };
     handlers_[u"ToolbarCustomize"_s] = [this](int, const MenuItem&) { Customize(*toolbar_, this); };
-    handlers_[u"SaveToolbarSetting"_s] = [this](int, const MenuItem&) { SaveToolbarLayout(); };
+    handlers_[u"SaveToolbarSetting"_s] = [this](int, const MenuItem&) {
+        SaveToolbarLayout();
+        TellSaved(u"the toolbar"_s);
+    };
     handlers_[u"HideStatusBar"_s] = [this](int, const MenuItem& item) {
-        const QString value = item.Tag == u"Yes"_s ? u"No"_s : u"Yes"_s;
-        ApplyStatusBarPosition(value);
-        WriteSetting(u"Status Bar"_s, value);
+        if (item.Tag == u"Yes"_s) {
+            ApplyStatusBarPosition(u"No"_s);
+            WriteSetting(u"Status Bar"_s, u"No"_s);
+        } else {
+            ShowStatusBarAgain();
+        }
     };
     handlers_[u"SaveTempolarkCentralSettings"_s] = [this](int, const MenuItem&) {
         SaveCentralSettings();
     };
-    handlers_[u"StatusBarAction"_s] = [this](int, const MenuItem&) { statusBar_->hide(); };
+    handlers_[u"StatusBarAction"_s] = [this](int, const MenuItem& item) {
+        if (item.Tag == u"Yes"_s) {
+            statusBar_->hide();  // for now: the file does not hear of it
+        } else {
+            ShowStatusBarAgain();
+        }
+    };
     handlers_[u"ClearStatusMessage"_s] = [this](int, const MenuItem&) {
         status_.Clear();
         statusBar_->SetMessage({});

@@ -10,6 +10,7 @@
 #include "shell/ScreenSaver.h"
 #include "shell/ToolbarLook.h"
 #include "shell/ui/ClockArea.h"
+#include "shell/ui/ShellFrame.h"
 #include "shell/ui/ShellMenus.h"
 #include "shell/ui/StatusBar.h"
 #include "shell/ui/ToolBar.h"
@@ -32,13 +33,14 @@ void frmMain::RefreshMenu(const QString& menu) {
         RefreshAgentMenu();
     } else if (menu == u"CentralProperty"_s) {
         RefreshCentralMenu();
+    } else if (menu == u"BarsMenu"_s) {
+        RefreshBarMenus();
     } else if (menu == u"MainMenu"_s) {
         RefreshMainMenu();
     } else if (menu == u"Window"_s) {
         RefreshWindowMenu();
     } else if (menu == u"View"_s) {
-        menuState_[u"StatusBarAction"_s](1).Enabled = statusBar_->isVisible();
-        menuState_[u"ClearStatusMessage"_s](1).Enabled = !status_.Panel().isEmpty();
+        RefreshBarMenus();
         shell::MenuItem& startup = menuState_[u"ToolsItem"_s](15);
         startup.Caption = shell::IsInRunKey(program_.Services.Settings, AppEXEName())
                               ? u"Remove Auto Start"_s
@@ -94,34 +96,44 @@ void frmMain::RefreshAgentMenu() {
     actions(2) = {u"Run Tempolark Agent"_s, u"0"_s, true, true, false};
 }
 
-void frmMain::RefreshCentralMenu() {
+// The menus of what can be hidden: they stand under CProperty, under View and on the bars.
+void frmMain::RefreshBarMenus() {
     struct Face {
         QString Caption, Tag;
     };
-    const auto toggle = [this](const QString& item, const QString& key, const Face& whenTrue,
+    const auto toggle = [this](const QString& item, bool holds, const Face& whenTrue,
                                const Face& whenFalse) {
-        const Face& face = mduUILib::YesNoToBool(Setting(key)) ? whenTrue : whenFalse;
+        const Face& face = holds ? whenTrue : whenFalse;
         menuState_[item](1).Caption = face.Caption;
         menuState_[item](1).Tag = face.Tag;
     };
-    toggle(u"WindowTitleBar"_s, u"Window Title Bar"_s, {u"Hide Title Bar"_s, u"Yes"_s},
+    const auto says = [this](const QString& key) { return mduUILib::YesNoToBool(Setting(key)); };
+    toggle(u"WindowTitleBar"_s, says(u"Window Title Bar"_s), {u"Hide Title Bar"_s, u"Yes"_s},
            {u"Show Title Bar"_s, u"No"_s});
-    toggle(u"HideStatusBar"_s, u"Status Bar"_s, {u"Hide Status Bar"_s, u"Yes"_s},
-           {u"Show Status Bar"_s, u"No"_s});
-    toggle(u"AutoShowToolTips"_s, u"Auto Show Balloon Tips"_s, {u"Hind Tool Tips"_s, u"No"_s},
+    toggle(u"AutoShowToolTips"_s, says(u"Auto Show Balloon Tips"_s), {u"Hind Tool Tips"_s, u"No"_s},
            {u"Auto Show Tool Tips"_s, u"Yes"_s});
+    // Not what the file says: the bar may be hidden for now, and one click brings it back.
+    for (const QString& item : {u"HideStatusBar"_s, u"StatusBarAction"_s}) {
+        toggle(item, statusBar_->isVisibleTo(frame_), {u"Hide Status Bar"_s, u"Yes"_s},
+               {u"Show Status Bar"_s, u"No"_s});
+    }
+    menuState_[u"ClearStatusMessage"_s](1).Enabled = !status_.Panel().isEmpty();
+    MarkItem(u"ToolBarSize"_s, toolbar_->SizeName());
+    MarkItem(u"ToolBarPositions"_s, toolbar_->isVisibleTo(frame_)
+                                        ? mduUILib::ToolbarPositionName(toolbar_->AlignCode(), true)
+                                        : u"Hide"_s);
+}
 
-    const auto mark = [this](const QString& list, const QString& caption) {
-        shell::MenuArray& items = menuState_[list];
-        for (int i = 1; i <= items.Count(); ++i) {
-            items(i).Checked = items(i).Caption == caption;
-        }
-    };
-    mark(u"ToolBarSize"_s, toolbar_->SizeName());
-    mark(u"ToolBarPositions"_s, toolbar_->isVisible()
-                                    ? mduUILib::ToolbarPositionName(toolbar_->AlignCode(), true)
-                                    : u"Hide"_s);
-    mark(u"BGColour"_s, Setting(u"Window Background Colour"_s));
+void frmMain::MarkItem(const QString& list, const QString& caption) {
+    shell::MenuArray& items = menuState_[list];
+    for (int i = 1; i <= items.Count(); ++i) {
+        items(i).Checked = items(i).Caption == caption;
+    }
+}
+
+void frmMain::RefreshCentralMenu() {
+    RefreshBarMenus();
+    MarkItem(u"BGColour"_s, Setting(u"Window Background Colour"_s));
     shell::FillScreenSaverMenu(menuState_[u"ScreenSaverTime"_s], program_.Services.Settings,
                                AppEXEName());
 }

@@ -9,6 +9,8 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/SavedMessage.h"
+#include "foundation/SettingsFile.h"
 #include "foundation/Twips.h"
 #include "shell/CentralSettings.h"
 #include "shell/ClockCommands.h"
@@ -92,13 +94,16 @@ void frmMain::ApplyTitleBar(bool shown) {
 }
 
 void frmMain::ApplyToolbarPosition(const QString& value) {
-    const shell::ToolbarPlace place = shell::ToolbarPosition(value);
-    if (place.Align != shell::Align::Unsaid) {
-        toolbar_->SetAlign(place.Align);
-        frame_->PlaceToolbar(place.Align);
+    const std::optional<shell::ToolbarPlace> place = shell::ToolbarPosition(value);
+    if (!place) {
+        return;
     }
-    toolbar_->SetBorder(place.Border);
-    toolbar_->setVisible(place.Visible);
+    if (place->Align != shell::Align::Unsaid) {
+        toolbar_->SetAlign(place->Align);
+        frame_->PlaceToolbar(place->Align);
+    }
+    toolbar_->SetBorder(place->Border);
+    toolbar_->setVisible(place->Visible);
 }
 
 void frmMain::ApplyStatusBarPosition(const QString& value) {
@@ -110,6 +115,17 @@ void frmMain::ApplyStatusBarPosition(const QString& value) {
     statusBar_->setVisible(place.Visible);
 }
 
+// Where the settings have it; settings that hide it change.
+void frmMain::ShowStatusBarAgain() {
+    const QString stored = Setting(u"Status Bar"_s);
+    if (shell::StatusBarPosition(stored).Visible) {
+        ApplyStatusBarPosition(stored);
+    } else {
+        ApplyStatusBarPosition(u"Yes"_s);
+        WriteSetting(u"Status Bar"_s, u"Yes"_s);
+    }
+}
+
 void frmMain::ApplyBackgroundFile() {
     const QString stored = Setting(u"Window Background File"_s);
     const QString path = mduLib::ResolveAppPath(stored.trimmed(), program_.Module.Paths.AppFolder);
@@ -118,6 +134,7 @@ void frmMain::ApplyBackgroundFile() {
         picture = program_.Module.Pictures.Load(program_.Services.FileSystem, path);
     }
     area_->SetPicture(picture ? QPixmap::fromImage(*picture) : QPixmap());
+    header_->SetOverPicture(picture != nullptr);
 }
 
 void frmMain::ApplyPlacement() {
@@ -230,17 +247,26 @@ void frmMain::WriteSetting(const QString& key, const QString& value) {
     WriteSettings();
 }
 
-void frmMain::WriteSettings() {
-    if (!mduLib::RewritePropertyFile(program_.Services.FileSystem, centralProperties_, IniFile())) {
+bool frmMain::WriteSettings() {
+    if (!mduMain::ReplaceSettings(program_.Services.FileSystem, centralProperties_, IniFile(),
+                                  DefaultIniFile())) {
         ShowStatusMsg(u"%1 can't be written"_s.arg(IniFile()));
+        return false;
     }
+    return true;
+}
+
+void frmMain::TellSaved(const QString& what) {
+    ShowStatusMsg(mduLib::SavedMessage(what, program_.Services.Clock.Now()));
 }
 
 void frmMain::SaveCentralSettings() {
     shell::SaveCentralLook({backColour_, toolbar_->AlignCode(), toolbar_->isVisibleTo(frame_),
                             toolbar_->SizeName(), statusBar_->isVisibleTo(frame_), WindowState()},
                            centralProperties_);
-    WriteSettings();
+    if (WriteSettings()) {
+        TellSaved(u"the settings of Tempolark Central"_s);
+    }
 }
 
 // Which buttons the user has kept. Every start sets the bar up from the catalogue all the same.
@@ -251,8 +277,10 @@ void frmMain::SaveToolbarLayout() {
 
 void frmMain::SaveWindowPlacement() {
     // What the property window saved meanwhile stays.
+    const platform::Files& files = program_.Services.FileSystem;
     ClockProperties fresh;
-    if (mduLib::ReadPropertyFile(program_.Services.FileSystem, IniFile(), fresh)) {
+    if (!mduMain::IsBrokenSettings(files, IniFile(), DefaultIniFile()) &&
+        mduLib::ReadPropertyFile(files, IniFile(), fresh)) {
         centralProperties_ = fresh;
     }
     if (WindowState() == 0) {
