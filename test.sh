@@ -14,7 +14,7 @@ Say "Unit and widget tests"
 Count "unit and widget tests" tools/run_tests.sh debug
 
 Say "End-to-end tests"
-for script in run styles timers shell bars; do
+for script in run styles timers profiles shell bars; do
     Count "end-to-end tests, $script" tools/with_display.sh "tests/e2e/$script.sh" build/debug/bin
 done
 
@@ -26,4 +26,5 @@ Count "rules of the house" tools/check_style.sh
 Say "Tests of these checks"
 Count "tests of the rules" tests/house/rules.sh
 Count "tests of the counting" tests/house/counting.sh
+Count "tests of the installing" tests/house/installing.sh
 Finish

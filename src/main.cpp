@@ -7,11 +7,13 @@
 #include "foundation/Program.h"
 #include "platform/AbsentDevices.h"
 #include "platform/AppFolder.h"
+#include "platform/CalendarWatch.h"
 #include "platform/LocalFiles.h"
 #include "platform/QuitSignals.h"
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
 #include "platform/SystemServices.h"
+#include "platform/TzFolder.h"
 #include "platform/TzZoneDatabase.h"
 #include "platform/devices/DesktopHelp.h"
 #include "platform/devices/LogindActions.h"
@@ -20,6 +22,7 @@
 #include "platform/ui/DesktopDialogs.h"
 #include "shell/ui/ProgramIcon.h"
 #include "shell/ui/frmMain.h"
+#include "timezones/ZoneEdition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +42,7 @@ const char* const Usage =
     "  --app-folder DIR   the folder of the program's data\n"
     "  --quit-when-painted  end once the first clock has been painted (to measure the start)\n"
     "  --help             this text\n"
-    "  --version          the version\n";
+    "  --version          the version, and the edition of the zone database\n";
 
 /// Takes the options off; everything else is the command line.
 Options ReadOptions(QStringList arguments) {
@@ -52,7 +55,8 @@ Options ReadOptions(QStringList arguments) {
             std::fputs(Usage, stdout);
             options.ExitCode = 0;
         } else if (argument == u"--version"_s) {
-            std::puts("Tempolark " TEMPOLARK_VERSION);
+            std::printf("Tempolark " TEMPOLARK_VERSION "\n%s\n",
+                        qPrintable(mduTimeZones::EditionText(platform::TzEdition())));
             options.ExitCode = 0;
         } else if (argument == u"--quit-when-painted"_s) {
             options.QuitWhenPainted = true;
@@ -94,12 +98,41 @@ public:
 
 /// The profiles of the cities hold the days of one year and follow the zone database. The tool does
 /// nothing while they are up to date, and touches only a folder that it has made itself.
-void RefreshProfiles(const QString& appFolder) {
-    const QString tool = QApplication::applicationDirPath() + u"/tempolark-profiles"_s;
-    if (QFile::exists(appFolder + u"/Timezones/.made-of"_s) && QFile::exists(tool)) {
-        QProcess::startDetached(tool, {appFolder});
+class ProfileRenewal {
+public:
+    ProfileRenewal(const platform::WallClock& clock, const QString& appFolder)
+        : clock_(clock),
+          tool_(QApplication::applicationDirPath() + u"/tempolark-profiles"_s),
+          appFolder_(appFolder) {}
+
+    /// Waits for the end: the clocks that open now are to find the new days.
+    void Run() const {
+        if (IsDue()) {
+            QProcess::execute(tool_, Order());
+        }
     }
-}
+
+    /// While clocks run, none of them waits for it.
+    void RunBehind() const {
+        if (IsDue()) {
+            QProcess::startDetached(tool_, Order());
+        }
+    }
+
+private:
+    bool IsDue() const {
+        return QFile::exists(appFolder_ + u"/Timezones/made-of.txt"_s) && QFile::exists(tool_);
+    }
+
+    // The year begins by this machine's calendar.
+    QStringList Order() const {
+        return {appFolder_, u"--date"_s, clock_.Now().date().toString(Qt::ISODate)};
+    }
+
+    const platform::WallClock& clock_;
+    QString tool_;
+    QString appFolder_;
+};
 
 }  // namespace
 
@@ -139,12 +172,18 @@ int main(int argc, char** argv) {
                                       players, sound, dialogs, tray, help,     random};
     Forms windows;
 
+    const ProfileRenewal profiles(clock, module.Paths.AppFolder);
+    profiles.Run();
+    const platform::CalendarWatch calendar(clock, [&profiles] { profiles.RunBehind(); });
+
     frmMain shell({services, module, windows});
     dialogs.SetOwner(&shell);
     if (!shell.Load()) {
         return 1;
     }
-    RefreshProfiles(module.Paths.AppFolder);
+    if (const QString notice = shell.StartNotice(); !notice.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(notice));
+    }
     FirstPaint firstPaint;
     if (options.QuitWhenPainted) {
         application.installEventFilter(&firstPaint);

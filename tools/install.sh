@@ -5,7 +5,8 @@
 #   tools/install.sh test     that, and what the tests and the checks need
 #   tools/install.sh package  what building and packaging need
 #
-# Says nothing and touches nothing when all is there. The apt-get used is ${APT_GET:-apt-get}.
+# Says nothing and touches nothing when all is there and the zone database is up to date. The
+# commands used are ${APT_GET:-apt-get} and ${APT_CACHE:-apt-cache}.
 set -euo pipefail
 
 packages=(
@@ -41,20 +42,46 @@ if ! command -v dpkg-query >/dev/null; then
     exit 0
 fi
 
+asRoot=()
+(($(id -u) == 0)) || asRoot=(sudo)
+MayInstall() { ((${#asRoot[@]} == 0)) || command -v sudo >/dev/null; }
+Apt() {
+    "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive "${APT_GET:-apt-get}" -qq \
+        -o Dpkg::Use-Pty=0 -o Acquire::Retries=3 -o DPkg::Lock::Timeout=120 "$@" </dev/null
+}
+Install() { Apt install -y --no-install-recommends "$@" >/dev/null; }
+
 installed=" $(dpkg-query -W -f='${db:Status-Status}=${Package} ' "${packages[@]}" 2>/dev/null || true)"
 missing=()
 for package in "${packages[@]}"; do
     [[ "$installed" == *" installed=$package "* ]] || missing+=("$package")
 done
-((${#missing[@]} == 0)) && exit 0
-
-echo "Installing: ${missing[*]}"
-asRoot=()
-if (($(id -u) != 0)); then
-    command -v sudo >/dev/null || { echo "Neither root nor sudo: can't install." >&2; exit 1; }
-    asRoot=(sudo)
+if ((${#missing[@]})); then
+    echo "Installing: ${missing[*]}"
+    MayInstall || { echo "Neither root nor sudo: can't install." >&2; exit 1; }
+    Apt update
+    Install "${missing[@]}"
 fi
-apt=("${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive "${APT_GET:-apt-get}" -qq
-     -o Dpkg::Use-Pty=0 -o Acquire::Retries=3 -o DPkg::Lock::Timeout=120)
-"${apt[@]}" update
-"${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null >/dev/null
+
+# The zone database is on most machines, but old: it is asked for anew once a week. A machine that
+# can't get another goes on with the one that it has.
+asked=${ZONES_ASKED:-$(dirname "$0")/../build/tzdata.asked}
+[[ -z "$(find "$asked" -mtime -7 2>/dev/null)" ]] || exit 0
+mkdir -p "$(dirname "$asked")" && touch "$asked" || exit 0
+
+# ZoneVersions: the installed version of tzdata, and the newest that apt knows of.
+ZoneVersions() {
+    LC_ALL=C "${APT_CACHE:-apt-cache}" policy tzdata 2>/dev/null |
+        awk '/^ *Installed:/ {installed = $2} /^ *Candidate:/ {print installed, $2}'
+}
+read -r has candidate < <(ZoneVersions) || exit 0
+MayInstall || exit 0
+# What apt knows may be as old; a database of this year needs no second question.
+if [[ "$has" == "$candidate" && "$has" != "$(date +%Y)"* ]]; then
+    Apt update >/dev/null 2>&1 || true
+    read -r has candidate < <(ZoneVersions) || exit 0
+fi
+[[ "$has" != "$candidate" ]] || exit 0
+echo "Bringing the zone database up to date: $has to $candidate"
+Install tzdata 2>/dev/null || { Apt update >/dev/null 2>&1 && Install tzdata 2>/dev/null; } ||
+    echo "That failed: clocks go by the zone database $has." >&2

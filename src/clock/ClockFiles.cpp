@@ -8,6 +8,7 @@
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
+#include "timezones/ZoneYear.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +43,7 @@ bool ClockFiles::LoadForShell(const QString& zoneName) {
     paths.TimerFile = paths.TimersFolder + mduLib::ZoneFileStem(zoneName) + u"Timer.txt"_s;
     const bool merged = RefreshFile();
     LoadCurrent();
-    if (!merged) {
+    if (!merged || HasOldZone()) {
         RefreshDefaultTimeZoneDetails(mduLib::StripIniExtension(zoneName));
     }
     program_.Module.CurrentProperties = data_.Properties();
@@ -78,6 +79,9 @@ void ClockFiles::ReadProperties() {
 
 void ClockFiles::FillZone(const QString& zoneName) {
     const QString name = mduLib::StripIniExtension(zoneName);
+    if (HasOldZone()) {
+        WriteZone(name);
+    }
     if (mayWrite_) {
         bool written = true;
         data_.Zone =
@@ -92,6 +96,9 @@ void ClockFiles::FillZone(const QString& zoneName) {
 
 void ClockFiles::RefreshZone() {
     const platform::Services& services = program_.Services;
+    if (HasOldZone()) {
+        WriteZone(mduLib::FileBaseName(data_.PropertyFileName, false));
+    }
     if (mayWrite_) {
         ReportUnless(mduTimeZones::ReadZoneKeys(services, data_.Zone, data_.EditProperties(),
                                                 data_.PropertyFileName));
@@ -103,7 +110,12 @@ void ClockFiles::RefreshZone() {
                                      mduTimeZones::GetLocalZone(services).CurrentGMTHours);
 }
 
-void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
+// A file that has just been merged, or that a clock has held open over the turn of the year.
+bool ClockFiles::HasOldZone() const {
+    return mduTimeZones::IsOfAnotherYear(data_.Properties(), program_.Services.Clock.Now().date());
+}
+
+void ClockFiles::WriteZone(const QString& zoneName) {
     if (mayWrite_) {
         bool written = true;
         mduTimeZones::WriteZoneKeys(program_.Services, program_.Module.Paths,
@@ -111,6 +123,10 @@ void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
                                     &written);
         ReportUnless(written);
     }
+}
+
+void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
+    WriteZone(zoneName);
     program_.Module.CurrentProperties = data_.Properties();
 }
 

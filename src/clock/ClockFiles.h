@@ -22,8 +22,8 @@ public:
         : data_(data), program_(program), report_(std::move(report)) {}
 
     /// Brings the zone's file into being or up to date, reads it, refreshes its zone keys unless it
-    /// has just been merged, and publishes the properties. @return false when the name can't be
-    /// that of a file.
+    /// has just been merged and they are of this year, and publishes the properties. @return false
+    /// when the name can't be that of a file.
     bool LoadForShell(const QString& zoneName);
 
     /// Makes the zone's file the current one, without touching it. @return false when the name
@@ -37,10 +37,11 @@ public:
     void LoadCurrent();
 
     /// Fills the clock's zone: the record of that name, the file's keys over it, the present
-    /// offset.
+    /// offset. Keys with days of another year are made anew first.
     void FillZone(const QString& zoneName);
 
     /// Lays the properties' zone keys over the zone once more and works its present offset out.
+    /// Keys with days of another year are made anew first.
     void RefreshZone();
 
     /// Rewrites the zone keys of the file from the zone's present rules and publishes the
@@ -66,6 +67,8 @@ public:
     bool MayWrite() const { return mayWrite_; }
 
 private:
+    bool HasOldZone() const;
+    void WriteZone(const QString& zoneName);
     void ReadProperties();
     void ReportUnless(bool written) const;
 

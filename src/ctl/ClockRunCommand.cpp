@@ -11,6 +11,7 @@
 #include "foundation/SetupPaths.h"
 #include "platform/SimulatedClock.h"
 #include "platform/SystemClock.h"
+#include "platform/TzFolder.h"
 #include "platform/TzZoneDatabase.h"
 #include "timezones/StartZone.h"
 
@@ -121,9 +122,7 @@ int Run(Context& context) {
         return WrongArguments;
     }
     const platform::Services& machine = context.Services;
-    const QTimeZone zone = context.Global.LocalZone.isEmpty() ? QTimeZone::systemTimeZone()
-                                                              : QTimeZone(context.Global.LocalZone);
-    platform::SimulatedClock clock(machine.Clock.Now(), zone);
+    platform::SimulatedClock clock(machine.Clock.Now(), platform::TzZone(context.Global.LocalZone));
     platform::TzZoneDatabase zones(clock, context.Global.LocalZone);
     const EventLog log(clock);
     RecordingVoices voices(log.Teller());

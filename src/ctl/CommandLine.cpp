@@ -1,5 +1,8 @@
 #include "ctl/CommandLine.h"
 
+#include "platform/TzFolder.h"
+#include "timezones/ZoneEdition.h"
+
 using namespace Qt::StringLiterals;
 
 namespace ctl {
@@ -14,12 +17,18 @@ QString Help(const std::vector<Command>& commands) {
         "  --now YYYY-MM-DDTHH:MM:SS   the local date and time\n"
         "  --local-zone IANA           the machine's zone\n"
         "  --seed N                    seed of every random choice\n"
-        "  --help, --version\n\n"
+        "  --help, --version           this text; the version and the edition of the zone "
+        "database\n\n"
         "Behind \"--\" nothing is taken for an option.\n"_s;
     for (const Command& command : commands) {
         text += u"\n  "_s + command.Group + u' ' + command.Name + u' ' + command.Usage;
     }
     return text;
+}
+
+QString Version() {
+    return u"tempolarkctl " TEMPOLARK_VERSION "\n"_s +
+           mduTimeZones::EditionText(platform::TzEdition());
 }
 
 const Command* FindCommand(const QStringList& arguments, const std::vector<Command>& commands) {
@@ -81,7 +90,7 @@ CommandLine ParseCommandLine(QStringList arguments, const std::vector<Command>& 
         return line;
     }
     if (line.Global.Help || line.Global.Version) {
-        line.Answer = line.Global.Help ? Help(commands) : u"tempolarkctl " TEMPOLARK_VERSION ""_s;
+        line.Answer = line.Global.Help ? Help(commands) : Version();
         return line;
     }
     line.Chosen = FindCommand(arguments, commands);

@@ -1,6 +1,6 @@
 #include "ctl/GlobalOptions.h"
 
-#include <QTimeZone>
+#include "platform/TzFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +14,7 @@ QString SetNow(const QString& text, GlobalOptions& options) {
 }
 
 QString SetLocalZone(const QString& text, GlobalOptions& options) {
-    if (!QTimeZone(text.toUtf8()).isValid()) {
+    if (!platform::TzZone(text.toUtf8()).isValid()) {
         return u"--local-zone knows no zone "_s + text;
     }
     options.LocalZone = text.toUtf8();

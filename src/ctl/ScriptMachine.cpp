@@ -2,6 +2,7 @@
 
 #include "ctl/Command.h"
 #include "platform/SystemClock.h"
+#include "platform/TzFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,8 +21,7 @@ std::unique_ptr<platform::WallClock> MakeClock(const GlobalOptions& options) {
     if (!options.Now && options.LocalZone.isEmpty()) {
         return std::make_unique<platform::SystemClock>();
     }
-    const QTimeZone zone =
-        options.LocalZone.isEmpty() ? QTimeZone::systemTimeZone() : QTimeZone(options.LocalZone);
+    const QTimeZone zone = platform::TzZone(options.LocalZone);
     return std::make_unique<platform::SimulatedClock>(options.Now.value_or(PresentTimeIn(zone)),
                                                       zone);
 }

@@ -5,9 +5,11 @@
 
 #include "foundation/Numbers.h"
 #include "foundation/SetupPaths.h"
+#include "timezones/UnknownZone.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneConversion.h"
 #include "timezones/ZoneDescription.h"
+#include "timezones/ZoneEdition.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -33,8 +35,17 @@ float LocalHours(const Context& context) {
     return mduTimeZones::GetLocalZone(context.Services).CurrentGMTHours;
 }
 
+/// A name that no zone has is told, unless a file holds the zone's keys.
 TimeZoneRecord Find(const Context& context) {
-    return mduTimeZones::FindTimeZone(context.Services, context.State.Paths, context.Arguments[0]);
+    const QString& name = context.Arguments[0];
+    const PathTable& paths = context.State.Paths;
+    const QString notice = context.HasOption(u"--file"_s)
+                               ? QString()
+                               : mduTimeZones::UnknownZoneNotice(context.Services, paths, name);
+    if (!notice.isEmpty()) {
+        Complain(notice);
+    }
+    return mduTimeZones::FindTimeZone(context.Services, paths, name);
 }
 
 /// The folder of the user's zone files.
@@ -58,6 +69,17 @@ std::optional<TimeZoneRecords> RecordsOfSource(const Context& context, const QSt
     return std::nullopt;
 }
 
+/// The list is JSON, so what it was made from is told beside it.
+void TellEdition(const Context& context) {
+    const QString edition = context.Services.Zones.Edition();
+    Complain(mduTimeZones::EditionText(edition));
+    const QString notice =
+        mduTimeZones::OldEditionNotice(edition, context.Services.Clock.Now().date());
+    if (!notice.isEmpty()) {
+        Complain(notice);
+    }
+}
+
 int List(Context& context) {
     const QString source =
         context.HasOption(u"--source"_s) ? context.Option(u"--source"_s) : u"windows"_s;
@@ -70,6 +92,7 @@ int List(Context& context) {
         array.append(RecordAsJson((*records)[number]));
     }
     PrintJson(QJsonDocument(array));
+    TellEdition(context);
     return Done;
 }
 

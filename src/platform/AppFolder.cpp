@@ -15,7 +15,12 @@ namespace platform {
 namespace {
 
 bool IsNewer(const QFileInfo& source, const QFileInfo& target) {
-    return !target.exists() || source.lastModified() > target.lastModified();
+    return source.lastModified() > target.lastModified();
+}
+
+// The profiles of cities are kept up to date where they are, whatever the user has changed in them.
+bool IsKeptUpToDate(const QString& name) {
+    return name.startsWith("/Timezones/"_L1);
 }
 
 /// A copy keeps its source's time: a user's file is merged with a default that is newer than it.
@@ -41,8 +46,10 @@ void FillFrom(const QString& installed, const QString& folder) {
     QDirIterator files(installed, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString source = files.next();
-        const QString target = folder + source.sliced(installed.size());
-        if (IsNewer(QFileInfo(source), QFileInfo(target))) {
+        const QString name = source.sliced(installed.size());
+        const QString target = folder + name;
+        if (!QFile::exists(target) ||
+            (!IsKeptUpToDate(name) && IsNewer(QFileInfo(source), QFileInfo(target)))) {
             CopyWithTime(source, target);
         }
     }

@@ -16,7 +16,8 @@ AppFolderPlaces FindAppFolderPlaces();
 
 /// The program folder: the executable's own where the user may write there and the data stands
 /// beside it, else the user's, which is filled from the installed data. Default files that have
-/// become newer since are brought over again; nothing of the user's is touched.
+/// become newer since are brought over again, profiles of cities only while they are missing;
+/// nothing of the user's is touched.
 QString ChooseAppFolder(const AppFolderPlaces& places);
 
 }  // namespace platform

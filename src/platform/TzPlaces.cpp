@@ -1,10 +1,12 @@
 #include "platform/TzPlaces.h"
 
-#include <QFile>
 #include <QLocale>
 #include <cmath>
 
+#include "platform/TzFolder.h"
 #include "platform/TzWindowsZones.h"
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -40,11 +42,6 @@ QStringList CountryNames(const QByteArray& codes) {
     return names;
 }
 
-QByteArray Content(const char* path) {
-    QFile file(QString::fromLatin1(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 }  // namespace
 
 std::optional<ZonePlace> ParseTzPlace(const QByteArray& text) {
@@ -73,8 +70,7 @@ TzPlaces::TzPlaces(const QByteArray& table) {
 
 // The first table has a line for each country, the second knows a few more of today's identifiers.
 TzPlaces TzPlaces::OfThisMachine() {
-    return TzPlaces(Content("/usr/share/zoneinfo/zone.tab") + '\n' +
-                    Content("/usr/share/zoneinfo/zone1970.tab"));
+    return TzPlaces(TzFile(u"zone.tab"_s) + '\n' + TzFile(u"zone1970.tab"_s));
 }
 
 void TzPlaces::Take(const QByteArray& line) {

@@ -3,6 +3,7 @@
 #include <QTimeZone>
 
 #include "platform/TzAliases.h"
+#include "platform/TzFolder.h"
 
 namespace platform {
 
@@ -168,12 +169,12 @@ std::vector<TzWindowsZone> TzWindowsZones() {
 
 QByteArray TzDefaultIana(const QString& name) {
     QByteArray iana = QTimeZone::windowsIdToDefaultIanaId(name.toUtf8());
-    if (iana.isEmpty() || QTimeZone(iana).isValid()) {
+    if (iana.isEmpty() || TzZone(iana).isValid()) {
         return iana;
     }
     // A machine without the links of the past knows "Asia/Kolkata" only.
     const QByteArray present = TzPresentId(iana);
-    return QTimeZone(present).isValid() ? present : QByteArray();
+    return !present.isEmpty() && TzZone(present).isValid() ? present : QByteArray();
 }
 
 QString TzWindowsName(const QByteArray& iana) {

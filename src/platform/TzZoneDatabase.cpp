@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "platform/TzAliases.h"
+#include "platform/TzFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,8 +16,8 @@ namespace {
 /// Stands for the identifier of a zone that has none, and names its subkey.
 constexpr char namelessZone[] = "Local time";
 
-/// The identifier as QTimeZone knows it: the environment may hold ":Europe/Paris" or a full path.
-/// Empty when that is no zone.
+/// The identifier as the database knows it: the environment may hold ":Europe/Paris" or a full
+/// path. Empty when that is no zone.
 QByteArray UsableIana(QByteArray iana) {
     if (iana.startsWith(':')) {
         iana.remove(0, 1);
@@ -25,7 +26,7 @@ QByteArray UsableIana(QByteArray iana) {
     if (const qsizetype at = iana.indexOf(folder); at >= 0) {
         iana.remove(0, at + folder.size());
     }
-    return QTimeZone(iana).isValid() ? iana : QByteArray();
+    return !iana.isEmpty() && TzZone(iana).isValid() ? iana : QByteArray();
 }
 
 bool KeepsOffset(const TzYear& year, int offset) {
@@ -158,6 +159,10 @@ TimeZoneInformation TzZoneDatabase::GetTimeZoneInformation() const {
     return information;
 }
 
+QString TzZoneDatabase::Edition() const {
+    return TzEdition();
+}
+
 QString TzZoneDatabase::LocalStandardName() const {
     return Local().Name;
 }
@@ -175,7 +180,7 @@ const TzYear& TzZoneDatabase::YearOf(const QByteArray& iana) const {
     }
     auto found = years_.find(iana);
     if (found == years_.end()) {
-        found = years_.insert(iana, ReadTzYear(QTimeZone(iana), year));
+        found = years_.insert(iana, ReadTzYear(TzZone(iana), year));
     }
     return *found;
 }

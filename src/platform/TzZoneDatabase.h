@@ -43,6 +43,7 @@ public:
     /// "Local time". Both names are those of the machine's subkey.
     TimeZoneInformation GetTimeZoneInformation() const override;
     QString LocalStandardName() const override;
+    QString Edition() const override;
     bool IsWindowsNT() const override { return true; }
 
     /// The tz identifier behind a subkey, "Local time" for itself; empty for a name that is no

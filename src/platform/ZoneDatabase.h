@@ -90,6 +90,10 @@ public:
     /// The subkey of the machine's own zone; empty if there is none.
     virtual QString LocalStandardName() const = 0;
 
+    /// The edition of the database: a year, and a letter that tells the editions of one year apart,
+    /// as in "2025b". Empty when it does not tell.
+    virtual QString Edition() const { return {}; }
+
     /// Whether the platform is of the NT family: the zone database and the date rules differ.
     virtual bool IsWindowsNT() const = 0;
 };

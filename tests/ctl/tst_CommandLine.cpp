@@ -24,7 +24,8 @@ void tst_CommandLine::answersQuestions() {
     QCOMPARE(help.Messages, QByteArray());
     const CompanionAnswer version = companion.Run({u"--version"_s});
     QCOMPARE(version.Status, 0);
-    QCOMPARE(version.Output, "tempolarkctl " TEMPOLARK_VERSION "\n"_ba);
+    QCOMPARE(version.Output,
+             "tempolarkctl " TEMPOLARK_VERSION "\nTime zone database: edition 2026a\n"_ba);
 }
 
 void tst_CommandLine::refusesWrongArguments_data() {

@@ -34,6 +34,9 @@ class tst_ZonesCommands : public QObject {
 private Q_SLOTS:
     void ShowsAZone();
     void ShowsAnUnknownZone();
+    void TellsOfAMistypedName_data();
+    void TellsOfAMistypedName();
+    void TellsTheEditionBesideTheList();
     void ShowsAZoneThroughAFile();
     void KeepsAFileThatItCannotRead();
     void KeepsABinaryFile();
@@ -79,6 +82,47 @@ void tst_ZonesCommands::ShowsAnUnknownZone() {
     QCOMPARE(answer.Object()[u"StandardName"_s], u"Nowhere"_s);
     QCOMPARE(answer.Object()[u"KeyName"_s], QString());
     QCOMPARE(answer.Object()[u"HoursFromLocal"_s], -5.5);
+}
+
+void tst_ZonesCommands::TellsOfAMistypedName_data() {
+    QTest::addColumn<QStringList>("command");
+    QTest::addColumn<QByteArray>("messages");
+    const QByteArray told =
+        "No time zone is called \"tokyo\": it counts as GMT. The nearest is \"Tokyo Standard "
+        "Time\"\n";
+    QTest::newRow("show") << QStringList{u"show"_s, u"tokyo"_s} << told;
+    QTest::newRow("describe") << QStringList{u"describe"_s, u"tokyo"_s} << told;
+    QTest::newRow("convert") << QStringList{u"convert"_s, u"tokyo"_s, u"12:30"_s} << told;
+    QTest::newRow("name-at") << QStringList{u"name-at"_s, u"tokyo"_s, u"2026-07-01T12:00:00"_s}
+                             << told;
+    QTest::newRow("right") << QStringList{u"show"_s, u"Tokyo Standard Time"_s} << QByteArray();
+    QTest::newRow("nothing like it")
+        << QStringList{u"show"_s, u"Zzzzzzz"_s}
+        << QByteArray("No time zone is called \"Zzzzzzz\": it counts as GMT\n");
+}
+
+// The record stays what it is for a name that no zone has, and the command is done.
+void tst_ZonesCommands::TellsOfAMistypedName() {
+    QFETCH(QStringList, command);
+    const Companion companion;
+    const CompanionAnswer answer = Run(companion, command);
+    QCOMPARE(answer.Status, 0);
+    QTEST(answer.Messages, "messages");
+    QVERIFY(!answer.Object().isEmpty());
+    const QString file = companion.Write(u"zone.ini"_s, "Time Zone Standard GMT (Minutes)=90\r\n");
+    QCOMPARE(Run(companion, {u"show"_s, u"tokyo"_s, u"--file"_s, file}).Messages, QByteArray());
+}
+
+void tst_ZonesCommands::TellsTheEditionBesideTheList() {
+    const QByteArray edition = "Time zone database: edition 2026a\n";
+    const CompanionAnswer answer = Run(Companion(), {u"list"_s});
+    QCOMPARE(answer.Messages, edition);
+    QVERIFY(answer.Json().isArray());
+    QCOMPARE(
+        Companion().Run({u"--now"_s, u"2027-05-01T12:00:00"_s, u"zones"_s, u"list"_s}).Messages,
+        edition +
+            "The time zone database of this machine (edition 2026a) is older than a year: "
+            "clocks may be wrong. The package tzdata brings a new one\n");
 }
 
 void tst_ZonesCommands::ShowsAZoneThroughAFile() {

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void leavesAFolderThatTheUserCantWrite();
     void bringsNewerDefaultsOver();
     void leavesWhatIsTheUsers();
+    void bringsProfilesWithTheirStampOnce();
     void copiesReadOnlyFiles();
     void goesOnWithoutInstalledData();
 
@@ -101,6 +102,25 @@ void tst_AppFolder::leavesWhatIsTheUsers() {
     Choose();
     QCOMPARE(Read(User(u"bob/TimeZones/Oslo.ini"_s)), "Own=1"_ba);
     QCOMPARE(Read(User(u"ini/Tempolark.ini"_s)), "newer"_ba);
+}
+
+// They are made anew in the user's folder, where they may have been changed.
+void tst_AppFolder::bringsProfilesWithTheirStampOnce() {
+    const QString oslo = u"Timezones/Oslo.ini"_s;
+    const QString stamp = u"Timezones/made-of.txt"_s;
+    Write(places_.InstalledData + u'/' + oslo, "Flag File=a", 1000000000);
+    Write(places_.InstalledData + u'/' + stamp, "2026", 1000000000);
+    Choose();
+    QCOMPARE(Read(User(oslo)), "Flag File=a"_ba);
+    QCOMPARE(Read(User(stamp)), "2026"_ba);
+    Write(User(oslo), "Flag File=mine", 1000000001);
+    Write(places_.InstalledData + u'/' + oslo, "Flag File=b", 1000000002);
+    Write(places_.InstalledData + u'/' + stamp, "2027", 1000000002);
+    Write(places_.InstalledData + u"/Timezones/Rome.ini"_s, "Flag File=c", 1000000002);
+    Choose();
+    QCOMPARE(Read(User(oslo)), "Flag File=mine"_ba);
+    QCOMPARE(Read(User(stamp)), "2026"_ba);
+    QCOMPARE(Read(User(u"Timezones/Rome.ini"_s)), "Flag File=c"_ba);
 }
 
 void tst_AppFolder::copiesReadOnlyFiles() {

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "platform/SimulatedClock.h"
+#include "platform/TzFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +33,8 @@ private:
 void tst_SimulatedClock::init() {
     calls_.clear();
     clock_ = std::make_unique<platform::SimulatedClock>(
-        QDateTime(QDate(2026, 6, 15), QTime(12, 0, 0, 250), Qt::UTC), QTimeZone("Europe/Oslo"));
+        QDateTime(QDate(2026, 6, 15), QTime(12, 0, 0, 250), Qt::UTC),
+        platform::TzZone("Europe/Oslo"));
 }
 
 void tst_SimulatedClock::standsStill() {

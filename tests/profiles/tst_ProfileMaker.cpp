@@ -21,6 +21,11 @@ private Q_SLOTS:
     void RestoresALostProfile();
     void FollowsTheDefaultFile();
     void TakesAwayWhatTheTableHasLost();
+    void KeepsWhatTheUserHasChanged();
+    void RenewsAChangedProfileAgainAndAgain();
+    void KeepsAFileOfAnotherZone();
+    void KeepsAChangedProfileThatTheTableHasLost();
+    void GoesWhereItIsCopied();
     void TellsCitiesOfOneNameApart();
     void PassesOverOtherLines();
     void RefusesOrders_data();
@@ -123,6 +128,87 @@ void tst_ProfileMaker::TakesAwayWhatTheTableHasLost() {
     QVERIFY(!maker.Has(u"GMT"_s));
     QVERIFY(maker.Has(u"UTC"_s));
     QCOMPARE(maker.Read(u"Mine"_s), QByteArray("own"));
+}
+
+// The zone's six keys are renewed in their lines; a flag, a word of one's own and a blank line
+// stay.
+void tst_ProfileMaker::KeepsWhatTheUserHasChanged() {
+    const ProfileMaker maker;
+    QCOMPARE(maker.Run(Summer), 0);
+    maker.Write(u"Timezones/Berlin.ini"_s,
+                "Time Zone:Flag File=.\\mine.png\r\n\r\n"
+                "Time Zone:Time Zone Standard Name=Berlin\r\n"
+                "Time Zone:Time Zone Standard Start Time=25/10/2026 3:00:00\r\n"
+                "time zone standard gmt (minutes) =-1\n"
+                "Time Zone Daylight Start Time=29/03/2026 2:00:00\r\n"
+                "Time Zone Daylight Start Time=the second of its name\r\n"
+                "my own word\r\n"
+                "Clock:Gr\xf6\xdf"
+                "e=Time Zone Daylight Name=");
+    QCOMPARE(maker.Run(u"2027-01-02"_s), 0);
+    QCOMPARE(maker.Read(u"Berlin"_s),
+             QByteArray("Time Zone:Flag File=.\\mine.png\r\n\r\n"
+                        "Time Zone:Time Zone Standard Name=Berlin\r\n"
+                        "Time Zone:Time Zone Standard Start Time=31/10/2027 3:00:00\r\n"
+                        "time zone standard gmt (minutes) =-60\n"
+                        "Time Zone Daylight Start Time=28/03/2027 2:00:00\r\n"
+                        "Time Zone Daylight Start Time=the second of its name\r\n"
+                        "my own word\r\n"
+                        "Clock:Gr\xf6\xdf"
+                        "e=Time Zone Daylight Name="));
+    QVERIFY(maker.Read(u"Rome"_s).contains("Daylight Start Time=28/03/2027 2:00:00\r\n"));
+}
+
+void tst_ProfileMaker::RenewsAChangedProfileAgainAndAgain() {
+    const ProfileMaker maker;
+    QCOMPARE(maker.Run(Summer), 0);
+    maker.Write(u"Timezones/Rome.ini"_s, maker.Read(u"Rome"_s).replace("Analogue", "Digital"));
+    QCOMPARE(maker.Run(u"2027-01-02"_s), 0);
+    QCOMPARE(maker.Run(u"2028-01-02"_s), 0);
+    QVERIFY(maker.Read(u"Rome"_s).contains("Clock:Clocks=Digital,Digital,Digital\r\n"));
+    QVERIFY(maker.Read(u"Rome"_s).contains("Daylight Start Time=26/03/2028 2:00:00\r\n"));
+    QVERIFY(maker.Read(u"Oslo"_s).contains("Clock:Clocks=Analogue,Analogue,Digital\r\n"));
+}
+
+void tst_ProfileMaker::KeepsAFileOfAnotherZone() {
+    const ProfileMaker maker;
+    const QByteArray own =
+        "Time Zone Standard Name=My Rome\r\nTime Zone Standard GMT (Minutes)=7\r\n";
+    const QByteArray nameless = "Time Zone Standard GMT (Minutes)=7\r\n";
+    maker.Write(u"Timezones/Rome.ini"_s, own);
+    maker.Write(u"Timezones/Oslo.ini"_s, nameless);
+    QCOMPARE(maker.Run(Summer), 0);
+    QCOMPARE(maker.Read(u"Rome"_s), own);
+    QCOMPARE(maker.Read(u"Oslo"_s), nameless);
+    QCOMPARE(maker.Run(u"2027-01-02"_s), 0);
+    QCOMPARE(maker.Read(u"Rome"_s), own);
+    QCOMPARE(maker.Read(u"Oslo"_s), nameless);
+}
+
+void tst_ProfileMaker::KeepsAChangedProfileThatTheTableHasLost() {
+    const ProfileMaker maker;
+    QCOMPARE(maker.RunWithTable("ZZ\t+0000+00000\tEtc/GMT\n"), 0);
+    maker.Write(u"Timezones/GMT.ini"_s, "own");
+    QCOMPARE(maker.RunWithTable("ZZ\t+0000+00000\tEtc/UTC\n"), 0);
+    QCOMPARE(maker.Read(u"GMT"_s), QByteArray("own"));
+}
+
+// A copy has all that is to be seen of the folder, and may have kept older profiles in it.
+void tst_ProfileMaker::GoesWhereItIsCopied() {
+    const ProfileMaker maker;
+    QCOMPARE(maker.Run(Summer), 0);
+    const ProfileMaker copy;
+    QDir().mkpath(copy.Folder.filePath(u"Timezones"_s));
+    const QDir made(maker.Folder.filePath(u"Timezones"_s));
+    for (const QString& name : made.entryList(QDir::Files)) {
+        QVERIFY(QFile::copy(made.filePath(name), copy.Folder.filePath(u"Timezones/"_s + name)));
+    }
+    QVERIFY(QFile::exists(copy.Folder.filePath(u"Timezones/made-of.txt"_s)));
+    copy.Write(u"Timezones/Rome.ini"_s, copy.Read(u"Rome"_s).replace("/2026", "/2025"));
+    QCOMPARE(copy.Run(Summer), 0);
+    QCOMPARE(copy.Read(u"Rome"_s), maker.Read(u"Rome"_s));
+    QCOMPARE(copy.Run(u"2027-01-02"_s), 0);
+    QVERIFY(copy.Read(u"Berlin"_s).contains("Daylight Start Time=28/03/2027 2:00:00\r\n"));
 }
 
 void tst_ProfileMaker::TellsCitiesOfOneNameApart() {

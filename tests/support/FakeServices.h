@@ -27,6 +27,7 @@ public:
     std::map<QString, QStringList> CountryNames;    ///< by subkey
     platform::TimeZoneInformation Local;
     QString LocalName;
+    QString EditionName;
     bool NT = true;
 
     /// Adds a zone whose three texts are formed from its name.
@@ -47,6 +48,7 @@ public:
     QStringList Countries(const QString& subkey) const override;
     platform::TimeZoneInformation GetTimeZoneInformation() const override { return Local; }
     QString LocalStandardName() const override { return LocalName; }
+    QString Edition() const override { return EditionName; }
     bool IsWindowsNT() const override { return NT; }
 
 private:

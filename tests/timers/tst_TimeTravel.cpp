@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "foundation/PropertyLookup.h"
+#include "platform/TzFolder.h"
 #include "support/FakeTimerHost.h"
 #include "support/MachineWithZones.h"
 #include "timezones/ZoneArithmetic.h"
@@ -34,7 +35,7 @@ struct Day {
 
     explicit Day(const QDateTime& start) {
         SetNow(start);
-        Zones.Machine.Clock.SetZone(QTimeZone("Europe/London"));
+        Zones.Machine.Clock.SetZone(platform::TzZone("Europe/London"));
         Zone = mduTimeZones::FindTimeZone(Services, Zones.Module.Paths, u"GMT Standard Time"_s);
         Refresh();
         mduLib::PutProperty(u"Speak Timer Message"_s, u"No"_s, Host.Properties);

@@ -101,6 +101,9 @@ class tst_ZoneClocks : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // What holds for every edition is shown with the one that this machine has.
+    void initTestCase() { qunsetenv("TZDIR"); }
+
     void AgreesAtNoon_data() {
         QTest::addColumn<QByteArray>("machine");
         QTest::addColumn<int>("year");

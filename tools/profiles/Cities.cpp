@@ -3,10 +3,10 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTimeZone>
 
 #include "../stock/CountryName.h"
 #include "KnownCities.h"
+#include "platform/TzFolder.h"
 #include "platform/TzPlaces.h"
 
 using namespace Qt::StringLiterals;
@@ -45,7 +45,7 @@ public:
 private:
     void Take(City city) {
         city.Name = FitForFile(city.Name);
-        if (city.Name.isEmpty() || !QTimeZone(city.Iana).isValid()) {
+        if (city.Name.isEmpty() || !platform::TzZone(city.Iana).isValid()) {
             return;
         }
         if (const City* other = Find(city.Name)) {

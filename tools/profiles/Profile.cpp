@@ -1,8 +1,7 @@
 #include "Profile.h"
 
-#include <QTimeZone>
-
 #include "foundation/PropertyLookup.h"
+#include "platform/TzFolder.h"
 #include "platform/TzRule.h"
 #include "timezones/TransitionText.h"
 #include "timezones/ZoneArithmetic.h"
@@ -30,7 +29,7 @@ QString DateText(SYSTEMTIME change, const QDate& today) {
 /// The texts of the six keys, in their order.
 QStringList ZoneTexts(const City& city, const QDateTime& now) {
     const QDate today = now.date();
-    const platform::TzYear year = platform::ReadTzYear(QTimeZone(city.Iana), today.year());
+    const platform::TzYear year = platform::ReadTzYear(platform::TzZone(city.Iana), today.year());
     const platform::TzRule rule = platform::MakeTzRule(year, now.toSecsSinceEpoch());
     return {city.Name,
             DateText(rule.StandardDate, today),

@@ -6,15 +6,19 @@
 // flags of the countries, if there are any; the profiles go to "Timezones". They hold for the
 // present year, or for that of the date. Nothing is done while all that they are made of is as it
 // was, so it may be run at any time: a new edition of the tz database and a new year are noticed.
-// A profile that stays the same keeps its time.
+// A profile that stays the same keeps its time; in one that the user has changed, the six keys of
+// the zone are renewed and nothing else.
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
+#include <algorithm>
 #include <cstdio>
 
 #include "Profile.h"
+#include "ProfileStamp.h"
 #include "foundation/PropertyFile.h"
 #include "platform/LocalFiles.h"
+#include "platform/TzFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,12 +26,12 @@ namespace {
 
 struct Order {
     QDir AppFolder;
-    QDir ZoneInfo = QDir(u"/usr/share/zoneinfo"_s);
+    QString ZoneInfo;  ///< empty: the machine's own
     QDateTime Now = QDateTime::currentDateTimeUtc();
     bool Good = true;
 
     QString ProfileFolder() const { return AppFolder.filePath(u"Timezones/"_s); }
-    QString StampFile() const { return ProfileFolder() + u".made-of"_s; }
+    QString StampFile() const { return ProfileFolder() + profiles::StampName; }
 };
 
 Order ReadOrder(QStringList words) {
@@ -37,7 +41,7 @@ Order ReadOrder(QStringList words) {
     for (qsizetype i = 1; i < words.size(); i += 2) {
         const QString value = words.value(i + 1);
         if (words[i] == u"--zoneinfo"_s) {
-            order.ZoneInfo.setPath(value);
+            order.ZoneInfo = value;
         } else if (words[i] == u"--date"_s) {
             order.Now = QDate::fromString(value, Qt::ISODate).startOfDay(Qt::UTC);
         } else {
@@ -53,39 +57,35 @@ QByteArray Content(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QByteArray ZoneFile(const Order& order, const QString& name) {
+    return order.ZoneInfo.isEmpty() ? platform::TzFile(name)
+                                    : Content(order.ZoneInfo + u'/' + name);
+}
+
 // The first has a row for each country, the second knows a few more of today's identifiers.
 QByteArray ZoneTable(const Order& order) {
-    return Content(order.ZoneInfo.filePath(u"zone.tab"_s)) + '\n' +
-           Content(order.ZoneInfo.filePath(u"zone1970.tab"_s));
+    return ZoneFile(order, u"zone.tab"_s) + '\n' + ZoneFile(order, u"zone1970.tab"_s);
 }
 
 /// Tells what the profiles are made of. A month counts because a zone that changes more than twice
-/// in a year can be told only for the time about the present.
+/// in a year can be told only for the time about the present; the folder, because a copy of it may
+/// have kept older profiles beside a newer stamp.
 QByteArray Origin(const Order& order) {
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(ZoneTable(order));
-    hash.addData(Content(order.ZoneInfo.filePath(u"tzdata.zi"_s)));
+    hash.addData(ZoneFile(order, u"tzdata.zi"_s));
+    hash.addData(order.AppFolder.canonicalPath().toUtf8());
     hash.addData(Content(order.AppFolder.filePath(u"ini/Tempolark.ini"_s)));
     hash.addData(Content(QCoreApplication::applicationFilePath()));
     hash.addData(QDir(order.AppFolder.filePath(u"Images/Flags"_s)).entryList().join(u'/').toUtf8());
     return order.Now.toString(u"yyyy-MM"_s).toLatin1() + ' ' + hash.result().toHex();
 }
 
-/// The stamp: the origin, then the names of the profiles.
-QStringList ReadStamp(const Order& order) {
-    return QString::fromUtf8(Content(order.StampFile())).split(u'\n', Qt::SkipEmptyParts);
-}
-
-bool IsUpToDate(const Order& order, const QStringList& stamp, const QByteArray& origin) {
-    if (stamp.value(0).toUtf8() != origin) {
-        return false;
-    }
-    for (const QString& name : stamp.mid(1)) {
-        if (!QFile::exists(order.ProfileFolder() + name)) {
-            return false;
-        }
-    }
-    return true;
+bool IsUpToDate(const Order& order, const profiles::Stamp& stamp, const QByteArray& origin) {
+    const QStringList names = stamp.Sums.keys();
+    return stamp.Origin == origin && std::all_of(names.begin(), names.end(), [&](const auto& name) {
+               return QFile::exists(order.ProfileFolder() + name);
+           });
 }
 
 QString FlagOf(const Order& order, const profiles::City& city) {
@@ -107,29 +107,52 @@ bool Put(const QString& path, const QByteArray& content) {
                                   QFile::encodeName(path).constData()) == 0;
 }
 
-bool MakeAll(const Order& order, const QStringList& oldStamp, const QByteArray& origin) {
+/// What the file of a profile shall hold: the profile, unless the user has made or changed the
+/// file.
+QByteArray Renewed(const QByteArray& present, const QByteArray& sum, const ClockProperties& made) {
+    const bool own = !present.isNull() && profiles::SumOf(present) != sum;
+    return own ? profiles::WithZoneOf(present, made) : mduLib::PropertyFileContent(made);
+}
+
+bool MakeProfiles(const Order& order, const ClockProperties& defaults,
+                  const profiles::Stamp& oldStamp, profiles::Stamp& stamp) {
+    for (const profiles::City& city : profiles::ListCities(ZoneTable(order))) {
+        const QString name = city.Name + u".ini"_s;
+        const ClockProperties made =
+            profiles::MakeProfile(city, order.Now, FlagOf(order, city), defaults);
+        const QByteArray present = Content(order.ProfileFolder() + name);
+        const QByteArray content = Renewed(present, oldStamp.Sums.value(name), made);
+        if (!Put(order.ProfileFolder() + name, content)) {
+            return false;
+        }
+        stamp.Sums[name] = profiles::SumOf(mduLib::PropertyFileContent(made));
+    }
+    return true;
+}
+
+/// Takes away what this program has made and the user has left alone.
+void RemoveLost(const Order& order, const profiles::Stamp& oldStamp, const profiles::Stamp& stamp) {
+    for (auto old = oldStamp.Sums.begin(); old != oldStamp.Sums.end(); ++old) {
+        const QString path = order.ProfileFolder() + old.key();
+        if (!stamp.Sums.contains(old.key()) && profiles::SumOf(Content(path)) == old.value()) {
+            QFile::remove(path);
+        }
+    }
+}
+
+bool MakeAll(const Order& order, const profiles::Stamp& oldStamp, const QByteArray& origin) {
     ClockProperties defaults;
     const QString defaultFile = order.AppFolder.filePath(u"ini/Tempolark.ini"_s);
     if (!mduLib::ReadPropertyFile(platform::LocalFiles(), defaultFile, defaults) ||
         !QDir().mkpath(order.ProfileFolder())) {
         return false;
     }
-    QStringList stamp(QString::fromLatin1(origin));
-    for (const profiles::City& city : profiles::ListCities(ZoneTable(order))) {
-        const ClockProperties profile =
-            profiles::MakeProfile(city, order.Now, FlagOf(order, city), defaults);
-        stamp += city.Name + u".ini"_s;
-        const QByteArray content = mduLib::PropertyFileContent(profile);
-        if (!Put(order.ProfileFolder() + stamp.last(), content)) {
-            return false;
-        }
+    profiles::Stamp stamp{origin, {}};
+    if (!MakeProfiles(order, defaults, oldStamp, stamp)) {
+        return false;
     }
-    for (const QString& name : oldStamp.mid(1)) {
-        if (!stamp.contains(name)) {
-            QFile::remove(order.ProfileFolder() + name);
-        }
-    }
-    return Put(order.StampFile(), stamp.join(u'\n').toUtf8() + '\n');
+    RemoveLost(order, oldStamp, stamp);
+    return Put(order.StampFile(), profiles::StampContent(stamp));
 }
 
 }  // namespace
@@ -144,7 +167,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QByteArray origin = Origin(order);
-    const QStringList stamp = ReadStamp(order);
+    const profiles::Stamp stamp = profiles::ParseStamp(Content(order.StampFile()));
     if (IsUpToDate(order, stamp, origin)) {
         return 0;
     }

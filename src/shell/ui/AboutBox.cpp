@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-void ShowAboutBox(QWidget* parent) {
+void ShowAboutBox(QWidget* parent, const QString& edition) {
     QDialog box(parent);
     box.setObjectName(u"aboutBox"_s);
     box.setWindowTitle(u"About Tempolark Central"_s);
@@ -16,8 +16,8 @@ void ShowAboutBox(QWidget* parent) {
     icon->setPixmap(QGuiApplication::windowIcon().pixmap(64, 64));
     auto* text = new QLabel(
         u"<h2>Tempolark</h2><p>Version %1</p><p>Clocks for every place on earth: dials, digits, a "
-        "calculator between zones, timers, spoken time and music.</p>"_s.arg(
-            QCoreApplication::applicationVersion().toHtmlEscaped()),
+        "calculator between zones, timers, spoken time and music.</p><p>%2</p>"_s.arg(
+            QCoreApplication::applicationVersion().toHtmlEscaped(), edition.toHtmlEscaped()),
         &box);
     text->setWordWrap(true);
     text->setMinimumWidth(320);

@@ -20,6 +20,8 @@
 #include "shell/ui/StatusBar.h"
 #include "shell/ui/ToolBar.h"
 #include "timezones/StartZone.h"
+#include "timezones/UnknownZone.h"
+#include "timezones/ZoneEdition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -135,9 +137,23 @@ bool frmMain::Load() {
 // A zone that the command line names is what the user wants to see, too.
 bool frmMain::LaunchNamedClock() {
     const QString name = program_.Module.CommandLine.trimmed();
-    return !name.isEmpty() && !IsScreenSaverRun() && mduLib::ZoneNameProblem(name).isEmpty() &&
-           mduLib::GetPropertyRaw(name, program_.Module.AutoStartList) != name &&
-           LaunchTempolark(name) != 0;
+    const bool launched = NamesAClock() &&
+                          mduLib::GetPropertyRaw(name, program_.Module.AutoStartList) != name &&
+                          LaunchTempolark(name) != 0;
+    ShowStatusMsg(StartNotice());
+    return launched;
+}
+
+QString frmMain::StartNotice() const {
+    const QString name = program_.Module.CommandLine.trimmed();
+    return NamesAClock()
+               ? mduTimeZones::UnknownClockNotice(program_.Services, program_.Module.Paths, name)
+               : QString();
+}
+
+bool frmMain::NamesAClock() const {
+    const QString name = program_.Module.CommandLine.trimmed();
+    return !name.isEmpty() && !IsScreenSaverRun() && mduLib::ZoneNameProblem(name).isEmpty();
 }
 
 bool frmMain::ConfigSetup() {
@@ -146,6 +162,8 @@ bool frmMain::ConfigSetup() {
     if (!zone.Problem.isEmpty()) {
         ShowStatusMsg(zone.Problem);
     }
+    ShowStatusMsg(mduTimeZones::OldEditionNotice(program_.Services.Zones.Edition(),
+                                                 program_.Services.Clock.Now().date()));
     const mduMain::SetupResult result =
         mduMain::SetupFiles(program_.Module, program_.Services, zone.Name, centralProperties_);
     if (result == mduMain::SetupResult::Incomplete) {

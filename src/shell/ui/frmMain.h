@@ -37,6 +37,9 @@ public:
 
     void SaveAutoStartList();
 
+    /// What is to be told about the zone that the command line names; empty when nothing is.
+    QString StartNotice() const;
+
     QString AppEXEName() const;
     QString DefaultIniFile() const { return program_.Module.Paths.CentralDefaultFile(); }
     QString IniFile() const { return program_.Module.Paths.CentralFile; }
@@ -84,6 +87,7 @@ private:
     void MakeInnerParts();
     void MakeHeader();
     bool LaunchNamedClock();
+    bool NamesAClock() const;
     void TellUnreadableLists();
     void TellBrokenSettings();
     void ExitShell();

@@ -16,6 +16,7 @@
 #include "shell/ui/StatusBar.h"
 #include "shell/ui/ToolBar.h"
 #include "shell/ui/frmMain.h"
+#include "timezones/ZoneEdition.h"
 #include "timezones/ZoneFilesOfRows.h"
 
 using namespace Qt::StringLiterals;
@@ -192,7 +193,7 @@ void frmMain::DoMenuItem(float menuId, int index) {
                 ShowHelp();
                 break;
             case 6:
-                ShowAboutBox(this);
+                ShowAboutBox(this, mduTimeZones::EditionText(program_.Services.Zones.Edition()));
                 break;
             case 8:
                 SaveCentralSettings();

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDate>
+#include <functional>
+#include <memory>
+
+#include "platform/WallClock.h"
+
+namespace platform {
+
+/// Tells of every new month, and so of every new year, while the program runs: within a minute of
+/// its beginning, or of the machine's waking up in it.
+class CalendarWatch {
+public:
+    CalendarWatch(WallClock& clock, std::function<void()> onNewMonth);
+
+private:
+    void Look();
+
+    WallClock& clock_;
+    std::function<void()> onNewMonth_;
+    QDate seen_;
+    std::unique_ptr<Ticker> ticker_;
+};
+
+}  // namespace platform
