@@ -2,6 +2,7 @@
 
 #include <qdrawutil.h>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QResizeEvent>
@@ -112,9 +113,10 @@ Qt::WindowFlags FlagsOf(const ClockFrame& frame) {
 
 }  // namespace
 
-ClockFrame::ClockFrame(QMdiArea* area) {
+ClockFrame::ClockFrame(QMdiArea* area) : area_(area), place_(*this, *area) {
     setStyle(StyleOf(area));
     setWindowFlags(FlagsOf(*this));
+    area->viewport()->installEventFilter(this);
 }
 
 // The flags' setter also takes the frame's measures anew, and may enlarge the window.
@@ -155,12 +157,44 @@ void ClockFrame::showEvent(QShowEvent* event) {
     outline_.Apply();
 }
 
+// In the middle of a change the toolkit corrects the state by events of its own. They are left to
+// it: whatever sizes the frame meanwhile, the old state comes back.
 void ClockFrame::changeEvent(QEvent* event) {
-    QMdiSubWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
-        ApplyFlags();
+        ChangeState(static_cast<QWindowStateChangeEvent*>(event));
+    } else {
+        QMdiSubWindow::changeEvent(event);
+        outline_.Apply();
     }
+}
+
+void ClockFrame::ChangeState(QWindowStateChangeEvent* event) {
+    if (event->isOverride()) {
+        QMdiSubWindow::changeEvent(event);
+        return;
+    }
+    const Qt::WindowStates before = event->oldState();
+    place_.StateChanges(before);
+    QMdiSubWindow::changeEvent(event);
+    ApplyFlags();
+    place_.StateChanged(before);
     outline_.Apply();
+}
+
+// The toolkit answers only where the bar can be dragged, too.
+void ClockFrame::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (isMinimized() && event->button() == Qt::LeftButton) {
+        showNormal();
+    } else {
+        QMdiSubWindow::mouseDoubleClickEvent(event);
+    }
+}
+
+bool ClockFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+        place_.AreaResized();
+    }
+    return QMdiSubWindow::eventFilter(watched, event);
 }
 
 }  // namespace clockcore

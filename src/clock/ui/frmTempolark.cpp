@@ -184,8 +184,8 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
     // Before its first tick a clock has not taken the place that its file holds.
-    if (before != ClockState::FirstTickDue && WindowState() == 0) {
-        files_.SavePosition(placement_.OuterRect());
+    if (const auto place = placement_.PlaceToStore(); place && before != ClockState::FirstTickDue) {
+        files_.SavePosition(*place);
     }
     timers_.SaveTimer(data_.TimerFile);
     placement_.ShowClockWindow(false);
@@ -228,6 +228,7 @@ void frmTempolark::EnableWindow(bool enabled) {
 void frmTempolark::SetFocus() {
     if (area_ != nullptr) {
         area_->setActiveSubWindow(placement_.Frame());
+        placement_.Frame()->Place().ScrollTo();
     }
     setFocus();
 }
