@@ -1,12 +1,15 @@
 #include "clock/ui/ClockFrame.h"
 
 #include <qdrawutil.h>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QResizeEvent>
 #include <QStyleOption>
+
+#include "clock/ui/DisabledVeil.h"
 
 namespace clockcore {
 
@@ -179,6 +182,34 @@ void ClockFrame::ChangeState(QWindowStateChangeEvent* event) {
     ApplyFlags();
     place_.StateChanged(before);
     outline_.Apply();
+}
+
+// What a disabled window leaves, the toolkit gives to the area behind it, as if nothing stood
+// there. The clock itself answers a right click.
+bool ClockFrame::event(QEvent* event) {
+    if (isEnabled()) {
+        return QMdiSubWindow::event(event);
+    }
+    switch (event->type()) {
+        case QEvent::ContextMenu:
+            return widget() != nullptr && QCoreApplication::sendEvent(widget(), event);
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+            event->accept();
+            return true;
+        default:
+            return QMdiSubWindow::event(event);
+    }
+}
+
+void ClockFrame::paintEvent(QPaintEvent* event) {
+    QMdiSubWindow::paintEvent(event);
+    if (!isEnabled()) {
+        QPainter painter(this);
+        DrawDisabledVeil(painter, event->region());
+    }
 }
 
 // The toolkit answers only where the bar can be dragged, too.

@@ -39,6 +39,8 @@ public:
     int ShownBorder() const { return isMinimized() ? FrameLook().Border : look_.Border; }
 
 protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
