@@ -193,11 +193,18 @@ void CloseAllChildren(const Forms& windows) {
     }
 }
 
+void BringToFront(IForm& window) {
+    if (window.WindowState() == 1) {
+        window.SetWindowState(0);
+    }
+    window.Show();
+    window.SetFocus();
+}
+
 bool ActivateWindowByHandle(const Forms& windows, int handle) {
     for (int i = 1; i < windows.Count(); ++i) {
         if (windows[i].hwnd() == handle) {
-            windows[i].Show();
-            windows[i].SetFocus();
+            BringToFront(windows[i]);
             return true;
         }
     }

@@ -63,7 +63,10 @@ void RestoreAllChildren(const Forms& windows);
 void MinimiseAllChildren(const Forms& windows);
 void CloseAllChildren(const Forms& windows);
 
-/// Shows a window and gives it the focus; the first window is never found. @return whether it was.
+/// Shows a window, a minimised one in its normal size, and gives it the focus.
+void BringToFront(IForm& window);
+
+/// Brings a window to the front; the first window is never found. @return whether it was.
 bool ActivateWindowByHandle(const Forms& windows, int handle);
 
 }  // namespace shell

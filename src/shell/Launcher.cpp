@@ -1,6 +1,8 @@
 #include "shell/Launcher.h"
 
 #include "foundation/FileHelpers.h"
+#include "foundation/OpenClocks.h"
+#include "shell/ClockCommands.h"
 #include "timezones/ZoneSources.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,9 @@ constexpr int FewestRows = 25;  // of a property file that is in order
 int Launcher::LaunchTempolark(QString name) {
     if (name.isEmpty()) {
         name = mduTimeZones::GetLocalZone(program_.Services).StandardName;
+    }
+    if (IForm* open = mduLib::FindClock(program_.Windows, name)) {
+        return ShowOpen(*open, name);
     }
     IClock* clock = makeClock_();
     if (!clock->ShowMeMDIChild(name)) {
@@ -35,6 +40,13 @@ int Launcher::LaunchTempolark(QString name) {
             u"The property file of the time zone has been corrupted, please open the property window and then refresh it by default"_s);
     }
     return handle;
+}
+
+int Launcher::ShowOpen(IForm& clock, const QString& name) {
+    BringToFront(clock);
+    lastOpened_.PushLastOpened(name);
+    status_(u"Tempolark for "_s + name + u" is open already."_s);
+    return clock.hwnd();
 }
 
 int Launcher::LaunchFromFileDialog() {

@@ -20,14 +20,17 @@ public:
           makeClock_(std::move(makeClock)),
           status_(std::move(status)) {}
 
-    /// Launches the clock of a zone; an empty name means the machine's own.
-    /// @return the new window's handle, or 0 when it could not be launched
+    /// Launches the clock of a zone, or brings it to the front where it is open already; an empty
+    /// name means the machine's own zone.
+    /// @return the window's handle, or 0 when it could not be launched
     int LaunchTempolark(QString name);
 
     /// Asks for a property file and launches its zone. @return the handle, 0 when cancelled
     int LaunchFromFileDialog();
 
 private:
+    int ShowOpen(IForm& clock, const QString& name);
+
     Program program_;
     LastOpened& lastOpened_;
     MakeClock makeClock_;

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void PutsTheSpeakerInItsPlace();
     void SavesNothingElse();
     void LeavesAFileThatCantBeRead();
+    void OnlyTheClockInFrontSpeaks();
 };
 
 void tst_SpeakerMenu::HasItsEntriesInTheirOrder() {
@@ -287,6 +288,25 @@ void tst_SpeakerMenu::LeavesAFileThatCantBeRead() {
     desk.ChooseFromNew({u"Speak Rate"_s, u"2"_s});
     QCOMPARE(desk.Present(u"Speak Rate"_s), u"2"_s);
     QCOMPARE(desk.Base.Machine.ReadFile(file), odd);
+}
+
+// Both are to speak each minute.
+void tst_SpeakerMenu::OnlyTheClockInFrontSpeaks() {
+    SpeakerDesk desk;
+    desk.ChooseFromNew({u"Minute Speak Pattern"_s, u"<Minute>"_s});
+    frmTempolark* nepal = desk.Running(u"Nepal Standard Time"_s);
+    desk.Base.Area.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.Base.Area));
+    desk.Devices.Voices.Log.clear();
+    desk.Base.Machine.Clock.Advance(61000);
+    QCOMPARE(desk.Devices.Voices.Log, QStringList());  // Nepal, which is in front, has no pattern
+    desk.Clock->SetFocus();
+    desk.Base.Machine.Clock.Advance(60000);
+    QVERIFY(!desk.Devices.Voices.Log.isEmpty());
+    nepal->SetFocus();
+    desk.Devices.Voices.Log.clear();
+    desk.Base.Machine.Clock.Advance(60000);
+    QCOMPARE(desk.Devices.Voices.Log, QStringList());
 }
 
 QTEST_MAIN(tst_SpeakerMenu)

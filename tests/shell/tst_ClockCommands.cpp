@@ -188,6 +188,15 @@ private Q_SLOTS:
         QVERIFY(shell::ActivateWindowByHandle(desk.Windows, desk.B.hwnd()));
         QCOMPARE(desk.Log, Lines("B: show|B: focus"));
     }
+
+    void ActivateRestoresAMinimisedWindowOnly() {
+        Desk desk;
+        desk.A.State = 2;
+        desk.B.State = 1;
+        shell::ActivateWindowByHandle(desk.Windows, desk.A.hwnd());
+        shell::ActivateWindowByHandle(desk.Windows, desk.B.hwnd());
+        QCOMPARE(desk.Log, Lines("A: show|A: focus|B: state 0|B: show|B: focus"));
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_ClockCommands)

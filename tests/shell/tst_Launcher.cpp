@@ -66,6 +66,19 @@ private Q_SLOTS:
         QCOMPARE(desk.LastOpened.List()[1].Name, QString());
     }
 
+    void OpenClockComesToTheFront() {
+        Desk desk;
+        const int handle = desk.Launcher.LaunchTempolark(u"UTC"_s);
+        desk.Launcher.LaunchTempolark(u"Tokyo"_s);
+        desk.Log.clear();
+        desk.Status.clear();
+        QCOMPARE(desk.Launcher.LaunchTempolark(u"UTC.ini"_s), handle);
+        QCOMPARE(desk.Windows.Count(), 2);
+        QCOMPARE(desk.Log, (QStringList{u"UTC: show"_s, u"UTC: focus"_s}));
+        QCOMPARE(desk.Status, QStringList{u"Tempolark for UTC.ini is open already."_s});
+        QCOMPARE(desk.LastOpened.List()[1].Name, u"UTC.ini"_s);
+    }
+
     void EmptyNameIsTheMachinesZone() {
         Desk desk;
         desk.Machine.Zones.Local = {

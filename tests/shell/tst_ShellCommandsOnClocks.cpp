@@ -152,13 +152,13 @@ private Q_SLOTS:
         QVERIFY(desk.User(u"TimeZones/UTC.ini"_s).contains("Window Background Colour=1122867"));
     }
 
-    void TwoHundredClocksCloseAtOnce() {
+    void SixtyClocksCloseAtOnce() {
         Desk desk;
         QVERIFY(desk.Start());
-        for (int i = 0; i < 200; ++i) {
-            desk.Shell->LaunchTempolark(u"UTC"_s);
+        for (int i = 0; i < 60; ++i) {
+            desk.Shell->LaunchTempolark(u"Zone %1"_s.arg(i));
         }
-        QCOMPARE(desk.Clocks().size(), 200);
+        QCOMPARE(desk.Clocks().size(), 60);
         desk.Settle();
         desk.Open(u"Close"_s);
         Desk::Item(desk.Menu(u"OpenedAction"_s), u"All"_s)->trigger();

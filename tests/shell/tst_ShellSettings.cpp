@@ -30,6 +30,23 @@ class tst_ShellSettings : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void BorderOfTheArea_data() {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<int>("style");
+        QTest::newRow("none") << QByteArray("No Border") << 0;
+        QTest::newRow("3D") << QByteArray("3D Border") << (QFrame::StyledPanel | QFrame::Sunken);
+        QTest::newRow("classic") << QByteArray("Classic") << (QFrame::Box | QFrame::Plain);
+        QTest::newRow("unknown") << QByteArray("Golden") << 0;
+    }
+
+    void BorderOfTheArea() {
+        QFETCH(QByteArray, value);
+        Desk desk;
+        Write(desk, "Window Border=" + value + "\r\n");
+        QVERIFY(desk.Start());
+        QTEST(desk.Shell->findChild<QMdiArea*>()->frameStyle(), "style");
+    }
+
     void ToolbarStandsWhereItIsToldTo_data() {
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<bool>("visible");

@@ -341,21 +341,6 @@ private Q_SLOTS:
                 u"%1,%2 of %3,%4"_s.arg(clock.x()).arg(clock.y()).arg(middle.x()).arg(middle.y())));
     }
 
-    void TwoClocksOfOneZone() {
-        Desk desk;
-        QVERIFY(desk.Start());
-        desk.Shell->LaunchTempolark(u"UTC"_s);
-        desk.Shell->LaunchTempolark(u"UTC"_s);
-        desk.Settle();
-        const QList<QAction*> items = desk.Open(u"Organize Windows"_s)->actions();
-        int checked = 0;
-        for (const QAction* item : items) {
-            checked += item->isChecked() ? 1 : 0;
-        }
-        QCOMPARE(checked, 1);
-        QVERIFY(items[items.size() - 2]->isChecked());  // the second, which is the active one
-    }
-
     void ClosedBeforeItsFirstTick() {
         Desk desk;
         QVERIFY(desk.Start());

@@ -1,11 +1,15 @@
 #include "clock/ui/ClockFrame.h"
 
 #include <qdrawutil.h>
+#include <QCoreApplication>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QResizeEvent>
 #include <QStyleOption>
+
+#include "clock/ui/DisabledVeil.h"
 
 namespace clockcore {
 
@@ -112,9 +116,10 @@ Qt::WindowFlags FlagsOf(const ClockFrame& frame) {
 
 }  // namespace
 
-ClockFrame::ClockFrame(QMdiArea* area) {
+ClockFrame::ClockFrame(QMdiArea* area) : area_(area), place_(*this, *area) {
     setStyle(StyleOf(area));
     setWindowFlags(FlagsOf(*this));
+    area->viewport()->installEventFilter(this);
 }
 
 // The flags' setter also takes the frame's measures anew, and may enlarge the window.
@@ -155,12 +160,72 @@ void ClockFrame::showEvent(QShowEvent* event) {
     outline_.Apply();
 }
 
+// In the middle of a change the toolkit corrects the state by events of its own. They are left to
+// it: whatever sizes the frame meanwhile, the old state comes back.
 void ClockFrame::changeEvent(QEvent* event) {
-    QMdiSubWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
-        ApplyFlags();
+        ChangeState(static_cast<QWindowStateChangeEvent*>(event));
+    } else {
+        QMdiSubWindow::changeEvent(event);
+        outline_.Apply();
     }
+}
+
+void ClockFrame::ChangeState(QWindowStateChangeEvent* event) {
+    if (event->isOverride()) {
+        QMdiSubWindow::changeEvent(event);
+        return;
+    }
+    const Qt::WindowStates before = event->oldState();
+    place_.StateChanges(before);
+    QMdiSubWindow::changeEvent(event);
+    ApplyFlags();
+    place_.StateChanged(before);
     outline_.Apply();
+}
+
+// What a disabled window leaves, the toolkit gives to the area behind it, as if nothing stood
+// there. The clock itself answers a right click.
+bool ClockFrame::event(QEvent* event) {
+    if (isEnabled()) {
+        return QMdiSubWindow::event(event);
+    }
+    switch (event->type()) {
+        case QEvent::ContextMenu:
+            return widget() != nullptr && QCoreApplication::sendEvent(widget(), event);
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+            event->accept();
+            return true;
+        default:
+            return QMdiSubWindow::event(event);
+    }
+}
+
+void ClockFrame::paintEvent(QPaintEvent* event) {
+    QMdiSubWindow::paintEvent(event);
+    if (!isEnabled()) {
+        QPainter painter(this);
+        DrawDisabledVeil(painter, event->region());
+    }
+}
+
+// The toolkit answers only where the bar can be dragged, too.
+void ClockFrame::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (isMinimized() && event->button() == Qt::LeftButton) {
+        showNormal();
+    } else {
+        QMdiSubWindow::mouseDoubleClickEvent(event);
+    }
+}
+
+bool ClockFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+        place_.AreaResized();
+    }
+    return QMdiSubWindow::eventFilter(watched, event);
 }
 
 }  // namespace clockcore

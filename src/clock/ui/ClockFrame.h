@@ -3,7 +3,10 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
+#include "clock/ui/FramePlace.h"
 #include "clock/ui/WindowOutline.h"
+
+class QWindowStateChangeEvent;
 
 namespace clockcore {
 
@@ -27,6 +30,8 @@ public:
     void SetLook(const FrameLook& look);
 
     WindowOutline& Outline() { return outline_; }
+    FramePlace& Place() { return place_; }
+    const FramePlace& Place() const { return place_; }
 
     /// Whether the title bar is there at this moment.
     bool ShowsTitleBar() const { return look_.TitleBar || isMinimized(); }
@@ -34,16 +39,23 @@ public:
     int ShownBorder() const { return isMinimized() ? FrameLook().Border : look_.Border; }
 
 protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void ChangeState(QWindowStateChangeEvent* event);
     void ApplyFlags();
     void RestoreMask();
 
     FrameLook look_;
     WindowOutline outline_{*this, [this] { RestoreMask(); }};
+    QMdiArea* area_;
+    FramePlace place_;
 };
 
 }  // namespace clockcore

@@ -15,11 +15,23 @@ namespace clockcore {
 
 namespace {
 
-constexpr double Automatic = -1;
 constexpr int LargestPixels = 16000;  // beyond that no surface can be made
 
 int ToPixels(double twips) {
     return mduAPILib::RoundToInteger(twips / TwipsPerPixel);
+}
+
+int Extent(double twips) {
+    return qBound(0, ToPixels(twips), LargestPixels);
+}
+
+int Coordinate(double twips) {
+    return qBound(-LargestPixels, ToPixels(twips), LargestPixels);
+}
+
+QRectF ToTwips(const QRect& pixels) {
+    return {pixels.x() * TwipsPerPixel, pixels.y() * TwipsPerPixel, pixels.width() * TwipsPerPixel,
+            pixels.height() * TwipsPerPixel};
 }
 
 }  // namespace
@@ -58,6 +70,11 @@ void MdiPlacement::PlaceInTheMiddle() {
     const QSizeF inner = ContainerSize();
     SetOuterRect({(inner.width() - size.width()) / 2, (inner.height() - size.height()) / 2,
                   size.width(), size.height()});
+    // Those that look for a free place at their first tick find this one taken.
+    const StoredPlace stored = ReadStoredPlace(data_.Properties());
+    if (stored.Top || stored.Left) {
+        StandInShell(stored);
+    }
 }
 
 void MdiPlacement::ApplyWindowState() {
@@ -72,27 +89,47 @@ void MdiPlacement::ApplyWindowState() {
     }
 }
 
-// A child has been sized and centred by its loading; -1 leaves it so.
 void MdiPlacement::ApplyWindowRect() {
-    if (WindowState() != 0) {
+    const StoredPlace stored = ReadStoredPlace(data_.Properties());
+    if (frame_) {
+        StandInShell(stored);
+    } else if (!clock_.isVisible() || WindowState() == 0) {
+        StandOnScreen(stored);
+    }
+}
+
+// A child has been sized and centred by its loading. One that has a place already keeps what the
+// file leaves open; a new one looks for a place that is free.
+void MdiPlacement::StandInShell(const StoredPlace& stored) {
+    FramePlace& place = frame_->Place();
+    QRect rect = place.Rect();
+    rect.setSize({stored.Width ? Extent(*stored.Width) : rect.width(),
+                  stored.Height ? Extent(*stored.Height) : rect.height()});
+    if (!place.Stands() && !stored.Top && !stored.Left) {
+        place.StandWhereFree(rect);
         return;
     }
-    const auto value = [this](const QString& key) {
-        return mduAPILib::Val(mduLib::GetProperty(key, data_.Properties()));
-    };
-    const QSizeF container = ContainerSize();
-    QRectF rect = OuterRect();
-    const auto extent = [this](double stored, double present, double whole) {
-        return stored != Automatic ? stored : area_ != nullptr ? present : whole / 4;
-    };
-    rect.setWidth(extent(value(u"Window Width"_s), rect.width(), container.width()));
-    rect.setHeight(extent(value(u"Window Height"_s), rect.height(), container.height()));
-    const auto place = [this](double stored, double present, double whole, double size) {
-        return stored != Automatic ? stored : area_ != nullptr ? present : (whole - size) / 2;
-    };
-    rect.moveTop(place(value(u"Window Top"_s), rect.top(), container.height(), rect.height()));
-    rect.moveLeft(place(value(u"Window Left"_s), rect.left(), container.width(), rect.width()));
-    SetOuterRect(rect);
+    rect.moveTo(stored.Left ? Coordinate(*stored.Left) : rect.left(),
+                stored.Top ? Coordinate(*stored.Top) : rect.top());
+    place.Stand(rect);
+}
+
+void MdiPlacement::StandOnScreen(const StoredPlace& stored) {
+    const QSizeF screen = ContainerSize();
+    const QSizeF size(stored.Width.value_or(screen.width() / 4),
+                      stored.Height.value_or(screen.height() / 4));
+    SetOuterRect({{stored.Left.value_or((screen.width() - size.width()) / 2),
+                   stored.Top.value_or((screen.height() - size.height()) / 2)},
+                  size});
+}
+
+std::optional<QRectF> MdiPlacement::PlaceToStore() const {
+    const bool normal = WindowState() == 0;
+    if (!frame_) {
+        return normal ? std::optional(OuterRect()) : std::nullopt;
+    }
+    const FramePlace& place = frame_->Place();
+    return normal || place.HasMoved() ? std::optional(ToTwips(place.Rect())) : std::nullopt;
 }
 
 void MdiPlacement::SetClockCaption() {
@@ -163,18 +200,12 @@ void MdiPlacement::Show() {
 }
 
 QRectF MdiPlacement::OuterRect() const {
-    const QRect pixels = Outer().geometry();
-    return {pixels.x() * TwipsPerPixel, pixels.y() * TwipsPerPixel, pixels.width() * TwipsPerPixel,
-            pixels.height() * TwipsPerPixel};
+    return ToTwips(Outer().geometry());
 }
 
 void MdiPlacement::SetOuterRect(const QRectF& twips) {
-    const auto size = [](double value) { return qBound(0, ToPixels(value), LargestPixels); };
-    const auto place = [](double value) {
-        return qBound(-LargestPixels, ToPixels(value), LargestPixels);
-    };
-    Outer().setGeometry(place(twips.left()), place(twips.top()), size(twips.width()),
-                        size(twips.height()));
+    Outer().setGeometry(Coordinate(twips.left()), Coordinate(twips.top()), Extent(twips.width()),
+                        Extent(twips.height()));
 }
 
 void MdiPlacement::SetOuterSize(const QSizeF& twips) {

@@ -26,11 +26,13 @@ public:
     /// Makes the frame around the clock; invisible and, until the first tick, of no size.
     void MakeFrame();
 
-    /// A quarter of the shell's size, in the middle of its inner area.
+    /// A quarter of the shell's size, in the middle of its inner area; or where the file says.
     void PlaceInTheMiddle();
 
     /// A wrapper goes to its whole container, without a frame, and is shown.
     void ApplyWindowState() override;
+    /// What the file leaves open is found by itself: a child in the shell takes a free place, a
+    /// window of the screen the middle. A minimised or maximised child takes the place later.
     void ApplyWindowRect() override;
     void ApplyWindowBorder() override;
     void ApplyTitleBar() override;
@@ -54,7 +56,10 @@ public:
     void SetWindowState(int state);
     void Show();
 
-    QRectF OuterRect() const;  ///< in twips
+    QRectF OuterRect() const;  ///< in twips, at this moment
+    /// What a file is to remember, in twips of the whole area: the place that the window has while
+    /// it is normal. Nothing for a minimised or maximised one that still has the place of its file.
+    std::optional<QRectF> PlaceToStore() const;
     void SetOuterRect(const QRectF& twips);
     void SetOuterSize(const QSizeF& twips);
 
@@ -64,6 +69,8 @@ public:
 private:
     QString Property(const QString& key) const;
     QSizeF ContainerSize() const;
+    void StandInShell(const StoredPlace& stored);
+    void StandOnScreen(const StoredPlace& stored);
     WindowOutline& Outline();
     int AnimationRate() const;
     void Open();

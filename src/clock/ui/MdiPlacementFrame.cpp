@@ -125,6 +125,9 @@ void MdiPlacement::ShowClockWindow(bool show) {
     if (rate > 0 && frame_) {
         ShowShrinking(*frame_, *time_, rate);
     }
+    if (frame_) {
+        frame_->Place().Leave();
+    }
     Outer().hide();
 }
 

@@ -9,6 +9,7 @@
 #include "clock/ClockMode.h"
 #include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
+#include "foundation/OpenClocks.h"
 #include "foundation/PropertyLookup.h"
 #include "timers/SystemActions.h"
 #include "timezones/ZoneKeys.h"
@@ -78,6 +79,7 @@ frmTempolark::~frmTempolark() {
 }
 
 bool frmTempolark::ShowMeMDIChild(const QString& zoneName) {
+    setWindowTitle(mduLib::ClockCaption(zoneName));  // while a merge lets other windows run
     if (!files_.LoadForShell(zoneName)) {
         return false;
     }
@@ -104,6 +106,10 @@ void frmTempolark::ShowMe(const QString& zoneName, bool refresh, bool wrapper) {
 void frmTempolark::LaunchMDITempolark(QString zoneName) {
     if (zoneName.isEmpty()) {
         zoneName = mduTimeZones::GetLocalZone(program_.Services).StandardName;
+    }
+    if (IForm* open = mduLib::FindClock(program_.Windows, zoneName)) {
+        open->SetFocus();
+        return;
     }
     auto* other = new frmTempolark(program_, shell_, area_);
     if (other->files_.NameCurrentFile(zoneName)) {
@@ -150,6 +156,7 @@ void frmTempolark::LayOutTimerMarks() {
 }
 
 void frmTempolark::FinishLoading() {
+    placement_.SetClockCaption();  // by which others find this clock from now on
     controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
     controls_.imgAction(1).Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
     spoken_.ReadPatterns();
@@ -163,14 +170,7 @@ void frmTempolark::Activate() {
 }
 
 void frmTempolark::ApplyEnable() {
-    const bool enabled =
-        mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties()));
-    EnableWindow(enabled);
-    for (mduUILib::ControlArray* array : controls_.All()) {
-        for (mduUILib::Control& control : array->Members) {
-            control.Enabled = enabled;
-        }
-    }
+    EnableWindow(mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties())));
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {
@@ -184,8 +184,8 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
     // Before its first tick a clock has not taken the place that its file holds.
-    if (before != ClockState::FirstTickDue && WindowState() == 0) {
-        files_.SavePosition(placement_.OuterRect());
+    if (const auto place = placement_.PlaceToStore(); place && before != ClockState::FirstTickDue) {
+        files_.SavePosition(*place);
     }
     timers_.SaveTimer(data_.TimerFile);
     placement_.ShowClockWindow(false);
@@ -223,11 +223,37 @@ bool frmTempolark::IsEnabled() const {
 
 void frmTempolark::EnableWindow(bool enabled) {
     placement_.Outer().setEnabled(enabled);
+    for (mduUILib::ControlArray* array : controls_.All()) {
+        for (mduUILib::Control& control : array->Members) {
+            control.Enabled = enabled;
+        }
+    }
+}
+
+// Before its first tick a clock has nothing to show yet, nor any state to change.
+bool frmTempolark::HasBegun() const {
+    return data_.State != ClockState::Loading && data_.State != ClockState::FirstTickDue;
+}
+
+void frmTempolark::SetWindowState(int state) {
+    if (HasBegun()) {
+        placement_.SetWindowState(state);
+    }
+}
+
+void frmTempolark::Show() {
+    if (HasBegun()) {
+        placement_.Show();
+    }
 }
 
 void frmTempolark::SetFocus() {
+    if (!HasBegun()) {
+        return;
+    }
     if (area_ != nullptr) {
         area_->setActiveSubWindow(placement_.Frame());
+        placement_.Frame()->Place().ScrollTo();
     }
     setFocus();
 }

@@ -51,7 +51,8 @@ public:
     /// The stand-alone way in: shows `CurrentPropertyFile` as it stands. @p wrapper gives a plain,
     /// undrawn window.
     void ShowMe(const QString& zoneName, bool refresh, bool wrapper);
-    /// Opens another clock, sized like this one and with its parent.
+    /// Opens another clock, sized like this one and with its parent; one that is open comes to the
+    /// front.
     void LaunchMDITempolark(QString zoneName);
 
     // What the shell calls.
@@ -59,10 +60,10 @@ public:
     QString Caption() const override;
     int hwnd() const override { return handle_; }
     int WindowState() const override { return placement_.WindowState(); }
-    void SetWindowState(int state) override { placement_.SetWindowState(state); }
+    void SetWindowState(int state) override;
     bool IsEnabled() const override;
     void EnableWindow(bool enabled) override;
-    void Show() override { placement_.Show(); }
+    void Show() override;
     void SetFocus() override;
     void Unload() override;
     void SetClocks(int mode) override;
@@ -134,6 +135,7 @@ private:
     void LayOutTimerMarks();
     void FinishLoading();
     void Activate();
+    bool HasBegun() const;
     void ApplyEnable();
     QSize SurfaceSize() const;
     void TakeSurface();
@@ -187,6 +189,8 @@ private:
     void ShowActionMenu(const QPoint& globalPosition);
     void ShowSpeakerMenu(const QPoint& globalPosition);
     void ShowFormMenu(const QPoint& globalPosition);
+    void ShowDisabledMenu(const QPoint& globalPosition);
+    void EnableByMenu();
     void SetByMenu(const QString& key, const QString& value);
     void PutSpeakerPosition();
     void SaveByMenu(const QStringList& keys);

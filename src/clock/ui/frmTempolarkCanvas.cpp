@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "clock/ui/DisabledVeil.h"
 #include "clock/ui/frmTempolark.h"
 #include "drawing/StockPictures.h"
 #include "drawing/TimerMarks.h"
@@ -84,6 +85,9 @@ void frmTempolark::paintEvent(QPaintEvent* event) {
     for (const QRect& part : event->region()) {
         const QRectF source(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
         painter.drawImage(QRectF(part), keyed ? seen : surface_->Image(), source);
+    }
+    if (!isEnabled()) {
+        clockcore::DrawDisabledVeil(painter, event->region());
     }
 }
 

@@ -82,6 +82,11 @@ const mduUILib::Control* frmTempolark::ControlAt(const mduUILib::ControlArray& a
 }
 
 bool frmTempolark::event(QEvent* event) {
+    if (event->type() == QEvent::ContextMenu && !isEnabled()) {
+        ShowDisabledMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         ShowToolTip(*static_cast<QHelpEvent*>(event));
         return true;

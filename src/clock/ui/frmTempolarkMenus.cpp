@@ -85,6 +85,20 @@ void frmTempolark::SaveByMenu(const QStringList& keys) {
     ShowChanges();
 }
 
+void frmTempolark::ShowDisabledMenu(const QPoint& globalPosition) {
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"DisabledMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    clockcore::AddEntry(*menu, u"Enable Clock"_s, [this] { EnableByMenu(); });
+    menu->popup(globalPosition);
+}
+
+void frmTempolark::EnableByMenu() {
+    mduLib::PutProperty(u"Enable"_s, mduUILib::BoolToYesNo(true), data_.EditProperties());
+    EnableWindow(true);
+    SaveByMenu({u"Enable"_s});
+}
+
 void frmTempolark::ShowFormMenu(const QPoint& globalPosition) {
     files_.MakeCurrent();
     const auto setStyle = [this](const QString& name) {

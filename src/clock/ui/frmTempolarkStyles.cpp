@@ -132,8 +132,9 @@ void frmTempolark::SaveCurrentStyle() {
     }
     mduLib::PutProperty(u"Window State"_s, mduUILib::WindowStateName(WindowState()),
                         data_.EditProperties());
-    if (WindowState() == 0) {
-        files_.StorePosition(placement_.OuterRect());
+    const std::optional<QRectF> place = placement_.PlaceToStore();
+    if (place) {
+        files_.StorePosition(*place);
     }
     StoreFontState();
     if (!mduLib::WritePropertyFile(program_.Services.FileSystem, data_.Properties(),
@@ -141,7 +142,7 @@ void frmTempolark::SaveCurrentStyle() {
         Status(data_.PropertyFileName + u" can't be written"_s);
         return;
     }
-    if (WindowState() != 0 || files_.SavePosition(placement_.OuterRect())) {
+    if (!place || files_.SavePosition(*place)) {
         TellSaved(u"the style of "_s + Caption());
     }
 }
@@ -157,9 +158,7 @@ void frmTempolark::SaveStyleAs() {
         return;
     }
     const QString path = clockcore::StyleFiles::SavePath(chosen);
-    const std::optional<QRectF> place =
-        WindowState() == 0 ? std::optional(placement_.OuterRect()) : std::nullopt;
-    if (styles_.Write(path, data_.Properties(), place)) {
+    if (styles_.Write(path, data_.Properties(), placement_.PlaceToStore())) {
         TellSaved(u"the style "_s + mduLib::FileBaseName(path, false));
     } else {
         Status(path + u" can't be written"_s);

@@ -1,5 +1,6 @@
 // What the entries of the menus do.
 #include <QMdiSubWindow>
+#include <QScrollBar>
 #include <functional>
 
 #include "foundation/FileHelpers.h"
@@ -284,6 +285,9 @@ QString frmMain::RemoveZone(const QString& name) {
 }
 
 void frmMain::Arrange(shell::Arrangement code) {
+    // What is arranged begins at the area's own corner.
+    area_->horizontalScrollBar()->setValue(0);
+    area_->verticalScrollBar()->setValue(0);
     if (code == shell::Arrangement::Cascade) {
         area_->cascadeSubWindows();
         return;
