@@ -33,6 +33,14 @@ struct Desk : MachineWithZones {
         Machine.WriteFile(File, content);
     }
 
+    /// One with days of 2026 that the database does not have.
+    void LeaveFileOfThisYear() {
+        LeaveOldFile();
+        QByteArray content = Machine.ReadFile(File);
+        content.replace("02/11/2025", "03/11/2026").replace("09/03/2025", "10/03/2026");
+        Machine.WriteFile(File, content);
+    }
+
     bool FileHas(const QByteArray& key, const QByteArray& value) const {
         return Machine.ReadFile(File).contains(key + '=' + value + "\r\n");
     }
@@ -58,6 +66,7 @@ class tst_ClockFiles : public QObject {
 
 private Q_SLOTS:
     void RenewsAFileThatWasThereBefore();
+    void FollowsANewEditionOfTheDatabase();
     void RenewsAFileThatHasJustBeenMerged();
     void LeavesAMergedFileOfThisYear();
     void RenewsAFileThatIsReadAsItStands();
@@ -77,6 +86,17 @@ void tst_ClockFiles::RenewsAFileThatWasThereBefore() {
     QCOMPARE(desk.Data.Zone.CurrentName, u"Eastern Daylight Time"_s);
 }
 
+// The keys are of this year, but other days were foretold when they were written.
+void tst_ClockFiles::FollowsANewEditionOfTheDatabase() {
+    Desk desk;
+    desk.LeaveFileOfThisYear();
+    QVERIFY(desk.Files.LoadForShell(Eastern));
+    QVERIFY(desk.FileIsOf2026());
+    QCOMPARE(mduLib::GetProperty(u"Time Zone Standard Start Time"_s, desk.Data.Properties()),
+             u"01/11/2026 2:00:00"_s);
+    QCOMPARE(desk.Module.CurrentProperties, desk.Data.Properties());
+}
+
 void tst_ClockFiles::RenewsAFileThatHasJustBeenMerged() {
     Desk desk;
     desk.LeaveOldFile();
@@ -89,10 +109,7 @@ void tst_ClockFiles::RenewsAFileThatHasJustBeenMerged() {
 
 void tst_ClockFiles::LeavesAMergedFileOfThisYear() {
     Desk desk;
-    desk.LeaveOldFile();
-    QByteArray content = desk.Machine.ReadFile(File);
-    content.replace("02/11/2025", "03/11/2026").replace("09/03/2025", "10/03/2026");
-    desk.Machine.WriteFile(File, content);
+    desk.LeaveFileOfThisYear();
     desk.Machine.SetAge(File, 7200);
     QVERIFY(desk.Files.LoadForShell(Eastern));
     QVERIFY(desk.FileHas("Time Zone Standard Start Time", "03/11/2026 2:00:00"));
