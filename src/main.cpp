@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QProcess>
 #include <cstdio>
+#include <optional>
 
 #include "foundation/Program.h"
 #include "platform/AbsentDevices.h"
@@ -16,10 +17,12 @@
 #include "platform/TzFolder.h"
 #include "platform/TzZoneDatabase.h"
 #include "platform/devices/DesktopHelp.h"
+#include "platform/devices/LocalOneProgram.h"
 #include "platform/devices/LogindActions.h"
 #include "platform/devices/QtPlayers.h"
 #include "platform/devices/QtVoices.h"
 #include "platform/ui/DesktopDialogs.h"
+#include "shell/StartOnce.h"
 #include "shell/ui/ProgramIcon.h"
 #include "shell/ui/frmMain.h"
 #include "timezones/ZoneEdition.h"
@@ -60,8 +63,11 @@ Options ReadOptions(QStringList arguments) {
             options.ExitCode = 0;
         } else if (argument == u"--quit-when-painted"_s) {
             options.QuitWhenPainted = true;
-        } else if (argument == u"--app-folder"_s && !arguments.isEmpty()) {
-            options.AppFolder = QDir(arguments.takeFirst()).absolutePath();
+        } else if (argument == u"--app-folder"_s && !arguments.value(0).isEmpty()) {
+            options.AppFolder = QDir::cleanPath(QDir(arguments.takeFirst()).absolutePath());
+        } else if (argument == u"--app-folder"_s) {
+            std::fputs("--app-folder wants a folder\n", stderr);
+            options.ExitCode = 2;
         } else if (argument.startsWith(u"--"_s)) {
             std::fprintf(stderr, "%s: not an option\n%s", qPrintable(argument), Usage);
             options.ExitCode = 2;
@@ -134,6 +140,26 @@ private:
     QString appFolder_;
 };
 
+void Complain(const QString& problem) {
+    std::fprintf(stderr, "%s\n", qPrintable(problem));
+}
+
+/// Readies the program folder and claims it for this program, before anything is written there.
+/// @return the exit status of a program that is not to go on
+std::optional<int> TakeFolder(const QString& folder, const QString& commandLine,
+                              std::optional<platform::LocalOneProgram>& program) {
+    const QString problem =
+        platform::HoldsOtherFiles(folder)
+            ? u"The folder %1 holds other files: name a new folder, or an empty one"_s.arg(folder)
+            : platform::PrepareAppFolder(folder);
+    if (!problem.isEmpty()) {
+        Complain(problem);
+        return 1;
+    }
+    program.emplace(folder, platform::LocalOneProgram::SocketFolder());
+    return shell::StartOnce(*program, commandLine, Complain);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -149,11 +175,20 @@ int main(int argc, char** argv) {
     // The toolkit has taken its own options off by now.
     const Options options = ReadOptions(QApplication::arguments());
 
+    const platform::AppFolderPlaces places = platform::FindAppFolderPlaces();
     ModuleState module;
     module.CommandLine = options.CommandLine;
-    module.Paths.AppFolder = options.AppFolder.isEmpty()
-                                 ? platform::ChooseAppFolder(platform::FindAppFolderPlaces())
-                                 : options.AppFolder;
+    module.Paths.AppFolder =
+        options.AppFolder.isEmpty() ? platform::ChooseAppFolder(places) : options.AppFolder;
+    std::optional<platform::LocalOneProgram> program;
+    if (const auto status = TakeFolder(module.Paths.AppFolder, options.CommandLine, program)) {
+        return *status;
+    }
+    const QString problem = platform::FillAppFolder(module.Paths.AppFolder, places);
+    if (!problem.isEmpty()) {
+        Complain(problem);
+        return 1;
+    }
 
     platform::SystemClock clock;
     platform::TzZoneDatabase zones(clock);
@@ -182,7 +217,12 @@ int main(int argc, char** argv) {
         return 1;
     }
     if (const QString notice = shell.StartNotice(); !notice.isEmpty()) {
-        std::fprintf(stderr, "%s\n", qPrintable(notice));
+        Complain(notice);
+    }
+    const QString unheard =
+        program->Listen([&shell](const QString& commandLine) { shell.TakeOver(commandLine); });
+    if (!unheard.isEmpty()) {
+        Complain(unheard);
     }
     FirstPaint firstPaint;
     if (options.QuitWhenPainted) {

@@ -26,18 +26,32 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv, bool d
     return std::make_unique<QApplication>(argc, argv);
 }
 
-// Choosing the program's own folder may fill it, so that only a command that needs one does.
-QString AppFolderOf(const ctl::CommandLine& line) {
+QString AppFolderOf(const ctl::CommandLine& line, const platform::AppFolderPlaces& places) {
     if (line.Global.AppFolder) {
         return QDir::cleanPath(QDir(*line.Global.AppFolder).absolutePath());
     }
-    const platform::AppFolderPlaces places = platform::FindAppFolderPlaces();
     return line.Chosen->UsesAppFolder ? platform::ChooseAppFolder(places) : places.ExecutableFolder;
 }
 
+// A command that works with the named files alone makes no folder.
+QString FolderProblem(const ctl::CommandLine& line, const QString& folder,
+                      const platform::AppFolderPlaces& places) {
+    if (!line.Chosen->UsesAppFolder) {
+        return {};
+    }
+    const QString problem = platform::PrepareAppFolder(folder);
+    return problem.isEmpty() ? platform::FillAppFolder(folder, places) : problem;
+}
+
 int Run(const ctl::CommandLine& line) {
+    const platform::AppFolderPlaces places = platform::FindAppFolderPlaces();
     ModuleState state;
-    state.Paths.AppFolder = AppFolderOf(line);
+    state.Paths.AppFolder = AppFolderOf(line, places);
+    const QString problem = FolderProblem(line, state.Paths.AppFolder, places);
+    if (!problem.isEmpty()) {
+        ctl::Complain(problem);
+        return ctl::OperationFailed;
+    }
     mduMain::NameProgramFolders(state.Paths);
     const ctl::ScriptMachine machine(line.Global, state.Paths.AppFolder);
     ctl::Context context{line.Global, machine.Services(), state, line.Arguments, line.Options};

@@ -1,12 +1,11 @@
 #include "platform/AppFolder.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <cstdio>
+
+#include "platform/StockData.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,45 +13,22 @@ namespace platform {
 
 namespace {
 
-bool IsNewer(const QFileInfo& source, const QFileInfo& target) {
-    return source.lastModified() > target.lastModified();
+/// Stands in a folder from before its filling until after it.
+QString MarkOf(const QString& folder) {
+    return folder + u"/.filling"_s;
 }
 
-// The profiles of cities are kept up to date where they are, whatever the user has changed in them.
-bool IsKeptUpToDate(const QString& name) {
-    return name.startsWith("/Timezones/"_L1);
+bool HasDefaults(const QString& folder) {
+    return QFileInfo(folder + u"/ini"_s).isDir();
 }
 
-/// A copy keeps its source's time: a user's file is merged with a default that is newer than it.
-void CopyWithTime(const QString& source, const QString& target) {
-    QDir().mkpath(QFileInfo(target).path());
-    const QString half = target + u".new"_s;
-    QFile::remove(half);
-    QFile copy(half);
-    if (!QFile::copy(source, half)) {
-        return;
-    }
-    copy.setPermissions(copy.permissions() | QFileDevice::WriteOwner | QFileDevice::ReadOwner);
-    if (!copy.open(QIODevice::ReadWrite)) {
-        return;
-    }
-    copy.setFileTime(QFileInfo(source).lastModified(), QFileDevice::FileModificationTime);
-    copy.close();
-    // Over the old file in one step, so that there is a default at every moment.
-    std::rename(QFile::encodeName(half).constData(), QFile::encodeName(target).constData());
+bool IsEmpty(const QString& folder) {
+    return QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                QDir::NoDotAndDotDot);
 }
 
-void FillFrom(const QString& installed, const QString& folder) {
-    QDirIterator files(installed, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = files.next();
-        const QString name = source.sliced(installed.size());
-        const QString target = folder + name;
-        if (!QFile::exists(target) ||
-            (!IsKeptUpToDate(name) && IsNewer(QFileInfo(source), QFileInfo(target)))) {
-            CopyWithTime(source, target);
-        }
-    }
+QString SourceOf(const AppFolderPlaces& places) {
+    return HasDefaults(places.ExecutableFolder) ? places.ExecutableFolder : places.InstalledData;
 }
 
 }  // namespace
@@ -65,13 +41,49 @@ AppFolderPlaces FindAppFolderPlaces() {
 }
 
 QString ChooseAppFolder(const AppFolderPlaces& places) {
-    const bool dataBeside = QFileInfo(places.ExecutableFolder + u"/ini"_s).isDir();
-    if (dataBeside && QFileInfo(places.ExecutableFolder).isWritable()) {
-        return places.ExecutableFolder;
+    const bool isOwn =
+        HasDefaults(places.ExecutableFolder) && QFileInfo(places.ExecutableFolder).isWritable();
+    return isOwn ? places.ExecutableFolder : places.UserFolder;
+}
+
+QString PrepareAppFolder(const QString& folder) {
+    const QFileInfo info(folder);
+    if (info.exists() && !info.isDir()) {
+        return u"%1 is not a folder"_s.arg(folder);
     }
-    QDir().mkpath(places.UserFolder);
-    FillFrom(dataBeside ? places.ExecutableFolder : places.InstalledData, places.UserFolder);
-    return places.UserFolder;
+    if (!QDir().mkpath(folder)) {
+        return u"The folder %1 can't be made"_s.arg(folder);
+    }
+    if (IsEmpty(folder) && !QFile(MarkOf(folder)).open(QIODevice::WriteOnly)) {
+        return u"The folder %1 can't be written"_s.arg(folder);
+    }
+    return {};
+}
+
+bool HoldsOtherFiles(const QString& folder) {
+    return QFileInfo(folder).isDir() && !HasDefaults(folder) && !IsEmpty(folder) &&
+           !QFile::exists(MarkOf(folder));
+}
+
+QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {
+    const bool isMarked = QFile::exists(MarkOf(folder));
+    if (!isMarked && folder != places.UserFolder) {
+        return {};
+    }
+    const QString source = SourceOf(places);
+    if (!HasDefaults(source)) {
+        // One that was filled once can do without.
+        return HasDefaults(folder) && !isMarked
+                   ? QString()
+                   : u"The data that %1 is to be filled with is missing: there is none in %2"_s.arg(
+                         folder, source);
+    }
+    const QString failed = CopyStockData(source, folder);
+    if (!failed.isEmpty()) {
+        return u"The folder %1 can't be filled: %2 can't be written"_s.arg(folder, failed);
+    }
+    QFile::remove(MarkOf(folder));
+    return {};
 }
 
 }  // namespace platform

@@ -14,10 +14,22 @@ struct AppFolderPlaces {
 /// The places on this machine.
 AppFolderPlaces FindAppFolderPlaces();
 
-/// The program folder: the executable's own where the user may write there and the data stands
-/// beside it, else the user's, which is filled from the installed data. Default files that have
-/// become newer since are brought over again, profiles of cities only while they are missing;
-/// nothing of the user's is touched.
+/// The program folder where none is named: the executable's own where the user may write there and
+/// the data stands beside it, else the user's. It touches nothing.
 QString ChooseAppFolder(const AppFolderPlaces& places);
+
+/// Makes a program folder that is not there yet, and marks one that is new or empty as one that is
+/// to be filled. @return why it can't be one; empty when it can
+QString PrepareAppFolder(const QString& folder);
+
+/// Whether a folder holds files, but not those of a program folder: somebody's documents.
+bool HoldsOtherFiles(const QString& folder);
+
+/// Fills a prepared folder that is marked, and goes on with one whose filling broke off. The user's
+/// own place is brought up to date as well: default files that have become newer come over again,
+/// profiles of cities only while they are missing; nothing of the user's is touched. Every other
+/// folder is left as it is.
+/// @return why it could not be filled, and then nothing of this run is left in it; empty when it is
+QString FillAppFolder(const QString& folder, const AppFolderPlaces& places);
 
 }  // namespace platform

@@ -67,19 +67,16 @@ void LastOpened::FillLastOpenedMenu(MenuArray& fileItems, const platform::Files&
             !mduLib::FileExists(files, paths.ZoneFileFolder + mduLib::AddIniExtension(name))) {
             continue;
         }
-        MenuItem& item = fileItems.Load(++shown);
-        item.Caption = name;
-        item.Tag = name;
-        item.Visible = true;
+        fileItems.Load(++shown) = {name, name, true, true, false};
     }
     if (shown == 0) {
         fileItems(1) = {u"None"_s, u"None"_s, true, true, false};
         fileItems.UnloadAbove(1);
         return;
     }
-    MenuItem& all = fileItems.Load(shown + 1);
-    all.Caption = u"All"_s;
-    all.Visible = true;
+    fileItems.Load(shown + 1) = {u"All"_s, {}, true, true, false};
+    // What a longer menu left is no clock of "All" any more.
+    fileItems.UnloadAbove(shown + 1);
 }
 
 }  // namespace shell

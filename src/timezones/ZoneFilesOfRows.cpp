@@ -17,6 +17,17 @@ bool MakeFromDefault(const platform::Services& services, const PathTable& paths,
            ApplyZoneToFile(services, paths, path, zoneName);
 }
 
+/// "1 time zone", "4 time zones"
+QString Count(const QStringList& names) {
+    return QString::number(names.size()) + (names.size() == 1 ? u" time zone"_s : u" time zones"_s);
+}
+
+/// What goes with the files of zones.
+QString WithSettings(const QStringList& names) {
+    return names.size() == 1 ? u", with the settings of its clock"_s
+                             : u", with the settings of their clocks"_s;
+}
+
 }  // namespace
 
 QString ZoneFilePath(const PathTable& paths, const QString& zoneName) {
@@ -63,13 +74,12 @@ RowsOutcome SaveCheckedZones(const platform::Services& services, const PathTable
     return outcome;
 }
 
-RowsOutcome DeleteCheckedZones(const platform::Services& services, const PathTable& paths,
-                               const ZoneList& list,
-                               const std::function<QString(const QString& name)>& remove) {
+RowsOutcome RemoveZones(const platform::Services& services, const PathTable& paths,
+                        const QStringList& names,
+                        const std::function<QString(const QString& name)>& remove) {
     RowsOutcome outcome;
-    for (int position = 0; position < list.Count(); ++position) {
-        const QString name = list[position].Name;
-        if (!list[position].Checked || !mduLib::ZoneNameProblem(name).isEmpty() ||
+    for (const QString& name : names) {
+        if (!mduLib::ZoneNameProblem(name).isEmpty() ||
             !mduLib::FileExists(services.FileSystem, ZoneFilePath(paths, name))) {
             continue;
         }
@@ -91,10 +101,25 @@ QString DeleteZoneFile(const platform::Services& services, const PathTable& path
                                                          : QString();
 }
 
-QString SaveQuestion(const QStringList& names) {
-    const QString what =
-        names.size() <= MostNames ? names.join(u", "_s) : QString::number(names.size());
-    return u"Do you want to save the "_s + what + u'?';
+QString SaveQuestion(const QStringList& names, const QStringList& removed) {
+    QStringList parts;
+    if (!names.isEmpty()) {
+        parts += names.size() <= MostNames ? names.join(u", "_s) : QString::number(names.size());
+    }
+    if (!removed.isEmpty()) {
+        parts += u"removal of "_s +
+                 (removed.size() <= MostNames ? removed.join(u", "_s) : Count(removed)) +
+                 WithSettings(removed);
+    }
+    return u"Do you want to save the "_s + parts.join(u", and the "_s) + u'?';
+}
+
+QString DeleteQuestion(const QStringList& names) {
+    QString whichOnes = Count(names) + WithSettings(names);
+    if (names.size() <= MostNames) {
+        whichOnes += u": "_s + names.join(u", "_s);
+    }
+    return u"Do you want to delete the selected time zone profiles?\n\n"_s + whichOnes + u'.';
 }
 
 }  // namespace mduTimeZones

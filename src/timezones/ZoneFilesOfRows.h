@@ -25,17 +25,21 @@ QString MakeZoneFile(const platform::Services& services, const PathTable& paths,
 RowsOutcome SaveCheckedZones(const platform::Services& services, const PathTable& paths,
                              ZoneList& list);
 
-/// Removes the files of the rows that are listed and checked, each by @p remove, which answers why
-/// it could not. One that is gone already is no problem. It asks nobody.
-RowsOutcome DeleteCheckedZones(const platform::Services& services, const PathTable& paths,
-                               const ZoneList& list,
-                               const std::function<QString(const QString& name)>& remove);
+/// Removes the files of zones, each by @p remove, which answers why it could not. One that is gone
+/// already is no problem. It asks nobody.
+RowsOutcome RemoveZones(const platform::Services& services, const PathTable& paths,
+                        const QStringList& names,
+                        const std::function<QString(const QString& name)>& remove);
 
 /// Removes the file of one zone. @return why it could not; empty when it is gone
 QString DeleteZoneFile(const platform::Services& services, const PathTable& paths,
                        const QString& name);
 
-/// "Do you want to save the Tokyo Standard Time, UTC?", from the fourth name on their number.
-QString SaveQuestion(const QStringList& names);
+/// "Do you want to save the Tokyo Standard Time, UTC?", from the fourth name on their number; and
+/// what is to go, with a word on what goes with it.
+QString SaveQuestion(const QStringList& names, const QStringList& removed);
+
+/// The question before the files of these zones are deleted.
+QString DeleteQuestion(const QStringList& names);
 
 }  // namespace mduTimeZones

@@ -1,5 +1,6 @@
 #include "timezones/ZoneList.h"
 
+#include <QSet>
 #include <algorithm>
 #include <numeric>
 
@@ -13,18 +14,40 @@ ZoneList::ZoneList(const platform::Services& services, const PathTable& paths)
     : services_(services), paths_(paths) {}
 
 void ZoneList::Load() {
-    const bool windows = Source == SourceMode::Windows || Source == SourceMode::Both;
-    const QString folder = Source == SourceMode::Windows    ? QString()
-                           : Source == SourceMode::Selected ? paths_.ZoneFileFolder
-                                                            : paths_.ProfileFolder;
-    source_.clear();
-    if (windows) {
-        FillWindowsRows(source_, ListWindowsTimeZones(services_), {}, services_);
-    }
-    if (!folder.isEmpty()) {
-        FillProfileRows(source_, ListProfileTimeZones(services_, folder), {}, services_);
+    ReadSource();
+    cities_.clear();
+    if (!words_.isEmpty()) {
+        ReadCities();
     }
     Fill();
+}
+
+void ZoneList::ReadSource() {
+    source_.clear();
+    if (Source == SourceMode::Windows || Source == SourceMode::Both) {
+        FillWindowsRows(source_, ListWindowsTimeZones(services_), {}, services_);
+    }
+    if (Source == SourceMode::Tempolark || Source == SourceMode::Both) {
+        FillProfileRows(source_, ListProfileTimeZones(services_, paths_.ProfileFolder), {},
+                        services_);
+    }
+    if (Source == SourceMode::Selected) {
+        FillZoneFileRows(source_, ListProfileTimeZones(services_, paths_.ZoneFileFolder), {},
+                         services_);
+    }
+}
+
+// A zone that the source lists already is not offered a second time.
+void ZoneList::ReadCities() {
+    if (Source == SourceMode::Tempolark || Source == SourceMode::Both) {
+        return;
+    }
+    QSet<QString> listed;
+    for (const ZoneRow& row : source_) {
+        listed.insert(row.Name);
+    }
+    FillFoundCities(cities_, ListProfileTimeZones(services_, paths_.ProfileFolder), {}, services_);
+    std::erase_if(cities_, [&](const ZoneRow& row) { return listed.contains(row.Name); });
 }
 
 void ZoneList::SetBand(std::optional<double> hours) {
@@ -33,15 +56,20 @@ void ZoneList::SetBand(std::optional<double> hours) {
 }
 
 void ZoneList::Fill() {
-    const RowFilter filter{Show, ChosenZones(services_.FileSystem, paths_.ZoneFileFolder), band_};
     rows_.clear();
-    for (const ZoneRow& row : source_) {
+    AddRows(source_);
+    AddRows(cities_);
+    Order();
+}
+
+void ZoneList::AddRows(const ZoneRows& rows) {
+    const RowFilter filter{Show, ChosenZones(services_.FileSystem, paths_.ZoneFileFolder), band_};
+    for (const ZoneRow& row : rows) {
         if (filter.Lists(row.Record)) {
             rows_.push_back(row);
             rows_.back().Checked = rows_.back().HasFile = IsChosen(filter.Chosen, row.Name);
         }
     }
-    Order();
 }
 
 void ZoneList::SetSort(ZoneSort sort) {
@@ -64,15 +92,31 @@ void ZoneList::Order() {
     List();
 }
 
+// Profiles are many: they are read when the first letter is typed. What is checked by then stays
+// so.
 void ZoneList::SetSearch(const QString& typed) {
     words_ = SearchWords(typed);
-    List();
+    if (!words_.isEmpty() && cities_.empty()) {
+        ReadCities();
+        AddRows(cities_);
+        Order();
+    } else {
+        List();
+    }
 }
 
 void ZoneList::List() {
     listed_.clear();
-    std::copy_if(order_.begin(), order_.end(), std::back_inserter(listed_),
-                 [&](std::size_t index) { return IsFound(rows_[index].SearchText, words_); });
+    std::vector<int> ranks(rows_.size());
+    for (const std::size_t index : order_) {
+        const ZoneRow& row = rows_[index];
+        if (words_.isEmpty() ? !row.IsFoundCity : IsFound(row.SearchText, words_)) {
+            listed_.push_back(index);
+            ranks[index] = words_.isEmpty() ? 0 : MatchRank(row.Name, row.DisplayName, words_);
+        }
+    }
+    std::stable_sort(listed_.begin(), listed_.end(),
+                     [&](std::size_t one, std::size_t other) { return ranks[one] < ranks[other]; });
 }
 
 const ZoneRow& ZoneList::operator[](int position) const {
@@ -108,18 +152,36 @@ std::vector<ZoneRow*> ZoneList::AllRows() {
     return rows;
 }
 
-int ZoneList::CheckedCount() const {
-    return static_cast<int>(
-        std::count_if(listed_.begin(), listed_.end(),
-                      [this](std::size_t index) { return rows_[index].Checked; }));
+QStringList ZoneList::NamesOf(const std::function<bool(const ZoneRow& row)>& wanted) const {
+    QStringList names;
+    for (const std::size_t index : order_) {
+        if (wanted(rows_[index])) {
+            names += rows_[index].Name;
+        }
+    }
+    names.removeDuplicates();
+    return names;
 }
 
 QStringList ZoneList::UnsavedNames() const {
+    return NamesOf([](const ZoneRow& row) { return row.Checked && !row.HasFile; });
+}
+
+QStringList ZoneList::UncheckedNames() const {
+    if (Source == SourceMode::Selected) {
+        return {};
+    }
+    const QString chosen = ChosenZones(services_.FileSystem, paths_.ZoneFileFolder);
+    return NamesOf([&](const ZoneRow& row) {
+        return row.HasFile && !row.Checked && IsChosen(chosen, row.Name);
+    });
+}
+
+QStringList ZoneList::CheckedNames() const {
     QStringList names;
-    for (const std::size_t index : order_) {
-        const ZoneRow& row = rows_[index];
-        if (row.Checked && !row.HasFile) {
-            names += row.Name;
+    for (const std::size_t index : listed_) {
+        if (rows_[index].Checked) {
+            names += rows_[index].Name;
         }
     }
     names.removeDuplicates();

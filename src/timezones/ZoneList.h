@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "timezones/ZoneRows.h"
 
 namespace mduTimeZones {
@@ -31,7 +33,8 @@ public:
     void SetSort(ZoneSort sort);
     ZoneSort Sort() const { return sort_; }
 
-    /// Lists only what is found by these words.
+    /// Lists only what is found by these words, the best match first; cities that have a profile
+    /// are found whatever the source is.
     void SetSearch(const QString& typed);
 
     int Count() const { return static_cast<int>(listed_.size()); }
@@ -44,22 +47,34 @@ public:
 
     /// All rows in list order, with those that the search leaves out.
     std::vector<ZoneRow*> AllRows();
-    int CheckedCount() const;  ///< of the listed rows
+    int CheckedCount() const { return static_cast<int>(CheckedNames().size()); }
 
     /// The names of checked rows that have no file yet, in list order, each once.
     QStringList UnsavedNames() const;
+
+    /// The names of rows that are no longer checked and have a file at this moment, each once. In a
+    /// list of zone files a check only selects, and no row counts.
+    QStringList UncheckedNames() const;
+
+    /// The names of the rows that are listed and checked, each once.
+    QStringList CheckedNames() const;
 
     /// The text that tells of a row's zone. It is worked out when it is asked for.
     QString Tag(const ZoneRow& row) const;
 
 private:
+    void ReadSource();
+    void ReadCities();
     void Fill();
+    void AddRows(const ZoneRows& rows);
     void Order();
     void List();
+    QStringList NamesOf(const std::function<bool(const ZoneRow& row)>& wanted) const;
 
     const platform::Services& services_;
     const PathTable& paths_;
     ZoneRows source_;  ///< all that the source holds, as it was read last
+    ZoneRows cities_;  ///< what a search finds besides, once one was begun
     std::optional<double> band_;
     ZoneSort sort_ = ZoneSort::None;
     QStringList words_;

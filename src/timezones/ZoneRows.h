@@ -28,7 +28,8 @@ struct ZoneRow {
     bool HasFile = false;  ///< as far as the list knows: files may vanish at any time
     TimeZoneRecord Record;
     std::optional<platform::ZonePlace> Place;
-    QString SearchText;  ///< see `ZoneSearch.h`
+    QString SearchText;        ///< see `ZoneSearch.h`
+    bool IsFoundCity = false;  ///< a profile beside the source: only a search lists it
 };
 using ZoneRows = std::vector<ZoneRow>;
 
@@ -46,10 +47,19 @@ struct RowFilter {
 /// ends included. Hours count like those of the map: GMT+12 is 0, GMT is 12, GMT-12 is 24.
 bool IsInBand(const TimeZoneRecord& record, double value);
 
-/// Append the rows of records from the database, or from profiles, in array order.
+/// Append the rows of records from the database, or from profiles, in array order. The rows of zone
+/// files are named after the files, as their clocks are; what a file does not tell (its zone's
+/// offset, when no clock has opened it yet, its place, its cities) comes from the database.
 void FillWindowsRows(ZoneRows& rows, const TimeZoneRecords& records, const RowFilter& filter,
                      const platform::Services& services);
 void FillProfileRows(ZoneRows& rows, const TimeZoneRecords& records, const RowFilter& filter,
+                     const platform::Services& services);
+void FillZoneFileRows(ZoneRows& rows, const TimeZoneRecords& records, const RowFilter& filter,
+                      const platform::Services& services);
+
+/// The rows of profiles that a search alone lists. They are found by city and country, not by an
+/// offset or a word that hundreds of them share.
+void FillFoundCities(ZoneRows& rows, const TimeZoneRecords& records, const RowFilter& filter,
                      const platform::Services& services);
 
 }  // namespace mduTimeZones

@@ -68,6 +68,21 @@ QStringList SearchWords(const QString& typed) {
     return FoldForSearch(typed).simplified().split(u' ', Qt::SkipEmptyParts);
 }
 
+int MatchRank(const QString& name, const QString& displayName, const QStringList& words) {
+    const QString typed = words.join(u' ');
+    const QString folded = FoldForSearch(name);
+    if (folded == typed) {
+        return 0;
+    }
+    if (folded.startsWith(typed)) {
+        return folded[typed.size()].isLetterOrNumber() ? 2 : 1;
+    }
+    if (folded.contains(u' ' + typed)) {
+        return 3;
+    }
+    return FoldForSearch(displayName).contains(u' ' + typed) ? 4 : 5;
+}
+
 bool IsFound(const QString& searchText, const QStringList& words) {
     return std::all_of(words.begin(), words.end(),
                        [&](const QString& word) { return searchText.contains(word); });

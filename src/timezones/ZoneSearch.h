@@ -17,6 +17,10 @@ QString ZoneSearchText(const TimeZoneRecord& record, const QStringList& countrie
 /// The words of what was typed, ready for `IsFound`.
 QStringList SearchWords(const QString& typed);
 
+/// How well what was typed fits a row, 0 being best: its name is just that, begins with it as a
+/// whole word, begins with it, has a word that does, its cities have; or it is found otherwise.
+int MatchRank(const QString& name, const QString& displayName, const QStringList& words);
+
 /// Whether each word stands somewhere in the text; no words find everything.
 bool IsFound(const QString& searchText, const QStringList& words);
 

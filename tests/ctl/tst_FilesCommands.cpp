@@ -16,6 +16,10 @@ private Q_SLOTS:
     void tellsOfALostDefault();
     void tellsOfADataFolderThatCantBeMade();
     void writesNothingOutsideTheProgramFolder();
+    void fillsAFolderThatIsNew();
+    void refusesAFileForAFolder();
+    void leavesOtherFoldersAsTheyAre();
+    void makesNoFolderThatItDoesNotUse();
 
 private:
     CompanionAnswer Setup(const QStringList& options, const QStringList& zone) const {
@@ -127,6 +131,48 @@ void tst_FilesCommands::writesNothingOutsideTheProgramFolder() {
     }
     QCOMPARE(QDir(companion_->Folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              QStringList{u"app"_s});
+}
+
+void tst_FilesCommands::fillsAFolderThatIsNew() {
+    const CompanionAnswer answer = companion_->Run(
+        {u"--app-folder"_s, u"new"_s, u"--user"_s, u"bob"_s, u"files"_s, u"setup"_s, u"Oslo"_s});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(answer.Messages, QByteArray());
+    QStringList folders = QDir(companion_->Folder.filePath(u"new"_s))
+                              .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    folders.sort();
+    QCOMPARE(folders, (QStringList{u"Help"_s, u"Images"_s, u"Music"_s, u"SoundFiles"_s, u"Styles"_s,
+                                   u"Timezones"_s, u"bob"_s, u"ini"_s}));
+    QVERIFY(companion_->Read(u"new/bob/TimeZones/Oslo.ini"_s) ==
+            companion_->Read(u"new/ini/Tempolark.ini"_s));
+    QVERIFY(!companion_->Read(u"new/bob/Shortcuts.txt"_s).isEmpty());
+}
+
+void tst_FilesCommands::refusesAFileForAFolder() {
+    const QString path = companion_->Write(u"notes.txt"_s, "notes");
+    const CompanionAnswer answer =
+        companion_->Run({u"--app-folder"_s, u"notes.txt"_s, u"files"_s, u"setup"_s});
+    QCOMPARE(answer.Status, 1);
+    QCOMPARE(answer.Messages, path.toUtf8() + " is not a folder\n");
+    QCOMPARE(answer.Output, QByteArray());
+    QCOMPARE(companion_->Read(u"notes.txt"_s), "notes"_ba);
+}
+
+/// A folder with something in it is as its owner wants it, whole or not.
+void tst_FilesCommands::leavesOtherFoldersAsTheyAre() {
+    companion_->Write(u"part/Styles/Mine.ini"_s, "Clocks=Digital\r\n");
+    const CompanionAnswer answer = companion_->Run(
+        {u"--app-folder"_s, u"part"_s, u"zones"_s, u"list"_s, u"--source"_s, u"profiles"_s});
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(QDir(companion_->Folder.filePath(u"part"_s)).entryList(QDir::Dirs | QDir::NoDot),
+             (QStringList{u".."_s, u"Styles"_s}));
+}
+
+void tst_FilesCommands::makesNoFolderThatItDoesNotUse() {
+    const CompanionAnswer answer =
+        companion_->Run({u"--app-folder"_s, u"new"_s, u"values"_s, u"yes-no"_s, u"Yes"_s});
+    QCOMPARE(answer.Status, 0);
+    QVERIFY(!QFileInfo::exists(companion_->Folder.filePath(u"new"_s)));
 }
 
 QTEST_GUILESS_MAIN(tst_FilesCommands)

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "platform/AppFolder.h"
+#include "platform/StockData.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,9 +25,40 @@ private Q_SLOTS:
     void bringsProfilesWithTheirStampOnce();
     void copiesReadOnlyFiles();
     void goesOnWithoutInstalledData();
+    void choosingTouchesNothing();
+    void fillsANewOrAnEmptyFolder_data();
+    void fillsANewOrAnEmptyFolder();
+    void copiesOnlyWhatComesWithTheProgram();
+    void leavesAFolderThatIsInUse();
+    void goesOnWhereFillingBrokeOff();
+    void leavesNothingOfAFillingThatFailed();
+    void refusesWhatCantBeAFolder();
+    void refusesAFolderThatCantBeWritten();
+    void tellsOtherFilesFromItsOwn();
 
 private:
-    QString Choose() const { return platform::ChooseAppFolder(places_); }
+    /// The folder that is chosen where none is named, ready for use.
+    QString Choose() const {
+        const QString folder = platform::ChooseAppFolder(places_);
+        return Make(folder).isEmpty() ? folder : QString();
+    }
+
+    /// What becomes of a folder before the program uses it.
+    QString Make(const QString& folder) const {
+        const QString problem = platform::PrepareAppFolder(folder);
+        return problem.isEmpty() ? platform::FillAppFolder(folder, places_) : problem;
+    }
+
+    /// All files below a folder, hidden ones too.
+    static QStringList FilesIn(const QString& folder) {
+        QStringList names;
+        QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            names += files.next().sliced(folder.size() + 1);
+        }
+        names.sort();
+        return names;
+    }
 
     static void Write(const QString& path, const QByteArray& content, qint64 time) {
         QDir().mkpath(QFileInfo(path).path());
@@ -140,9 +172,116 @@ void tst_AppFolder::copiesReadOnlyFiles() {
 }
 
 void tst_AppFolder::goesOnWithoutInstalledData() {
+    Choose();
     places_.InstalledData = folder_->filePath(u"missing"_s);
     QCOMPARE(Choose(), places_.UserFolder);
-    QVERIFY(QDir(places_.UserFolder).isEmpty());
+    const QString other = folder_->filePath(u"other"_s);
+    QCOMPARE(Make(other),
+             u"The data that %1 is to be filled with is missing: there is none in %2"_s.arg(
+                 other, places_.InstalledData));
+}
+
+void tst_AppFolder::choosingTouchesNothing() {
+    QCOMPARE(platform::ChooseAppFolder(places_), places_.UserFolder);
+    QVERIFY(!QFileInfo::exists(folder_->filePath(u"home"_s)));
+}
+
+void tst_AppFolder::fillsANewOrAnEmptyFolder_data() {
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("new") << false;
+    QTest::newRow("empty") << true;
+}
+
+void tst_AppFolder::fillsANewOrAnEmptyFolder() {
+    QFETCH(bool, exists);
+    const QString folder = folder_->filePath(u"far/away/clocks"_s);
+    QVERIFY(!exists || QDir().mkpath(folder));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), (QStringList{u"Images/Background/a.gif"_s, u"ini/Tempolark.ini"_s}));
+    QCOMPARE(Read(folder + u"/ini/Tempolark.ini"_s), "A=1"_ba);
+    QVERIFY(!QFileInfo::exists(places_.UserFolder));
+}
+
+/// Beside an executable stand programs, and what its users have set.
+void tst_AppFolder::copiesOnlyWhatComesWithTheProgram() {
+    const QString& beside = places_.ExecutableFolder;
+    Write(beside + u"/ini/Tempolark.ini"_s, "A=2", 1000000000);
+    Write(beside + u"/bob/TimeZones/Oslo.ini"_s, "Own=1", 1000000000);
+    Write(beside + u"/TempolarkCentral"_s, "ELF", 1000000000);
+    const QString folder = folder_->filePath(u"clocks"_s);
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), QStringList{u"ini/Tempolark.ini"_s});
+    for (const QString& name : QDir(QStringLiteral(TEMPOLARK_SOURCE_DIR "/data"))
+                                   .entryList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+        QVERIFY2(platform::StockFolders().contains(name), qPrintable(name));
+    }
+}
+
+/// Whatever has become of its default files since: what is lost there, other rules restore.
+void tst_AppFolder::leavesAFolderThatIsInUse() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    QCOMPARE(Make(folder), QString());
+    Write(folder + u"/ini/Tempolark.ini"_s, "A=old", 900000000);
+    QVERIFY(QFile::remove(folder + u"/Images/Background/a.gif"_s));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), QStringList{u"ini/Tempolark.ini"_s});
+    QCOMPARE(Read(folder + u"/ini/Tempolark.ini"_s), "A=old"_ba);
+}
+
+void tst_AppFolder::goesOnWhereFillingBrokeOff() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    QCOMPARE(platform::PrepareAppFolder(folder), QString());
+    Write(folder + u"/Images/Background/a.gif"_s, "GIF", 1000000000);
+    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), (QStringList{u"Images/Background/a.gif"_s, u"ini/Tempolark.ini"_s}));
+}
+
+void tst_AppFolder::leavesNothingOfAFillingThatFailed() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    QCOMPARE(platform::PrepareAppFolder(folder), QString());
+    Write(folder + u"/ini"_s, "in the way", 1000000000);
+    QCOMPARE(Make(folder),
+             u"The folder %1 can't be filled: %1/ini/Tempolark.ini can't be written"_s.arg(folder));
+    QCOMPARE(FilesIn(folder), (QStringList{u".filling"_s, u"ini"_s}));
+    QVERIFY(!QFileInfo::exists(folder + u"/Images"_s));
+    QVERIFY(QFile::remove(folder + u"/ini"_s));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder).size(), 2);
+}
+
+void tst_AppFolder::refusesWhatCantBeAFolder() {
+    const QString file = folder_->filePath(u"notes.txt"_s);
+    Write(file, "notes", 1000000000);
+    QCOMPARE(platform::PrepareAppFolder(file), u"%1 is not a folder"_s.arg(file));
+    QCOMPARE(platform::PrepareAppFolder(file + u"/clocks"_s),
+             u"The folder %1/clocks can't be made"_s.arg(file));
+    QCOMPARE(Read(file), "notes"_ba);
+}
+
+void tst_AppFolder::refusesAFolderThatCantBeWritten() {
+    if (geteuid() == 0) {
+        QSKIP("every folder is open to the administrator");
+    }
+    const QString folder = folder_->filePath(u"clocks"_s);
+    QVERIFY(QDir().mkpath(folder));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
+    const QString problem = platform::PrepareAppFolder(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(problem, u"The folder %1 can't be written"_s.arg(folder));
+}
+
+void tst_AppFolder::tellsOtherFilesFromItsOwn() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder));
+    Write(folder + u"/.profile"_s, "text", 1000000000);
+    QVERIFY(platform::HoldsOtherFiles(folder));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), QStringList{u".profile"_s});
+    QVERIFY(QDir().mkpath(folder + u"/ini"_s));
+    QVERIFY(!platform::HoldsOtherFiles(folder));
 }
 
 QTEST_GUILESS_MAIN(tst_AppFolder)

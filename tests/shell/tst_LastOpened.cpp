@@ -131,6 +131,27 @@ private Q_SLOTS:
         QCOMPARE(menu(3).Caption, u"All"_s);
     }
 
+    /// A zone was removed since the menu was filled last.
+    void MenuKeepsNothingOfALongerOne() {
+        FakeServices machine;
+        PathTable paths;
+        paths.ZoneFileFolder = machine.AppFolder() + u"/TimeZones/"_s;
+        for (const QString& name : {u"A"_s, u"B"_s, u"C"_s}) {
+            machine.WriteFile(u"TimeZones/"_s + name + u".ini"_s, "x=1\r\n");
+        }
+        const shell::LastOpened opened = Pushed({u"C"_s, u"B"_s, u"A"_s});
+        shell::MenuArray menu;
+        opened.FillLastOpenedMenu(menu, machine.Files, paths);
+        QCOMPARE(menu.Count(), 4);
+        menu(2).Checked = true;
+        QVERIFY(QFile::remove(paths.ZoneFileFolder + u"A.ini"_s));
+        QVERIFY(QFile::remove(paths.ZoneFileFolder + u"C.ini"_s));
+        opened.FillLastOpenedMenu(menu, machine.Files, paths);
+        QCOMPARE(menu.Count(), 2);
+        QCOMPARE(menu(1), (shell::MenuItem{u"B"_s, u"B"_s, true, true, false}));
+        QCOMPARE(menu(2), (shell::MenuItem{u"All"_s, {}, true, true, false}));
+    }
+
     void MenuEndsAtFifteen() {
         FakeServices machine;
         PathTable paths;

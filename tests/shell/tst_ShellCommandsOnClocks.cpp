@@ -17,6 +17,7 @@ private Q_SLOTS:
         desk.ClickItem(u"DeleteTimeZone"_s, 1);
         QCOMPARE(desk.Machine.Dialogs.Boxes.size(), std::size_t(1));
         QCOMPARE(desk.Machine.Dialogs.Boxes[0].Title, u"Remove Time Zone"_s);
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Flags, 4 + 32 + 256);  // No is the default
         QVERIFY(desk.Machine.Dialogs.Boxes[0].Text.contains(u"Tokyo Standard Time"_s));
         QVERIFY(!desk.User(u"TimeZones/Tokyo Standard Time.ini"_s).isEmpty());
         desk.Machine.Dialogs.BoxAnswers = {6};
@@ -79,6 +80,25 @@ private Q_SLOTS:
         QVERIFY(desk.Start());
         desk.Open(u"Launch"_s);
         QCOMPARE(Desk::Texts(desk.Menu(u"LastOpened"_s)), (QStringList{u"UTC"_s, u"All"_s}));
+    }
+
+    void AllOfTheLastOnesLeavesRemovedZonesAlone() {
+        Desk desk;
+        desk.Machine.WriteFile(u"tester/OpenedForms.txt"_s, "Zone 1=\r\nZone 2=\r\nZone 3=\r\n");
+        for (const QString& name : {u"Zone 1"_s, u"Zone 2"_s, u"Zone 3"_s}) {
+            desk.Zone(name);
+        }
+        QVERIFY(desk.Start());
+        desk.Entry(u"FileItem"_s, 1);
+        for (int time = 0; time < 2; ++time) {
+            desk.Machine.Dialogs.BoxAnswers = {6};
+            desk.ClickItem(u"DeleteTimeZone"_s, 3);  // the last zone, behind UTC
+        }
+        desk.ClickItem(u"FileItem"_s, 2);
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"Zone 1"_s});
+        QVERIFY(!desk.HasZone(u"Zone 2"_s));
+        QVERIFY(!desk.HasZone(u"Zone 3"_s));
     }
 
     void TheFilePickerHidesTheHeader() {

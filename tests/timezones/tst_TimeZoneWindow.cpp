@@ -18,7 +18,11 @@ private Q_SLOTS:
     void OpensOnTheDatabase();
     void IsAWindowOfTheProgram();
     void ClickOnABoxMakesTheFile();
-    void UncheckingLeavesTheFile();
+    void ClickOnABoxMakesItsRowCurrent();
+    void UncheckingAsksBeforeTheNextFill_data();
+    void UncheckingAsksBeforeTheNextFill();
+    void UncheckingInTheListOfFilesOnlySelects();
+    void AsksForBothAtOnce();
     void CheckingAgainKeepsTheFile();
     void SpaceChecksARow();
     void ProfileRowsCopyTheirProfile();
@@ -36,6 +40,8 @@ private Q_SLOTS:
     void ClosesWithoutAQuestionWhenAllIsSaved();
     void DeletesAfterAQuestion();
     void DeletesNothingOnNo();
+    void DeletesNothingWhereNothingIsChecked();
+    void ListsTheFileOfTheFirstStart();
     void DeleteIsForZoneFilesAlone_data();
     void DeleteIsForZoneFilesAlone();
 };
@@ -51,7 +57,7 @@ void tst_TimeZoneWindow::OpensOnTheDatabase() {
     QCOMPARE(desk.Find<QLabel>(u"lblCount"_s).text(), u"3 zones, 1 checked"_s);
     QCOMPARE(desk.Find<QPushButton>(u"cmdButton0"_s).text(), u"Close"_s);
     QCOMPARE(desk.Find<QPushButton>(u"cmdButton1"_s).text(), u"Save"_s);
-    QVERIFY(!desk.Find<QPushButton>(u"cmdLaunch"_s).isEnabled());
+    QVERIFY(desk.Find<QPushButton>(u"cmdLaunch"_s).isEnabled());
     QCOMPARE(desk.Shell.Boxes, QStringList());
 }
 
@@ -83,15 +89,78 @@ void tst_TimeZoneWindow::ClickOnABoxMakesTheFile() {
     QVERIFY(!desk.HasFile(Eastern));
 }
 
-void tst_TimeZoneWindow::UncheckingLeavesTheFile() {
+void tst_TimeZoneWindow::ClickOnABoxMakesItsRowCurrent() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Utc);
+    desk.Open();
+    desk.GoTo(Tokyo);
+    desk.ClickCheckBox(Eastern);
+    QCOMPARE(desk.View().currentIndex().row(), 1);
+    desk.Click(u"cmdLaunch"_s);
+    QCOMPARE(desk.Shell.Launched, QStringList{Eastern});
+    desk.ClickCheckBox(Utc);
+    QCOMPARE(desk.View().currentIndex().row(), 2);
+    QVERIFY(!desk.Find<QPushButton>(u"cmdLaunch"_s).isEnabled());
+}
+
+void tst_TimeZoneWindow::UncheckingAsksBeforeTheNextFill_data() {
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("stays");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("yes") << 6 << false << QStringList{u"1 time zone removed"_s};
+    QTest::newRow("no") << 7 << true << QStringList();
+}
+
+void tst_TimeZoneWindow::UncheckingAsksBeforeTheNextFill() {
+    QFETCH(int, answer);
+    QFETCH(bool, stays);
     ZoneWindowDesk desk;
     desk.ZoneFile(Tokyo);
     desk.Open();
     desk.ClickCheckBox(Tokyo);
     QVERIFY(!desk.IsChecked(Tokyo));
     QCOMPARE(desk.ReadZoneFile(Tokyo), QByteArray("A:B=own\r\n"));
+    desk.Shell.Answers = {answer};
     desk.Run(u"ShowAll"_s);
+    QCOMPARE(desk.Shell.Boxes,
+             QStringList{u"Do you want to save the removal of Tokyo Standard Time, with the "
+                         "settings of its clock?|292|Save Seleted Time Zones"_s});
+    QCOMPARE(desk.HasFile(Tokyo), stays);
+    QCOMPARE(desk.IsChecked(Tokyo), stays);
+    QTEST(desk.Shell.Messages, "messages");
+    desk.Run(u"ShowAll"_s);  // nothing is left to be asked
+    desk.Click(u"cmdButton0"_s);
+    QCOMPARE(desk.Shell.Boxes.size(), 1);
+}
+
+/// There a check tells what "Delete Selected" takes.
+void tst_TimeZoneWindow::UncheckingInTheListOfFilesOnlySelects() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo);
+    desk.Open();
+    desk.Run(u"SourceSelected"_s);
+    desk.ClickCheckBox(Tokyo);
+    desk.Run(u"ShowAll"_s);
+    QCOMPARE(desk.Shell.Boxes, QStringList());
     QVERIFY(desk.IsChecked(Tokyo));
+}
+
+void tst_TimeZoneWindow::AsksForBothAtOnce() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo);
+    desk.Open();
+    desk.Run(u"SelectAll"_s);
+    desk.ClickCheckBox(Tokyo);
+    desk.Shell.Answers = {6};
+    desk.Click(u"cmdButton0"_s);
+    QCOMPARE(desk.Shell.Boxes,
+             QStringList{u"Do you want to save the Eastern Standard Time, UTC, and the removal of "
+                         "Tokyo Standard Time, with the settings of its clock?|292|Save Seleted "
+                         "Time Zones"_s});
+    QVERIFY(desk.HasFile(Eastern));
+    QVERIFY(desk.HasFile(Utc));
+    QVERIFY(!desk.HasFile(Tokyo));
+    QCOMPARE(desk.Shell.Removed, QStringList{Tokyo});
 }
 
 void tst_TimeZoneWindow::CheckingAgainKeepsTheFile() {
@@ -296,7 +365,8 @@ void tst_TimeZoneWindow::DeletesAfterAQuestion() {
     desk.Shell.Answers = {6};
     desk.Run(u"DeleteSelected"_s);
     QCOMPARE(desk.Shell.Boxes,
-             QStringList{u"Do you want to delete the selected time zone profiles?|36|"
+             QStringList{u"Do you want to delete the selected time zone profiles?\n\n1 time zone, "
+                         "with the settings of its clock: Tokyo Standard Time.|292|"
                          "Delete Selected"_s});
     QVERIFY(!desk.HasFile(Tokyo));
     QVERIFY(desk.HasFile(Utc));
@@ -314,6 +384,30 @@ void tst_TimeZoneWindow::DeletesNothingOnNo() {
     desk.Run(u"DeleteSelected"_s);
     QVERIFY(desk.HasFile(Utc));
     QCOMPARE(desk.Listed(), QStringList{Utc});
+}
+
+void tst_TimeZoneWindow::DeletesNothingWhereNothingIsChecked() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Utc, "Time Zone:Time Zone Standard Name=UTC\r\n");
+    desk.Open();
+    desk.Run(u"SourceSelected"_s);
+    desk.Run(u"SelectNone"_s);
+    desk.Run(u"DeleteSelected"_s);
+    QCOMPARE(desk.Shell.Boxes, QStringList());
+    QCOMPARE(desk.Shell.Messages, QStringList{u"No time zone is checked"_s});
+    QVERIFY(desk.HasFile(Utc));
+}
+
+/// No clock has written its zone into it yet.
+void tst_TimeZoneWindow::ListsTheFileOfTheFirstStart() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo, "Time Zone:Time Zone Standard Name=\r\n");
+    desk.Open();
+    QCOMPARE(desk.Find<QLabel>(u"lblCount"_s).text(), u"3 zones, 1 checked"_s);
+    desk.Run(u"SourceSelected"_s);
+    QCOMPARE(desk.Listed(), QStringList{Tokyo});
+    QCOMPARE(desk.Find<QLabel>(u"lblCount"_s).text(), u"1 zone, 1 checked"_s);
+    QCOMPARE(desk.Map().Dots().size(), std::size_t{1});
 }
 
 void tst_TimeZoneWindow::DeleteIsForZoneFilesAlone_data() {

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void NarrowsAsOneTypes();
     void TellsThatNothingIsFound();
     void GoesOnFromTheField();
+    void EnterInTheFieldOpensTheBestMatch();
+    void EnterInAnEmptyFieldGoesToTheList();
     void EscapeEmptiesTheField();
     void ShowsDots();
     void ClickOnADotPicksItsZone();
@@ -43,7 +45,10 @@ private Q_SLOTS:
     void LaunchesACheckedRow();
     void DoubleClickLaunches();
     void EnterLaunches();
-    void UncheckedRowIsNotLaunched();
+    void UncheckedRowsAreOpenedAtOnce();
+    void ARowWithoutAFileIsNotOpened();
+    void LaunchesAllCheckedRowsWhenNoneIsCurrent();
+    void ACityIsOpenedFromItsProfile();
     void ShowsDetails();
     void SpeaksDetails();
     void EscapeClosesTheBalloon();
@@ -92,6 +97,33 @@ void tst_TimeZoneWindowFinding::GoesOnFromTheField() {
     QVERIFY(desk.HasFile(Eastern));
     QTest::keyClick(&desk.View(), Qt::Key_Return);
     QCOMPARE(desk.Shell.Launched, QStringList{Eastern});
+}
+
+void tst_TimeZoneWindowFinding::EnterInTheFieldOpensTheBestMatch() {
+    ZoneWindowDesk desk;
+    desk.Profile(u"New York.ini"_s, "New York", 300, "Clock:Mine=york\r\n");
+    desk.Machine.Zones.Subkeys[1].Texts[u"Display"_s] = u"(GMT-05:00) New York, Toronto"_s;
+    desk.Open();
+    desk.GoTo(Eastern);
+    QTest::keyClicks(&desk.Search(), u"new york"_s);
+    QCOMPARE(desk.Listed(), (QStringList{u"New York"_s, Eastern}));
+    QCOMPARE(desk.View().currentIndex().row(), 0);
+    QTest::keyClick(&desk.Search(), Qt::Key_Return);
+    QCOMPARE(desk.Shell.Launched, QStringList{u"New York"_s});
+    QVERIFY(desk.ReadZoneFile(u"New York"_s).contains("Clock:Mine=york"));
+    QVERIFY(desk.IsChecked(u"New York"_s));
+    QVERIFY(!desk.HasFile(Eastern));
+}
+
+void tst_TimeZoneWindowFinding::EnterInAnEmptyFieldGoesToTheList() {
+    ZoneWindowDesk desk;
+    desk.Open();
+    desk.Window->activateWindow();
+    desk.Search().setFocus();
+    QTest::keyClick(&desk.Search(), Qt::Key_Return);
+    QCOMPARE(desk.Shell.Launched, QStringList());
+    QTRY_COMPARE(QApplication::focusWidget(), &desk.View());
+    QCOMPARE(desk.View().currentIndex().row(), 0);
 }
 
 void tst_TimeZoneWindowFinding::EscapeEmptiesTheField() {
@@ -289,7 +321,6 @@ void tst_TimeZoneWindowFinding::LaunchesACheckedRow() {
     desk.ZoneFile(Tokyo);
     desk.Open();
     auto& launch = desk.Find<QPushButton>(u"cmdLaunch"_s);
-    QVERIFY(!launch.isEnabled());
     desk.GoTo(Tokyo);
     QVERIFY(launch.isEnabled());
     desk.GoTo(Eastern);
@@ -298,7 +329,7 @@ void tst_TimeZoneWindowFinding::LaunchesACheckedRow() {
     QVERIFY(launch.isEnabled());
     desk.Click(u"cmdLaunch"_s);
     QCOMPARE(desk.Shell.Launched, QStringList{Eastern});
-    // A file that has vanished meanwhile is the shell's to make.
+    // A file that has vanished meanwhile is made once more.
     QVERIFY(QFile::remove(desk.Paths.ZoneFileFolder + Tokyo + u".ini"_s));
     desk.GoTo(Tokyo);
     desk.Click(u"cmdLaunch"_s);
@@ -328,13 +359,62 @@ void tst_TimeZoneWindowFinding::EnterLaunches() {
     QCOMPARE(desk.Shell.Launched, (QStringList{Tokyo, Tokyo}));
 }
 
-void tst_TimeZoneWindowFinding::UncheckedRowIsNotLaunched() {
+void tst_TimeZoneWindowFinding::UncheckedRowsAreOpenedAtOnce() {
     ZoneWindowDesk desk;
     desk.Open();
-    desk.GoTo(Tokyo);
+    const QPoint text = desk.CheckBox(Tokyo) + QPoint(80, 0);
+    QTest::mouseClick(desk.View().viewport(), Qt::LeftButton, {}, text);
+    QTest::mouseDClick(desk.View().viewport(), Qt::LeftButton, {}, text);
+    QCOMPARE(desk.Shell.Launched, QStringList{Tokyo});
+    QVERIFY(desk.IsChecked(Tokyo));
+    QVERIFY(desk.HasFile(Tokyo));
+    QVERIFY(desk.Find<QPushButton>(u"cmdLaunch"_s).isEnabled());
+    desk.GoTo(Eastern);
     QTest::keyClick(&desk.View(), Qt::Key_Return);
+    QCOMPARE(desk.Shell.Launched, (QStringList{Tokyo, Eastern}));
+    QVERIFY(desk.HasFile(Eastern));
+}
+
+void tst_TimeZoneWindowFinding::ARowWithoutAFileIsNotOpened() {
+    ZoneWindowDesk desk;
+    desk.Machine.Zones.Add(u"Etc/Odd"_s, 0);
+    desk.Machine.Files.Unwritable += desk.Paths.ZoneFileFolder + Tokyo + u".ini"_s;
+    desk.Open();
+    for (const QString& zone : {Tokyo, u"Etc/Odd"_s}) {
+        desk.GoTo(zone);
+        QTest::keyClick(&desk.View(), Qt::Key_Return);
+    }
     QCOMPARE(desk.Shell.Launched, QStringList());
-    QCOMPARE(desk.Shell.Messages, QStringList{u"Check Tokyo Standard Time to give it a clock"_s});
+    QCOMPARE(desk.Shell.Messages, (QStringList{u"Tokyo Standard Time could not be saved"_s,
+                                               u"A time zone's name can't hold a path "
+                                               "separator"_s}));
+    QVERIFY(!desk.IsChecked(u"Etc/Odd"_s));
+}
+
+void tst_TimeZoneWindowFinding::LaunchesAllCheckedRowsWhenNoneIsCurrent() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo);
+    desk.Open();
+    QVERIFY(desk.Find<QPushButton>(u"cmdLaunch"_s).isEnabled());
+    desk.Run(u"SelectNone"_s);
+    QVERIFY(!desk.Find<QPushButton>(u"cmdLaunch"_s).isEnabled());
+    desk.Run(u"SelectAll"_s);
+    desk.Click(u"cmdLaunch"_s);
+    QCOMPARE(desk.Shell.Launched, (QStringList{Tokyo, Eastern, Utc}));
+    QVERIFY(desk.HasFile(Eastern));
+    desk.Click(u"cmdButton0"_s);
+    QCOMPARE(desk.Shell.Boxes, QStringList());
+}
+
+void tst_TimeZoneWindowFinding::ACityIsOpenedFromItsProfile() {
+    ZoneWindowDesk desk;
+    desk.Profile(u"Bergen.ini"_s, "Bergen", -60, "Zone:Country=Norway\r\n");
+    desk.Open();
+    QTest::keyClicks(&desk.Search(), u"norway"_s);
+    desk.ClickCheckBox(u"Bergen"_s);
+    QCOMPARE(desk.ReadZoneFile(u"Bergen"_s), desk.Machine.ReadFile(u"Timezones/Bergen.ini"_s));
+    desk.Click(u"cmdLaunch"_s);
+    QCOMPARE(desk.Shell.Launched, QStringList{u"Bergen"_s});
 }
 
 void tst_TimeZoneWindowFinding::ShowsDetails() {

@@ -27,9 +27,9 @@ struct Desk : ZoneListDesk {
     QString Make(const QString& name) { return MakeZoneFile(Machine.Services, Paths, Row(name)); }
     RowsOutcome Save() { return SaveCheckedZones(Machine.Services, Paths, List); }
     RowsOutcome Delete() {
-        return DeleteCheckedZones(Machine.Services, Paths, List, [this](const QString& name) {
-            return DeleteZoneFile(Machine.Services, Paths, name);
-        });
+        return RemoveZones(
+            Machine.Services, Paths, List.CheckedNames(),
+            [this](const QString& name) { return DeleteZoneFile(Machine.Services, Paths, name); });
     }
 
     QString Oslo;
@@ -58,6 +58,8 @@ private Q_SLOTS:
     void TellsWhatCannotBeDeleted();
     void SaveQuestion_data();
     void SaveQuestion();
+    void DeleteQuestion_data();
+    void DeleteQuestion();
 };
 
 void tst_ZoneFilesOfRows::CopiesAProfile() {
@@ -211,17 +213,50 @@ void tst_ZoneFilesOfRows::TellsWhatCannotBeDeleted() {
 
 void tst_ZoneFilesOfRows::SaveQuestion_data() {
     QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QStringList>("removed");
     QTest::addColumn<QString>("question");
-    QTest::newRow("one") << QStringList{u"UTC"_s} << u"Do you want to save the UTC?"_s;
-    QTest::newRow("three") << QStringList{u"A"_s, u"B"_s, u"C"_s}
-                           << u"Do you want to save the A, B, C?"_s;
-    QTest::newRow("four") << QStringList{u"A"_s, u"B"_s, u"C"_s, u"D"_s}
-                          << u"Do you want to save the 4?"_s;
+    const QStringList none;
+    const QStringList three{u"A"_s, u"B"_s, u"C"_s};
+    const QStringList four{u"A"_s, u"B"_s, u"C"_s, u"D"_s};
+    QTest::newRow("one") << QStringList{u"UTC"_s} << none << u"Do you want to save the UTC?"_s;
+    QTest::newRow("three") << three << none << u"Do you want to save the A, B, C?"_s;
+    QTest::newRow("four") << four << none << u"Do you want to save the 4?"_s;
+    QTest::newRow("one goes")
+        << none << QStringList{u"UTC"_s}
+        << u"Do you want to save the removal of UTC, with the settings of its clock?"_s;
+    QTest::newRow("three go")
+        << none << three
+        << u"Do you want to save the removal of A, B, C, with the settings of their clocks?"_s;
+    QTest::newRow("four go") << none << four
+                             << u"Do you want to save the removal of 4 time zones, with the "
+                                "settings of their clocks?"_s;
+    QTest::newRow("both") << QStringList{u"UTC"_s} << QStringList{u"A"_s, u"B"_s}
+                          << u"Do you want to save the UTC, and the removal of A, B, with the "
+                             "settings of their clocks?"_s;
 }
 
 void tst_ZoneFilesOfRows::SaveQuestion() {
     QFETCH(QStringList, names);
-    QTEST(mduTimeZones::SaveQuestion(names), "question");
+    QFETCH(QStringList, removed);
+    QTEST(mduTimeZones::SaveQuestion(names, removed), "question");
+}
+
+void tst_ZoneFilesOfRows::DeleteQuestion_data() {
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("question");
+    const QString begin = u"Do you want to delete the selected time zone profiles?\n\n"_s;
+    QTest::newRow("one") << QStringList{u"UTC"_s}
+                         << begin + u"1 time zone, with the settings of its clock: UTC."_s;
+    QTest::newRow("three") << QStringList{u"A"_s, u"B"_s, u"C"_s}
+                           << begin +
+                                  u"3 time zones, with the settings of their clocks: A, B, C."_s;
+    QTest::newRow("four") << QStringList{u"A"_s, u"B"_s, u"C"_s, u"D"_s}
+                          << begin + u"4 time zones, with the settings of their clocks."_s;
+}
+
+void tst_ZoneFilesOfRows::DeleteQuestion() {
+    QFETCH(QStringList, names);
+    QTEST(mduTimeZones::DeleteQuestion(names), "question");
 }
 
 QTEST_GUILESS_MAIN(tst_ZoneFilesOfRows)

@@ -50,6 +50,12 @@ private Q_SLOTS:
     void LeavesOutUnreadableProfiles();
     void FindsRows();
     void TellsWhatIsUnsaved();
+    void TellsWhatIsUnchecked();
+    void FindsCitiesWhateverTheSource_data();
+    void FindsCitiesWhateverTheSource();
+    void ListsTheBestMatchFirst();
+    void ListsNoZoneTwice();
+    void KeepsChecksWhenASearchBegins();
     void DescribesRows();
     void ModelShowsRows();
     void ModelChecksRows();
@@ -132,7 +138,7 @@ void tst_ZoneList::KeepsItsSortAndSearch() {
     desk.List.SetSort(ZoneSort::NameAscending);
     desk.List.SetSearch(u"standard"_s);
     desk.Load(SourceMode::Windows);
-    QCOMPARE(desk.Listed(), (QStringList{Eastern, Tokyo}));
+    QCOMPARE(desk.Listed(), (QStringList{Eastern, Pacific, Tokyo, Europe}));
 }
 
 void tst_ZoneList::Searches() {
@@ -189,6 +195,85 @@ void tst_ZoneList::TellsWhatIsUnsaved() {
     QCOMPARE(desk.List.UnsavedNames(), (QStringList{Tokyo, Europe}));
     desk.List.AllRows()[0]->HasFile = true;
     QCOMPARE(desk.List.UnsavedNames(), QStringList{Europe});
+}
+
+void tst_ZoneList::TellsWhatIsUnchecked() {
+    Desk desk;
+    desk.ZoneFile(Tokyo);
+    desk.Load(SourceMode::Windows);
+    QCOMPARE(desk.List.UncheckedNames(), QStringList());
+    desk.List[0].Checked = false;
+    desk.List[2].Checked = false;
+    QCOMPARE(desk.List.UncheckedNames(), (QStringList{Tokyo, Utc}));
+    desk.List.SetSearch(u"tokyo"_s);
+    QCOMPARE(desk.List.UncheckedNames(), (QStringList{Tokyo, Utc}));
+    QVERIFY(QFile::remove(desk.Paths.ZoneFileFolder + Utc + u".ini"_s));
+    QCOMPARE(desk.List.UncheckedNames(), QStringList{Tokyo});
+    desk.List.SetSearch(QString());
+    desk.Load(SourceMode::Selected);
+    desk.List[0].Checked = false;
+    QCOMPARE(desk.List.UncheckedNames(), QStringList());
+}
+
+void tst_ZoneList::FindsCitiesWhateverTheSource_data() {
+    QTest::addColumn<SourceMode>("source");
+    QTest::newRow("database") << SourceMode::Windows;
+    QTest::newRow("profiles") << SourceMode::Tempolark;
+    QTest::newRow("zone files") << SourceMode::Selected;
+    QTest::newRow("both") << SourceMode::Both;
+}
+
+void tst_ZoneList::FindsCitiesWhateverTheSource() {
+    QFETCH(SourceMode, source);
+    Desk desk;
+    desk.Profile(u"Bergen.ini"_s, "Bergen", -60, "Zone:Country=Norway\r\n");
+    desk.Load(source);
+    const int before = desk.List.Count();
+    desk.List.SetSearch(u"norway"_s);
+    QCOMPARE(desk.Listed(), QStringList{u"Bergen"_s});
+    desk.List.SetSearch(QString());
+    QCOMPARE(desk.List.Count(), before);
+    desk.List.SetSearch(u"bergen"_s);
+    desk.List.Load();
+    QCOMPARE(desk.Listed(), QStringList{u"Bergen"_s});
+    desk.List.SetBand(17.0);
+    QCOMPARE(desk.Listed(), QStringList());
+    desk.List.SetBand(11.0);
+    QCOMPARE(desk.Listed(), QStringList{u"Bergen"_s});
+}
+
+void tst_ZoneList::ListsTheBestMatchFirst() {
+    Desk desk;
+    desk.Profile(u"Tokyo.ini"_s, "Tokyo", -540);
+    desk.Profile(u"Bay of Tokyo.ini"_s, "Bay of Tokyo", -540);
+    desk.Load(SourceMode::Windows);
+    desk.List.SetSearch(u"tokyo"_s);
+    QCOMPARE(desk.Listed(), (QStringList{u"Tokyo"_s, Tokyo, u"Bay of Tokyo"_s}));
+    desk.List.SetSort(ZoneSort::NameDescending);
+    QCOMPARE(desk.Listed(), (QStringList{u"Tokyo"_s, Tokyo, u"Bay of Tokyo"_s}));
+}
+
+void tst_ZoneList::ListsNoZoneTwice() {
+    Desk desk;
+    const QString tokyo = u"Tokyo"_s;
+    desk.Profile(u"Tokyo.ini"_s, "Tokyo", -540);
+    desk.ZoneFile(tokyo, "Time Zone:Time Zone Standard Name=Tokyo\r\n");
+    desk.Load(SourceMode::Selected);
+    desk.List.SetSearch(u"tokyo"_s);
+    QCOMPARE(desk.Listed(), QStringList{tokyo});
+    QCOMPARE(desk.List[0].ToolTipText, desk.Paths.ZoneFileFolder + u"Tokyo.ini"_s);
+    QCOMPARE(desk.List.CheckedNames(), QStringList{tokyo});
+}
+
+void tst_ZoneList::KeepsChecksWhenASearchBegins() {
+    Desk desk;
+    desk.Load(SourceMode::Windows);
+    desk.List[0].Checked = true;
+    desk.List[2].Checked = false;
+    desk.List.SetSearch(u"oslo"_s);
+    desk.List.SetSearch(QString());
+    QVERIFY(desk.List[0].Checked);
+    QVERIFY(!desk.List[2].Checked);
 }
 
 void tst_ZoneList::DescribesRows() {

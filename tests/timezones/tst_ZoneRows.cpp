@@ -1,6 +1,8 @@
 #include <QTest>
 
 #include "timezones/ZoneListDesk.h"
+#include "timezones/ZoneSearch.h"
+#include "timezones/ZoneSources.h"
 
 using namespace mduTimeZones;
 
@@ -18,6 +20,21 @@ private Q_SLOTS:
     void FillsRowsOfTheDatabase();
     void FillsRowsOfProfiles();
     void AppendsToRows();
+    void NamesZoneFilesAfterTheirFiles();
+    void ZoneFilesHaveThePlaceOfTheirZone();
+    void AProfileOfItsOwnKeepsItsPlace();
+    void AFileThatNoClockHasOpenedShowsItsZone_data();
+    void AFileThatNoClockHasOpenedShowsItsZone();
+    void FoundCitiesAnswerToCityAndCountry();
+
+private:
+    static ZoneRows RowsOfZoneFiles(const ZoneListDesk& desk) {
+        ZoneRows rows;
+        FillZoneFileRows(rows,
+                         ListProfileTimeZones(desk.Machine.Services, desk.Paths.ZoneFileFolder), {},
+                         desk.Machine.Services);
+        return rows;
+    }
 };
 
 void tst_ZoneRows::ChosenZonesAreOneText() {
@@ -143,6 +160,75 @@ void tst_ZoneRows::AppendsToRows() {
     FillWindowsRows(rows, records, {}, desk.Machine.Services);
     FillProfileRows(rows, records, {}, desk.Machine.Services);
     QCOMPARE(rows.size(), std::size_t{2});
+}
+
+void tst_ZoneRows::NamesZoneFilesAfterTheirFiles() {
+    ZoneListDesk desk;
+    desk.ZoneFile(u"My Desk"_s,
+                  "Time Zone:Time Zone Standard Name=Tokyo Standard Time\r\n"
+                  "Time Zone:Time Zone Standard GMT (Minutes)=-540\r\n");
+    const ZoneRows rows = RowsOfZoneFiles(desk);
+    QCOMPARE(rows.size(), std::size_t{1});
+    QCOMPARE(rows[0].Name, u"My Desk"_s);
+    QCOMPARE(rows[0].ToolTipText, desk.Paths.ZoneFileFolder + u"My Desk.ini"_s);
+    QCOMPARE(rows[0].Record.CurrentGMTHours, -9.0F);
+    QCOMPARE(rows[0].Place, std::nullopt);
+}
+
+void tst_ZoneRows::ZoneFilesHaveThePlaceOfTheirZone() {
+    ZoneListDesk desk;
+    desk.Machine.Zones.Places[u"Tokyo Standard Time"_s] = {35.7, 139.7};
+    desk.Machine.Zones.CountryNames[u"Tokyo Standard Time"_s] = {u"Japan"_s};
+    desk.ZoneFile(u"Tokyo Standard Time"_s,
+                  "Time Zone:Time Zone Standard Name=Tokyo Standard Time\r\n");
+    const ZoneRows rows = RowsOfZoneFiles(desk);
+    QCOMPARE(rows[0].Place, (platform::ZonePlace{35.7, 139.7}));
+    QVERIFY(IsFound(rows[0].SearchText, SearchWords(u"japan"_s)));
+}
+
+void tst_ZoneRows::AProfileOfItsOwnKeepsItsPlace() {
+    ZoneListDesk desk;
+    desk.Machine.Zones.Places[u"Tokyo Standard Time"_s] = {35.7, 139.7};
+    desk.ZoneFile(u"Tokyo Standard Time"_s,
+                  "Zone:Latitude=34.7\r\nZone:Longitude=135.5\r\nZone:Country=Nippon\r\n");
+    const ZoneRows rows = RowsOfZoneFiles(desk);
+    QCOMPARE(rows[0].Place, (platform::ZonePlace{34.7, 135.5}));
+    QVERIFY(IsFound(rows[0].SearchText, SearchWords(u"nippon"_s)));
+}
+
+void tst_ZoneRows::AFileThatNoClockHasOpenedShowsItsZone_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty keys") << "Time Zone:Time Zone Standard Name=\r\nA:B=c\r\n"_ba;
+    QTest::newRow("no keys") << "A:B=c\r\n"_ba;
+}
+
+/// The program's first start makes such a file for the machine's own zone.
+void tst_ZoneRows::AFileThatNoClockHasOpenedShowsItsZone() {
+    QFETCH(QByteArray, content);
+    ZoneListDesk desk;
+    desk.ZoneFile(u"Tokyo Standard Time"_s, content);
+    const ZoneRows rows = RowsOfZoneFiles(desk);
+    QCOMPARE(rows.size(), std::size_t{1});
+    QCOMPARE(rows[0].Name, u"Tokyo Standard Time"_s);
+    QCOMPARE(rows[0].DisplayName, u"(GMT) Tokyo Standard Time"_s);
+    QCOMPARE(rows[0].Record.CurrentGMTHours, -9.0F);
+    QCOMPARE(rows[0].ToolTipText, desk.Paths.ZoneFileFolder + u"Tokyo Standard Time.ini"_s);
+}
+
+void tst_ZoneRows::FoundCitiesAnswerToCityAndCountry() {
+    ZoneListDesk desk;
+    desk.Profile(u"Oslo.ini"_s, "Oslo", -60,
+                 "Zone:Country=Norway\r\nZone:Latitude=59.9\r\nZone:Longitude=10.7\r\n");
+    ZoneRows rows;
+    FillFoundCities(rows, ListProfileTimeZones(desk.Machine.Services, desk.Paths.ProfileFolder), {},
+                    desk.Machine.Services);
+    QCOMPARE(rows.size(), std::size_t{1});
+    QVERIFY(rows[0].IsFoundCity);
+    QCOMPARE(rows[0].Name, u"Oslo"_s);
+    QCOMPARE(rows[0].Place, (platform::ZonePlace{59.9, 10.7}));
+    QVERIFY(IsFound(rows[0].SearchText, SearchWords(u"oslo norway"_s)));
+    QVERIFY(!IsFound(rows[0].SearchText, SearchWords(u"+1:00"_s)));
+    QVERIFY(!IsFound(rows[0].SearchText, SearchWords(u"time"_s)));
 }
 
 QTEST_GUILESS_MAIN(tst_ZoneRows)

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void Finds_data();
     void Finds();
     void GreenwichHasBothSigns();
+    void RanksMatches_data();
+    void RanksMatches();
 };
 
 void tst_ZoneSearch::Folds_data() {
@@ -76,6 +78,31 @@ void tst_ZoneSearch::GreenwichHasBothSigns() {
     QVERIFY(IsFound(text, {u"gmt+0:00"_s}));
     QVERIFY(IsFound(text, {u"gmt-00:00"_s}));
     QVERIFY(!IsFound(text, {u"1:00"_s}));
+}
+
+void tst_ZoneSearch::RanksMatches_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("display");
+    QTest::addColumn<int>("rank");
+    const QString eastern = u"Eastern Standard Time"_s;
+    const QString cities = u"(GMT-05:00) New York, Toronto"_s;
+    QTest::newRow("the name") << u"new york"_s << u"New York"_s << u"(GMT-05:00) New York"_s << 0;
+    QTest::newRow("accents aside") << u"sao paulo"_s << u"S\u00E3o Paulo"_s << QString() << 0;
+    QTest::newRow("a word at its beginning")
+        << u"tokyo"_s << u"Tokyo Standard Time"_s << QString() << 1;
+    QTest::newRow("its beginning") << u"india"_s << u"Indianapolis"_s << QString() << 2;
+    QTest::newRow("a later word") << u"york"_s << u"New York"_s << QString() << 3;
+    QTest::newRow("a city of the zone") << u"new york"_s << eastern << cities << 4;
+    QTest::newRow("the middle of a word") << u"ork"_s << u"New York"_s << cities << 5;
+    QTest::newRow("words in another order") << u"york new"_s << u"New York"_s << cities << 5;
+}
+
+void tst_ZoneSearch::RanksMatches() {
+    QFETCH(QString, typed);
+    QFETCH(QString, name);
+    QFETCH(QString, display);
+    QTEST(MatchRank(name, display, SearchWords(typed)), "rank");
 }
 
 QTEST_GUILESS_MAIN(tst_ZoneSearch)

@@ -2,6 +2,7 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace platform {
@@ -12,6 +13,7 @@ constexpr int YesNo = 4;
 constexpr int Critical = 16;
 constexpr int Question = 32;
 constexpr int Exclamation = 48;
+constexpr int SecondButton = 0x100;  // it is the default
 constexpr int IconMask = 0x70;
 constexpr int ButtonMask = 0x0F;
 
@@ -32,6 +34,17 @@ QMessageBox::Icon IconOf(int flags) {
     }
 }
 
+/// A box is as wide as its text, which may be shorter than its heading: the window manager would
+/// cut that.
+void MakeRoomForHeading(QMessageBox& box, const QString& title) {
+    constexpr int around = 160;  // pixels: buttons and icon of a title bar
+    QFont bold = box.font();
+    bold.setBold(true);
+    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        label->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(title) + around);
+    }
+}
+
 /// "ini" of a filter such as "Ini File (*.ini)".
 QString SuffixOf(const QString& filter) {
     return filter.section(QStringLiteral("*."), 1, 1).section(u')', 0, 0).section(u' ', 0, 0);
@@ -46,6 +59,10 @@ int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& ti
         asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
         owner_);
     box.setTextFormat(Qt::PlainText);
+    if (asks && (flags & SecondButton) != 0) {
+        box.setDefaultButton(QMessageBox::No);
+    }
+    MakeRoomForHeading(box, title);
     const int pressed = box.exec();
     if (!asks) {
         return OkPressed;

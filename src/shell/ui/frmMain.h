@@ -35,6 +35,10 @@ public:
     /// Finds the zone for the command line, lays out the folders and reads the lists.
     bool ConfigSetup();
 
+    /// What a later start of the program has asked for: comes to the front, and opens the zone that
+    /// the command line names. As a screen saver the shell fills the screen.
+    void TakeOver(const QString& commandLine);
+
     void SaveAutoStartList();
 
     /// What is to be told about the zone that the command line names; empty when nothing is.

@@ -7,6 +7,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/RemovalQuestion.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/FileList.h"
@@ -255,7 +256,7 @@ void frmMain::ClickRemove(const shell::MenuItem& item) {
                   names.size())
             : u"Do you want to remove the time zone %1, with the settings of its clock?"_s.arg(
                   item.Tag);
-    if (ShowMsgbox(question, MsgBox::YesNoQuestion, u"Remove Time Zone"_s) != MsgBox::Yes) {
+    if (ShowMsgbox(question, MsgBox::RemovalQuestion, u"Remove Time Zone"_s) != MsgBox::Yes) {
         return;
     }
     for (const QString& name : names) {

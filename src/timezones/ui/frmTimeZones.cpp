@@ -5,6 +5,7 @@
 #include <QMdiArea>
 
 #include "foundation/NamedValues.h"
+#include "foundation/RemovalQuestion.h"
 
 using namespace Qt::StringLiterals;
 using mduTimeZones::RowsOutcome;
@@ -105,9 +106,9 @@ void frmTimeZones::TellOutcome(const RowsOutcome& outcome, const QString& done) 
 }
 
 // A press of the map's button ends in the box, so its drag must end before.
-int frmTimeZones::Ask(const QString& text, const QString& title) {
+int frmTimeZones::Ask(const QString& text, int flags, const QString& title) {
     imgMap_->EndDrag();
-    return shell_ == nullptr ? 0 : shell_->ShowMsgbox(text, MsgBox::YesNoQuestion, title);
+    return shell_ == nullptr ? 0 : shell_->ShowMsgbox(text, flags, title);
 }
 
 void frmTimeZones::SaveCheckedZones() {
@@ -116,30 +117,45 @@ void frmTimeZones::SaveCheckedZones() {
     ShowRows();
 }
 
+// The shell also closes the clocks of these zones, which would write their files again.
+RowsOutcome frmTimeZones::Remove(const QStringList& names) {
+    const platform::Services& services = program_.Services;
+    const PathTable& paths = program_.Module.Paths;
+    return mduTimeZones::RemoveZones(services, paths, names, [&](const QString& name) {
+        return shell_ != nullptr ? shell_->RemoveZone(name)
+                                 : mduTimeZones::DeleteZoneFile(services, paths, name);
+    });
+}
+
 void frmTimeZones::DeleteCheckedZones() {
-    if (Ask(u"Do you want to delete the selected time zone profiles?"_s, u"Delete Selected"_s) !=
-        MsgBox::Yes) {
+    const QStringList names = list_.CheckedNames();
+    if (names.isEmpty()) {
+        Tell(u"No time zone is checked"_s);
         return;
     }
-    // The shell also closes the clocks of these zones, which would write their files again.
-    const auto remove = [this](const QString& name) {
-        return shell_ != nullptr
-                   ? shell_->RemoveZone(name)
-                   : mduTimeZones::DeleteZoneFile(program_.Services, program_.Module.Paths, name);
-    };
-    TellOutcome(
-        mduTimeZones::DeleteCheckedZones(program_.Services, program_.Module.Paths, list_, remove),
-        u"deleted"_s);
-    LoadZoneList(list_.Show);
+    if (Ask(mduTimeZones::DeleteQuestion(names), MsgBox::RemovalQuestion, u"Delete Selected"_s) ==
+        MsgBox::Yes) {
+        TellOutcome(Remove(names), u"deleted"_s);
+        LoadZoneList(list_.Show);
+    }
 }
 
 void frmTimeZones::ConfirmSave() {
     const QStringList names = list_.UnsavedNames();
-    if (names.isEmpty()) {
+    const QStringList removed = list_.UncheckedNames();
+    if (names.isEmpty() && removed.isEmpty()) {
         return;
     }
-    if (Ask(mduTimeZones::SaveQuestion(names), u"Save Seleted Time Zones"_s) == MsgBox::Yes) {
+    const int flags = removed.isEmpty() ? MsgBox::YesNoQuestion : MsgBox::RemovalQuestion;
+    if (Ask(mduTimeZones::SaveQuestion(names, removed), flags, u"Save Seleted Time Zones"_s) !=
+        MsgBox::Yes) {
+        return;
+    }
+    if (!names.isEmpty()) {
         SaveCheckedZones();
+    }
+    if (!removed.isEmpty()) {
+        TellOutcome(Remove(removed), u"removed"_s);
     }
 }
 
@@ -162,16 +178,31 @@ void frmTimeZones::ShowZoneDetails(int position) {
     }
 }
 
-void frmTimeZones::LaunchCurrent() {
+void frmTimeZones::LaunchRow(int position) {
+    if (shell_ != nullptr && MakeFileOf(position)) {
+        shell_->LaunchTempolark(list_[position].Name);
+    }
+}
+
+void frmTimeZones::OpenCurrent() {
     const int position = CurrentPosition();
-    if (position < 0 || shell_ == nullptr) {
+    if (position >= 0) {
+        list_[position].Checked = true;
+        LaunchRow(position);
+        model_.ChecksChanged();
+        ShowRows();
+    }
+}
+
+void frmTimeZones::Launch() {
+    if (CurrentPosition() >= 0) {
+        LaunchRow(CurrentPosition());
         return;
     }
-    const QString name = list_[position].Name;
-    if (list_[position].Checked) {
-        shell_->LaunchTempolark(name);
-    } else {
-        Tell(u"Check "_s + name + u" to give it a clock"_s);
+    for (int position = 0; position < list_.Count(); ++position) {
+        if (list_[position].Checked) {
+            LaunchRow(position);
+        }
     }
 }
 

@@ -39,13 +39,17 @@ public:
     void SetSource(mduTimeZones::SourceMode source);
     void SaveCheckedZones();
     void DeleteCheckedZones();
-    /// Asks for checked rows that have no file, and saves them on yes.
+    /// Asks for checked rows that have no file, and for rows that are no longer checked and have
+    /// one; on yes the files of the first are made and those of the others removed.
     void ConfirmSave();
     /// Shows the text of the row at a position of the list in a balloon, and speaks it where the
     /// shell's settings say so.
     void ShowZoneDetails(int position);
-    /// Opens the clock of the current row, if that is checked.
-    void LaunchCurrent();
+    /// Opens the clock of the current row, checked or not.
+    void OpenCurrent();
+    /// What the button does: opens the clock of the current row, or where none was chosen those of
+    /// all checked rows.
+    void Launch();
 
     // IForm
     QString Name() const override { return QStringLiteral("frmTimeZones"); }
@@ -77,11 +81,15 @@ private:
     const QWidget& Outer() const;
     void Tell(const QString& text);
     void TellOutcome(const mduTimeZones::RowsOutcome& outcome, const QString& done);
-    int Ask(const QString& text, const QString& title);
+    int Ask(const QString& text, int flags, const QString& title);
+    mduTimeZones::RowsOutcome Remove(const QStringList& names);
+    void LaunchRow(int position);
 
     // What the list does (frmTimeZonesList.cpp)
     void Refill(const std::function<void()>& action);
     void ShowRows();
+    void Search(const QString& typed);
+    bool MakeFileOf(int position);
     void CheckRow(int position);
     void CheckAll(bool checked);
     void NarrowToBand();

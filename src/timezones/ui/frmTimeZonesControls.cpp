@@ -57,7 +57,7 @@ void frmTimeZones::MakeSearchRow() {
     txtSearch_->setClearButtonEnabled(true);
     txtSearch_->installEventFilter(this);
     connect(txtSearch_, &QLineEdit::textChanged, this,
-            [this](const QString& typed) { Refill([&] { list_.SetSearch(typed); }); });
+            [this](const QString& typed) { Search(typed); });
     cmdBand_ = MakeToolButton(searchRow_, u"cmdBand"_s, {});
     cmdBand_->setToolTip(u"Show the zones of all hours again"_s);
     connect(cmdBand_, &QToolButton::clicked, this, [this] { imgMap_->ClearBand(); });
@@ -74,7 +74,7 @@ void frmTimeZones::MakeSearchRow() {
 
 void frmTimeZones::MakeList() {
     lsvTimeZones_ = new ZoneListView(
-        {[this] { LaunchCurrent(); }, [this](const QPoint& at) { menus_.TimeZoneMenu().popup(at); },
+        {[this] { OpenCurrent(); }, [this](const QPoint& at) { menus_.TimeZoneMenu().popup(at); },
          [this](int position) { return ToolTipOfRow(position); },
          [this](int column) { SortByColumn(column); }},
         this);
@@ -98,11 +98,12 @@ void frmTimeZones::MakeButtons() {
         row->addWidget(button);
         return button;
     };
-    cmdLaunch_ = add(u"cmdLaunch"_s, u"Launch"_s, u"Open the clock of the current zone"_s);
+    cmdLaunch_ = add(u"cmdLaunch"_s, u"Launch"_s,
+                     u"Open the clock of the current zone, or those of all checked zones"_s);
     cmdSave_ = add(u"cmdButton1"_s, u"Save"_s, u"Give every checked zone its file"_s);
     cmdClose_ = add(u"cmdButton0"_s, u"Close"_s, u"Close this window"_s);
     cmdLaunch_->setEnabled(false);
-    connect(cmdLaunch_, &QPushButton::clicked, this, [this] { LaunchCurrent(); });
+    connect(cmdLaunch_, &QPushButton::clicked, this, [this] { Launch(); });
     connect(cmdSave_, &QPushButton::clicked, this, [this] { SaveCheckedZones(); });
     connect(cmdClose_, &QPushButton::clicked, this, [this] { Unload(); });
 }

@@ -93,12 +93,16 @@ void frmTimeZones::RefreshMenus() {
     menus_.Refresh({list_.Source, list_.Show, list_.Sort(), CurrentPosition() >= 0, mapVisible_});
 }
 
-// From the field one goes on to the list, and Escape empties the field.
+// From the field one goes on to the list or opens what is found, and Escape empties the field.
 bool frmTimeZones::eventFilter(QObject* watched, QEvent* event) {
     if (watched == txtSearch_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if ((key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) &&
-            list_.Count() > 0) {
+        const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+        if (isEnter && CurrentPosition() >= 0) {
+            OpenCurrent();
+            return true;
+        }
+        if ((key == Qt::Key_Down || isEnter) && list_.Count() > 0) {
             MakeCurrent(std::max(CurrentPosition(), 0));
             lsvTimeZones_->setFocus();
             return true;

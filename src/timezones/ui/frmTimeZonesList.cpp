@@ -53,21 +53,35 @@ void frmTimeZones::SortByColumn(int column) {
     SetSort(list_.Sort() == up ? down : up);
 }
 
+// What Enter would open is the current row: the best match.
+void frmTimeZones::Search(const QString& typed) {
+    Refill([&] { list_.SetSearch(typed); });
+    if (!typed.trimmed().isEmpty() && list_.Count() > 0) {
+        MakeCurrent(0);
+    }
+}
+
 // A name that can't be a file's is never checked; what could not be written stays checked, so that
 // it can be saved again.
-void frmTimeZones::CheckRow(int position) {
+bool frmTimeZones::MakeFileOf(int position) {
     ZoneRow& row = list_[position];
-    if (row.Checked) {
-        const QString problem =
-            mduTimeZones::MakeZoneFile(program_.Services, program_.Module.Paths, row);
-        if (!problem.isEmpty()) {
-            Tell(problem);
-        }
-        if (!mduLib::ZoneNameProblem(row.Name).isEmpty()) {
-            row.Checked = false;
-            model_.ChecksChanged();
-        }
+    const QString problem =
+        mduTimeZones::MakeZoneFile(program_.Services, program_.Module.Paths, row);
+    if (!problem.isEmpty()) {
+        Tell(problem);
     }
+    if (!mduLib::ZoneNameProblem(row.Name).isEmpty()) {
+        row.Checked = false;
+        model_.ChecksChanged();
+    }
+    return problem.isEmpty();
+}
+
+void frmTimeZones::CheckRow(int position) {
+    if (list_[position].Checked) {
+        MakeFileOf(position);
+    }
+    MakeCurrent(position);
     ShowRows();
 }
 
@@ -124,7 +138,7 @@ void frmTimeZones::MakeCurrent(int position) {
 
 void frmTimeZones::ShowCurrent() {
     const int position = CurrentPosition();
-    cmdLaunch_->setEnabled(position >= 0 && list_[position].Checked);
+    cmdLaunch_->setEnabled(position >= 0 ? list_[position].Checked : list_.CheckedCount() > 0);
     const auto found = std::find(rowOfDot_.begin(), rowOfDot_.end(), position);
     RefreshMenus();
     imgMap_->SetCurrentDot(found == rowOfDot_.end() ? -1

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace platform {
+
+/// A file that one process at a time can hold. It is let go when its holder ends, however that
+/// ends, so that what a crash leaves behind holds up nobody.
+class LockFile {
+public:
+    explicit LockFile(QString path) : path_(std::move(path)) {}
+    ~LockFile();
+    Q_DISABLE_COPY_MOVE(LockFile)
+
+    enum class Outcome { Taken, HeldByAnother, Failed };
+
+    /// Tries to hold the file, and then writes a note for others into it. It never waits.
+    Outcome Take(const QByteArray& note);
+
+    /// The note of whoever holds the file; empty while there is none.
+    QByteArray Note() const;
+
+private:
+    bool IsStillTheFile(int descriptor) const;
+
+    QString path_;
+    int held_ = -1;  ///< the descriptor of the file that is held
+};
+
+}  // namespace platform

@@ -1,0 +1,85 @@
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include "platform/ui/DesktopDialogs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int YesNo = 4 + 32;
+constexpr int NoIsDefault = 256;
+
+/// Does something to the box that comes up.
+template <typename Action>
+int Answer(int flags, const QString& text, const QString& title, Action&& action) {
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr) {
+                qFatal("no box");
+            }
+            action(*box);
+            if (box->isVisible()) {
+                qFatal("the box is still open");
+            }
+        },
+        Qt::QueuedConnection);
+    return platform::DesktopDialogs().MessageBox(text, flags, title);
+}
+
+}  // namespace
+
+class tst_DesktopDialogs : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void KeysAnswer_data() {
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("Enter on a question") << YesNo << int(Qt::Key_Return) << 6;
+        QTest::newRow("Enter on a removal") << YesNo + NoIsDefault << int(Qt::Key_Return) << 7;
+        QTest::newRow("Escape") << YesNo << int(Qt::Key_Escape) << 7;
+        QTest::newRow("Escape on a removal") << YesNo + NoIsDefault << int(Qt::Key_Escape) << 7;
+        QTest::newRow("Enter on a message") << 16 << int(Qt::Key_Return) << 1;
+    }
+
+    void KeysAnswer() {
+        QFETCH(int, flags);
+        QFETCH(int, key);
+        const int answer = Answer(flags, u"Do you?"_s, u"Title"_s, [&](QMessageBox& box) {
+            QTest::keyClick(&box, static_cast<Qt::Key>(key));
+        });
+        QTEST(answer, "answer");
+    }
+
+    void YesNeedsItsButton() {
+        QCOMPARE(Answer(YesNo + NoIsDefault, u"Do you?"_s, u"Title"_s,
+                        [&](QMessageBox& box) {
+                            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+                        }),
+                 6);
+    }
+
+    /// The window manager cuts a heading that is wider than the box.
+    void HasRoomForItsHeading() {
+        const QString title = u"Save Seleted Time Zones"_s;
+        int width = 0;
+        Answer(YesNo, u"Ok?"_s, title, [&](QMessageBox& box) {
+            width = box.width();
+            box.button(QMessageBox::No)->click();
+        });
+        QFont bold = QApplication::font();
+        bold.setBold(true);
+        const int heading = QFontMetrics(bold).horizontalAdvance(title);
+        QVERIFY2(width >= heading + 120, qPrintable(u"%1 for %2"_s.arg(width).arg(heading)));
+    }
+};
+
+QTEST_MAIN(tst_DesktopDialogs)
+#include "tst_DesktopDialogs.moc"
