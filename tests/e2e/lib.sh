@@ -11,7 +11,10 @@ WaitFor() {
     return 1
 }
 
-ShellWindow() { xdotool search --onlyvisible --name '^Tempolark Central$' 2>/dev/null | head -n 1; }
+# While a clock is maximised, its name stands in brackets behind the shell's.
+ShellWindow() {
+    xdotool search --onlyvisible --name '^Tempolark Central( - \[.*\])?$' 2>/dev/null | head -n 1
+}
 HasShell() { [[ -n "$(ShellWindow)" ]]; }
 HasNoShell() { [[ -z "$(ShellWindow)" ]]; }
 
