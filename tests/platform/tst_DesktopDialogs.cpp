@@ -79,6 +79,32 @@ private Q_SLOTS:
         const int heading = QFontMetrics(bold).horizontalAdvance(title);
         QVERIFY2(width >= heading + 120, qPrintable(u"%1 for %2"_s.arg(width).arg(heading)));
     }
+
+    void ShowsTheWholeOfItsText_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a sentence")
+            << u"Do you want to save the removal of UTC, with the settings of its clock?"_s;
+        QTest::newRow("many") << QString(u"Is it to be told once more? "_s).repeated(30).trimmed();
+        QTest::newRow("lines") << u"Do you want to delete these?\n\n3 time zones: A, B, C."_s;
+    }
+
+    void ShowsTheWholeOfItsText() {
+        QFETCH(QString, text);
+        QSize label;
+        int needed = 0;
+        Answer(YesNo, text, u"Title"_s, [&](QMessageBox& box) {
+            const auto* shown = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+            const QFontMetrics metrics(shown->font());
+            const auto wrap = shown->wordWrap() ? Qt::TextWordWrap : Qt::TextFlag(0);
+            label = shown->size();
+            const QRect place = metrics.boundingRect({0, 0, label.width(), 9999}, wrap, text);
+            needed = place.height();
+            QVERIFY2(place.width() <= label.width(),
+                     qPrintable(u"%1 in %2"_s.arg(place.width()).arg(label.width())));
+            box.button(QMessageBox::No)->click();
+        });
+        QVERIFY(label.height() >= needed);
+    }
 };
 
 QTEST_MAIN(tst_DesktopDialogs)

@@ -2,7 +2,7 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
-#include <QLabel>
+#include <QGridLayout>
 #include <QMessageBox>
 
 namespace platform {
@@ -40,8 +40,10 @@ void MakeRoomForHeading(QMessageBox& box, const QString& title) {
     constexpr int around = 160;  // pixels: buttons and icon of a title bar
     QFont bold = box.font();
     bold.setBold(true);
-    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-        label->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(title) + around);
+    const int width = QFontMetrics(bold).horizontalAdvance(title) + around;
+    // A row of its own: a width of the text's label would keep that from its lines.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
 }
 
