@@ -23,7 +23,9 @@ void frmTempolark::SetTimerInterval(int milliseconds) {
 }
 
 void frmTempolark::SpeakMessage(const QString& text, int flags, bool force) {
-    voice_.SpeakMessage(text, flags, force);
+    if (!IsClosing()) {
+        voice_.SpeakMessage(text, flags, force);
+    }
 }
 
 void frmTempolark::FitLabel(mduUILib::Control& label) {
