@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTime>
+#include <QDateTime>
 
 #include "drawing/Angles.h"
 #include "drawing/ClockSpecial.h"
@@ -55,6 +55,7 @@ private:
 
     FaceContext face_;
     LabelMotion motion_;
+    QDateTime drawnAt_;  ///< the clock's second that was drawn last
 };
 
 }  // namespace drawing

@@ -17,9 +17,9 @@ enum class MessageEvent { Shows, Hides, ActionCaption, ActionRuns };
 /// (`lblActionMsg`, `imgAction`).
 ///
 /// A message enters at the right end of the face, is typed out a character at a time while it moves
-/// left, is eaten at the left end and starts anew, until it expires or is hidden. While it runs,
-/// `timClock` ticks ten times a second. In a window with an outline both keep to rows that are wide
-/// enough for them.
+/// left, is eaten at the left end and starts anew, until it expires or is hidden. While it runs in
+/// sight, `timClock` ticks ten times a second; out of sight it moves on with each second. In a
+/// window with an outline both keep to rows that are wide enough for them.
 class ClockMessages final : public MessageChannel {
 public:
     using Watcher = std::function<void(MessageEvent event, const QString& text)>;
@@ -69,10 +69,12 @@ private:
     };
     Way WayOfMessage(float height) const;
     void MoveMessage();
+    void SetPace();
     void TypeNextCharacter();
     void StepLeft(const Way& way);
     void RestartFromTheRight(const Way& way);
     void CountDown(const QDateTime& clockTime);
+    void SpeakNumber(qint64 left);
     void FinishAction();
     void SetActionCaption(const QString& caption);
     void Tell(MessageEvent event, const QString& text = {}) const;
