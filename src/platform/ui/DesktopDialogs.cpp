@@ -91,6 +91,7 @@ void DesktopDialogs::ShowNextPost() {
     standing_->setTextFormat(Qt::PlainText);
     standing_->setAttribute(Qt::WA_DeleteOnClose);
     standing_->setModal(false);
+    MakeRoomForHeading(*standing_, post.Title);
     QObject::connect(standing_, &QDialog::finished, owner_, [this] {
         standing_ = nullptr;
         posts_.removeFirst();
