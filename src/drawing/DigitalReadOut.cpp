@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "drawing/AnalogueFace.h"
 #include "drawing/LabelText.h"
@@ -72,10 +73,18 @@ QString DigitalCaption(const QString& format, const QTime& time) {
 DigitalReadOut::DigitalReadOut(const FaceContext& face)
     : face_(face), motion_(face.Controls.lblDigitalNumber, face.Window, face.Clock) {}
 
+// A motion belongs to a second: further passes in the same one leave it alone.
 void DigitalReadOut::DrawDigitalClock(const QString& format) {
-    motion_.Finish();
+    const QDateTime now = mduTimeZones::GetClockTime(face_.Zone, face_.Clock.Now());
+    const QDateTime second = now.addMSecs(-now.time().msec());
+    const bool isNew = std::exchange(drawnAt_, second) != second;
+    if (isNew) {
+        motion_.Finish();
+    }
     Fill(format);
-    Animate();
+    if (isNew) {
+        Animate();
+    }
 }
 
 void DigitalReadOut::SetDigitalLayout() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTime>
+#include <QDateTime>
 
 #include "drawing/Angles.h"
 #include "drawing/FaceContext.h"
@@ -54,6 +54,7 @@ private:
 
     FaceContext face_;
     LabelMotion motion_;
+    QDateTime drawnAt_;  ///< the clock's second that was drawn last
 };
 
 }  // namespace drawing

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void ReadsTheSpecialAtEachSecond();
     void ShowsANewLayoutAtOnce();
     void BeginsEachSecondWhereTheLastEnds();
+    void MovesOnceInASecond();
     void FinishesTheMotion();
     void StopsTheMotionWhenHidden();
     void SurvivesBadInput_data();
@@ -433,6 +434,7 @@ void tst_DigitalReadOut::ReadsTheSpecialAtEachSecond() {
     digits.Face.Machine.Clock.Advance(900);
     QCOMPARE(digits.Face.Window.Shows, 0);
     digits.Face.Set(u"Clock Special"_s, u"Digital Wave"_s);
+    digits.SetTime(QTime(15, 5, 8));
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     digits.Face.Machine.Clock.Advance(900);
     QVERIFY(digits.Face.Window.Shows > 0);
@@ -459,7 +461,30 @@ void tst_DigitalReadOut::BeginsEachSecondWhereTheLastEnds() {
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
     digits.Face.Machine.Clock.Advance(300);
     QVERIFY(digits.Label(1).Top > 100);
+    digits.SetTime(QTime(15, 5, 8));
     digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
+    QCOMPARE(digits.Tops(), std::vector<float>(6, 60.0F));
+}
+
+// Ten passes a second, as while a message runs: one motion, of eleven steps behind the first show,
+// and a fresh one with the next second.
+void tst_DigitalReadOut::MovesOnceInASecond() {
+    Digits digits;
+    digits.Face.Set(u"Clock Special"_s, u"Digital Up Down"_s);
+    digits.Face.Set(u"Digital Clock CentralY(%)"_s, u"30"_s);
+    digits.ReadOut.SetDigitalLayout();
+    digits.Face.Window.Shows = 0;
+    digits.Face.Machine.Random.Seeds = 0;
+    for (int pass = 0; pass < 20; ++pass) {
+        digits.ReadOut.DrawDigitalClock(u"hh:mm:ss"_s);
+        QCOMPARE(digits.Shown().at(4), pass < 10 ? u"07"_s : u"08"_s);
+        digits.Face.Machine.Clock.Advance(100);
+        if (pass == 3) {
+            QVERIFY(digits.Label(1).Top > 100);  // on its way
+        }
+    }
+    QCOMPARE(digits.Face.Window.Shows, 24);
+    QCOMPARE(digits.Face.Machine.Random.Seeds, 4);
     QCOMPARE(digits.Tops(), std::vector<float>(6, 60.0F));
 }
 
