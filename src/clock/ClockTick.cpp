@@ -1,5 +1,7 @@
 #include "clock/ClockTick.h"
 
+#include <utility>
+
 #include "foundation/Dates.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -108,18 +110,49 @@ void ClockTick::NormalTick() {
         parts_.Window.CloseClock();
         return;
     }
-    HandleFocus();
-    const QDateTime now = clock_.Now();
-    parts_.Timers.CheckTimers(ClockTimeText(mduTimeZones::GetClockTime(data_.Zone, now)));
+    using Step = void (ClockTick::*)();
+    constexpr Step steps[] = {&ClockTick::HandleFocus,     &ClockTick::CheckTimers,
+                              &ClockTick::CheckSpokenTime, &ClockTick::DrawClockFace,
+                              &ClockTick::PlaySounds,      &ClockTick::RunMessage,
+                              &ClockTick::Rotate,          &ClockTick::CheckMusic};
+    for (const Step step : steps) {
+        if (data_.State == ClockState::Closing) {
+            return;
+        }
+        (this->*step)();
+    }
+}
+
+void ClockTick::CheckTimers() {
+    const QDateTime clockTime = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
+    parts_.Timers.CheckTimers(ClockTimeText(clockTime));
+}
+
+void ClockTick::CheckSpokenTime() {
     parts_.Spoken.CheckSpokenTime();
+}
+
+void ClockTick::DrawClockFace() {
     parts_.Face.DrawClockFace();
-    PlaySounds();
+}
+
+void ClockTick::RunMessage() {
     parts_.Messages.RunMessage(mduAPILib::ToInt16(parts_.Window.ScaleLeft()),
                                mduAPILib::ToInt16(parts_.Window.ScaleWidth()));
-    const int localSecond = now.time().second();
-    RotateStyle(localSecond);
-    RotateBackground(localSecond);
+}
+
+void ClockTick::CheckMusic() {
     parts_.Music.CheckMusic();
+}
+
+// Once in each second, however often the clock ticks in it.
+void ClockTick::Rotate() {
+    const QDateTime now = clock_.Now();
+    const QDateTime second = now.addMSecs(-now.time().msec());
+    if (std::exchange(rotatedAt_, second) != second) {
+        RotateStyle(now.time().second());
+        RotateBackground(now.time().second());
+    }
 }
 
 void ClockTick::RefreshTickValues() {

@@ -52,9 +52,15 @@ private:
     void NormalTick();
     bool StayTimeIsOver() const;
     void HandleFocus();
+    void CheckTimers();
+    void CheckSpokenTime();
+    void DrawClockFace();
     void PlaySounds();
+    void RunMessage();
+    void Rotate();
     void RotateStyle(int localSecond);
     void RotateBackground(int localSecond);
+    void CheckMusic();
     void RefreshTickValues();
 
     ClockData& data_;
@@ -66,6 +72,7 @@ private:
     int revisionRead_ = -1;
     double stayTime_ = 0;
     int autoBackground_ = 0;
+    QDateTime rotatedAt_;  ///< the second in which styles and backgrounds had their last turn
 };
 
 /// The date and time text that timers compare on, such as "25/03/2008 2:05:09".

@@ -25,7 +25,6 @@ public:
         Failed = true;
         Complain(text);
     }
-    int ShowMsgbox(const QString&, int, const QString&) override { return 1; }
     void FitLabel(mduUILib::Control&) override {}
     void PlaceMark(int, int, int) override {}
     int TimerInterval() const override { return 1000; }

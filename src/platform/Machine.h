@@ -31,19 +31,36 @@ public:
     virtual QString ExitWindowsEx(unsigned flags) = 0;
     virtual QString LockWorkStation() = 0;
     virtual QString Open(const QString& path, const QString& workingFolder) = 0;
+
+    /// Does one of the above without keeping the caller waiting: @p action is called at once or in
+    /// a thread of its own, and @p answer is given what it answered, then or from the event loop.
+    virtual void Begin(const std::function<QString(SystemActions&)>& action,
+                       const std::function<void(const QString& reason)>& answer) {
+        answer(action(*this));
+    }
 };
 
-/// One text-to-speech voice object (each clock has its own).
+/// One text-to-speech voice object (each clock has its own). Nothing that it is asked keeps the
+/// caller waiting.
 class Voice {
 public:
     virtual ~Voice() = default;
-    virtual QStringList Descriptions() const = 0;  ///< one for each voice of the machine
+    /// One for each voice of the machine; none, too, while these are not known yet.
+    virtual QStringList Descriptions() const = 0;
+    /// Whether the machine is still to tell which voices it has.
+    virtual bool IsAsking() const { return false; }
     virtual void SetVoice(int index) = 0;
     virtual void SetRate(int rate) = 0;      ///< -10 to 10
     virtual void SetVolume(int volume) = 0;  ///< 0 to 100
+    /// Begins to speak a text. @return false when it is known already that it can't be spoken
     virtual bool Speak(const QString& text, int flags) = 0;
-    /// Why the last text could not be spoken; empty when it could.
+    /// Whether the last text is being spoken, or waits for its turn.
+    virtual bool IsSpeaking() const { return false; }
+    /// Why the last text could not be spoken; empty when it could, or while it is being spoken.
     virtual QString LastError() const { return {}; }
+    /// @p onNews is called, from the event loop, when the last text has come to its end and when
+    /// the machine has told its voices. The voice may be destroyed in it.
+    virtual void SetOnNews(const std::function<void()>& /*onNews*/) {}
 };
 
 class Voices {
@@ -75,7 +92,8 @@ public:
 class SoundDevices {
 public:
     virtual ~SoundDevices() = default;
-    virtual int Count() const = 0;
+    /// Gives @p answer how many there are at present, at once or from the event loop.
+    virtual void Count(const std::function<void(int count)>& answer) = 0;
 };
 
 /// Boxes that ask the user. In tests a box that was not expected fails the test, it never waits.
@@ -86,6 +104,12 @@ public:
     /// A box with the buttons and icon of @p flags (the system's message-box flags: 16 critical,
     /// 48 exclamation, 4 Yes and No). Answers the button pressed: 1 OK, 6 Yes, 7 No.
     virtual int MessageBox(const QString& text, int flags, const QString& title) = 0;
+
+    /// A box that tells something and waits for nobody: it is shown when the event loop runs next,
+    /// behind those that were posted before. One that stands or waits already is not posted again.
+    virtual void PostMessageBox(const QString& text, int flags, const QString& title) {
+        MessageBox(text, flags, title);
+    }
 
     /// A picker for opening a file; an empty text when it is cancelled.
     virtual QString OpenFile(const QString& title, const QString& folder,

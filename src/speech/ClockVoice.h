@@ -13,6 +13,7 @@ public:
     virtual void FillVoiceMenu() {}
     virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, bool /*force*/) {}
     virtual void PurgeSpeech(bool /*force*/) {}
+    virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
 };
 
 /// The spoken time of one clock.

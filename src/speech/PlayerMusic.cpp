@@ -148,14 +148,25 @@ void PlayerMusic::TellFailure() {
     }
 }
 
-// Without a device a folder would be gone through within seconds, and never be heard.
+// Without a device a folder would be gone through within seconds, and never be heard. Until the
+// machine has told whether it has one, the music rests.
 void PlayerMusic::RestAfterFailure() {
-    const bool isFile = source_ == path_;
-    if (!isFile && context_.Services.Sound.Count() > 0) {
+    restsSince_ = context_.Services.Clock.Now();
+    if (source_ == path_) {
         return;
     }
-    restsSince_ = context_.Services.Clock.Now();
-    if (!isFile && index_ > 0) {
+    context_.Services.Sound.Count(
+        [this, life = std::weak_ptr<bool>(life_), rest = restsSince_](int count) {
+            if (!life.expired() && restsSince_ == rest) {
+                GoOn(count > 0);
+            }
+        });
+}
+
+void PlayerMusic::GoOn(bool withDevice) {
+    if (withDevice) {
+        restsSince_ = {};
+    } else if (index_ > 0) {
         --index_;
     }
 }

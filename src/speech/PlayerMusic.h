@@ -52,6 +52,7 @@ private:
     bool MakePlayer(const QString& path);
     void TellFailure();
     void RestAfterFailure();
+    void GoOn(bool withDevice);
     bool IsResting(const QString& source) const;
     void Tell(const QString& reason);
 
@@ -64,6 +65,7 @@ private:
     bool hasFailed_ = false;  ///< it has been told why that can't be played
     ToldReasons told_;
     QDateTime restsSince_;  ///< no music from the present source starts for a minute
+    std::shared_ptr<bool> life_ = std::make_shared<bool>(true);  ///< watched by who answers late
 };
 
 }  // namespace speech

@@ -1,5 +1,7 @@
 #include "speech/SpeakerVoice.h"
 
+#include <utility>
+
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -17,12 +19,16 @@ constexpr int IdlePicture = 3;
 constexpr int MutedPicture = 4;
 constexpr int SpeakingPicture = 5;
 constexpr QStringView PurgeText = u".";
+constexpr std::size_t MostWaiting = 20;  // texts; many timers may be due together
 
 }  // namespace
 
 platform::Voice* SpeakerVoice::Voice() {
     if (!voice_) {
         voice_ = context_.Services.Speech.MakeVoice();
+        if (voice_) {
+            voice_->SetOnNews([this] { HearNews(); });
+        }
     }
     return voice_.get();
 }
@@ -35,7 +41,9 @@ void SpeakerVoice::PrepareSpeaker() {
     mduUILib::Control& mark = context_.Controls.imgSpeaker(1);
     const platform::Voice* voice = Voice();
     missing_.clear();
-    if (voice == nullptr || voice->Descriptions().isEmpty()) {
+    const bool known = voice != nullptr && !voice->Descriptions().isEmpty();
+    asked_ = voice != nullptr && !known && voice->IsAsking();
+    if (!known && !asked_) {
         const QString reason = voice == nullptr ? QString() : voice->LastError();
         missing_ = reason.isEmpty() ? u"this machine has no voice"_s : reason;
         mark.Visible = false;
@@ -55,16 +63,10 @@ void SpeakerVoice::SpeakMessage(const QString& text, int flags, bool force) {
     }
     if (text.isEmpty() || SpeakerLevel() <= 0) {
         TellNoVoice(text, force);
-        return;
-    }
-    if (text != PurgeText) {
-        context_.Host.SetSpeakerPicture(SpeakingPicture);
-    }
-    context_.Host.ShowChanges();
-    const std::weak_ptr<bool> alive = alive_;
-    Utter(text, flags < 1 ? PurgeBeforeSpeak : flags, force);
-    if (!alive.expired() && text != PurgeText) {
-        context_.Host.SetSpeakerPicture(IdlePicture);
+    } else if (!IsSpeaking()) {
+        Say({text, flags, force});
+    } else if (text != PurgeText && waiting_.size() < MostWaiting) {
+        waiting_.push_back({text, flags, force});
     }
 }
 
@@ -72,25 +74,77 @@ void SpeakerVoice::PurgeSpeech(bool force) {
     SpeakMessage(PurgeText.toString(), PurgeBeforeSpeak, force);
 }
 
-// The event loop runs while a voice speaks, and the clock may be closed in it.
-void SpeakerVoice::Utter(const QString& text, int flags, bool force) {
+void SpeakerVoice::FallSilent() {
+    waiting_.clear();
+    if (std::exchange(saying_, std::nullopt)) {
+        voice_->Speak(PurgeText.toString(), PurgeBeforeSpeak);
+        context_.Host.SetSpeakerPicture(SpeakerLevel() <= 0 ? MutedPicture : IdlePicture);
+    }
+}
+
+void SpeakerVoice::SpeakNow(const QString& text) {
+    FallSilent();
+    failedAt_ = {};
+    SpeakMessage(text, PurgeBeforeSpeak, true);
+}
+
+bool SpeakerVoice::IsResting() const {
+    return IsWithinAMinute(failedAt_, context_.Services.Clock.Now());
+}
+
+void SpeakerVoice::Say(const Text& text) {
+    if (IsResting()) {
+        return;
+    }
+    if (text.Words != PurgeText) {
+        context_.Host.SetSpeakerPicture(SpeakingPicture);
+    }
+    context_.Host.ShowChanges();
+    saying_ = text;
     platform::Voice* voice = Voice();
-    const std::weak_ptr<bool> alive = alive_;
-    ++speaking_;
-    const bool spoken = voice != nullptr && voice->Speak(text, flags);
-    if (alive.expired()) {
+    const bool begun = voice != nullptr &&
+                       voice->Speak(text.Words, text.Flags < 1 ? PurgeBeforeSpeak : text.Flags);
+    const bool goesOn = begun && voice->IsSpeaking();
+    if (saying_ && !goesOn) {
+        End(begun);
+    }
+}
+
+void SpeakerVoice::End(bool spoken) {
+    const Text said = *std::exchange(saying_, std::nullopt);
+    if (said.Words == PurgeText) {
         return;
     }
-    --speaking_;
-    if (text == PurgeText) {
-        return;
-    }
+    context_.Host.SetSpeakerPicture(IdlePicture);
     if (spoken) {
         told_.Clear();
+        failedAt_ = {};
         return;
     }
-    const QString reason = voice == nullptr ? u"this machine has no voice"_s : voice->LastError();
-    TellWhy(reason.isEmpty() ? u"the voice failed"_s : reason, force);
+    failedAt_ = context_.Services.Clock.Now();
+    const QString reason = voice_ ? voice_->LastError() : u"this machine has no voice"_s;
+    TellWhy(reason.isEmpty() ? u"the voice failed"_s : reason, said.Force);
+}
+
+void SpeakerVoice::HearNews() {
+    if (saying_ && !voice_->IsSpeaking()) {
+        End(voice_->LastError().isEmpty());
+        SayWaiting();
+        context_.Host.ShowChanges();
+    }
+    if (asked_ && !voice_->IsAsking()) {
+        PrepareSpeaker();
+        FillVoiceMenu();
+        context_.Host.ShowChanges();
+    }
+}
+
+void SpeakerVoice::SayWaiting() {
+    while (!waiting_.empty() && !saying_) {
+        const Text next = waiting_.front();
+        waiting_.pop_front();
+        SpeakMessage(next.Words, next.Flags, next.Force);
+    }
 }
 
 // The level is 0 on a machine without voices, whatever volume the user has chosen.
@@ -105,19 +159,22 @@ void SpeakerVoice::TellNoVoice(const QString& text, bool force) {
 // Patterns speak often: they tell of the first failure only. A timer that is not heard is told of,
 // but the countdown of its action speaks each second.
 void SpeakerVoice::TellWhy(const QString& reason, bool force) {
-    if (force ? told_.IsFresh(reason) : !told_.IsEmpty()) {
-        return;
+    const bool known = force ? told_.IsRecent(reason) : !told_.IsEmpty();
+    if (force || !known) {
+        told_.Add(reason);
     }
-    told_.Add(reason);
-    context_.Host.ShowStatus(u"The clock can't speak: "_s + reason);
+    if (!known) {
+        context_.Host.ShowStatus(u"The clock can't speak: "_s + reason);
+    }
 }
 
 void SpeakerVoice::ClickSpeaker(SpokenTime& spoken) {
-    const std::weak_ptr<bool> alive = alive_;
     context_.Host.SetSpeakerPicture(SpeakingPicture);
+    FallSilent();
+    failedAt_ = {};
     PurgeSpeech(true);
     spoken.SpeakTimeNow();
-    if (!alive.expired()) {
+    if (!IsSpeaking()) {
         context_.Host.SetSpeakerPicture(SpeakerLevel() <= 0 ? MutedPicture : IdlePicture);
     }
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QStringList>
+#include <deque>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "speech/ClockVoice.h"
@@ -21,16 +23,21 @@ struct VoiceEntry {
 /// The voice of one clock, with its menu and the state of the speaker mark.
 ///
 /// `imgSpeaker(1).Tag` holds the speaker's level, the value of "Speaker Volume"; nothing is spoken
-/// while it is 0 or less. A text that was to be heard and could not be spoken is told to the host,
-/// each reason about once a minute at most; a pattern's only where none has been told since a text
-/// was last spoken.
+/// while it is 0 or less. Nobody waits for the voice: a text that comes while another is being
+/// spoken has its turn behind it. A voice that has failed rests for a minute, and what is to be
+/// said in it is passed over; a click tries at once.
+///
+/// A text that was to be heard and could not be spoken is told to the host, each reason once for as
+/// long as it comes back within five minutes; a pattern's only where none has been told since a
+/// text was last spoken.
 class SpeakerVoice final : public ClockVoice {
 public:
     explicit SpeakerVoice(const SpeechContext& context)
         : context_(context), menu_(1), told_(context.Services.Clock) {}
 
     /// Sets the mark and the level from the properties; without a voice the mark hides and the
-    /// level is "0".
+    /// level is "0". A machine that is still to tell its voices counts as one that has some; when
+    /// it has told them, mark and menu are set anew.
     void PrepareSpeaker() override;
 
     /// Lists the machine's voices in the menu and as choices of "Speaker Voice", and takes the one
@@ -38,12 +45,19 @@ public:
     /// menu leaves out shifts those behind it by one.
     void FillVoiceMenu() override;
 
-    /// Speaks a text and comes back when it has been spoken. Without @p force only the active clock
-    /// speaks. @p flags below 1 mean 2: what is being said is cut off first.
+    /// Speaks a text, or puts it behind what is being spoken. Without @p force only the active
+    /// clock speaks. @p flags below 1 mean 2: what is being said is cut off first.
     void SpeakMessage(const QString& text, int flags, bool force) override;
 
-    /// Cuts off what is being said, with a text of "." that can't be heard.
+    /// Cuts off what is being said, with a text of "." that can't be heard. It has its turn behind
+    /// what this clock says itself, which it so leaves whole; see `FallSilent`.
     void PurgeSpeech(bool force) override;
+
+    /// Cuts off what this clock is saying and forgets what it has still to say.
+    void FallSilent();
+
+    /// Speaks a text on a click: at once, and after a failure, too.
+    void SpeakNow(const QString& text);
 
     /// A click with the left button on the mark.
     void ClickSpeaker(SpokenTime& spoken);
@@ -58,9 +72,7 @@ public:
     /// What the mark's hint tells: a line for each setting.
     QString HintText() const;
 
-    /// Whether a text is being spoken. The event loop runs meanwhile; the clock may be closed in
-    /// it, and whoever called must then leave it alone.
-    bool IsSpeaking() const { return speaking_ > 0; }
+    bool IsSpeaking() const override { return saying_.has_value(); }
 
 private:
     platform::Voice* Voice();
@@ -68,17 +80,28 @@ private:
     void FillEntries();
     void ListChoices(const QString& list);
     void MarkVoice();
-    void Utter(const QString& text, int flags, bool force);
+    struct Text {
+        QString Words;
+        int Flags = 0;
+        bool Force = false;
+    };
+    bool IsResting() const;
+    void Say(const Text& text);
+    void End(bool spoken);
+    void HearNews();
+    void SayWaiting();
     void TellNoVoice(const QString& text, bool force);
     void TellWhy(const QString& reason, bool force);
 
     SpeechContext context_;
-    std::unique_ptr<platform::Voice> voice_;  ///< made when first needed
     std::vector<VoiceEntry> menu_;
-    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  ///< watched over while speaking
-    ToldReasons told_;                                            ///< since a text was last spoken
-    QString missing_;   ///< why the machine has no voices; empty when it has
-    int speaking_ = 0;  ///< texts under way; a click can start one within another
+    ToldReasons told_;            ///< since a text was last spoken
+    QString missing_;             ///< why the machine has no voices; empty when it has
+    bool asked_ = false;          ///< the machine is still to tell its voices
+    std::optional<Text> saying_;  ///< the text that is being spoken
+    std::deque<Text> waiting_;    ///< those behind it
+    QDateTime failedAt_;          ///< when the voice failed last; invalid after it has spoken
+    std::unique_ptr<platform::Voice> voice_;  ///< made when first needed
 };
 
 }  // namespace speech

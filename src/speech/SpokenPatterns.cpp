@@ -36,16 +36,16 @@ bool SpokenPatterns::SpeakPatternOfKind(const QDateTime& clockTime, int kind, bo
 
 void SpokenPatterns::CheckSpokenTime() {
     if (!AnyPattern() || context_.Controls.lblMsg(1).Visible ||
-        context_.Controls.lblActionMsg(1).Visible) {
+        context_.Controls.lblActionMsg(1).Visible || voice_.IsSpeaking()) {
         return;
     }
     const QDateTime now = context_.ClockTime();
     if (now == spokenAt_) {
         return;
     }
-    spokenAt_ = now;  // beforehand: the clock may be closed while it speaks
     for (int kind = SecondPattern; kind <= DayPattern; ++kind) {
         if (SpeakPatternOfKind(now, kind, false, DefaultFlags)) {
+            spokenAt_ = now;
             return;
         }
     }

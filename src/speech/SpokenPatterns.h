@@ -22,7 +22,7 @@ public:
     void ReadPatterns();
 
     /// One tick: the shortest unit that is due is spoken, and only that. Nothing while a message or
-    /// an action shows, and nothing twice for the same second.
+    /// an action shows or a text is still being spoken, and nothing twice for the same second.
     void CheckSpokenTime() override;
 
     /// The longest unit that has a pattern is spoken, due or not.

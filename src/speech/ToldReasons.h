@@ -19,8 +19,10 @@ public:
 
     bool Contains(const QString& reason) const { return told_.contains(reason); }
     bool IsEmpty() const { return told_.isEmpty(); }
-    /// Whether it was told less than a minute ago.
+    /// Whether it was added less than a minute ago.
     bool IsFresh(const QString& reason) const;
+    /// Whether it was added less than five minutes ago: what is tried each minute is no news then.
+    bool IsRecent(const QString& reason) const;
 
 private:
     const platform::WallClock& clock_;

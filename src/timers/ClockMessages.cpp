@@ -70,6 +70,9 @@ void ClockMessages::RunMessage(int left, int width) {
     } else {
         CancelAction();
     }
+    if (context_.Host.IsClosing()) {
+        return;
+    }
     if (pendingMessage_.isEmpty()) {
         EndMessage();
     } else {
@@ -102,15 +105,22 @@ void ClockMessages::HideLabel() {
 
 void ClockMessages::EndMessage() {
     HideLabel();
-    if (context_.Host.TimerInterval() == MovingInterval) {
-        context_.Host.SetTimerInterval(NormalInterval);
+    SetPace();
+}
+
+// The fast pace is for the eye alone. Another than these two was set by somebody else.
+void ClockMessages::SetPace() {
+    TimerHost& host = context_.Host;
+    const bool moves = !pendingMessage_.isEmpty() && host.IsInSight();
+    if (moves && host.TimerInterval() != MovingInterval) {
+        host.SetTimerInterval(MovingInterval);
+    } else if (!moves && host.TimerInterval() == MovingInterval) {
+        host.SetTimerInterval(NormalInterval);
     }
 }
 
 void ClockMessages::MoveMessage() {
-    if (context_.Host.TimerInterval() != MovingInterval) {
-        context_.Host.SetTimerInterval(MovingInterval);
-    }
+    SetPace();
     TypeNextCharacter();
     mduUILib::Control& label = context_.Controls.lblMsg(1);
     context_.Host.FitLabel(label);

@@ -17,8 +17,8 @@ enum class MessageEvent { Shows, Hides, ActionCaption, ActionRuns };
 /// (`lblActionMsg`, `imgAction`).
 ///
 /// A message enters at the right end of the face, is typed out a character at a time while it moves
-/// left, is eaten at the left end and starts anew, until it expires or is hidden. While it runs,
-/// `timClock` ticks ten times a second.
+/// left, is eaten at the left end and starts anew, until it expires or is hidden. While it runs in
+/// sight, `timClock` ticks ten times a second; out of sight it moves on with each second.
 class ClockMessages final : public MessageChannel {
 public:
     using Watcher = std::function<void(MessageEvent event, const QString& text)>;
@@ -62,10 +62,12 @@ private:
     void HideLabel();
     void EndMessage();
     void MoveMessage();
+    void SetPace();
     void TypeNextCharacter();
     void StepLeft();
     void RestartFromTheRight();
     void CountDown(const QDateTime& clockTime);
+    void SpeakNumber(qint64 left);
     void FinishAction();
     void SetActionCaption(const QString& caption);
     void Tell(MessageEvent event, const QString& text = {}) const;

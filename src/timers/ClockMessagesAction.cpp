@@ -94,27 +94,32 @@ bool ClockMessages::IsCountingDown() const {
 
 void ClockMessages::CountDown(const QDateTime& clockTime) {
     context_.Host.StopMusic();
-    const QString action = pendingAction_;
-    const QString deadline = actionDeadline_;
-    const auto moment = mduAPILib::ParseMoment(deadline, clockTime.date().year());
+    const auto moment = mduAPILib::ParseMoment(actionDeadline_, clockTime.date().year());
     const qint64 left =
         std::clamp(clockTime.secsTo(moment->Moment), -LongestCountdown - 1, LongestCountdown);
-    if (mduAPILib::Val(deadline) != 0) {
-        SetActionCaption(action + SignedText(left));
+    if (mduAPILib::Val(actionDeadline_) != 0) {
+        SetActionCaption(pendingAction_ + SignedText(left));
         PlaceActionMarks();
-        context_.Host.SpeakMessage(SignedText(left), 0, true);
+        SpeakNumber(left);
     }
-    // While the number was spoken the user may have cancelled the action, or given it more time.
-    if (left <= 0 && pendingAction_ == action && actionDeadline_ == deadline) {
+    if (left <= 0 && !context_.Host.IsClosing()) {
         FinishAction();
     }
 }
 
+// A number that is not spoken at its second is none: while the voice is busy it is passed over.
+void ClockMessages::SpeakNumber(qint64 left) {
+    if (!context_.Host.IsSpeaking()) {
+        context_.Host.SpeakMessage(SignedText(left), 0, true);
+    }
+}
+
+// Nothing is left to be done by the time it runs, so that it can't run twice.
 void ClockMessages::FinishAction() {
     const QString action = pendingAction_;
+    CancelAction();
     Tell(MessageEvent::ActionRuns, action);
     runAction_(action);
-    CancelAction();
 }
 
 void ClockMessages::SetActionCaption(const QString& caption) {

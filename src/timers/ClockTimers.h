@@ -76,6 +76,9 @@ private:
     bool IsDue(int slot, int dialMinute) const;
     bool IsLastOfPass(int slot, int dialMinute) const;
     void Fire(int slot, const QDateTime& clockTime);
+    bool MayFire() const;
+    void EndFiring(int slot, const QDateTime& clockTime, int minutes);
+    void AnnounceAction(const QString& action);
     void Announce(const QString& key, const QString& text);
     void PlayTimerSound(const QString& file);
     void SetMusicVolume(const QString& volume);

@@ -41,7 +41,7 @@ void ClockTimers::CheckTimers(const QString& clockTime) {
     const int minute = DialMinute(parsed->Moment.time());
     ForgetFired(minute);
     int saves = 0;
-    for (int slot = 1; slot <= SlotCount() && messages_.PendingAction().isEmpty(); ++slot) {
+    for (int slot = 1; slot <= SlotCount() && MayFire(); ++slot) {
         if (!IsDue(slot, minute)) {
             continue;
         }
@@ -54,6 +54,10 @@ void ClockTimers::CheckTimers(const QString& clockTime) {
         }
         Fire(slot, parsed->Moment);
     }
+}
+
+bool ClockTimers::MayFire() const {
+    return messages_.PendingAction().isEmpty() && !context_.Host.IsClosing();
 }
 
 bool ClockTimers::IsDue(int slot, int dialMinute) const {
@@ -88,22 +92,37 @@ bool ClockTimers::HasFired(int slot) const {
 }
 
 void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
-    // A copy: while a text is spoken the user may change the slot.
-    const ClockTimer timer = Timer(slot);
-    fired_.push_back({slot, DialMinute(clockTime.time())});
-    messages_.ShowMessage(timer.Message);
-    Announce(u"Speak Timer Message"_s, timer.Message);
-    messages_.SetMessageColour(timer.MessageColour);
+    const ClockTimer timer = Timer(slot);  // a copy: a step may change the slot
     const int minutes = WholeNumber(timer.DisplayMinutes);
-    messages_.SetMessageExpiry(clockTime, minutes);
-    messages_.SetPendingAction(timer.TimerAction);
-    if (messages_.PendingMessage().isEmpty() && timer.TimerAction != "None"_L1) {
-        Announce(u"Speak Action Message"_s, timer.TimerAction);
+    fired_.push_back({slot, DialMinute(clockTime.time())});
+    const std::function<void()> steps[] = {
+        [&] { messages_.ShowMessage(timer.Message); },
+        [&] { Announce(u"Speak Timer Message"_s, timer.Message); },
+        [&] { messages_.SetMessageColour(timer.MessageColour); },
+        [&] { messages_.SetMessageExpiry(clockTime, minutes); },
+        [&] { messages_.SetPendingAction(timer.TimerAction); },
+        [&] { AnnounceAction(timer.TimerAction); },
+        [&] { PlayTimerSound(timer.SoundFile); },
+        [&] { SetMusicVolume(timer.MusicVolume); },
+        [&] { EndFiring(slot, clockTime, minutes); },
+    };
+    for (const auto& step : steps) {
+        if (context_.Host.IsClosing()) {
+            return;
+        }
+        step();
     }
-    PlayTimerSound(timer.SoundFile);
-    SetMusicVolume(timer.MusicVolume);
+}
+
+void ClockTimers::EndFiring(int slot, const QDateTime& clockTime, int minutes) {
     if (!messages_.StartCountdown(clockTime, minutes)) {
         ClearTimerSlot(slot);
+    }
+}
+
+void ClockTimers::AnnounceAction(const QString& action) {
+    if (messages_.PendingMessage().isEmpty() && action != "None"_L1) {
+        Announce(u"Speak Action Message"_s, action);
     }
 }
 

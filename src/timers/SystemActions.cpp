@@ -1,5 +1,9 @@
 #include "timers/SystemActions.h"
 
+#include <QDebug>
+#include <algorithm>
+#include <iterator>
+
 #include "foundation/FileHelpers.h"
 
 using namespace Qt::StringLiterals;
@@ -9,7 +13,6 @@ namespace timers {
 namespace {
 
 constexpr int CriticalBox = 16;
-constexpr int ExclamationBox = 48;
 
 struct ExitAction {
     QLatin1StringView Text;
@@ -24,12 +27,6 @@ constexpr ExitAction ExitActions[] = {
     {ActionText::ForcedShutdown, 13},
 };
 
-void ShowRefusal(const TimerContext& context, const QString& reason, int flags) {
-    if (!reason.isEmpty()) {
-        context.Host.ShowMsgbox(reason, flags, u"ExecuteLink"_s);
-    }
-}
-
 // Nothing for an address, which has no folder on this machine.
 QString FolderOf(const platform::Files& files, const QString& path) {
     const qsizetype end = path.lastIndexOf(u'/');
@@ -39,25 +36,56 @@ QString FolderOf(const platform::Files& files, const QString& path) {
 
 }  // namespace
 
-void RunAction(const TimerContext& context, const QString& action) {
-    platform::SystemActions& machine = context.Services.Actions;
-    for (const ExitAction& exit : ExitActions) {
-        if (action == exit.Text) {
-            ShowRefusal(context, machine.ExitWindowsEx(exit.Flags), ExclamationBox);
-            return;
-        }
+void ActionRunner::RunAction(const QString& action) {
+    const auto exit = std::find_if(std::begin(ExitActions), std::end(ExitActions),
+                                   [&](const ExitAction& each) { return action == each.Text; });
+    if (exit != std::end(ExitActions)) {
+        Exit(action, exit->Flags);
+    } else if (action == ActionText::LockWorkstation) {
+        Lock();
+    } else if (!action.isEmpty()) {
+        Open(action);
     }
-    if (action == ActionText::LockWorkstation) {
-        ShowRefusal(context, machine.LockWorkStation(), ExclamationBox);
-        return;
-    }
-    if (action.isEmpty()) {
-        return;
-    }
+}
+
+void ActionRunner::Exit(const QString& action, unsigned flags) {
+    context_.Services.Actions.Begin(
+        [flags](platform::SystemActions& machine) { return machine.ExitWindowsEx(flags); },
+        TellRefusal(action));
+}
+
+void ActionRunner::Lock() {
+    context_.Services.Actions.Begin(
+        [](platform::SystemActions& machine) { return machine.LockWorkStation(); },
+        TellRefusal(ActionText::LockWorkstation));
+}
+
+void ActionRunner::Open(const QString& action) {
     const QString path =
-        mduLib::ResolveAppPath(mduLib::ToStoredPath(action), context.Module.Paths.AppFolder);
-    ShowRefusal(context, machine.Open(path, FolderOf(context.Services.FileSystem, path)),
-                CriticalBox);
+        mduLib::ResolveAppPath(mduLib::ToStoredPath(action), context_.Module.Paths.AppFolder);
+    const QString folder = FolderOf(context_.Services.FileSystem, path);
+    context_.Services.Actions.Begin(
+        [path, folder](platform::SystemActions& machine) { return machine.Open(path, folder); },
+        [&dialogs = context_.Services.Dialog](const QString& reason) {
+            if (!reason.isEmpty()) {
+                dialogs.PostMessageBox(reason, CriticalBox, u"ExecuteLink"_s);
+            }
+        });
+}
+
+// The clock may have been closed by the time of the answer; the error output hears it all the same.
+std::function<void(const QString&)> ActionRunner::TellRefusal(const QString& action) const {
+    return
+        [action, host = &context_.Host, life = std::weak_ptr<bool>(life_)](const QString& reason) {
+            if (reason.isEmpty()) {
+                return;
+            }
+            const QString text = u"%1 was refused: %2"_s.arg(action, reason);
+            qWarning().noquote() << text;
+            if (!life.expired()) {
+                host->ShowStatus(text);
+            }
+        };
 }
 
 }  // namespace timers

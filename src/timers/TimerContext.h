@@ -11,13 +11,17 @@ public:
 
     virtual void SpeakMessage(const QString& text, int flags, bool force) = 0;
     virtual void PurgeSpeech(bool force) = 0;
+    virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
     virtual void PlaySound(const QString& path) = 0;
     virtual void StopMusic() = 0;
 
     /// A text for the shell's status bar; nothing happens without a shell.
     virtual void ShowStatus(const QString& text) = 0;
-    /// A box of the clock. @return the button pressed: 1 OK, 6 Yes, 7 No
-    virtual int ShowMsgbox(const QString& text, int flags, const QString& title) = 0;
+
+    /// A clock that is closing does nothing more: it goes no further from the next step on.
+    virtual bool IsClosing() const { return false; }
+    /// Whether somebody could see what moves on the face.
+    virtual bool IsInSight() const { return true; }
 
     /// Gives a label the size of its caption.
     virtual void FitLabel(mduUILib::Control& label) = 0;

@@ -1,12 +1,23 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 
 #include "clock/ClockTick.h"
 
 /// The parts of a clock, all of which write down each call in one list, in order.
 class RecordingParts {
-    using Calls = QStringList;
+    /// The calls so far. A test may act upon one of them.
+    struct Calls {
+        QStringList List;
+        std::function<void(const QString& call)> OnCall;
+        void operator+=(const QString& call) {
+            List += call;
+            if (OnCall) {
+                OnCall(call);
+            }
+        }
+    };
 
     struct Window final : clockcore::ClockWindow {
         Calls* Log = nullptr;
@@ -155,7 +166,7 @@ class RecordingParts {
 
 public:
     RecordingParts() {
-        const auto record = [this](auto&... parts) { ((parts.Log = &Log), ...); };
+        const auto record = [this](auto&... parts) { ((parts.Log = &Made), ...); };
         record(TheWindow, ThePlacement, TheFace, TheDial, TheDigital, TheCalculator, TheBackground,
                TheOverlays, TheTimers, TheMessages, TheSounds, TheVoice, TheSpoken, TheMusic,
                TheMenus, TheStyles);
@@ -168,7 +179,8 @@ public:
                 TheSpoken,     TheMusic,     TheMenus,  TheStyles};
     }
 
-    QStringList Log;
+    Calls Made;
+    QStringList& Log = Made.List;
     Window TheWindow;
     Placement ThePlacement;
     Face TheFace;

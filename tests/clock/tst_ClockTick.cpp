@@ -45,6 +45,13 @@ class tst_ClockTick : public QObject {
             "CheckMusic");
     }
 
+    /// Those of a clock without a shell, whose background changes in this second.
+    static QStringList NormalTickOfAll() {
+        return Lines(
+            "CheckTimers 25/03/2008 12:30:09|CheckSpokenTime|DrawClockFace|PlayHourSound|"
+            "PlaySecondSound|RunMessage 3 240|ShowAutoBackground|CheckMusic");
+    }
+
 private Q_SLOTS:
     void LoadingAndClosingDoNothing() {
         QCOMPARE(Clock(ClockState::Loading).Run(), QStringList());
@@ -182,8 +189,9 @@ private Q_SLOTS:
         clock.Machine.SetNow(QDateTime(QDate(2008, 3, 25), QTime(7, 0, 10), Qt::UTC));
         QVERIFY(!clock.Run().contains(u"ApplyNextStyle"_s));
         clock.Data.AutoStyleChange = true;
+        clock.Machine.SetNow(QDateTime(QDate(2008, 3, 25), QTime(7, 0, 20), Qt::UTC));
         QVERIFY(clock.Run().contains(u"ApplyNextStyle"_s));
-        clock.Machine.SetNow(QDateTime(QDate(2008, 3, 25), QTime(7, 0, 11), Qt::UTC));
+        clock.Machine.SetNow(QDateTime(QDate(2008, 3, 25), QTime(7, 0, 21), Qt::UTC));
         QVERIFY(!clock.Run().contains(u"ApplyNextStyle"_s));
     }
 
@@ -207,6 +215,48 @@ private Q_SLOTS:
         clock.Put(u"Auto Background Display"_s, period);
         clock.Machine.SetNow(QDateTime(QDate(2008, 3, 25), QTime(7, 0, second), Qt::UTC));
         QCOMPARE(clock.Run().contains(u"ShowAutoBackground"_s), turns);
+    }
+
+    // At ten ticks a second, as while a message runs, a picture still stands for its whole turn.
+    void RotatesOnceInASecond() {
+        Clock clock(ClockState::Running);
+        clock.Data.AutoStyleChange = true;
+        clock.Put(u"Auto Background Display"_s, u"10"_s);
+        int styles = 0;
+        int pictures = 0;
+        clock.Machine.SetNow(QDateTime(QDate(2008, 3, 25), QTime(7, 0, 9, 950), Qt::UTC));
+        for (int tick = 0; tick < 120; ++tick) {
+            const QStringList calls = clock.Run();
+            styles += static_cast<int>(calls.count(u"ApplyNextStyle"_s));
+            pictures += static_cast<int>(calls.count(u"ShowAutoBackground"_s));
+            clock.Machine.SetNow(clock.Machine.Now().addMSecs(100));
+        }
+        QCOMPARE(styles, 2);
+        QCOMPARE(pictures, 2);
+    }
+
+    void StopsBetweenTwoSteps_data() {
+        QTest::addColumn<QString>("closedIn");
+        for (const QString& call : NormalTickOfAll()) {
+            QTest::newRow(qPrintable(call)) << call;
+        }
+    }
+
+    // Whichever step it is closed in, no other follows.
+    void StopsBetweenTwoSteps() {
+        QFETCH(QString, closedIn);
+        Clock clock(ClockState::Running);
+        clock.Parts.TheWindow.MDIChild = false;
+        clock.Put(u"Auto Background Display"_s, u"9"_s);
+        clock.Parts.Made.OnCall = [&](const QString& call) {
+            if (call == closedIn) {
+                clock.Data.State = ClockState::Closing;
+            }
+        };
+        const QStringList calls = clock.Run();
+        // The two sounds are one step.
+        QCOMPARE(calls.last(), closedIn == u"PlayHourSound"_s ? u"PlaySecondSound"_s : closedIn);
+        QCOMPARE(clock.Run(), QStringList());
     }
 
     void RedrawRequestByMode_data() {

@@ -43,8 +43,10 @@ private Q_SLOTS:
     void TellsThatTheVoiceFails();
     void TellsThatThereIsNoVoice();
     void TellsThatAnActionIsRefused();
-    void LetsOtherClocksTickWhileOneSpeaks();
+    void GoesOnWhileItSpeaks();
     void MayBeClosedWhileItSpeaks();
+    void StopsWhereItIsClosed();
+    void TwoMayBeClosedWhileTheySpeak();
     void SurvivesASetClock_data();
     void SurvivesASetClock();
 };
@@ -163,37 +165,82 @@ void tst_TroubledTimers::TellsThatThereIsNoVoice() {
     QCOMPARE(clock->PendingMessage(), u"Tea"_s);
 }
 
+// No box, neither of the shell nor of the machine.
 void tst_TroubledTimers::TellsThatAnActionIsRefused() {
     TroubledDesk desk;
     desk.Devices.Actions.Refusal = u"There is no system bus"_s;
     const frmTempolark* clock = desk.Launch("0,red,,Reboot,0#12:1@\r\n");
+    QTest::ignoreMessage(QtWarningMsg, "Reboot was refused: There is no system bus");
     desk.Pass(Minute + Second);
-    QCOMPARE(desk.Base.Shell.Boxes, QStringList{u"ExecuteLink: There is no system bus"_s});
+    QVERIFY(desk.Base.Shell.Messages.contains(u"Reboot was refused: There is no system bus"_s));
+    QCOMPARE(desk.Base.Shell.Boxes, QStringList());
     QVERIFY(!clock->Controls().lblActionMsg(1).Visible);
 }
 
-// While one clock waits for its voice the other goes on; the first does not fall into itself.
-void tst_TroubledTimers::LetsOtherClocksTickWhileOneSpeaks() {
+// While a clock speaks its face goes on, and so do its timers and the other clock.
+void tst_TroubledTimers::GoesOnWhileItSpeaks() {
     TroubledDesk desk;
-    const frmTempolark* speaking = desk.Launch("1,red,,None,0#12:1@Tea\r\n");
+    desk.Devices.Voices.Lasting = true;
+    const frmTempolark* speaking =
+        desk.Launch("1,red,,None,0#12:1@Tea\r\n1,red,,Lock Workstation,0#12:3@\r\n");
     const frmTempolark* other = desk.Running(u"India Standard Time"_s);
-    QStringList seen;
-    desk.Devices.Voices.WhileSpeaking = [&] {
-        desk.Pass(30 * Second);
-        seen += speaking->Controls().lblClock(1).Caption;
-        seen += other->Controls().lblClock(1).Caption;
-    };
-    desk.Pass(Minute);
-    QCOMPARE(desk.Devices.Voices.Log, (QStringList{u"2 ."_s, u"2 Tea"_s}));
-    QCOMPARE(seen, (QStringList{u"12:00:59"_s, u"17:31:30"_s, u"12:00:59"_s, u"17:32:00"_s}));
+    desk.Pass(Minute + 30 * Second);
+    QCOMPARE(speaking->Controls().lblClock(1).Caption, u"12:01:30"_s);
+    QCOMPARE(other->Controls().lblClock(1).Caption, u"17:31:30"_s);
+    desk.Pass(4 * Minute);
+    QCOMPARE(desk.Devices.Voices.Log.filter(u"Tea"_s), QStringList{u"2 Tea"_s});
+    QCOMPARE(desk.Devices.Actions.Log, QStringList{u"lock"_s});
 }
 
+// Its window goes at once, its text is cut off, and the shutdown that was to follow never comes.
 void tst_TroubledTimers::MayBeClosedWhileItSpeaks() {
     TroubledDesk desk;
-    const QPointer<frmTempolark> speaking = desk.Launch("1,red,,None,0#12:1@Tea\r\n");
-    desk.Devices.Voices.WhileSpeaking = [&] { speaking->Unload(); };
-    desk.Pass(2 * Minute);
+    desk.Devices.Voices.Lasting = true;
+    const QPointer<frmTempolark> speaking =
+        desk.Launch("1,red,,None,0#12:1@Tea\r\n0,red,,Normal Shutdown,0#12:1@\r\n");
+    QString pending;
+    desk.Devices.Voices.WhileSpeaking = [&] { pending = speaking->PendingMessage(); };
+    desk.Pass(Minute);
+    QCOMPARE(pending, u"Tea"_s);
+    desk.Devices.Voices.WhileSpeaking = nullptr;
+    speaking->Unload();
+    QCOMPARE(desk.Devices.Voices.Log.last(), u"2 ."_s);
     QTRY_VERIFY(speaking.isNull());
+    desk.Devices.Voices.EndText();
+    desk.Pass(2 * Minute);
+    QCOMPARE(desk.Devices.Actions.Log, QStringList());
+}
+
+// Closed from within the very call that speaks.
+void tst_TroubledTimers::StopsWhereItIsClosed() {
+    TroubledDesk desk;
+    const QPointer<frmTempolark> clock =
+        desk.Launch("1,red,,,0#12:1@Tea\r\n0,red,,Normal Shutdown,0#12:1@\r\n");
+    desk.Devices.Voices.WhileSpeaking = [&] {
+        if (clock) {
+            clock->Unload();
+        }
+    };
+    desk.Pass(2 * Minute);
+    QTRY_VERIFY(clock.isNull());
+    QCOMPARE(desk.Devices.Actions.Log, QStringList());
+    QCOMPARE(desk.Devices.Voices.Log.filter(u"Tea"_s), QStringList());
+}
+
+void tst_TroubledTimers::TwoMayBeClosedWhileTheySpeak() {
+    TroubledDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    const QPointer<frmTempolark> first = desk.Launch("1,red,,None,0#12:1@Tea\r\n");
+    desk.Base.Machine.WriteFile(TimerPath(u"India Standard Time"_s),
+                                "1,red,,None,0#17:31@Coffee\r\n");
+    const QPointer<frmTempolark> second = desk.Running(u"India Standard Time"_s);
+    desk.Pass(Minute + Second);
+    QVERIFY(desk.Devices.Voices.Log.contains(u"2 Tea"_s));
+    QVERIFY(desk.Devices.Voices.Log.contains(u"2 Coffee"_s));
+    second->Unload();
+    first->Unload();
+    QTRY_VERIFY(first.isNull() && second.isNull());
+    desk.Devices.Voices.EndText();
 }
 
 void tst_TroubledTimers::SurvivesASetClock_data() {

@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "devices/Speaking.h"
 #include "devices/StandIn.h"
 #include "platform/devices/QtPlayers.h"
 
@@ -245,8 +246,8 @@ void tst_PlayerProcess::countsDevices_data() {
 void tst_PlayerProcess::countsDevices() {
     QFETCH(QByteArray, script);
     const StandIn program(script);
-    QTEST(platform::QtSoundDevices(program.Path()).Count(), "count");
-    QCOMPARE(platform::QtSoundDevices(u"/nonexistent/player"_s).Count(), 0);
+    QTEST(CountOf(program.Path()), "count");
+    QCOMPARE(CountOf(u"/nonexistent/player"_s), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_PlayerProcess)

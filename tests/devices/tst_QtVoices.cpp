@@ -1,10 +1,9 @@
 #include "platform/devices/QtVoices.h"
 
-#include <QAbstractEventDispatcher>
 #include <QTest>
-#include <QThread>
 #include <QTimer>
 
+#include "devices/Speaking.h"
 #include "devices/StandIn.h"
 
 using namespace Qt::StringLiterals;
@@ -36,21 +35,38 @@ private Q_SLOTS:
     void keepsCommasOutOfDescriptions();
     void countsEveryVoice();
     void speaksBeforeItHasToldItsVoices();
-    void hearsWhatHasArrived();
-    void waitsInVainOnlyOnce();
+    void tellsItsVoicesLater();
+    void asksInVainOnlyOnce();
     void hangHoldsUpNobody();
 };
 
 void tst_QtVoices::describesVoices() {
     const StandIn program(Engine({u"Ann"_s, u"Zoë (Québec)"_s}));
-    QCOMPARE(QtVoices(program.Path()).MakeVoice()->Descriptions(),
-             QStringList({u"Ann"_s, u"Zoë (Québec)"_s}));
+    QtVoices voices(program.Path());
+    const auto voice = voices.MakeVoice();
+    QTRY_COMPARE(voice->Descriptions(), QStringList({u"Ann"_s, u"Zoë (Québec)"_s}));
+    QCOMPARE(voices.MakeVoice()->Descriptions(), voice->Descriptions());
 }
 
 void tst_QtVoices::keepsCommasOutOfDescriptions() {
     const StandIn program(Engine({u"Ann, English, female"_s, u",,"_s}));
-    QCOMPARE(QtVoices(program.Path()).MakeVoice()->Descriptions(),
-             QStringList({u"Ann; English; female"_s, u";;"_s}));
+    const auto voice = QtVoices(program.Path()).MakeVoice();
+    QTRY_COMPARE(voice->Descriptions(), QStringList({u"Ann; English; female"_s, u";;"_s}));
+}
+
+// Nobody waits for the answer; each voice hears of it.
+void tst_QtVoices::tellsItsVoicesLater() {
+    const StandIn program(Engine(QStringList(u"Ann"_s)));
+    QtVoices voices(program.Path());
+    const auto first = voices.MakeVoice();
+    const auto second = voices.MakeVoice();
+    QStringList told;
+    first->SetOnNews([&] { told += u"first "_s + first->Descriptions().join(u','); });
+    second->SetOnNews([&] { told += u"second "_s + second->Descriptions().join(u','); });
+    QCOMPARE(first->Descriptions(), QStringList());
+    QVERIFY(first->IsAsking());
+    QTRY_COMPARE(told, QStringList({u"first Ann"_s, u"second Ann"_s}));
+    QVERIFY(!first->IsAsking());
 }
 
 // A voice is picked by its place, whatever it is called.
@@ -59,7 +75,7 @@ void tst_QtVoices::countsEveryVoice() {
     QtVoices voices(program.Path());
     const auto voice = voices.MakeVoice();
     voice->SetVoice(1);
-    QVERIFY2(voice->Speak(u"Noon"_s, 2), qPrintable(voice->LastError()));
+    QVERIFY2(SpeakWhole(*voice, u"Noon"_s), qPrintable(voice->LastError()));
     QCOMPARE(program.Told(u"set"_s), u"1 0 100\n"_s);
 }
 
@@ -68,31 +84,24 @@ void tst_QtVoices::speaksBeforeItHasToldItsVoices() {
     QtVoices voices(program.Path());
     const auto voice = voices.MakeVoice();
     voice->SetRate(3);
-    QVERIFY2(voice->Speak(u"Noon"_s, 2), qPrintable(voice->LastError()));
+    QVERIFY2(SpeakWhole(*voice, u"Noon"_s), qPrintable(voice->LastError()));
     QCOMPARE(program.Told(u"set"_s), u"-1 3 100\n"_s);
-    QCOMPARE(voice->Descriptions(), QStringList(u"Ann"_s));
-}
-
-// The event loop takes the answer in before the voices are asked for.
-void tst_QtVoices::hearsWhatHasArrived() {
-    const StandIn program(Engine(QStringList(u"Ann"_s)));
-    QtVoices voices(program.Path());
-    while (program.Told(u"introduced"_s).isEmpty()) {
-        QThread::msleep(1);
-    }
-    // In two turns it learns of the start and of the answer; what follows from it would be a third.
-    for (int turn = 0; turn < 2; ++turn) {
-        QCoreApplication::eventDispatcher()->processEvents(QEventLoop::AllEvents);
-    }
-    QCOMPARE(voices.MakeVoice()->Descriptions(), QStringList(u"Ann"_s));
+    QTRY_COMPARE(voice->Descriptions(), QStringList(u"Ann"_s));
 }
 
 // Each process that is started leaves a line; the second asking starts none.
-void tst_QtVoices::waitsInVainOnlyOnce() {
+void tst_QtVoices::asksInVainOnlyOnce() {
     const StandIn program("echo >> begun\nexit 1\n");
     QtVoices voices(program.Path());
+    const auto voice = voices.MakeVoice();
+    int news = 0;
+    voice->SetOnNews([&] { ++news; });
+    QCOMPARE(voice->Descriptions(), QStringList());
+    QTRY_COMPARE(news, 1);
+    QVERIFY(!voice->IsAsking());
+    QCOMPARE(voice->Descriptions(), QStringList());
     QCOMPARE(voices.MakeVoice()->Descriptions(), QStringList());
-    QCOMPARE(voices.MakeVoice()->Descriptions(), QStringList());
+    QVERIFY(!voice->IsAsking());
     QCOMPARE(program.Told(u"begun"_s), u"\n"_s);
 }
 
@@ -105,7 +114,7 @@ void tst_QtVoices::hangHoldsUpNobody() {
     QTimer other;
     QObject::connect(&other, &QTimer::timeout, &other, [&] { ++ticks; });
     other.start(1);
-    QVERIFY(!voice->Speak(u"Noon"_s, 2));
+    QVERIFY(!SpeakWhole(*voice, u"Noon"_s));
     QCOMPARE(voice->LastError(), u"The speech engine does not answer"_s);
     QVERIFY(ticks >= 3);
 }

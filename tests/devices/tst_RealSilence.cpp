@@ -2,6 +2,7 @@
 #include <QTimer>
 
 #include "devices/Flite.h"
+#include "devices/Speaking.h"
 #include "platform/devices/QtPlayers.h"
 #include "platform/devices/QtVoices.h"
 
@@ -27,7 +28,7 @@ private Q_SLOTS:
 };
 
 void tst_RealSilence::hasNoDevice() {
-    QCOMPARE(platform::QtSoundDevices(PlayerProgram).Count(), 0);
+    QCOMPARE(CountOf(PlayerProgram), 0);
 }
 
 void tst_RealSilence::voiceTellsWhy() {
@@ -36,9 +37,9 @@ void tst_RealSilence::voiceTellsWhy() {
     }
     QtVoices voices(Program, u"flite"_s);
     const auto voice = voices.MakeVoice();
-    QVERIFY(!voice->Descriptions().isEmpty());
+    QVERIFY(!VoicesOf(*voice).isEmpty());
     for (int i = 0; i < 2; ++i) {
-        QVERIFY(!voice->Speak(u"It is noon"_s, 2));
+        QVERIFY(!SpeakWhole(*voice, u"It is noon"_s));
         QCOMPARE(voice->LastError(), u"No audio device available"_s);
     }
 }
@@ -58,8 +59,8 @@ void tst_RealSilence::playerTellsWhy() {
 void tst_RealSilence::missingProgramTellsWhy() {
     QtVoices voices(u"/nonexistent/voice"_s);
     const auto voice = voices.MakeVoice();
-    QCOMPARE(voice->Descriptions(), QStringList());
-    QVERIFY(!voice->Speak(u"It is noon"_s, 2));
+    QCOMPARE(VoicesOf(*voice), QStringList());
+    QVERIFY(!SpeakWhole(*voice, u"It is noon"_s));
     QVERIFY2(voice->LastError().startsWith(u"The speech engine can't be started. "_s),
              qPrintable(voice->LastError()));
 }
@@ -68,9 +69,9 @@ void tst_RealSilence::missingProgramTellsWhy() {
 void tst_RealSilence::crashCostsOneMessage() {
     QtVoices voices(QStringLiteral(TEMPOLARK_SOURCE_DIR "/tests/devices/crashing-voice.sh"));
     const auto voice = voices.MakeVoice();
-    QCOMPARE(voice->Descriptions(), QStringList(u"Ann"_s));
+    QCOMPARE(VoicesOf(*voice), QStringList(u"Ann"_s));
     for (int i = 0; i < 2; ++i) {
-        QVERIFY(!voice->Speak(u"It is noon"_s, 2));
+        QVERIFY(!SpeakWhole(*voice, u"It is noon"_s));
         QCOMPARE(voice->LastError(), u"The speech engine has ended"_s);
     }
 }
@@ -84,7 +85,7 @@ void tst_RealSilence::hangCostsOneMessage() {
     QTimer other;
     QObject::connect(&other, &QTimer::timeout, &other, [&] { ++ticks; });
     other.start(1);
-    QVERIFY(!voice->Speak(u"It is noon"_s, 2));
+    QVERIFY(!SpeakWhole(*voice, u"It is noon"_s));
     QCOMPARE(voice->LastError(), u"The speech engine does not come to an end"_s);
     QVERIFY(ticks >= 3);
 }

@@ -3,6 +3,7 @@
 
 #include "devices/Flite.h"
 #include "devices/SoundServer.h"
+#include "devices/Speaking.h"
 #include "platform/devices/PlayerProcess.h"
 #include "platform/devices/QtPlayers.h"
 #include "platform/devices/QtVoices.h"
@@ -107,23 +108,23 @@ void tst_RealSoundLoss::deathMidSpeechIsTold() {
     QtVoices voices(VoiceProgram, u"flite"_s,
                     {.Start = 30'000, .Base = 3'000, .Letter = 100, .Whole = 60'000});
     const auto voice = voices.MakeVoice();
-    QVERIFY(!voice->Descriptions().isEmpty());
+    QVERIFY(!VoicesOf(*voice).isEmpty());
     QTimer::singleShot(1000, this, [this] { server_->End(); });
-    QVERIFY(!voice->Speak(LongText, 2));
+    QVERIFY(!SpeakWhole(*voice, LongText));
     qInfo("%s", qPrintable(voice->LastError()));
     QVERIFY(!voice->LastError().isEmpty());
     QVERIFY(server_->Start());
-    QVERIFY2(voice->Speak(u"Noon"_s, 2), qPrintable(voice->LastError()));
+    QVERIFY2(SpeakWhole(*voice, u"Noon"_s), qPrintable(voice->LastError()));
 }
 
 void tst_RealSoundLoss::countsTheDevicesThereAre() {
-    QCOMPARE(QtSoundDevices(Program).Count(), 1);
+    QCOMPARE(CountOf(Program), 1);
     server_->End();
-    QCOMPARE(QtSoundDevices(Program).Count(), 0);
+    QCOMPARE(CountOf(Program), 0);
     QVERIFY(server_->Start());
-    QCOMPARE(QtSoundDevices(Program).Count(), 1);
+    QCOMPARE(CountOf(Program), 1);
     server_->Freeze();
-    QCOMPARE(QtSoundDevices(Program).Count(), 0);
+    QCOMPARE(CountOf(Program), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_RealSoundLoss)

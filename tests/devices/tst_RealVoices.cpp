@@ -3,6 +3,7 @@
 
 #include "devices/Flite.h"
 #include "devices/Recorder.h"
+#include "devices/Speaking.h"
 #include "platform/devices/QtPlayers.h"
 #include "platform/devices/QtVoices.h"
 
@@ -37,18 +38,18 @@ void tst_RealVoices::initTestCase() {
     if (!HasFlite()) {
         QSKIP("there is no speech engine flite");
     }
-    QCOMPARE(platform::QtSoundDevices(PlayerProgram).Count(), 1);
+    QCOMPARE(CountOf(PlayerProgram), 1);
 }
 
 void tst_RealVoices::listsVoices() {
     QtVoices voices(Program, u"flite"_s);
-    const QStringList names = voices.MakeVoice()->Descriptions();
+    const QStringList names = VoicesOf(*voices.MakeVoice());
     QVERIFY(!names.isEmpty());
     QVERIFY(!names.contains(QString()));
-    QCOMPARE(voices.MakeVoice()->Descriptions(), names);
+    QCOMPARE(VoicesOf(*voices.MakeVoice()), names);
     // Left to itself, the machine finds an engine that works.
-    QVERIFY(!QtVoices(Program).MakeVoice()->Descriptions().isEmpty());
-    QCOMPARE(QtVoices(Program, u"no such engine"_s).MakeVoice()->Descriptions(), QStringList());
+    QVERIFY(!VoicesOf(*QtVoices(Program).MakeVoice()).isEmpty());
+    QCOMPARE(VoicesOf(*QtVoices(Program, u"no such engine"_s).MakeVoice()), QStringList());
 }
 
 void tst_RealVoices::isHeard() {
@@ -59,7 +60,7 @@ void tst_RealVoices::isHeard() {
 
     QtVoices voices(Program, u"flite"_s, bounds_);
     const auto voice = voices.MakeVoice();
-    QVERIFY2(voice->Speak(u"It is a quarter past ten in the morning"_s, 2),
+    QVERIFY2(SpeakWhole(*voice, u"It is a quarter past ten in the morning"_s),
              qPrintable(voice->LastError()));
     QCOMPARE(voice->LastError(), QString());
     QVERIFY(recorder.Gather(0.5));
@@ -82,7 +83,7 @@ void tst_RealVoices::volumeIsHeard() {
         Recorder recorder;
         QVERIFY(recorder.Gather(0.1));
         voice->SetVolume(i == 0 ? 100 : 20);
-        QVERIFY(voice->Speak(u"Good morning"_s, 2));
+        QVERIFY(SpeakWhole(*voice, u"Good morning"_s));
         QVERIFY(recorder.Gather(0.3));
         loudness[i] = recorder.Rms(0, recorder.Samples());
     }
@@ -105,8 +106,9 @@ void tst_RealVoices::takesTurns() {
         if (both == 1) {
             QTimer::singleShot(100, this, [&] { spoken = second->Speak(text, 2); });
         }
-        QVERIFY2(first->Speak(text, 2), qPrintable(first->LastError()));
-        QVERIFY2(spoken, qPrintable(second->LastError()));
+        QVERIFY2(SpeakWhole(*first, text), qPrintable(first->LastError()));
+        QTRY_VERIFY_WITH_TIMEOUT(!second->IsSpeaking(), 60'000);
+        QVERIFY2(spoken && second->LastError().isEmpty(), qPrintable(second->LastError()));
         QVERIFY(recorder.Gather(0.5));
         seconds[both] = recorder.LoudSeconds(0, recorder.Samples());
     }
@@ -139,13 +141,13 @@ void tst_RealVoices::speaksOnAfterEveryPurge() {
         QVERIFY(voice->Speak(longText, 3));
         QTest::qWait(i * 20);  // at another point of its work each time
     }
-    QVERIFY2(voice->Speak(u"Done"_s, 2), qPrintable(voice->LastError()));
+    QVERIFY2(SpeakWhole(*voice, u"Done"_s), qPrintable(voice->LastError()));
 }
 
 void tst_RealVoices::saysTheSoundlessAtOnce() {
     QtVoices voices(Program, u"flite"_s, bounds_);
     const auto voice = voices.MakeVoice();
-    QVERIFY(voice->Speak(u"..."_s, 2));
+    QVERIFY(SpeakWhole(*voice, u"..."_s));
     QCOMPARE(voice->LastError(), QString());
 }
 

@@ -52,12 +52,22 @@ private Q_SLOTS:
     void PassesFlags();
     void SpeaksNoEmptyText();
     void Purges();
-    void KnowsThatItSpeaks();
-    void EndsQuietlyWhenTheClockIsClosed();
     void TellsOnceWhyItCannotSpeak();
+    void RestsAfterAFailure();
+    void RestsForAMinute();
+    void AClickWakesARestingVoice();
+    void SpeaksOnByItself();
+    void HoldsTextsForItsMouth();
+    void HoldsTwentyTextsAtMost();
+    void TellsOfAFailureThatShowsLater();
+    void FallsSilent();
+    void AClickCutsIn();
+    void HearsOfItsVoicesLater();
+    void HearsThatThereIsNoVoice();
     void TellsOfEachTimer();
     void TellsAgainAfterSpeaking();
     void TellsOfPatternsOnce();
+    void TellsOfATimerAmongPatterns();
     void KeepsQuietAboutAPurge();
     void TellsWithoutAReason();
     void TellsOfAMachineWithoutVoices();
@@ -215,46 +225,179 @@ void tst_SpeakerVoice::Purges() {
     QCOMPARE(desk.Said(), QStringList{u"2 ."_s});
 }
 
-void tst_SpeakerVoice::KnowsThatItSpeaks() {
-    VoiceDesk desk;
-    bool speaking = false;
-    desk.Devices.Voices.WhileSpeaking = [&] { speaking = desk.Voice.IsSpeaking(); };
-    QVERIFY(!desk.Voice.IsSpeaking());
-    desk.Voice.SpeakMessage(u"Tea"_s, 2, true);
-    QVERIFY(speaking);
-    QVERIFY(!desk.Voice.IsSpeaking());
-}
-
-void tst_SpeakerVoice::EndsQuietlyWhenTheClockIsClosed() {
-    SpeechDesk desk;
-    desk.Controls.imgSpeaker(1).Tag = u"8"_s;
-    auto voice = std::make_unique<SpeakerVoice>(desk.Context());
-    desk.Devices.Voices.Failure = u"closed"_s;
-    desk.Devices.Voices.WhileSpeaking = [&] {
-        if (desk.Devices.Voices.Log.last() == "2 noon"_L1) {
-            voice.reset();
-        }
-    };
-    Patterns patterns(*voice);
-    voice->ClickSpeaker(patterns);
-    QVERIFY(!voice);
-    QCOMPARE(desk.Host.Log.mid(2), QStringList({u"picture 5"_s, u"show"_s}));
-    QCOMPARE(desk.Host.Status, QStringList());
-}
-
+// Each minute another try.
 void tst_SpeakerVoice::TellsOnceWhyItCannotSpeak() {
     VoiceDesk desk;
-    desk.Devices.Voices.Failure = u"no sound server"_s;
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
-    desk.Voice.SpeakMessage(u"two"_s, 2, true);
-    QCOMPARE(desk.Said(), QStringList({u"2 one"_s, u"2 two"_s}));
+    const auto sayAt = [&](int minute, const QString& failure) {
+        desk.SetTime(15, 12, minute, 0);
+        desk.Devices.Voices.Failure = failure;
+        desk.Voice.SpeakMessage(QString::number(minute), 2, true);
+    };
+    sayAt(0, u"no sound server"_s);
+    sayAt(1, u"no sound server"_s);
+    sayAt(2, u"the engine hangs"_s);
+    sayAt(3, u"no sound server"_s);
+    QCOMPARE(desk.Said(), QStringList({u"2 0"_s, u"2 1"_s, u"2 2"_s, u"2 3"_s}));
     QCOMPARE(desk.Host.Log.last(), u"picture 3"_s);
-    desk.Devices.Voices.Failure = u"the engine hangs"_s;
-    desk.Voice.SpeakMessage(u"three"_s, 2, true);
-    desk.Devices.Voices.Failure = u"no sound server"_s;
-    desk.Voice.SpeakMessage(u"four"_s, 2, true);
     QCOMPARE(desk.Host.Status, QStringList({u"The clock can't speak: no sound server"_s,
                                             u"The clock can't speak: the engine hangs"_s}));
+}
+
+// A countdown of twenty minutes: a try a minute, and one message.
+void tst_SpeakerVoice::RestsAfterAFailure() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Failure = u"no sound server"_s;
+    for (int second = 0; second < 20 * 60; ++second) {
+        desk.SetTime(15, 12, second / 60, second % 60);
+        desk.Voice.PurgeSpeech(true);
+        desk.Voice.SpeakMessage(u"n"_s, 0, true);
+    }
+    QCOMPARE(desk.Said().count(u"2 n"_s), 20);
+    QCOMPARE(desk.Said().count(u"2 ."_s), 20);
+    QCOMPARE(desk.Host.Log.count(u"picture 5"_s), 20);
+    QCOMPARE(desk.Host.Status, QStringList{u"The clock can't speak: no sound server"_s});
+}
+
+void tst_SpeakerVoice::RestsForAMinute() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Failure = u"busy"_s;
+    desk.SetTime(15, 12, 0, 0);
+    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Devices.Voices.Failure.clear();
+    desk.SetTime(15, 12, 0, 59);
+    desk.Voice.SpeakMessage(u"two"_s, 2, true);
+    desk.SetTime(15, 12, 1, 0);
+    desk.Voice.SpeakMessage(u"three"_s, 2, true);
+    desk.Voice.SpeakMessage(u"four"_s, 2, true);
+    QCOMPARE(desk.Said(), QStringList({u"2 one"_s, u"2 three"_s, u"2 four"_s}));
+}
+
+void tst_SpeakerVoice::AClickWakesARestingVoice() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Failure = u"busy"_s;
+    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakNow(u"two"_s);
+    Patterns patterns(desk.Voice);
+    desk.Voice.ClickSpeaker(patterns);
+    QCOMPARE(desk.Said(), QStringList({u"2 one"_s, u"2 two"_s, u"2 ."_s, u"2 noon"_s}));
+}
+
+// Nobody waits: the call comes back while the text is being spoken.
+void tst_SpeakerVoice::SpeaksOnByItself() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
+    QVERIFY(desk.Voice.IsSpeaking());
+    QCOMPARE(desk.Host.Log, QStringList({u"picture 5"_s, u"show"_s}));
+    desk.Devices.Voices.EndText();
+    QVERIFY(!desk.Voice.IsSpeaking());
+    QCOMPARE(desk.Host.Log, QStringList({u"picture 5"_s, u"show"_s, u"picture 3"_s, u"show"_s}));
+}
+
+// Each text is heard whole, one behind the other; the purges in between find nothing to cut off.
+void tst_SpeakerVoice::HoldsTextsForItsMouth() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    for (const QString& text : {u"Tea"_s, u"Eggs"_s, u"Toast"_s}) {
+        desk.Voice.PurgeSpeech(true);
+        desk.Voice.SpeakMessage(text, 0, true);
+    }
+    QCOMPARE(desk.Said(), QStringList({u"2 ."_s, u"2 Tea"_s}));
+    desk.Devices.Voices.EndText();
+    QCOMPARE(desk.Said().mid(2), QStringList{u"2 Eggs"_s});
+    QVERIFY(desk.Voice.IsSpeaking());
+    desk.Devices.Voices.EndText();
+    desk.Devices.Voices.EndText();
+    QCOMPARE(desk.Said().mid(2), QStringList({u"2 Eggs"_s, u"2 Toast"_s}));
+    QVERIFY(!desk.Voice.IsSpeaking());
+}
+
+void tst_SpeakerVoice::HoldsTwentyTextsAtMost() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    for (int text = 0; text < 100; ++text) {
+        desk.Voice.SpeakMessage(QString::number(text), 0, true);
+    }
+    for (int end = 0; end < 100; ++end) {
+        desk.Devices.Voices.EndText();
+    }
+    QCOMPARE(desk.Said().size(), 21);
+    QCOMPARE(desk.Said().last(), u"2 20"_s);
+}
+
+void tst_SpeakerVoice::TellsOfAFailureThatShowsLater() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Eggs"_s, 0, true);
+    QCOMPARE(desk.Host.Status, QStringList());
+    desk.Devices.Voices.Failure = u"no sound server"_s;
+    desk.Devices.Voices.EndText();
+    QCOMPARE(desk.Host.Status, QStringList{u"The clock can't speak: no sound server"_s});
+    QVERIFY(!desk.Voice.IsSpeaking());
+    QCOMPARE(desk.Said(), QStringList{u"2 Tea"_s});
+}
+
+// The clock closes: what it says ends, and what it was still to say is forgotten.
+void tst_SpeakerVoice::FallsSilent() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Eggs"_s, 0, true);
+    desk.Voice.FallSilent();
+    QVERIFY(!desk.Voice.IsSpeaking());
+    QCOMPARE(desk.Host.Log.last(), u"picture 3"_s);
+    desk.Devices.Voices.EndText();
+    QCOMPARE(desk.Said(), QStringList({u"2 Tea"_s, u"2 ."_s}));
+    QCOMPARE(desk.Host.Status, QStringList());
+    desk.Voice.FallSilent();
+    QCOMPARE(desk.Said().size(), 2);
+}
+
+void tst_SpeakerVoice::AClickCutsIn() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Lasting = true;
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Eggs"_s, 0, true);
+    desk.Voice.SpeakNow(u"now"_s);
+    QCOMPARE(desk.Said(), QStringList({u"2 Tea"_s, u"2 ."_s, u"2 now"_s}));
+    Patterns patterns(desk.Voice);
+    desk.Voice.ClickSpeaker(patterns);
+    QCOMPARE(desk.Said().mid(3), QStringList({u"2 ."_s, u"2 ."_s, u"2 noon"_s}));
+    QCOMPARE(desk.Host.Log.last(), u"show"_s);  // it goes on talking
+    desk.Devices.Voices.EndText();
+    QCOMPARE(desk.Said().last(), u"2 noon"_s);
+}
+
+// A machine that has not told its voices yet counts as one that has some.
+void tst_SpeakerVoice::HearsOfItsVoicesLater() {
+    VoiceDesk desk;
+    desk.Set(u"Speaker"_s, u"Yes"_s);
+    desk.Set(u"Speaker Volume"_s, u"8"_s);
+    desk.Set(u"Speaker Voice"_s, u"Bob"_s);
+    desk.Devices.Voices.Asking = true;
+    desk.Voice.PrepareSpeaker();
+    desk.Voice.FillVoiceMenu();
+    QVERIFY(desk.Mark().Visible);
+    QCOMPARE(desk.Mark().Tag, u"8"_s);
+    QCOMPARE(Captions(desk.Voice), QStringList{u"-1 "_s});
+    desk.Devices.Voices.TellVoices({u"Ann"_s, u"Bob"_s});
+    QVERIFY(desk.Mark().Visible);
+    QCOMPARE(Captions(desk.Voice), QStringList({u"0 Ann"_s, u"1 Bob *"_s}));
+    QCOMPARE(desk.Said(), QStringList{u"voice 1"_s});
+    QCOMPARE(desk.Host.Log, QStringList({u"picture 3"_s, u"picture 3"_s, u"show"_s}));
+}
+
+void tst_SpeakerVoice::HearsThatThereIsNoVoice() {
+    VoiceDesk desk;
+    desk.Set(u"Speaker"_s, u"Yes"_s);
+    desk.Set(u"Speaker Volume"_s, u"8"_s);
+    desk.Devices.Voices.Asking = true;
+    desk.Voice.PrepareSpeaker();
+    desk.Devices.Voices.TellVoices({});
+    QVERIFY(!desk.Mark().Visible);
+    QCOMPARE(desk.Mark().Tag, u"0"_s);
+    QCOMPARE(desk.Host.Log.last(), u"show"_s);
 }
 
 // A timer in the morning and one in the evening; patterns in between tell nothing new.
@@ -280,17 +423,19 @@ void tst_SpeakerVoice::TellsOfEachTimer() {
 void tst_SpeakerVoice::TellsAgainAfterSpeaking() {
     VoiceDesk desk;
     const QString told = u"The clock can't speak: busy"_s;
-    desk.Devices.Voices.Failure = u"busy"_s;
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    int minute = 0;
+    const auto say = [&](const QString& failure) {
+        desk.SetTime(15, 12, minute++, 0);
+        desk.Devices.Voices.Failure = failure;
+        desk.Voice.SpeakMessage(u"Tea"_s, 2, true);
+    };
+    say(u"busy"_s);
     desk.Devices.Voices.Failure.clear();
     desk.Voice.PurgeSpeech(true);
-    desk.Devices.Voices.Failure = u"busy"_s;
-    desk.Voice.SpeakMessage(u"two"_s, 2, true);
+    say(u"busy"_s);
     QCOMPARE(desk.Host.Status, QStringList{told});
-    desk.Devices.Voices.Failure.clear();
-    desk.Voice.SpeakMessage(u"three"_s, 2, true);
-    desk.Devices.Voices.Failure = u"busy"_s;
-    desk.Voice.SpeakMessage(u"four"_s, 2, true);
+    say({});
+    say(u"busy"_s);
     QCOMPARE(desk.Host.Status, QStringList({told, told}));
 }
 
@@ -299,10 +444,23 @@ void tst_SpeakerVoice::TellsOfPatternsOnce() {
     desk.Devices.Voices.Failure = u"first"_s;
     desk.Voice.SpeakMessage(u"one"_s, 0, false);
     desk.Devices.Voices.Failure = u"second"_s;
+    desk.SetTime(15, 12, 1, 0);
     desk.Voice.SpeakMessage(u"two"_s, 0, false);
     QCOMPARE(desk.Host.Status, QStringList{u"The clock can't speak: first"_s});
+    desk.SetTime(15, 12, 2, 0);
     desk.Voice.SpeakMessage(u"three"_s, 0, true);
     QCOMPARE(desk.Host.Status.last(), u"The clock can't speak: second"_s);
+}
+
+// A pattern fails each minute for hours; the timer in between is told of all the same.
+void tst_SpeakerVoice::TellsOfATimerAmongPatterns() {
+    VoiceDesk desk;
+    desk.Devices.Voices.Failure = u"no engine"_s;
+    for (int minute = 0; minute < 30; ++minute) {
+        desk.SetTime(15, 12, minute, 0);
+        desk.Voice.SpeakMessage(u"pattern"_s, 0, minute == 28);
+    }
+    QCOMPARE(desk.Host.Status.size(), 2);
 }
 
 void tst_SpeakerVoice::KeepsQuietAboutAPurge() {

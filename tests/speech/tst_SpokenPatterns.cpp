@@ -14,6 +14,8 @@ namespace {
 class RecordingVoice final : public ClockVoice {
 public:
     QStringList Log;
+    bool Busy = false;
+    bool IsSpeaking() const override { return Busy; }
     void SpeakMessage(const QString& text, int flags, bool force) override {
         Log += QString::number(flags) + (force ? u"! "_s : u" "_s) + text;
     }
@@ -50,6 +52,7 @@ private Q_SLOTS:
     void StaysSilentWithoutPatterns();
     void StaysSilentBesideAMessage();
     void StaysSilentBesideAnAction();
+    void StaysSilentWhileATextIsSpoken();
     void SpeaksTheClocksTime();
     void SpeaksOncePerMoment();
     void LetsNoLongerUnitFollowInTheSameSecond();
@@ -121,6 +124,17 @@ void tst_SpokenPatterns::StaysSilentBesideAnAction() {
 }
 
 // 6:30 on the machine is noon of a clock that is five and a half hours ahead.
+void tst_SpokenPatterns::StaysSilentWhileATextIsSpoken() {
+    PatternDesk desk;
+    desk.SetPatterns(u"second"_s, {}, {}, {});
+    desk.Voice.Busy = true;
+    desk.Spoken.CheckSpokenTime();
+    QCOMPARE(desk.Voice.Log, QStringList());
+    desk.Voice.Busy = false;
+    desk.Spoken.CheckSpokenTime();
+    QCOMPARE(desk.Voice.Log, QStringList{u"0 second"_s});
+}
+
 void tst_SpokenPatterns::SpeaksTheClocksTime() {
     PatternDesk desk;
     desk.Zone.HoursFromLocal = 5.5F;

@@ -24,6 +24,7 @@ public:
     int Colour = 0xC0C0C0;
     double Ratio = 1;
     int Height = 300;
+    bool Speaking = false, Closing = false, InSight = true;
     ClockProperties Properties;
     std::function<void()> WhileSpeaking;  ///< what the user does in the meantime
 
@@ -41,7 +42,9 @@ public:
     void PlaySound(const QString& path) override { Events += QStringLiteral("sound:") + path; }
     void StopMusic() override { Events += QStringLiteral("stop-music"); }
     void ShowStatus(const QString& text) override { Events += QStringLiteral("status:") + text; }
-    int ShowMsgbox(const QString&, int, const QString&) override { return 1; }
+    bool IsSpeaking() const override { return Speaking; }
+    bool IsClosing() const override { return Closing; }
+    bool IsInSight() const override { return InSight; }
     void FitLabel(mduUILib::Control& label) override {
         label.Width = static_cast<float>(10 * label.Caption.size());
         label.Height = 20;

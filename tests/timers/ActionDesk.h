@@ -4,20 +4,16 @@
 #include "support/FakeServices.h"
 #include "timers/TimerContext.h"
 
-/// A clock of which actions ask nothing but a box.
-class BoxHost final : public timers::TimerHost {
+/// A clock of which actions ask nothing but the status bar.
+class StatusHost final : public timers::TimerHost {
 public:
-    QStringList Boxes;  ///< "16 ExecuteLink: text"
+    QStringList Status;
 
-    int ShowMsgbox(const QString& text, int flags, const QString& title) override {
-        Boxes += QStringLiteral("%1 %2: %3").arg(flags).arg(title, text);
-        return 1;
-    }
     void SpeakMessage(const QString&, int, bool) override {}
     void PurgeSpeech(bool) override {}
     void PlaySound(const QString&) override {}
     void StopMusic() override {}
-    void ShowStatus(const QString&) override {}
+    void ShowStatus(const QString& text) override { Status += text; }
     void FitLabel(mduUILib::Control&) override {}
     void PlaceMark(int, int, int) override {}
     int TimerInterval() const override { return 1000; }
@@ -46,7 +42,7 @@ struct ActionDesk {
     TimeZoneRecord Zone;
     mduUILib::ClockControls Controls;
     ModuleState Module;
-    BoxHost Host;
+    StatusHost Host;
 
     timers::TimerContext Context() { return {Properties, Zone, Controls, Services, Module, Host}; }
 };

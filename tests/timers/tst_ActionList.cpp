@@ -182,7 +182,7 @@ void tst_ActionList::KeepsTheMenuWhenTheFileCannotBeWritten() {
     desk.List.AddActionProgram(u"b"_s);
     QCOMPARE(desk.Programs(), QStringList({u"b"_s, u"a"_s, u"More"_s}));
     QCOMPARE(desk.File(), QByteArray("a,\r\n"));
-    QCOMPARE(desk.Host.Boxes, QStringList());
+    QCOMPARE(desk.Host.Status, QStringList());
 }
 
 void tst_ActionList::FillsAnew() {

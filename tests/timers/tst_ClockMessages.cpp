@@ -70,12 +70,16 @@ private Q_SLOTS:
     void ForgetsNone();
     void ForgetsAnActionWithoutADeadline();
     void Cancels();
-    void CancelsWhileItSpeaks();
     void Postpones();
-    void PostponesWhileItSpeaks();
     void PlacesTheMark();
     void TellsWhatShows();
     void TellsOfAnActionAtOnce();
+    void CountsOnWhileItSpeaks();
+    void ActsWhileItSpeaks();
+    void DoesNothingMoreWhenItCloses();
+    void NotesAnActionBeforeItRuns();
+    void RunsFastInSightOnly();
+    void LeavesAnotherPaceAlone();
 };
 
 void tst_ClockMessages::BeginsEmpty() {
@@ -452,15 +456,6 @@ void tst_ClockMessages::Cancels() {
     QVERIFY(desk.Host.Events.isEmpty());
 }
 
-void tst_ClockMessages::CancelsWhileItSpeaks() {
-    MessageDesk desk;
-    desk.Count(u"Reboot"_s, 0);
-    desk.Host.WhileSpeaking = [&desk] { desk.Messages.CancelAction(); };
-    desk.Run();
-    QCOMPARE(desk.Host.TakeEvents(), QStringList({u"stop-music"_s, u"speak: 0"_s}));
-    QVERIFY(!desk.ActionLabel().Visible);
-}
-
 void tst_ClockMessages::Postpones() {
     MessageDesk desk;
     desk.Messages.PostponeAction(3);
@@ -472,16 +467,6 @@ void tst_ClockMessages::Postpones() {
     desk.Messages.PostponeAction(-1);
     desk.Run();
     QCOMPARE(desk.Host.TakeEvents().last(), u"run:Reboot"_s);
-}
-
-void tst_ClockMessages::PostponesWhileItSpeaks() {
-    MessageDesk desk;
-    desk.Count(u"Reboot"_s, 0);
-    desk.Host.WhileSpeaking = [&desk] { desk.Messages.PostponeAction(1); };
-    desk.Run();
-    QCOMPARE(desk.Host.TakeEvents(), QStringList({u"stop-music"_s, u"speak: 0"_s}));
-    QCOMPARE(desk.Messages.ActionDeadline(), u"15/06/2026 12:01:00"_s);
-    QVERIFY(desk.ActionLabel().Visible);
 }
 
 // A mark 16 wide, a gap of 4 and "Reboot 60" with 90 stand in the middle of 400.
@@ -528,6 +513,85 @@ void tst_ClockMessages::TellsOfAnActionAtOnce() {
     desk.Run(2);
     QCOMPARE(desk.Host.TakeEvents().filter(u"caption"_s),
              QStringList({u"caption:Reboot"_s, u"caption:Reboot"_s, u"caption:Reboot 60"_s}));
+}
+
+// A number that can't be spoken at its second is passed over; the caption goes on.
+void tst_ClockMessages::CountsOnWhileItSpeaks() {
+    MessageDesk desk;
+    desk.Count(u"Reboot"_s, 1);
+    desk.Host.Speaking = true;
+    desk.Run();
+    QCOMPARE(desk.Host.TakeEvents(), QStringList{u"stop-music"_s});
+    QCOMPARE(desk.ActionLabel().Caption, u"Reboot 60"_s);
+    desk.Host.Speaking = false;
+    desk.Machine.Clock.Advance(2000);
+    desk.Run();
+    QCOMPARE(desk.Host.TakeEvents(), QStringList({u"stop-music"_s, u"speak: 58"_s}));
+}
+
+void tst_ClockMessages::ActsWhileItSpeaks() {
+    MessageDesk desk;
+    desk.Count(u"Reboot"_s, 0);
+    desk.Host.Speaking = true;
+    desk.Run();
+    QCOMPARE(desk.Host.TakeEvents(), QStringList({u"stop-music"_s, u"run:Reboot"_s}));
+}
+
+// Closed at its very last second.
+void tst_ClockMessages::DoesNothingMoreWhenItCloses() {
+    MessageDesk desk;
+    desk.Messages.ShowMessage(u"Tea"_s);
+    desk.Count(u"Reboot"_s, 0);
+    desk.Host.TakeEvents();
+    desk.Host.WhileSpeaking = [&desk] { desk.Host.Closing = true; };
+    desk.Run();
+    QCOMPARE(desk.Host.TakeEvents(), QStringList({u"stop-music"_s, u"speak: 0"_s}));
+    QCOMPARE(desk.Host.Interval, 1000);
+    QCOMPARE(desk.Messages.MessageCursor(), 0);
+}
+
+// By the time the action runs nothing is left that could run it once more.
+void tst_ClockMessages::NotesAnActionBeforeItRuns() {
+    MessageDesk desk;
+    QStringList pending;
+    desk.Messages.Watch([&](timers::MessageEvent event, const QString& text) {
+        if (event == timers::MessageEvent::ActionRuns) {
+            pending += text + u'|' + desk.Messages.PendingAction() + u'|' +
+                       desk.Messages.ActionDeadline() + u'|' +
+                       (desk.ActionLabel().Visible ? u"shows"_s : u"hidden"_s);
+        }
+    });
+    desk.Count(u"Reboot"_s, 0);
+    desk.Run();
+    QCOMPARE(pending, QStringList{u"Reboot|||hidden"_s});
+}
+
+// Ten ticks a second are for the eye. The first step of a message takes it to the right end.
+void tst_ClockMessages::RunsFastInSightOnly() {
+    MessageDesk desk;
+    desk.Messages.ShowMessage(u"Tea is ready"_s);
+    desk.Host.InSight = false;
+    desk.Run(2);
+    QCOMPARE(desk.Host.Interval, 1000);
+    QCOMPARE(desk.Messages.MessageCursor(), 1);
+    desk.Host.InSight = true;
+    desk.Run();
+    QCOMPARE(desk.Host.Interval, 100);
+    QCOMPARE(desk.Messages.MessageCursor(), 2);
+    desk.Host.InSight = false;
+    desk.Run();
+    QCOMPARE(desk.Host.Interval, 1000);
+    QCOMPARE(desk.Messages.MessageCursor(), 3);
+}
+
+void tst_ClockMessages::LeavesAnotherPaceAlone() {
+    MessageDesk desk;
+    desk.Host.InSight = false;
+    desk.Host.Interval = 10;
+    desk.Messages.ShowMessage(u"Tea"_s);
+    desk.Run();
+    desk.Messages.HideMessage();
+    QCOMPARE(desk.Host.Interval, 10);
 }
 
 QTEST_MAIN(tst_ClockMessages)

@@ -14,6 +14,9 @@ private Q_SLOTS:
     void RunsActions();
     void TellsOfARefusal_data();
     void TellsOfARefusal();
+    void PostsABoxForWhatCannotBeOpened();
+    void WaitsForNoMachine();
+    void TellsALateRefusalToNobodyInAClosedClock();
     void KeepsQuietWhenAllIsWell();
 };
 
@@ -52,38 +55,79 @@ void tst_SystemActions::RunsActions() {
     ActionDesk desk;
     desk.Machine.WriteFile(u"Tools/x.sh"_s, "#!/bin/sh\n");
     const QString app = desk.Machine.AppFolder();
-    timers::RunAction(desk.Context(), action.replace(u"APP"_s, app));
+    timers::ActionRunner(desk.Context()).RunAction(action.replace(u"APP"_s, app));
     QStringList& log = desk.Devices.Actions.Log;
     QTEST(log.replaceInStrings(app, u"APP"_s), "log");
 }
 
 void tst_SystemActions::TellsOfARefusal_data() {
     QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("box");
-    const QString exclamation = u"48 ExecuteLink: not allowed"_s;
-    QTest::newRow("log off") << u"Log Off"_s << exclamation;
-    QTest::newRow("shutdown") << u"Normal Shutdown"_s << exclamation;
-    QTest::newRow("reboot") << u"Reboot"_s << exclamation;
-    QTest::newRow("forced") << u"Forced Shutdown"_s << exclamation;
-    QTest::newRow("lock") << u"Lock Workstation"_s << exclamation;
-    QTest::newRow("program") << u".\\x.exe"_s << u"16 ExecuteLink: not allowed"_s;
+    QTest::addColumn<QString>("told");
+    QTest::newRow("log off") << u"Log Off"_s << u"Log Off was refused: not allowed"_s;
+    QTest::newRow("shutdown") << u"Normal Shutdown"_s
+                              << u"Normal Shutdown was refused: not allowed"_s;
+    QTest::newRow("reboot") << u"Reboot"_s << u"Reboot was refused: not allowed"_s;
+    QTest::newRow("forced") << u"Forced Shutdown"_s
+                            << u"Forced Shutdown was refused: not allowed"_s;
+    QTest::newRow("lock") << u"Lock Workstation"_s
+                          << u"Lock Workstation was refused: not allowed"_s;
 }
 
+// Any box would fail the test: none is expected.
 void tst_SystemActions::TellsOfARefusal() {
     QFETCH(QString, action);
-    QFETCH(QString, box);
+    QFETCH(QString, told);
     ActionDesk desk;
     desk.Devices.Actions.Refusal = u"not allowed"_s;
-    timers::RunAction(desk.Context(), action);
-    QCOMPARE(desk.Host.Boxes, QStringList{box});
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(told));
+    timers::ActionRunner(desk.Context()).RunAction(action);
+    QCOMPARE(desk.Host.Status, QStringList{told});
+}
+
+void tst_SystemActions::PostsABoxForWhatCannotBeOpened() {
+    ActionDesk desk;
+    desk.Devices.Actions.Refusal = u"There is no x.exe"_s;
+    desk.Machine.Dialogs.BoxAnswers = {1};
+    timers::ActionRunner(desk.Context()).RunAction(u".\\x.exe"_s);
+    QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 1U);
+    QCOMPARE(desk.Machine.Dialogs.Boxes[0].Text, u"There is no x.exe"_s);
+    QCOMPARE(desk.Machine.Dialogs.Boxes[0].Title, u"ExecuteLink"_s);
+    QCOMPARE(desk.Machine.Dialogs.Boxes[0].Flags, 16);
+    QCOMPARE(desk.Host.Status, QStringList());
+}
+
+// A machine that takes its time: nothing is done and nothing told before it does.
+void tst_SystemActions::WaitsForNoMachine() {
+    ActionDesk desk;
+    desk.Devices.Actions.Refusal = u"not allowed"_s;
+    desk.Devices.Actions.Slow = true;
+    timers::ActionRunner runner(desk.Context());
+    runner.RunAction(u"Reboot"_s);
+    QCOMPARE(desk.Devices.Actions.Log, QStringList());
+    QCOMPARE(desk.Host.Status, QStringList());
+    QTest::ignoreMessage(QtWarningMsg, "Reboot was refused: not allowed");
+    desk.Devices.Actions.DoTheRest();
+    QCOMPARE(desk.Devices.Actions.Log, QStringList{u"exit 2"_s});
+    QCOMPARE(desk.Host.Status, QStringList{u"Reboot was refused: not allowed"_s});
+}
+
+void tst_SystemActions::TellsALateRefusalToNobodyInAClosedClock() {
+    ActionDesk desk;
+    desk.Devices.Actions.Refusal = u"not allowed"_s;
+    desk.Devices.Actions.Slow = true;
+    timers::ActionRunner(desk.Context()).RunAction(u"Lock Workstation"_s);
+    QTest::ignoreMessage(QtWarningMsg, "Lock Workstation was refused: not allowed");
+    desk.Devices.Actions.DoTheRest();
+    QCOMPARE(desk.Devices.Actions.Log, QStringList{u"lock"_s});
+    QCOMPARE(desk.Host.Status, QStringList());
 }
 
 void tst_SystemActions::KeepsQuietWhenAllIsWell() {
     ActionDesk desk;
     for (const QString& action : {u"Log Off"_s, u"Lock Workstation"_s, u"editor"_s, QString()}) {
-        timers::RunAction(desk.Context(), action);
+        timers::ActionRunner(desk.Context()).RunAction(action);
     }
-    QCOMPARE(desk.Host.Boxes, QStringList());
+    QCOMPARE(desk.Host.Status, QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_SystemActions)

@@ -65,6 +65,8 @@ private Q_SLOTS:
     void SetsTheMusicVolume();
     void KeepsTheOldFileWhenItCannotSave();
     void FiresATimerThatTheUserRemoves();
+    void StopsBetweenTwoTimers();
+    void StopsBetweenTwoSteps();
 };
 
 void tst_TimerFiring::IsDue_data() {
@@ -370,6 +372,31 @@ void tst_TimerFiring::FiresATimerThatTheUserRemoves() {
     desk.Tick(u"15:05:00"_s);
     QCOMPARE(desk.Messages.PendingMessage(), u"Call"_s);
     QVERIFY(desk.Timers.Timer(1).IsFree());
+}
+
+// The clock is closed while it speaks the first one's message: the second does not fire.
+void tst_TimerFiring::StopsBetweenTwoTimers() {
+    FiringDesk desk;
+    desk.Set(u"Speak Timer Message"_s, u"Yes"_s);
+    desk.Add(u"03:05"_s, u"Call"_s);
+    desk.Add(u"03:05"_s, u"Tea"_s);
+    desk.Host.WhileSpeaking = [&desk] { desk.Host.Closing = true; };
+    desk.Tick(u"15:05:00"_s);
+    QCOMPARE(desk.Fired, QList<int>({1}));
+    QCOMPARE(desk.Host.TakeEvents(), QStringList({u"status:Call"_s, u"purge"_s, u"speak:Call"_s}));
+}
+
+// An action of no minutes that is still ahead of the step at which the clock closes never runs.
+void tst_TimerFiring::StopsBetweenTwoSteps() {
+    FiringDesk desk;
+    desk.Set(u"Speak Timer Message"_s, u"Yes"_s);
+    desk.Add(u"03:05"_s, u"Call"_s, u"Normal Shutdown"_s, u"0"_s);
+    desk.Host.WhileSpeaking = [&desk] { desk.Host.Closing = true; };
+    desk.Tick(u"15:05:00"_s);
+    desk.Tick(u"15:05:01"_s);
+    QVERIFY(!desk.Host.Events.contains(u"run:Normal Shutdown"_s));
+    QCOMPARE(desk.Messages.PendingAction(), QString());
+    QVERIFY(!desk.Controls.lblActionMsg(1).Visible);
 }
 
 QTEST_GUILESS_MAIN(tst_TimerFiring)

@@ -10,7 +10,6 @@
 #include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
-#include "timers/SystemActions.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 
@@ -39,9 +38,9 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       calculator_(Context()),
       background_(Context()),
       overlays_(Context()),
-      messages_(
-          Parts<timers::TimerHost>(),
-          [this](const QString& action) { timers::RunAction(Parts<timers::TimerHost>(), action); }),
+      actionRunner_(Parts<timers::TimerHost>()),
+      messages_(Parts<timers::TimerHost>(),
+                [this](const QString& action) { actionRunner_.RunAction(action); }),
       timers_(Parts<timers::TimerHost>(), messages_),
       actions_(Parts<timers::TimerHost>()),
       sounds_(Parts<timers::TimerHost>()),
@@ -181,6 +180,7 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
         return;
     }
     timClock_->SetInterval(0);
+    voice_.FallSilent();
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
     // Before its first tick a clock has not taken the place that its file holds.
@@ -190,8 +190,7 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
     timers_.SaveTimer(data_.TimerFile);
     placement_.ShowClockWindow(false);
     program_.Windows.Remove(*this);
-    closeWhenSpoken_ = voice_.IsSpeaking();
-    event->setAccepted(!closeWhenSpoken_);  // what speaks must not be dropped beneath its voice
+    event->accept();
     if (!IsMDIChild()) {
         QCoreApplication::quit();  // a clock that stands alone is the whole program
     }
@@ -199,14 +198,6 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
 
 void frmTempolark::CloseClock() {
     Unload();
-}
-
-void frmTempolark::CloseWhenSpoken() {
-    if (closeWhenSpoken_ && !voice_.IsSpeaking()) {
-        closeWhenSpoken_ = false;
-        QMetaObject::invokeMethod(
-            &placement_.Outer(), [this] { placement_.Outer().close(); }, Qt::QueuedConnection);
-    }
 }
 
 void frmTempolark::Unload() {

@@ -26,6 +26,7 @@
 #include "timers/ClockMessages.h"
 #include "timers/ClockTimers.h"
 #include "timers/HourAndSecondSounds.h"
+#include "timers/SystemActions.h"
 
 class QHelpEvent;
 
@@ -142,6 +143,7 @@ private:
     const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array,
                                        const QPoint& position) const;
     bool IsOnAction(const QPoint& position) const;
+    void SpeakAction();
     void Status(const QString& text);
 
     // The canvas.
@@ -166,7 +168,9 @@ private:
     void PurgeSpeech(bool force) override { voice_.PurgeSpeech(force); }
     void PlaySound(const QString& path) override { music_.PlaySound(path); }
     void StopMusic() override { music_.StopMusic(); }
-    int ShowMsgbox(const QString& text, int flags, const QString& title) override;
+    bool IsSpeaking() const override { return voice_.IsSpeaking(); }
+    bool IsClosing() const override { return data_.State == clockcore::ClockState::Closing; }
+    bool IsInSight() const override;
     void FitLabel(mduUILib::Control& label) override;
     void PlaceMark(int slot, int spot, int place) override;
     double DevicePixelRatio() const override { return surface_->DevicePixelRatio(); }
@@ -188,7 +192,6 @@ private:
     void SetByMenu(const QString& key, const QString& value);
     void PutSpeakerPosition();
     void SaveByMenu(const QStringList& keys);
-    void CloseWhenSpoken();
 
     // Styles.
     void ApplyNextStyle() override;
@@ -223,7 +226,6 @@ private:
     bool locked_ = false;
     bool lookedAt_ = true;
     std::function<void(int)> intervalWatcher_;
-    bool closeWhenSpoken_ = false;  ///< the window has closed while its clock was speaking
     QRegion lockedChanges_;
     QRegion presented_;  ///< changes of our own that wait to be painted
 
@@ -239,6 +241,7 @@ private:
     drawing::CalculatorLines calculator_;
     drawing::ClockBackground background_;
     drawing::ClockOverlays overlays_;
+    timers::ActionRunner actionRunner_;
     timers::ClockMessages messages_;
     timers::ClockTimers timers_;
     timers::ActionList actions_;

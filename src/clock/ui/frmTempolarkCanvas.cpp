@@ -127,8 +127,11 @@ void frmTempolark::ShowChanges() {
 }
 
 bool frmTempolark::CanBeSeen() const {
-    return lookedAt_ && (area_ == nullptr ||
-                         (isVisible() && !visibleRegion().isEmpty() && !window()->isMinimized()));
+    return lookedAt_ && (area_ == nullptr || IsInSight());
+}
+
+bool frmTempolark::IsInSight() const {
+    return isVisible() && !visibleRegion().isEmpty() && !window()->isMinimized();
 }
 
 int frmTempolark::ParentBackColor() const {

@@ -9,7 +9,6 @@
 #include "clock/ClockMode.h"
 #include "clock/ui/frmTempolark.h"
 #include "drawing/StockPictures.h"
-#include "platform/SpeechFlags.h"
 
 using namespace Qt::StringLiterals;
 
@@ -127,15 +126,19 @@ void frmTempolark::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && !withControl &&
         ControlAt(controls_.imgSpeaker, at) != nullptr) {
         voice_.ClickSpeaker(spoken_);
-        CloseWhenSpoken();
     } else if (event->button() == Qt::LeftButton && IsOnAction(at)) {
-        mduUILib::Control& mark = controls_.imgAction(1);
-        mark.Picture = drawing::GetStockPicture(drawing::StockPicture::ActionSpeaking);
-        SpeakMessage(messages_.PendingAction(), platform::SpeechFlag::PurgeBeforeSpeak, true);
-        mark.Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
-        CloseWhenSpoken();
+        SpeakAction();
     } else {
         QWidget::mousePressEvent(event);
+    }
+}
+
+void frmTempolark::SpeakAction() {
+    voice_.SpeakNow(messages_.PendingAction());
+    if (voice_.IsSpeaking()) {
+        controls_.imgAction(1).Picture =
+            drawing::GetStockPicture(drawing::StockPicture::ActionSpeaking);
+        ShowChanges();
     }
 }
 

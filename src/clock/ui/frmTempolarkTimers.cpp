@@ -10,7 +10,6 @@ using clockcore::ClockState;
 // The message and the action move after the face has been painted.
 void frmTempolark::Tick() {
     tick_.Tick();
-    CloseWhenSpoken();
     if (data_.State == ClockState::Running) {
         ShowChanges();
     }
@@ -24,12 +23,9 @@ void frmTempolark::SetTimerInterval(int milliseconds) {
 }
 
 void frmTempolark::SpeakMessage(const QString& text, int flags, bool force) {
-    voice_.SpeakMessage(text, flags, force);
-}
-
-int frmTempolark::ShowMsgbox(const QString& text, int flags, const QString& title) {
-    return shell_ != nullptr ? shell_->ShowMsgbox(text, flags, title)
-                             : program_.Services.Dialog.MessageBox(text, flags, title);
+    if (!IsClosing()) {
+        voice_.SpeakMessage(text, flags, force);
+    }
 }
 
 void frmTempolark::FitLabel(mduUILib::Control& label) {
@@ -51,7 +47,11 @@ bool frmTempolark::IsActiveClock() const {
     return IsActiveForm() && QWidget::isActiveWindow();
 }
 
+// The mark of an action that was clicked speaks no longer than the voice.
 void frmTempolark::SetSpeakerPicture(int number) {
-    controls_.imgSpeaker(1).Picture =
-        drawing::GetStockPicture(static_cast<drawing::StockPicture>(number));
+    const auto picture = static_cast<drawing::StockPicture>(number);
+    controls_.imgSpeaker(1).Picture = drawing::GetStockPicture(picture);
+    if (picture != drawing::StockPicture::SpeakerTalking) {
+        controls_.imgAction(1).Picture = drawing::GetStockPicture(drawing::StockPicture::Action);
+    }
 }

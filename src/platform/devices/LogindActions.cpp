@@ -131,6 +131,19 @@ QString ForcePowerOff(Login& login) {
 LogindActions::LogindActions(QString session, QString address, int timeoutMilliseconds)
     : session_(std::move(session)), address_(std::move(address)), timeout_(timeoutMilliseconds) {}
 
+LogindActions::~LogindActions() {
+    pool_.waitForDone();
+}
+
+void LogindActions::Begin(const std::function<QString(SystemActions&)>& action,
+                          const std::function<void(const QString& reason)>& answer) {
+    pool_.start([this, action, answer] {
+        const QString reason = action(*this);
+        QMetaObject::invokeMethod(
+            &home_, [answer, reason] { answer(reason); }, Qt::QueuedConnection);
+    });
+}
+
 QString LogindActions::ExitWindowsEx(unsigned flags) {
     Login login(address_, timeout_);
     if ((flags & Reboot) != 0) {

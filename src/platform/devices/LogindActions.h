@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QObject>
+#include <QThreadPool>
+
 #include "platform/Machine.h"
 
 namespace platform {
@@ -13,13 +16,16 @@ namespace platform {
 ///     LockWorkStation()   locks the session
 ///
 /// Nobody is asked for a password: what is not allowed is refused at once. A service that does not
-/// answer is waited for a few seconds.
+/// answer is waited for a few seconds; with `Begin` a thread of its own does that.
 class LogindActions final : public SystemActions {
 public:
     /// @p session is XDG_SESSION_ID; when it is empty, the session of this process is asked for, or
     /// that of the user's screen where this process is in none.
     /// @p address is that of another bus than the system's, for tests.
     explicit LogindActions(QString session, QString address = {}, int timeoutMilliseconds = 5000);
+    /// Waits for what has begun, so that the program's end costs no action.
+    ~LogindActions() override;
+    Q_DISABLE_COPY_MOVE(LogindActions)
 
     QString ExitWindowsEx(unsigned flags) override;
     QString LockWorkStation() override;
@@ -28,10 +34,15 @@ public:
     /// with the program that is meant for it.
     QString Open(const QString& path, const QString& workingFolder) override;
 
+    void Begin(const std::function<QString(SystemActions&)>& action,
+               const std::function<void(const QString& reason)>& answer) override;
+
 private:
     QString session_;
     QString address_;
     int timeout_;
+    QObject home_;  ///< in the thread that is answered
+    QThreadPool pool_;
 };
 
 }  // namespace platform

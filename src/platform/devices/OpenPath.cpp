@@ -3,7 +3,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -43,22 +42,22 @@ QString OpenWithHandler(const QFileInfo& file) {
         return u"There is no program to open %1 with: xdg-open is missing"_s.arg(file.filePath());
     }
     // The shell in between is what ends with this object; the handler itself lives on.
-    auto process = std::make_unique<QProcess>();
-    process->setWorkingDirectory(file.absolutePath());
-    process->setStandardInputFile(QProcess::nullDevice());
-    process->setStandardOutputFile(QProcess::nullDevice());
-    process->setStandardErrorFile(QProcess::nullDevice());
-    process->start(u"/bin/sh"_s, {u"-c"_s, u"\"$1\" \"$2\" & wait $!"_s, u"sh"_s, opener,
-                                  file.absoluteFilePath()});
-    if (!process->waitForFinished(HandlerFailsWithin)) {
-        if (process->state() == QProcess::NotRunning) {
-            return u"%1 can't be opened. %2"_s.arg(file.filePath(), process->errorString());
+    QProcess process;
+    process.setWorkingDirectory(file.absolutePath());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(u"/bin/sh"_s, {u"-c"_s, u"\"$1\" \"$2\" & wait $!"_s, u"sh"_s, opener,
+                                 file.absoluteFilePath()});
+    if (!process.waitForFinished(HandlerFailsWithin)) {
+        if (process.state() == QProcess::NotRunning) {
+            return u"%1 can't be opened. %2"_s.arg(file.filePath(), process.errorString());
         }
-        QProcess* running = process.release();
-        QObject::connect(running, &QProcess::finished, running, &QObject::deleteLater);
+        process.kill();
+        process.waitForFinished(HandlerFailsWithin);
         return {};
     }
-    return HandlerReason(process->exitCode(), file.filePath());
+    return HandlerReason(process.exitCode(), file.filePath());
 }
 
 QFileInfo Find(const QString& path) {

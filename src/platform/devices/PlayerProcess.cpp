@@ -28,12 +28,7 @@ PlayerProcess::~PlayerProcess() {
 }
 
 void PlayerProcess::LetGo() {
-    if (process_) {
-        process_->disconnect();
-        process_->kill();
-        process_->waitForFinished(1000);
-        process_.reset();
-    }
+    platform::LetGo(std::move(process_));
 }
 
 void PlayerProcess::SetUrl(const QString& path) {
@@ -92,9 +87,8 @@ void PlayerProcess::NeedProcess() {
     if (process_ && process_->state() != QProcess::NotRunning) {
         return;
     }
-    process_ = std::make_unique<QProcess>();
+    process_ = std::make_unique<ChildProcess>();
     QProcess& process = *process_;
-    process.setStandardErrorFile(QProcess::nullDevice());
     QObject::connect(
         &process, &QProcess::readyRead, &process, [this, &process] { Read(process); },
         Qt::QueuedConnection);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QProcess>
 #include <QTimer>
 
 #include "platform/Machine.h"
+#include "platform/devices/ChildProcess.h"
 
 namespace platform {
 
@@ -50,7 +50,7 @@ private:
 
     QString program_;
     PlayerBounds bounds_;
-    std::unique_ptr<QProcess> process_;
+    std::unique_ptr<ChildProcess> process_;
     QTimer watch_;  ///< for news of a piece that plays; for the next piece where none does
     QString path_;
     QString error_;

@@ -1,8 +1,9 @@
 #include "platform/devices/QtPlayers.h"
 
 #include <QCoreApplication>
-#include <QProcess>
+#include <QTimer>
 
+#include "platform/devices/ChildProcess.h"
 #include "platform/devices/PlayerProcess.h"
 
 using namespace Qt::StringLiterals;
@@ -28,16 +29,26 @@ std::unique_ptr<MediaPlayer> QtPlayers::MakePlayer() {
 
 QtSoundDevices::QtSoundDevices(QString program) : program_(std::move(program)) {}
 
-int QtSoundDevices::Count() const {
-    QProcess process;
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(Program(program_), {u"devices"_s});
-    if (process.waitForFinished(AnswerMilliseconds)) {
-        return process.readAllStandardOutput().trimmed().toInt();
-    }
-    process.kill();
-    process.waitForFinished(AnswerMilliseconds);
-    return 0;
+void QtSoundDevices::Count(const std::function<void(int)>& answer) {
+    auto* process = new ChildProcess;
+    process->setParent(QCoreApplication::instance());
+    const auto end = [process, answer] {
+        process->disconnect();
+        const bool hasEnded = process->state() == QProcess::NotRunning;
+        const int count = hasEnded ? process->readAllStandardOutput().trimmed().toInt() : 0;
+        process->kill();
+        process->deleteLater();
+        answer(count);
+    };
+    QObject::connect(process, &QProcess::finished, process, end);
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [end](QProcess::ProcessError error) {
+                         if (error == QProcess::FailedToStart) {
+                             end();
+                         }
+                     });
+    QTimer::singleShot(AnswerMilliseconds, process, end);
+    process->start(Program(program_), {u"devices"_s});
 }
 
 }  // namespace platform

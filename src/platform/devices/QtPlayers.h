@@ -20,12 +20,12 @@ private:
     QString program_;
 };
 
-/// The sound devices as they are at each call, which asks a process and takes a moment; 0 when that
-/// gives no answer within some seconds.
+/// The sound devices as they are at each call. That asks a process, whose answer comes from the
+/// event loop; 0 when there is none within some seconds. Without an event loop nobody is told.
 class QtSoundDevices final : public SoundDevices {
 public:
     explicit QtSoundDevices(QString program = {});
-    int Count() const override;
+    void Count(const std::function<void(int)>& answer) override;
 
 private:
     QString program_;

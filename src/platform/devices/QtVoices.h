@@ -7,9 +7,8 @@ namespace platform {
 /// The voices of this machine. Each voice has an engine of its own, made when it first speaks: a
 /// process that leaves when it has nothing to do. All of them take turns.
 ///
-/// One engine is started with this object, since it may take seconds to tell its voices. Whoever
-/// asks for descriptions waits for that, for some seconds at most; where it told none they are
-/// asked for again after a minute.
+/// One engine is started with this object, since it may take seconds to tell its voices. Until then
+/// there are no descriptions; where it told none they are asked for again after a minute.
 ///
 /// Speech Dispatcher comes first where it runs, then the other engines by name: the first one that
 /// works and has voices. Which one that is, is tried anew with each engine made.
@@ -24,7 +23,7 @@ public:
     std::unique_ptr<Voice> MakeVoice() override;
 
 private:
-    struct Shared;
+    class Shared;
     std::shared_ptr<Shared> shared_;
     std::shared_ptr<SpeechQueue> queue_;
 };

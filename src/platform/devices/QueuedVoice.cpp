@@ -1,5 +1,6 @@
 #include "platform/devices/QueuedVoice.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 #include "platform/SpeechFlags.h"
@@ -12,20 +13,29 @@ namespace {
 
 constexpr int LongestWait = 24 * 3'600'000;  // milliseconds
 
-QStringList EngineVoices(VoiceCore& core) {
-    SpeechEngine* engine = core.Engine ? core.Engine.get() : core.NeedEngine();
-    return engine != nullptr ? engine->Voices() : QStringList();
+/// Tells a listener from the event loop, if both are still there by then.
+void TellLater(const std::weak_ptr<const VoiceDirectory::Listener>& listener) {
+    const auto tell = [listener] {
+        if (const auto alive = listener.lock()) {
+            (*alive)();
+        }
+    };
+    QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
 }
 
 }  // namespace
 
-std::shared_ptr<Utterance> SpeechQueue::Add(std::shared_ptr<VoiceCore> voice, const QString& text) {
+std::shared_ptr<Utterance> SpeechQueue::Add(std::shared_ptr<VoiceCore> voice, const QString& text,
+                                            std::weak_ptr<const VoiceDirectory::Listener> onEnd) {
     int ahead = 0;
     for (const auto& other : messages_) {
         ahead = std::min(ahead + other->Bound(), LongestWait);
     }
     auto message = std::make_shared<Utterance>(std::move(voice), text, bounds_, ahead);
-    message->OnEnd = [this] { Next(); };
+    message->OnEnd = [this, onEnd = std::move(onEnd)] {
+        TellLater(onEnd);
+        Next();
+    };
     messages_.push_back(message);
     Next();
     return message;
@@ -50,10 +60,10 @@ void SpeechQueue::Next() {
 }
 
 QueuedVoice::QueuedVoice(std::shared_ptr<SpeechQueue> queue, MakeEngine make,
-                         std::function<QStringList(VoiceCore&)> descriptions)
+                         std::shared_ptr<VoiceDirectory> directory)
     : queue_(std::move(queue)),
       core_(std::make_shared<VoiceCore>()),
-      descriptions_(descriptions ? std::move(descriptions) : EngineVoices) {
+      directory_(std::move(directory)) {
     core_->Make = std::move(make);
 }
 
@@ -61,8 +71,9 @@ QueuedVoice::~QueuedVoice() {
     queue_->Purge(*core_);
 }
 
-QStringList QueuedVoice::Descriptions() const {
-    return descriptions_(*core_);
+void QueuedVoice::SetOnNews(const std::function<void()>& onNews) {
+    onNews_ = std::make_shared<const VoiceDirectory::Listener>(onNews);
+    directory_->Listen(onNews_);
 }
 
 void QueuedVoice::SetVoice(int index) {
@@ -95,11 +106,8 @@ bool QueuedVoice::Speak(const QString& text, int flags) {
     if (silent || !IsAudible(text)) {
         return true;
     }
-    const auto message = last_ = queue_->Add(core_, text);
-    if ((flags & SpeechFlag::Asynchronous) == 0) {
-        message->Wait();  // the clock may be closed meanwhile: no member is used below
-    }
-    return message->Reason().isEmpty();
+    last_ = queue_->Add(core_, text, onNews_);
+    return last_->Reason().isEmpty();
 }
 
 QString QueuedVoice::LastError() const {

@@ -4,6 +4,7 @@
 
 #include "platform/Machine.h"
 #include "platform/devices/Utterance.h"
+#include "platform/devices/VoiceDirectory.h"
 
 namespace platform {
 
@@ -12,7 +13,9 @@ class SpeechQueue {
 public:
     explicit SpeechQueue(const SpeechBounds& bounds = {}) : bounds_(bounds) {}
 
-    std::shared_ptr<Utterance> Add(std::shared_ptr<VoiceCore> voice, const QString& text);
+    /// @param onEnd is called, from the event loop, when the message has ended; null is let be
+    std::shared_ptr<Utterance> Add(std::shared_ptr<VoiceCore> voice, const QString& text,
+                                   std::weak_ptr<const VoiceDirectory::Listener> onEnd = {});
 
     /// Cuts off what a voice says and takes back what it has still to say.
     void Purge(const VoiceCore& voice);
@@ -26,30 +29,33 @@ private:
 
 /// The voice of one clock. It speaks in its turn, with an engine of its own.
 ///
-/// The flags of `Speak`: 1 returns at once, 2 first purges what this voice is saying. Without 1 the
-/// call returns when the speech is done, and the event loop runs meanwhile. The text "." purges and
-/// says nothing. It answers False when the text could not be spoken; `LastError` tells why. The
-/// next message tries again with a fresh engine. A voice may be destroyed while it speaks.
+/// `Speak` comes back at once; the flag 2 first purges what this voice is saying. The text "."
+/// purges and says nothing. `LastError` tells in the end why a text could not be spoken. The next
+/// message tries again with a fresh engine. A voice may be destroyed while it speaks.
 class QueuedVoice final : public Voice {
 public:
     QueuedVoice(std::shared_ptr<SpeechQueue> queue, MakeEngine make,
-                std::function<QStringList(VoiceCore&)> descriptions = {});
+                std::shared_ptr<VoiceDirectory> directory = std::make_shared<VoiceDirectory>());
     ~QueuedVoice() override;
     Q_DISABLE_COPY_MOVE(QueuedVoice)
 
-    QStringList Descriptions() const override;
+    QStringList Descriptions() const override { return directory_->Descriptions(); }
+    bool IsAsking() const override { return directory_->IsAsking(); }
     void SetVoice(int index) override;
     void SetRate(int rate) override;
     void SetVolume(int volume) override;
     bool Speak(const QString& text, int flags) override;
+    bool IsSpeaking() const override { return last_ && !last_->HasEnded(); }
     QString LastError() const override;
+    void SetOnNews(const std::function<void()>& onNews) override;
 
 private:
     void Apply();
 
     std::shared_ptr<SpeechQueue> queue_;
     std::shared_ptr<VoiceCore> core_;
-    std::function<QStringList(VoiceCore&)> descriptions_;
+    std::shared_ptr<VoiceDirectory> directory_;
+    std::shared_ptr<const VoiceDirectory::Listener> onNews_;
     std::shared_ptr<Utterance> last_;  ///< the last message, whose reason is `LastError`
 };
 

@@ -20,8 +20,7 @@ public:
     enum class State { Ready, Speaking, Error };
 
     virtual ~SpeechEngine() = default;
-    /// Waits until the engine has told its voices, for some seconds at most.
-    virtual QStringList Voices() = 0;
+    virtual QStringList Voices() const = 0;  ///< none until the engine has told them
     virtual void Apply(const VoiceSettings& settings) = 0;
     virtual void Say(const QString& text) = 0;  ///< returns at once
     virtual void Stop() = 0;
@@ -32,6 +31,10 @@ public:
     /// Called from the event loop with each new state, in their order. The engine may be destroyed
     /// inside the call.
     std::function<void(State)> OnState;
+
+    /// Called once from the event loop, when the engine has told its voices or has ended before
+    /// that. The engine may be destroyed inside the call.
+    std::function<void(const QStringList& voices)> OnVoices;
 };
 
 /// Makes an engine; null where there is none.

@@ -106,22 +106,9 @@ void Utterance::End(const QString& reason) {
             voice_->Engine.reset();
         }
     }
-    if (loop_) {
-        loop_->quit();
-    }
     if (const auto onEnd = OnEnd) {
         onEnd();
     }
-}
-
-void Utterance::Wait() {
-    if (ended_) {
-        return;
-    }
-    QEventLoop loop;
-    loop_ = &loop;
-    loop.exec();
-    End(u"The program is closing"_s);  // only a quitting program leaves the loop before the end
 }
 
 }  // namespace platform

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QEventLoop>
-#include <QPointer>
 #include <QTimer>
 
 #include "platform/devices/SpeechEngine.h"
@@ -21,7 +19,7 @@ struct VoiceCore {
 };
 
 /// One message on its way: it waits for its turn, is handed over piece by piece, and ends by itself
-/// in any case, since each step has a bound. It lives on events; `Wait` is for who wants to stay.
+/// in any case, since each step has a bound. It lives on events.
 class Utterance : public std::enable_shared_from_this<Utterance> {
 public:
     /// @param ahead what the messages before this one may take, in milliseconds
@@ -35,9 +33,6 @@ public:
     /// Ends it; @p reason tells why it failed, and is empty when it did not. An engine that is
     /// under way is stopped and not used again, so that nothing of it gets into the next message.
     void End(const QString& reason);
-
-    /// Runs an event loop until it has ended. When the program quits meanwhile it ends at once.
-    void Wait();
 
     /// The time it may still take once it is its turn, in milliseconds.
     int Bound() const;
@@ -58,7 +53,6 @@ private:
     SpeechBounds bounds_;
     QTimer bound_;  ///< of the present step
     QTimer whole_;  ///< of all pieces
-    QPointer<QEventLoop> loop_;
     QString reason_;
     bool begun_ = false;
     bool speaking_ = false;

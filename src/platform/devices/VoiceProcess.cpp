@@ -1,6 +1,5 @@
 #include "platform/devices/VoiceProcess.h"
 
-#include <QDeadlineTimer>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -8,9 +7,6 @@ using namespace Qt::StringLiterals;
 namespace platform {
 
 namespace {
-
-/// Speech Dispatcher has thousands of voices and takes seconds to count them.
-constexpr int IntroductionMilliseconds = 10'000;
 
 QString Decoded(const QByteArray& word) {
     return QString::fromUtf8(QByteArray::fromBase64(word));
@@ -23,72 +19,52 @@ QByteArray Encoded(const QString& text) {
 }  // namespace
 
 VoiceProcess::VoiceProcess(const QString& program, const QString& engine) {
-    process_.setStandardErrorFile(QProcess::nullDevice());
+    QProcess* process = process_.get();
     // Queued, so that whoever hears of it may destroy the engine.
     QObject::connect(
-        &process_, &QProcess::readyRead, &process_, [this] { Read(); }, Qt::QueuedConnection);
+        process, &QProcess::readyRead, process, [this] { Read(); }, Qt::QueuedConnection);
     QObject::connect(
-        &process_, &QProcess::finished, &process_,
-        [this] { Die(u"The speech engine has ended"_s); }, Qt::QueuedConnection);
+        process, &QProcess::finished, process, [this] { Die(u"The speech engine has ended"_s); },
+        Qt::QueuedConnection);
     QObject::connect(
-        &process_, &QProcess::errorOccurred, &process_,
+        process, &QProcess::errorOccurred, process,
         [this](QProcess::ProcessError error) {
             if (error == QProcess::FailedToStart) {
-                Die(u"The speech engine can't be started. "_s + process_.errorString());
+                Die(u"The speech engine can't be started. "_s + process_->errorString());
             }
         },
         Qt::QueuedConnection);
-    process_.start(program, engine.isEmpty() ? QStringList() : QStringList(engine));
+    process->start(program, engine.isEmpty() ? QStringList() : QStringList(engine));
 }
 
 VoiceProcess::~VoiceProcess() {
     OnState = nullptr;
-    process_.disconnect();
-    process_.kill();
-    process_.waitForFinished(1000);
-}
-
-QStringList VoiceProcess::Voices() {
-    const QDeadlineTimer deadline(IntroductionMilliseconds);
-    const QPointer<QProcess> alive = &process_;
-    // What the event loop has taken in already would be waited for in vain.
-    do {
-        Read();
-        if (!alive) {
-            return {};
-        }
-    } while (!introduced_ && trouble_.isEmpty() &&
-             process_.waitForReadyRead(static_cast<int>(deadline.remainingTime())));
-    if (!introduced_ && trouble_.isEmpty() && process_.error() != QProcess::FailedToStart) {
-        trouble_ = u"The speech engine does not answer"_s;
-        process_.kill();
-    }
-    return voices_;
+    LetGo(std::move(process_));
 }
 
 void VoiceProcess::Apply(const VoiceSettings& settings) {
-    process_.write("set " + QByteArray::number(settings.Voice) + ' ' +
-                   QByteArray::number(settings.Rate) + ' ' + QByteArray::number(settings.Volume) +
-                   '\n');
+    process_->write("set " + QByteArray::number(settings.Voice) + ' ' +
+                    QByteArray::number(settings.Rate) + ' ' + QByteArray::number(settings.Volume) +
+                    '\n');
 }
 
 void VoiceProcess::Say(const QString& text) {
-    process_.write("say " + Encoded(text) + '\n');
+    process_->write("say " + Encoded(text) + '\n');
 }
 
 void VoiceProcess::Read() {
-    const QPointer<QProcess> alive = &process_;
-    while (alive && process_.canReadLine()) {
-        Hear(process_.readLine().trimmed().split(' '));  // it may end this object's life
+    const QPointer<QProcess> alive = process_.get();
+    while (alive && alive->canReadLine()) {
+        Hear(alive->readLine().trimmed().split(' '));  // it may end this object's life
     }
 }
 
 void VoiceProcess::Hear(const QByteArrayList& words) {
     if (words[0] == "voices") {
-        introduced_ = true;
         for (const QByteArray& word : words.mid(1)) {
             voices_ += Decoded(word);
         }
+        TellVoices();
     } else if (words[0] == "speaking") {
         Tell(State::Speaking);
     } else if (words[0] == "ready") {
@@ -102,7 +78,17 @@ void VoiceProcess::Hear(const QByteArrayList& words) {
 
 void VoiceProcess::Die(const QString& reason) {
     trouble_ = trouble_.isEmpty() ? reason : trouble_;
-    Tell(State::Error);
+    const QPointer<QProcess> alive = process_.get();
+    TellVoices();
+    if (alive) {
+        Tell(State::Error);
+    }
+}
+
+void VoiceProcess::TellVoices() {
+    if (const auto onVoices = std::exchange(OnVoices, nullptr)) {
+        onVoices(voices_);  // it may end this object's life
+    }
 }
 
 void VoiceProcess::Tell(State state) {

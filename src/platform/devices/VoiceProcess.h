@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QProcess>
-
+#include "platform/devices/ChildProcess.h"
 #include "platform/devices/SpeechEngine.h"
 
 namespace platform {
@@ -17,22 +16,22 @@ public:
     ~VoiceProcess() override;
     Q_DISABLE_COPY_MOVE(VoiceProcess)
 
-    QStringList Voices() override;
+    QStringList Voices() const override { return voices_; }
     void Apply(const VoiceSettings& settings) override;
     void Say(const QString& text) override;
-    void Stop() override { process_.kill(); }
+    void Stop() override { process_->kill(); }
     QString Trouble() const override { return trouble_; }
 
 private:
     void Read();
     void Hear(const QByteArrayList& words);
     void Die(const QString& reason);
+    void TellVoices();
     void Tell(State state);
 
-    QProcess process_;
+    std::unique_ptr<ChildProcess> process_ = std::make_unique<ChildProcess>();
     QStringList voices_;
     QString trouble_;
-    bool introduced_ = false;
 };
 
 }  // namespace platform

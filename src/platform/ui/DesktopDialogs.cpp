@@ -2,7 +2,6 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
-#include <QMessageBox>
 
 namespace platform {
 
@@ -51,6 +50,34 @@ int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& ti
         return OkPressed;
     }
     return pressed == QMessageBox::Yes ? YesPressed : NoPressed;
+}
+
+void DesktopDialogs::PostMessageBox(const QString& text, int flags, const QString& title) {
+    const Post post{text, flags, title};
+    if (owner_ == nullptr || posts_.contains(post)) {
+        return;
+    }
+    posts_ += post;
+    QMetaObject::invokeMethod(
+        owner_, [this] { ShowNextPost(); }, Qt::QueuedConnection);
+}
+
+// A window that closes has nobody left to tell.
+void DesktopDialogs::ShowNextPost() {
+    if (standing_ != nullptr || posts_.isEmpty() || !owner_->isVisible()) {
+        return;
+    }
+    const Post& post = posts_.first();
+    standing_ = new QMessageBox(IconOf(post.Flags), post.Title, post.Text, QMessageBox::Ok, owner_);
+    standing_->setTextFormat(Qt::PlainText);
+    standing_->setAttribute(Qt::WA_DeleteOnClose);
+    standing_->setModal(false);
+    QObject::connect(standing_, &QDialog::finished, owner_, [this] {
+        standing_ = nullptr;
+        posts_.removeFirst();
+        ShowNextPost();
+    });
+    standing_->show();
 }
 
 QString DesktopDialogs::OpenFile(const QString& title, const QString& folder,

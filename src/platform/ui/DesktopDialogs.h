@@ -1,7 +1,8 @@
 #pragma once
 
+#include <QList>
+#include <QMessageBox>
 #include <QPointer>
-#include <QWidget>
 
 #include "platform/Machine.h"
 
@@ -14,12 +15,24 @@ public:
     void SetOwner(QWidget* owner) { owner_ = owner; }
 
     int MessageBox(const QString& text, int flags, const QString& title) override;
+    /// The windows stay usable beside the box; it goes with its owner.
+    void PostMessageBox(const QString& text, int flags, const QString& title) override;
     QString OpenFile(const QString& title, const QString& folder, const QString& filter) override;
     QString SaveFile(const QString& title, const QString& folder, const QString& filter) override;
     int PickColour(int present) override;
 
 private:
+    struct Post {
+        QString Text;
+        int Flags = 0;
+        QString Title;
+        bool operator==(const Post&) const = default;
+    };
+    void ShowNextPost();
+
     QPointer<QWidget> owner_;
+    QList<Post> posts_;  ///< the first one stands while `standing_` does
+    QPointer<QMessageBox> standing_;
 };
 
 }  // namespace platform

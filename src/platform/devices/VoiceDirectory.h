@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace platform {
+
+/// Which voices the machine has, as far as it has told by now. All of its voices share one; this
+/// one has none to tell.
+class VoiceDirectory {
+public:
+    using Listener = std::function<void()>;
+
+    VoiceDirectory() = default;
+    virtual ~VoiceDirectory() = default;
+    Q_DISABLE_COPY_MOVE(VoiceDirectory)
+
+    virtual QStringList Descriptions() { return {}; }
+    virtual bool IsAsking() const { return false; }
+
+    /// Calls @p listener, for as long as it lives, whenever the machine has told something.
+    void Listen(std::weak_ptr<const Listener> listener) {
+        listeners_.push_back(std::move(listener));
+    }
+
+protected:
+    void TellNews() {
+        std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
+        const auto told = listeners_;  // a listener may bring others
+        for (const auto& each : told) {
+            if (const auto listener = each.lock()) {
+                (*listener)();
+            }
+        }
+    }
+
+private:
+    std::vector<std::weak_ptr<const Listener>> listeners_;
+};
+
+}  // namespace platform
