@@ -36,6 +36,26 @@ KeepsSeam() {
     Refuse "$seam" "${files[@]}"
 }
 
+# A tick waits for nothing. These files wait, and no tick reaches them: programs' own event loops,
+# windows that the user opens, the start, the companion, what runs in a thread of its own, and the
+# end of processes that have been killed.
+waits='\bexec\(|\bQEventLoop\b|\bprocessEvents\b|\bwaitFor[A-Z][A-Za-z]*\(|\bQDBus::Block'
+mayWait='main\.cpp|ctl/[A-Za-z]+\.cpp|platform/(voice|player)/main\.cpp'
+mayWait+='|platform/devices/(ChildProcess|OpenPath|LogindActions)\.cpp'
+mayWait+='|platform/ui/DesktopDialogs\.cpp|foundation/SetupPaths\.cpp'
+mayWait+='|shell/ui/(AboutBox|CustomizeToolbar)\.cpp'
+NeverWaits() {
+    mapfile -t files < <(Sources src | grep -Ev "^src/($mayWait)$")
+    Refuse "$waits" "${files[@]}"
+}
+
+# What a tick finds out it posts: a box that asks would hold the tick up.
+asks='\bShowMsgbox\(|\bDialog\.(MessageBox|OpenFile|SaveFile|PickColour)\('
+AsksNobodyInATick() {
+    mapfile -t files < <(Sources src | grep -E '^src/(drawing|timers|speech|clock)/[^/]+$')
+    Refuse "$asks" "${files[@]}"
+}
+
 # A test waits for a condition; where it must wait for a time, its line tells why.
 ExplainsWaits() {
     mapfile -t files < <(Sources tests bench fuzz)
@@ -92,6 +112,8 @@ KeepsTestsOn() {
 }
 
 Check "the machine is reached through its seam" KeepsSeam
+Check "nothing waits in a tick" NeverWaits
+Check "a tick asks nobody" AsksNobodyInATick
 Check "waits in tests tell their reason" ExplainsWaits
 Check "the core is free of widgets" KeepsCoreFreeOfWidgets
 Check "imports run one way" KeepsLayers

@@ -59,6 +59,30 @@ Check "refuses an empty reason" Refused "$waits" tests/tst_bad.cpp 'QTest::qWait
 Check "lets a wait with a reason be" \
     Accepted tests/tst_good.cpp 'QTest::qWait(50);  // nothing may happen in this time'
 
+tick="nothing waits in a tick"
+for call in 'box.exec();' 'QEventLoop loop;' 'QCoreApplication::processEvents();' \
+    'process.waitForFinished(1000);' 'process->waitForReadyRead();' 'bus.call(m, QDBus::Block, 9);'; do
+    Check "refuses $call" Refused "$tick" src/clock/ui/Bad.cpp "$call"
+    Check "refuses it in the platform: $call" Refused "$tick" src/platform/Bad.h "$call"
+done
+Check "refuses it in a file of a like name" \
+    Refused "$tick" src/clock/ui/DesktopDialogs.cpp 'box.exec();'
+Check "lets the program run" Accepted src/main.cpp 'QApplication::exec();'
+Check "lets a window of the user's wait" Accepted src/shell/ui/AboutBox.cpp 'box.exec();'
+Check "lets what runs in its own thread wait" \
+    Accepted src/platform/devices/OpenPath.cpp 'process.waitForFinished(1000);'
+Check "lets like words be" Accepted src/clock/Good.cpp 'executor.exec_(); waitFor(1);'
+
+asks="a tick asks nobody"
+for call in 'host.ShowMsgbox(a, 1, b);' 'services.Dialog.MessageBox(a, 1, b);' \
+    'services.Dialog.OpenFile(a, b, c);' 'services.Dialog.PickColour(1);'; do
+    Check "refuses $call" Refused "$asks" src/timers/Bad.cpp "$call"
+done
+Check "refuses a question in a clock" \
+    Refused "$asks" src/clock/Bad.cpp 'services.Dialog.SaveFile(a, b, c);'
+Check "lets a window ask" Accepted src/clock/ui/Good.cpp 'services.Dialog.OpenFile(a, b, c);'
+Check "lets a tick post" Accepted src/timers/Good.cpp 'services.Dialog.PostMessageBox(a, 1, b);'
+
 core="the core is free of widgets"
 Check "refuses a widget" Refused "$core" src/foundation/Bad.cpp '#include <QApplication>'
 Check "refuses it by its full name" \
