@@ -14,7 +14,7 @@ Say "Unit and widget tests"
 Count "unit and widget tests" tools/run_tests.sh debug
 
 Say "End-to-end tests"
-for script in run styles timers shell; do
+for script in run styles timers ticks shell; do
     Count "end-to-end tests, $script" tools/with_display.sh "tests/e2e/$script.sh" build/debug/bin
 done
 

@@ -91,6 +91,16 @@ StopProgram() {
     [[ -s "$scratch/pid" ]] && kill -9 "$(<"$scratch/pid")" 2>/dev/null || true
 }
 
+# Timer ZONE SETTINGS TEXT: a line for the present minute of a zone, as a dial of twelve hours has it.
+Timer() {
+    local hour minute
+    read -r hour minute < <(TZ=$1 date '+%-H %-M')
+    echo "$2#$((hour % 12 + 12)):$minute@$3"
+}
+
+# A minute that ends while the program starts would take its timers with it.
+WaitForAMinute() { while (($(date +%-S) > 45)); do sleep 0.5; done; }
+
 CloseWithMouse() {
     local frame x y w
     read -r x y w _ < <(Box "$(ShellWindow)")

@@ -20,13 +20,6 @@ action="India Standard Time"    # the clock on the right, whose action counts do
 script=$scratch/tools/note.sh
 places=(20 340)                 # the left edges of the two
 
-# Timer ZONE SETTINGS TEXT: a line for the present minute of a zone, as a dial of twelve hours has it.
-Timer() {
-    local hour minute
-    read -r hour minute < <(TZ=$1 date '+%-H %-M')
-    echo "$2#$((hour % 12 + 12)):$minute@$3"
-}
-
 # Clock NAME NUMBER: its file. It stands at that place, is silent, and opens from its middle.
 Clock() {
     sed "s/Window Left=-1/Window Left=$((${places[$2]} * 15))/; s/Window Top=-1/Window Top=300/
@@ -35,9 +28,6 @@ Clock() {
         s|Message Action Colour=|&$script:Blue,|" "$folder/ini/Tempolark.ini" \
         >"$user/TimeZones/$1.ini"
 }
-
-# A minute that ends while the program starts would take its timers with it.
-WaitForAMinute() { while (($(date +%-S) > 45)); do sleep 0.5; done; }
 
 Prepare() {
     mkdir -p "$user/TimeZones" "$user/Timers" "$(dirname "$script")"
