@@ -55,8 +55,9 @@ void frmTempolark::SetWindowBackColour(const QString& value, const QString& capt
 }
 
 void frmTempolark::PickWindowBackColour() {
+    const QPointer<frmTempolark> self = this;  // the clock may be closed beside its picker
     const int colour = program_.Services.Dialog.PickColour(backColour_);
-    if (colour >= 0) {
+    if (self && !IsClosing() && colour >= 0) {
         SetWindowBackColour(QString::number(colour), u"Custom"_s);
     }
 }
@@ -64,8 +65,12 @@ void frmTempolark::PickWindowBackColour() {
 void frmTempolark::SetClockStyle(const QString& styleFile) {
     QString name = styleFile;
     if (name.isEmpty() || name == u"More"_s) {
+        const QPointer<frmTempolark> self = this;
         name = program_.Services.Dialog.OpenFile(u"Clock Styles"_s,
                                                  program_.Module.Paths.StylesFolder, IniFilter);
+        if (!self || IsClosing()) {
+            return;
+        }
     }
     QString problem;
     const std::optional<ClockProperties> style =
@@ -152,9 +157,10 @@ void frmTempolark::TellSaved(const QString& what) {
 }
 
 void frmTempolark::SaveStyleAs() {
+    const QPointer<frmTempolark> self = this;
     const QString chosen = program_.Services.Dialog.SaveFile(
         u"Save Style As"_s, program_.Module.Paths.StylesFolder, IniFilter);
-    if (chosen.isEmpty()) {
+    if (!self || IsClosing() || chosen.isEmpty()) {
         return;
     }
     const QString path = clockcore::StyleFiles::SavePath(chosen);
