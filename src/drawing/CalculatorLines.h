@@ -40,6 +40,7 @@ public:
 
 private:
     mduUILib::Control& Line(bool zoneLine) const;
+    QString Value(bool zoneLine, const QString& what) const;
     QString Prefix(bool zoneLine) const;
     double WidestText(bool zoneLine, const QFont& font) const;
 

@@ -24,7 +24,6 @@ constexpr double SpeakerMargin = 4;
 constexpr double LeastSpeaker = 14, LargestSpeaker = 32;
 constexpr double SpeakerGrowth = 0.07;  // of the surface's height
 constexpr double HandleSide = 16;
-constexpr double ClearOfOthers = 3;
 
 float Whole(double value) {
     return static_cast<float>(mduAPILib::RoundToInteger(value));
@@ -60,49 +59,6 @@ void ClockOverlays::ReadProperties() {
     windowShape_ = IsShape(shape) ? shape : QString();
     measured_.reset();
     seen_ = {};
-}
-
-const SeenArea& ClockOverlays::Seen() {
-    if (!sunMoonSize_) {
-        ReadProperties();
-    }
-    if (!windowShape_.isEmpty()) {
-        const WindowMeasures window = MeasuresOf(face_.Window);
-        if (measured_ != window) {
-            measured_ = window;
-            seen_ = SeenThrough(windowShape_, window);
-        }
-    }
-    return seen_;
-}
-
-/// What is shown of the read-out and of the overlays that are placed before this one.
-std::vector<QRectF> ClockOverlays::Taken(const Control& before) const {
-    const mduUILib::ClockControls& controls = face_.Controls;
-    std::vector<QRectF> taken;
-    for (const mduUILib::ControlArray* array :
-         {&controls.lblDigitalNumber, &controls.lblTimeInput, &controls.lblTimeOutput,
-          &controls.imgFlag, &controls.shpArea, &controls.imgSpeaker}) {
-        for (const Control& control : array->Members) {
-            if (&control == &before) {
-                return taken;
-            }
-            if (control.Visible) {
-                taken.push_back(control.Rect());
-            }
-        }
-    }
-    return taken;
-}
-
-void ClockOverlays::KeepInside(Control& control) {
-    const SeenArea& seen = Seen();
-    if (!seen.IsWhole()) {
-        const double gap = ClearOfOthers * face_.Window.Surface().DevicePixelRatio();
-        const QPointF way = seen.WayInward(control.Rect(), Taken(control), gap);
-        control.Left += static_cast<float>(way.x());
-        control.Top += static_cast<float>(way.y());
-    }
 }
 
 double ClockOverlays::Pixels(const QString& key) const {
