@@ -46,6 +46,7 @@ LocalOneProgram::LocalOneProgram(const QString& folder, const QString& socketFol
       socketName_(SocketName(folder, socketFolder)),
       patience_(patience),
       lock_(LockPath(folder)) {
+    // With such an option the server moves its socket over what a crashed program has left.
     server_.setSocketOptions(QLocalServer::UserAccessOption);
 }
 
@@ -104,8 +105,6 @@ QString LocalOneProgram::Listen(std::function<void(const QString&)> onCommandLin
             QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         }
     });
-    QLocalServer::removeServer(
-        socketName_);  // of a program that has crashed: this one has the lock
     return server_.listen(socketName_)
                ? QString()
                : u"Later starts can't be heard: %1"_s.arg(server_.errorString());
