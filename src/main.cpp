@@ -140,8 +140,11 @@ private:
     QString appFolder_;
 };
 
+/// Tells a problem on the error output, if there is one.
 void Complain(const QString& problem) {
-    std::fprintf(stderr, "%s\n", qPrintable(problem));
+    if (!problem.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(problem));
+    }
 }
 
 /// Readies the program folder and claims it for this program, before anything is written there.
@@ -216,14 +219,11 @@ int main(int argc, char** argv) {
     if (!shell.Load()) {
         return 1;
     }
-    if (const QString notice = shell.StartNotice(); !notice.isEmpty()) {
-        Complain(notice);
-    }
-    const QString unheard =
-        program->Listen([&shell](const QString& commandLine) { shell.TakeOver(commandLine); });
-    if (!unheard.isEmpty()) {
-        Complain(unheard);
-    }
+    Complain(shell.NoticeOf(options.CommandLine));
+    Complain(program->Listen([&shell](const QString& commandLine) {
+        shell.TakeOver(commandLine);
+        Complain(shell.NoticeOf(commandLine));
+    }));
     FirstPaint firstPaint;
     if (options.QuitWhenPainted) {
         application.installEventFilter(&firstPaint);

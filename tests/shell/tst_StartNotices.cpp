@@ -38,7 +38,7 @@ private Q_SLOTS:
         desk.Module.CommandLine = u" tokyo "_s;
         QVERIFY(desk.Start());
         QCOMPARE(desk.Status(), Mistyped + u" << Launched Tempolark for tokyo successfully."_s);
-        QCOMPARE(desk.Shell->StartNotice(), Mistyped);
+        QCOMPARE(desk.Shell->NoticeOf(desk.Module.CommandLine), Mistyped);
         desk.Stop();
         // Its file has been filled in meanwhile.
         QVERIFY(desk.User(u"TimeZones/tokyo.ini"_s).contains("GMT (Minutes)=0\r\n"));
@@ -59,7 +59,7 @@ private Q_SLOTS:
         Desk desk;
         desk.Module.CommandLine = commandLine;
         QVERIFY(desk.Start());
-        QCOMPARE(desk.Shell->StartNotice(), QString());
+        QCOMPARE(desk.Shell->NoticeOf(desk.Module.CommandLine), QString());
         QVERIFY(!desk.Status().contains(u"No time zone"_s));
     }
 

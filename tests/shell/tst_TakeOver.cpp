@@ -33,6 +33,17 @@ private Q_SLOTS:
         QVERIFY(!desk.HeaderShows());
     }
 
+    void TellsOfAMistypedZone() {
+        RunningDesk desk;
+        QVERIFY(desk.Run());
+        desk.Program.LaterStart(u"tokyo"_s);
+        desk.Settle();
+        QCOMPARE(desk.Clocks(), QStringList{u"tokyo"_s});
+        QVERIFY(desk.Status().startsWith(
+            u"No time zone is called \"tokyo\": it counts as GMT. The nearest is \"Tokyo Standard "
+            "Time\""_s));
+    }
+
     void OpensNothingWithoutAName() {
         RunningDesk desk;
         QVERIFY(desk.Run());

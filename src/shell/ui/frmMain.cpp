@@ -136,24 +136,25 @@ bool frmMain::Load() {
 
 // A zone that the command line names is what the user wants to see, too.
 bool frmMain::LaunchNamedClock() {
-    const QString name = program_.Module.CommandLine.trimmed();
-    const bool launched = NamesAClock() &&
+    const QString& commandLine = program_.Module.CommandLine;
+    const QString name = commandLine.trimmed();
+    const bool launched = NamesAClock(commandLine) &&
                           mduLib::GetPropertyRaw(name, program_.Module.AutoStartList) != name &&
                           LaunchTempolark(name) != 0;
-    ShowStatusMsg(StartNotice());
+    ShowStatusMsg(NoticeOf(commandLine));
     return launched;
 }
 
-QString frmMain::StartNotice() const {
-    const QString name = program_.Module.CommandLine.trimmed();
-    return NamesAClock()
-               ? mduTimeZones::UnknownClockNotice(program_.Services, program_.Module.Paths, name)
+QString frmMain::NoticeOf(const QString& commandLine) const {
+    return NamesAClock(commandLine)
+               ? mduTimeZones::UnknownClockNotice(program_.Services, program_.Module.Paths,
+                                                  commandLine.trimmed())
                : QString();
 }
 
-bool frmMain::NamesAClock() const {
-    const QString name = program_.Module.CommandLine.trimmed();
-    return !name.isEmpty() && !IsScreenSaverRun() && mduLib::ZoneNameProblem(name).isEmpty();
+bool frmMain::NamesAClock(const QString& commandLine) {
+    const QString name = commandLine.trimmed();
+    return !name.isEmpty() && commandLine != u"/s"_s && mduLib::ZoneNameProblem(name).isEmpty();
 }
 
 bool frmMain::ConfigSetup() {

@@ -41,8 +41,8 @@ public:
 
     void SaveAutoStartList();
 
-    /// What is to be told about the zone that the command line names; empty when nothing is.
-    QString StartNotice() const;
+    /// What is to be told about the zone that a command line names; empty when nothing is.
+    QString NoticeOf(const QString& commandLine) const;
 
     QString AppEXEName() const;
     QString DefaultIniFile() const { return program_.Module.Paths.CentralDefaultFile(); }
@@ -91,7 +91,7 @@ private:
     void MakeInnerParts();
     void MakeHeader();
     bool LaunchNamedClock();
-    bool NamesAClock() const;
+    static bool NamesAClock(const QString& commandLine);
     void TellUnreadableLists();
     void TellBrokenSettings();
     void ExitShell();

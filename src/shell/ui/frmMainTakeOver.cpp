@@ -20,5 +20,6 @@ void frmMain::TakeOver(const QString& commandLine) {
         ShowStatusMsg(problem);
     } else if (!name.isEmpty()) {
         LaunchTempolark(name);
+        ShowStatusMsg(NoticeOf(commandLine));
     }
 }
