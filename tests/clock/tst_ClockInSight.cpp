@@ -48,7 +48,8 @@ private Q_SLOTS:
 
     void RestsOutOfSight_data() {
         QTest::addColumn<QString>("how");
-        for (const char* how : {"clock hidden", "clock minimised", "area hidden", "covered"}) {
+        for (const char* how :
+             {"clock hidden", "clock minimised", "area hidden", "area minimised", "covered"}) {
             QTest::newRow(how) << QString::fromLatin1(how);
         }
     }
@@ -62,6 +63,8 @@ private Q_SLOTS:
             clock.Shown->SetWindowState(1);
         } else if (how == u"area hidden"_s) {
             clock.Area.hide();
+        } else if (how == u"area minimised"_s) {
+            clock.Area.showMinimized();
         } else {
             frmTempolark* other = clock.Running(u"India Standard Time"_s);
             other->SetWindowState(2);
