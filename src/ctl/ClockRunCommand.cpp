@@ -171,7 +171,8 @@ std::vector<Command> ClockRunCommands() {
              1,
              {u"--seconds="_s, u"--speed="_s},
              Run,
-             true}};
+             true,
+             FolderNeed::Starts}};
 }
 
 }  // namespace ctl

@@ -25,7 +25,7 @@ std::optional<int> Context::Integer(int index) const {
 
 std::vector<Command> WithoutAppFolder(std::vector<Command> commands) {
     for (Command& command : commands) {
-        command.UsesAppFolder = false;
+        command.Folder = FolderNeed::None;
     }
     return commands;
 }

@@ -34,6 +34,13 @@ struct Context {
     std::optional<int> Integer(int index) const;
 };
 
+/// What a command needs of the program folder.
+enum class FolderNeed {
+    None,   ///< nothing: it works with the named files alone
+    Reads,  ///< a folder that is named is taken as it stands, be it empty
+    Starts  ///< what the program does at its start: a folder that is new or empty is filled
+};
+
 /// One command. "zones show NAME [--file INI]" is {"zones", "show", "NAME [--file INI]", 1, 1,
 /// {"--file="}, ZonesShow}: an option that takes a value is listed with "=" behind it.
 struct Command {
@@ -45,7 +52,7 @@ struct Command {
     QStringList Options;
     int (*Run)(Context& context) = nullptr;  ///< gives an `ExitStatus` back
     bool DrawsPictures = false;  ///< runs with windows, on the platform without a screen
-    bool UsesAppFolder = true;   ///< else no program folder is looked for, or filled
+    FolderNeed Folder = FolderNeed::Reads;
 };
 
 /// The commands of a group that works with the named files alone.

@@ -55,7 +55,7 @@ int Setup(Context& context) {
 }  // namespace
 
 std::vector<Command> FilesCommands() {
-    return {{u"files"_s, u"setup"_s, u"[ZONE]"_s, 0, 1, {}, Setup}};
+    return {{u"files"_s, u"setup"_s, u"[ZONE]"_s, 0, 1, {}, Setup, false, FolderNeed::Starts}};
 }
 
 }  // namespace ctl

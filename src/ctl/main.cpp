@@ -30,13 +30,17 @@ QString AppFolderOf(const ctl::CommandLine& line, const platform::AppFolderPlace
     if (line.Global.AppFolder) {
         return QDir::cleanPath(QDir(*line.Global.AppFolder).absolutePath());
     }
-    return line.Chosen->UsesAppFolder ? platform::ChooseAppFolder(places) : places.ExecutableFolder;
+    return line.Chosen->Folder == ctl::FolderNeed::None ? places.ExecutableFolder
+                                                        : platform::ChooseAppFolder(places);
 }
 
-// A command that works with the named files alone makes no folder.
+// The user's own folder is filled for whoever looks into it, a named one only where the program's
+// start needs what is in it.
 QString FolderProblem(const ctl::CommandLine& line, const QString& folder,
                       const platform::AppFolderPlaces& places) {
-    if (!line.Chosen->UsesAppFolder) {
+    const ctl::FolderNeed least =
+        line.Global.AppFolder ? ctl::FolderNeed::Starts : ctl::FolderNeed::Reads;
+    if (line.Chosen->Folder < least) {
         return {};
     }
     const QString problem = platform::PrepareAppFolder(folder);

@@ -169,10 +169,13 @@ void tst_FilesCommands::leavesOtherFoldersAsTheyAre() {
 }
 
 void tst_FilesCommands::makesNoFolderThatItDoesNotUse() {
-    const CompanionAnswer answer =
-        companion_->Run({u"--app-folder"_s, u"new"_s, u"values"_s, u"yes-no"_s, u"Yes"_s});
-    QCOMPARE(answer.Status, 0);
-    QVERIFY(!QFileInfo::exists(companion_->Folder.filePath(u"new"_s)));
+    for (const QStringList& command :
+         {QStringList{u"values"_s, u"yes-no"_s, u"Yes"_s}, QStringList{u"zones"_s, u"local"_s}}) {
+        const CompanionAnswer answer =
+            companion_->Run(QStringList{u"--app-folder"_s, u"new"_s} + command);
+        QCOMPARE(answer.Status, 0);
+        QVERIFY(!QFileInfo::exists(companion_->Folder.filePath(u"new"_s)));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_FilesCommands)

@@ -39,14 +39,14 @@ OpenZone() {
 
 HasKeys() { [[ -n "$(Value "$zones/$1.ini" "Time Zone Standard Name")" ]]; }
 
-# The middle of the shell's inner area lies in the clock that was launched last.
+# The middle of the shell's inner area lies in the clock that was launched first.
 ClockShows() {
     local x y w h
     read -r x y w h < <(Box "$(ShellWindow)")
     [[ "$(Pixel $((x + w / 2 - 60)) $((y + h / 2 + 40)))" != "$(Pixel $((x + 10)) $((y + h / 2)))" ]]
 }
 
-MoveTopClock() {
+MoveMiddleClock() {
     local x y w h title
     read -r x y w h < <(Box "$(ShellWindow)")
     # The clock is a quarter of the shell and stands in the middle of the area above the status bar.
@@ -58,10 +58,12 @@ MoveTopClock() {
     xdotool mouseup 1
 }
 
+# The other two stand to the right and to the left of where it stood.
 Moved() {
-    local moved=$zones/${names[2]}.ini still=$zones/${names[0]}.ini
-    (($(Value "$still" "Window Left") - $(Value "$moved" "Window Left") == 200 * 15)) &&
-        (($(Value "$still" "Window Top") - $(Value "$moved" "Window Top") == 100 * 15))
+    local moved=$zones/${names[0]}.ini right=$zones/${names[1]}.ini left=$zones/${names[2]}.ini
+    local stood=$((($(Value "$right" "Window Left") + $(Value "$left" "Window Left")) / 2))
+    ((stood - $(Value "$moved" "Window Left") == 200 * 15)) &&
+        (($(Value "$right" "Window Top") - $(Value "$moved" "Window Top") == 100 * 15))
 }
 
 OpenedListIs() { [[ "$(tr -d '\r' <"$folder/$user/OpenedForms.txt" | tr '\n' '|')" == "$1" ]]; }
@@ -80,13 +82,13 @@ OpenLastAll() {
 MovedClockShows() {
     local x y left top
     read -r x y _ < <(Box "$(ShellWindow)")
-    left=$(($(Value "$zones/${names[2]}.ini" "Window Left") / 15))
-    top=$(($(Value "$zones/${names[2]}.ini" "Window Top") / 15))
+    left=$(($(Value "$zones/${names[0]}.ini" "Window Left") / 15))
+    top=$(($(Value "$zones/${names[0]}.ini" "Window Top") / 15))
     [[ "$(Pixel $((x + left + 30)) $((y + AreaTop + top + 60)))" != "$(Pixel $((x + 3)) $((y + 200)))" ]]
 }
 
 StartOneByItself() {
-    # India, which was opened last, is the third of the clocks and stands in the middle of the shell.
+    # India, which was opened last, is the third of the clocks.
     PopUp 8 || return 1
     Keys Down Down Down Return
     WaitFor 5 HasPopups 0
@@ -99,7 +101,7 @@ for i in 1 2 3; do
     Check "its zone keys are filled in" WaitFor 5 HasKeys "${names[$((i - 1))]}"
 done
 Check "a clock shows in the middle" WaitFor 5 ClockShows
-Check "a clock is moved" MoveTopClock
+Check "a clock is moved" MoveMiddleClock
 Check "the mouse closes the program" CloseWithMouse
 Check "the moved clock's place is in its file" Moved
 Check "the opened clocks are listed, the last one first" \
@@ -117,7 +119,7 @@ Check "all places are the same" cmp "$scratch/places.before" "$scratch/places.af
 autoStart=$(tr -d '\r' <"$folder/$user/AutoStart.txt")
 Check "the auto-start list holds one clock" test "$(grep -c '=.' <<<"$autoStart")" -eq 1
 Check "the shell starts" Start
-Check "that clock has opened by itself" WaitFor 5 ClockShows
+Check "that clock has opened by itself" WaitFor 5 MovedClockShows
 Check "the mouse closes the program a third time" CloseWithMouse
 Check "nothing was complained about" test ! -s <(grep -v XDG_RUNTIME_DIR "$scratch/output")
 Finish
