@@ -41,7 +41,7 @@ KeepsSeam() {
 # end of processes that have been killed.
 waits='\bexec\(|\bQEventLoop\b|\bprocessEvents\b|\bwaitFor[A-Z][A-Za-z]*\(|\bQDBus::Block'
 mayWait='main\.cpp|ctl/[A-Za-z]+\.cpp|platform/(voice|player)/main\.cpp'
-mayWait+='|platform/devices/(ChildProcess|OpenPath|LogindActions)\.cpp'
+mayWait+='|platform/devices/(ChildProcess|OpenPath|LogindActions|LocalOneProgram)\.cpp'
 mayWait+='|platform/ui/DesktopDialogs\.cpp|foundation/SetupPaths\.cpp'
 mayWait+='|shell/ui/(AboutBox|CustomizeToolbar)\.cpp'
 NeverWaits() {
