@@ -151,18 +151,21 @@ bool ClockFiles::SavePosition(const QRectF& twips) {
     return written;
 }
 
-void ClockFiles::SaveKey(const QString& name) {
+bool ClockFiles::SaveKey(const QString& name) {
     platform::Files& files = program_.Services.FileSystem;
     const QString& path = data_.PropertyFileName;
     if (!mayWrite_ || !mduLib::MayRewrite(files, path)) {
-        return;
+        report_(path + u" can't be read as a property file; it is left as it is"_s);
+        return false;
     }
     ClockProperties stored;
     if (!mduLib::ReadPropertyFile(files, path, stored)) {
         stored = data_.Properties();  // the file has gone
     }
-    ReportUnless(mduLib::SavePropertyNow(
-        files, name, mduLib::GetPropertyRaw(name, data_.Properties()), stored, path));
+    const bool written = mduLib::SavePropertyNow(
+        files, name, mduLib::GetPropertyRaw(name, data_.Properties()), stored, path);
+    ReportUnless(written);
+    return written;
 }
 
 void ClockFiles::ReportUnless(bool written) const {

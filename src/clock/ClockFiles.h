@@ -56,8 +56,9 @@ public:
     bool SavePosition(const QRectF& twips);
 
     /// Brings the present value of a key, with its choices, into the file as it now stands on disk.
-    /// What else has been changed waits for its own save.
-    void SaveKey(const QString& name);
+    /// What else has been changed waits for its own save. @return false when that failed, which is
+    /// told.
+    bool SaveKey(const QString& name);
 
     /// Names this clock's file and properties as the current ones.
     void MakeCurrent();

@@ -40,10 +40,16 @@ bool Covers(const QPoint& corner, const Room& room) {
     });
 }
 
-/// Down and to the right until no other is covered; from the far edges on at the near ones.
-QRect Stepped(QRect place, const Room& room) {
+QRect WithinView(QRect place, const QRect& view) {
+    const QRect corners = Corners(place.size(), view);
+    place.moveTo(std::clamp(place.x(), corners.left(), corners.right()),
+                 std::clamp(place.y(), corners.top(), corners.bottom()));
+    return place;
+}
+
+/// Down and to the right until no other is covered; from the far corners on at the near ones.
+QRect SteppedOver(const QRect& corners, QRect place, const Room& room) {
     constexpr int mostSteps = 1000;
-    const QRect corners = Corners(place.size(), room.View);
     const QPoint first = place.topLeft() - corners.topLeft();
     for (int i = 0; i < mostSteps && Covers(place.topLeft(), room); ++i) {
         const QPoint next = first + (i + 1) * QPoint(room.Step, room.Step);
@@ -51,6 +57,14 @@ QRect Stepped(QRect place, const Room& room) {
                           QPoint(next.x() % corners.width(), next.y() % corners.height()));
     }
     return place;
+}
+
+/// Within the view if that is possible; a window as large as the view leaves it for a part.
+QRect Stepped(const QRect& place, const Room& room) {
+    const QRect inside = SteppedOver(Corners(place.size(), room.View), place, room);
+    return Covers(inside.topLeft(), room)
+               ? SteppedOver(Corners({Grip, Grip}, room.View), place, room)
+               : inside;
 }
 
 bool IsFree(const QRect& place, const Room& room) {
@@ -93,13 +107,11 @@ QRect InView(QRect place, const Room& room) {
     if (CanBeReached(place, room.View)) {
         return place;
     }
-    const QRect corners = Corners(place.size(), room.View);
-    place.moveTo(std::clamp(place.x(), corners.left(), corners.right()),
-                 std::clamp(place.y(), corners.top(), corners.bottom()));
-    return Stepped(place, room);
+    return Stepped(WithinView(place, room.View), room);
 }
 
-QRect FreePlace(const QRect& place, const Room& room) {
+QRect FreePlace(const QRect& wanted, const Room& room) {
+    const QRect place = WithinView(wanted, room.View);
     if (IsFree(place, room)) {
         return place;
     }

@@ -29,13 +29,13 @@ struct Room {
 /// Whether enough of a window can be seen to take hold of it.
 bool CanBeReached(const QRect& place, const QRect& view);
 
-/// The place, moved so that the window can be seen and taken hold of, and never exactly onto
-/// another window; as it stands where there is no need.
+/// The place, moved so that the window can be seen and taken hold of, and not onto another window
+/// as long as the view has room for one more title bar; as it stands where there is no need.
 QRect InView(QRect place, const Room& room);
 
-/// The place itself where no other window is in its way; else the next beside it that is free and
-/// in view; else down and to the right by as many title bars as it takes to hide no other's title
-/// bar.
-QRect FreePlace(const QRect& place, const Room& room);
+/// The place itself, moved into the view, where no other window is in its way; else the next beside
+/// it that is free and in view; else down and to the right by as many title bars as it takes to
+/// hide no other's title bar, beyond the view if need be.
+QRect FreePlace(const QRect& wanted, const Room& room);
 
 }  // namespace clockcore

@@ -106,8 +106,9 @@ QString UnknownZoneNotice(const platform::Services& services, const PathTable& p
 
 QString UnknownClockNotice(const platform::Services& services, const PathTable& paths,
                            const QString& name) {
-    return FileShowsAnotherTime(services, paths, name) ? QString()
-                                                       : UnknownZoneNotice(services, paths, name);
+    return FileShowsAnotherTime(services, paths, name)
+               ? QString()
+               : UnknownZoneNotice(services, paths, mduLib::StripIniExtension(name));
 }
 
 }  // namespace mduTimeZones

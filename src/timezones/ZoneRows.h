@@ -23,7 +23,7 @@ bool IsChosen(const QString& chosenZones, const QString& name);
 struct ZoneRow {
     QString Name;         ///< key and text: the zone's `StandardName`
     QString DisplayName;  ///< the second column
-    QString ToolTipText;  ///< the full path of the profile; empty for a zone of the database
+    QString ToolTipText;  ///< the full path of the row's file; empty for a zone of the database
     bool Checked = false;
     bool HasFile = false;  ///< as far as the list knows: files may vanish at any time
     TimeZoneRecord Record;

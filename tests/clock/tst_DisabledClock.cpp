@@ -88,7 +88,20 @@ private Q_SLOTS:
         QVERIFY(clock->IsEnabled());
         QVERIFY(clock->Controls().imgSpeaker(1).Enabled);
         QCOMPARE(desk.Base.Key(u"UTC"_s, u"Enable"_s), u"Yes"_s);
+        QCOMPARE(desk.Base.Shell.Messages.last(), u"Saved the settings of UTC at 12:00:00"_s);
         QVERIFY(Sight(clock) != dim);
+    }
+
+    void TellsOfAFileThatCantBeSaved() {
+        ClickedDesk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->EnableWindow(false);
+        desk.Base.Machine.WriteFile(u"tester/TimeZones/UTC.ini"_s, QByteArray("\0\1", 2));
+        RightClick(desk, *clock, {100, 60});
+        ClickedDesk::Choose({u"Enable Clock"_s});
+        QVERIFY(clock->IsEnabled());
+        QVERIFY(desk.Base.Shell.Messages.last().endsWith(
+            u"UTC.ini can't be read as a property file; it is left as it is"_s));
     }
 
     void RightClickOffersNothingElse_data() {

@@ -150,10 +150,29 @@ private Q_SLOTS:
         QCOMPARE(FreePlace({10, 10, 200, 150}, room), QRect(0, 0, 200, 150));
     }
 
-    void NoRoomAtAll() {
+    // Windows that are as large as the view leave it by a title bar each, but for a grip.
+    void WindowsAsLargeAsTheView() {
         Room room = RoomWith({{0, 0, 300, 300}});
         room.View = {0, 0, 100, 100};
-        QCOMPARE(FreePlace({0, 0, 300, 300}, room), QRect(0, 0, 300, 300));
+        QCOMPARE(FreePlace({0, 0, 300, 300}, room), QRect(20, 20, 300, 300));
+        room.Others.push_back({20, 20, 300, 300});
+        QCOMPARE(FreePlace({0, 0, 300, 300}, room), QRect(40, 40, 300, 300));
+        room.Others.push_back({40, 40, 300, 300});
+        QCOMPARE(FreePlace({0, 0, 300, 300}, room), QRect(60, 60, 300, 300));
+        QCOMPARE(InView({-5000, 0, 300, 300}, room), QRect(60, 60, 300, 300));
+    }
+
+    void ALargeWindowBeginsInView_data() {
+        QTest::addColumn<QRect>("wanted");
+        QTest::addColumn<QRect>("found");
+        QTest::newRow("beyond the right") << QRect(300, 225, 700, 200) << QRect(100, 225, 700, 200);
+        QTest::newRow("beyond the bottom")
+            << QRect(300, 225, 200, 500) << QRect(300, 100, 200, 500);
+        QTest::newRow("larger") << QRect(300, 225, 900, 700) << QRect(0, 0, 900, 700);
+    }
+    void ALargeWindowBeginsInView() {
+        QFETCH(QRect, wanted);
+        QTEST(FreePlace(wanted, RoomWith()), "found");
     }
 
     void FreePlacesOfAScrolledView() {

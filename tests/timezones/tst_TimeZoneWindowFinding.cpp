@@ -1,6 +1,7 @@
 #include <QHeaderView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QToolTip>
 
 #include "timezones/ZoneWindowDesk.h"
 #include "timezones/ui/frmTimeZones.h"
@@ -48,6 +49,8 @@ private Q_SLOTS:
     void UncheckedRowsAreOpenedAtOnce();
     void ARowWithoutAFileIsNotOpened();
     void LaunchesAllCheckedRowsWhenNoneIsCurrent();
+    void LaunchesAllCheckedRowsByKeyboard();
+    void ARowsTipIsItsDescription();
     void ACityIsOpenedFromItsProfile();
     void ShowsDetails();
     void SpeaksDetails();
@@ -404,6 +407,50 @@ void tst_TimeZoneWindowFinding::LaunchesAllCheckedRowsWhenNoneIsCurrent() {
     QVERIFY(desk.HasFile(Eastern));
     desk.Click(u"cmdButton0"_s);
     QCOMPARE(desk.Shell.Boxes, QStringList());
+}
+
+// The list gets the focus on the way to the button, but no row is chosen by that.
+void tst_TimeZoneWindowFinding::LaunchesAllCheckedRowsByKeyboard() {
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo);
+    desk.ZoneFile(Eastern);
+    desk.Open();
+    QTreeView& list = desk.View();
+    list.setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(list.hasFocus());
+    auto& launch = desk.Find<QPushButton>(u"cmdLaunch"_s);
+    QVERIFY(launch.isEnabled());
+    launch.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&launch, Qt::Key_Space);
+    QCOMPARE(desk.Shell.Launched, (QStringList{Tokyo, Eastern}));
+    // A search chooses its best match; without one all that are checked are meant again.
+    desk.Shell.Launched.clear();
+    QTest::keyClicks(&desk.Search(), u"jap"_s);
+    desk.Click(u"cmdLaunch"_s);
+    QCOMPARE(desk.Shell.Launched, QStringList{Tokyo});
+    desk.Search().clear();
+    desk.Shell.Launched.clear();
+    desk.Click(u"cmdLaunch"_s);
+    QCOMPARE(desk.Shell.Launched, (QStringList{Tokyo, Eastern}));
+}
+
+void tst_TimeZoneWindowFinding::ARowsTipIsItsDescription() {
+    ZoneWindowDesk desk;
+    desk.Profile(u"Bergen.ini"_s, "Bergen", -60, "Zone:Country=Norway\r\n");
+    desk.Open();
+    desk.Run(u"SourceBoth"_s);
+    QTreeView& list = desk.View();
+    const auto tipOf = [&](const QString& name) {
+        const QPoint at = list.visualRect(desk.Row(name)).center();
+        QHelpEvent help(QEvent::ToolTip, at, list.viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list.viewport(), &help);
+        return QToolTip::text();
+    };
+    QVERIFY2(tipOf(u"Bergen"_s).startsWith(u"Bergen"_s), qPrintable(QToolTip::text()));
+    QVERIFY2(!QToolTip::text().contains(u'/'), qPrintable(QToolTip::text()));
+    QVERIFY2(QToolTip::text().contains(u"1 hour(s) after Greenwich"_s),
+             qPrintable(QToolTip::text()));
+    QVERIFY2(tipOf(Tokyo).contains(u"Tokyo"_s), qPrintable(QToolTip::text()));
 }
 
 void tst_TimeZoneWindowFinding::ACityIsOpenedFromItsProfile() {

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void TellsOfANameThatNoZoneHas();
     void AFileOfItsOwnIsEnough_data();
     void AFileOfItsOwnIsEnough();
+    void AnExtensionIsNoneOfTheName();
 };
 
 void tst_UnknownZone::FindsTheNearest_data() {
@@ -117,6 +118,16 @@ void tst_UnknownZone::AFileOfItsOwnIsEnough() {
     QCOMPARE(!UnknownClockNotice(machine.Fake.Services, machine.Paths, u"Ours"_s).isEmpty(), told);
     QCOMPARE(machine.Fake.ReadFile(u"tester/TimeZones/Ours.ini"_s), file);
     QVERIFY(!UnknownClockNotice(machine.Fake.Services, machine.Paths, u"a/b"_s).isEmpty());
+}
+
+// A clock may be named by its file, too.
+void tst_UnknownZone::AnExtensionIsNoneOfTheName() {
+    const Machine machine;
+    for (const QString& name : {u"Tokyo Standard Time.ini"_s, u"Nepal Standard Time.INI"_s}) {
+        QCOMPARE(UnknownClockNotice(machine.Fake.Services, machine.Paths, name), QString());
+    }
+    QVERIFY(UnknownClockNotice(machine.Fake.Services, machine.Paths, u"tokyo.ini"_s)
+                .startsWith(u"No time zone is called \"tokyo\":"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_UnknownZone)

@@ -1,4 +1,6 @@
 // The pop-up menus on parts of the clock: message, action, speaker; and that of its look.
+#include <algorithm>
+
 #include "clock/ClockMode.h"
 #include "clock/ui/ActionMenu.h"
 #include "clock/ui/LookMenu.h"
@@ -78,8 +80,9 @@ void frmTempolark::PutSpeakerPosition() {
 }
 
 void frmTempolark::SaveByMenu(const QStringList& keys) {
-    for (const QString& key : keys) {
-        files_.SaveKey(key);
+    if (std::all_of(keys.begin(), keys.end(),
+                    [this](const QString& key) { return files_.SaveKey(key); })) {
+        TellSaved(u"the settings of "_s + Caption());
     }
     timers_.SaveTimer(data_.TimerFile);
     ShowChanges();

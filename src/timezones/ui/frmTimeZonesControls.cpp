@@ -79,7 +79,7 @@ void frmTimeZones::MakeList() {
          [this](int column) { SortByColumn(column); }},
         this);
     lsvTimeZones_->setModel(&model_);
-    connect(lsvTimeZones_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+    connect(lsvTimeZones_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { ShowCurrent(); });
 }
 

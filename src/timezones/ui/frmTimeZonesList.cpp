@@ -53,10 +53,13 @@ void frmTimeZones::SortByColumn(int column) {
     SetSort(list_.Sort() == up ? down : up);
 }
 
-// What Enter would open is the current row: the best match.
+// What Enter would open is the current row: the best match. Without a search no row is, so that
+// "Launch" means all that are checked again.
 void frmTimeZones::Search(const QString& typed) {
     Refill([&] { list_.SetSearch(typed); });
-    if (!typed.trimmed().isEmpty() && list_.Count() > 0) {
+    if (typed.trimmed().isEmpty()) {
+        lsvTimeZones_->selectionModel()->clear();
+    } else if (list_.Count() > 0) {
         MakeCurrent(0);
     }
 }
@@ -124,9 +127,10 @@ QString frmTimeZones::EmptyText() const {
                : u"There are no zones here."_s;
 }
 
+// The row that is lit. The toolkit also makes the first one current when the list gets the focus.
 int frmTimeZones::CurrentPosition() const {
-    const QModelIndex current = lsvTimeZones_->currentIndex();
-    return current.isValid() && current.row() < list_.Count() ? current.row() : -1;
+    const QModelIndexList lit = lsvTimeZones_->selectionModel()->selectedRows();
+    return !lit.isEmpty() && lit.first().row() < list_.Count() ? lit.first().row() : -1;
 }
 
 void frmTimeZones::MakeCurrent(int position) {
@@ -145,8 +149,6 @@ void frmTimeZones::ShowCurrent() {
                                                     : static_cast<int>(found - rowOfDot_.begin()));
 }
 
-// A row of the database has no text of its own for this.
 QString frmTimeZones::ToolTipOfRow(int position) const {
-    const ZoneRow& row = list_[position];
-    return row.ToolTipText.isEmpty() ? list_.Tag(row).trimmed() : row.ToolTipText;
+    return list_.Tag(list_[position]).trimmed();
 }
