@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <algorithm>
 
 #include "platform/StockData.h"
 
@@ -22,9 +23,12 @@ bool HasDefaults(const QString& folder) {
     return QFileInfo(folder + u"/ini"_s).isDir();
 }
 
+/// The mark of a running program may outlive a power cut.
 bool IsEmpty(const QString& folder) {
-    return QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                QDir::NoDotAndDotDot);
+    const QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden |
+                                                     QDir::System | QDir::NoDotAndDotDot);
+    return std::all_of(names.begin(), names.end(),
+                       [](const QString& name) { return name.startsWith(u".running-"_s); });
 }
 
 QString SourceOf(const AppFolderPlaces& places) {
@@ -60,9 +64,9 @@ QString PrepareAppFolder(const QString& folder) {
     return {};
 }
 
-bool HoldsOtherFiles(const QString& folder) {
-    return QFileInfo(folder).isDir() && !HasDefaults(folder) && !IsEmpty(folder) &&
-           !QFile::exists(MarkOf(folder));
+bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places) {
+    return folder != places.UserFolder && QFileInfo(folder).isDir() && !HasDefaults(folder) &&
+           !IsEmpty(folder) && !QFile::exists(MarkOf(folder));
 }
 
 QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {

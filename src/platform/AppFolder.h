@@ -22,8 +22,9 @@ QString ChooseAppFolder(const AppFolderPlaces& places);
 /// to be filled. @return why it can't be one; empty when it can
 QString PrepareAppFolder(const QString& folder);
 
-/// Whether a folder holds files, but not those of a program folder: somebody's documents.
-bool HoldsOtherFiles(const QString& folder);
+/// Whether a folder holds files, but not those of a program folder: somebody's documents. The
+/// user's own place is the program's, whatever else has been put there.
+bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places);
 
 /// Fills a prepared folder that is marked, and goes on with one whose filling broke off. The user's
 /// own place is brought up to date as well: default files that have become newer come over again,

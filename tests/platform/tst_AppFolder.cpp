@@ -35,6 +35,8 @@ private Q_SLOTS:
     void refusesWhatCantBeAFolder();
     void refusesAFolderThatCantBeWritten();
     void tellsOtherFilesFromItsOwn();
+    void fillsTheUsersFolderWhateverItHolds();
+    void fillsAFolderThatAPowerCutHasLeft();
 
 private:
     /// The folder that is chosen where none is named, ready for use.
@@ -232,7 +234,7 @@ void tst_AppFolder::goesOnWhereFillingBrokeOff() {
     const QString folder = folder_->filePath(u"clocks"_s);
     QCOMPARE(platform::PrepareAppFolder(folder), QString());
     Write(folder + u"/Images/Background/a.gif"_s, "GIF", 1000000000);
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
     QCOMPARE(Make(folder), QString());
     QCOMPARE(FilesIn(folder), (QStringList{u"Images/Background/a.gif"_s, u"ini/Tempolark.ini"_s}));
 }
@@ -273,15 +275,39 @@ void tst_AppFolder::refusesAFolderThatCantBeWritten() {
 
 void tst_AppFolder::tellsOtherFilesFromItsOwn() {
     const QString folder = folder_->filePath(u"clocks"_s);
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
     Write(folder + u"/.profile"_s, "text", 1000000000);
-    QVERIFY(platform::HoldsOtherFiles(folder));
+    QVERIFY(platform::HoldsOtherFiles(folder, places_));
     QCOMPARE(Make(folder), QString());
     QCOMPARE(FilesIn(folder), QStringList{u".profile"_s});
     QVERIFY(QDir().mkpath(folder + u"/ini"_s));
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
+}
+
+/// It may be a note, or what a filling without a mark has come to.
+void tst_AppFolder::fillsTheUsersFolderWhateverItHolds() {
+    Write(User(u"notes.txt"_s), "notes", 1000000000);
+    Write(User(u"Images/Background/a.gif"_s), "GIF", 1000000000);
+    QVERIFY(!platform::HoldsOtherFiles(places_.UserFolder, places_));
+    QCOMPARE(Make(places_.UserFolder), QString());
+    QCOMPARE(FilesIn(places_.UserFolder),
+             (QStringList{u"Images/Background/a.gif"_s, u"ini/Tempolark.ini"_s, u"notes.txt"_s}));
+    QCOMPARE(Read(User(u"notes.txt"_s)), "notes"_ba);
+}
+
+void tst_AppFolder::fillsAFolderThatAPowerCutHasLeft() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    Write(folder + u"/.running-1000"_s, {}, 1000000000);
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), (QStringList{u".running-1000"_s, u"Images/Background/a.gif"_s,
+                                           u"ini/Tempolark.ini"_s}));
+    const QString other = folder_->filePath(u"other"_s);
+    Write(other + u"/.running-1000"_s, {}, 1000000000);
+    Write(other + u"/running-1000"_s, "log", 1000000000);
+    QVERIFY(platform::HoldsOtherFiles(other, places_));
 }
 
 QTEST_GUILESS_MAIN(tst_AppFolder)
