@@ -189,7 +189,7 @@ int main(int argc, char** argv) {
             TakeFolder(module.Paths.AppFolder, places, options.CommandLine, program)) {
         return *status;
     }
-    const QString problem = platform::FillAppFolder(module.Paths.AppFolder, places);
+    const QString problem = platform::CompleteAppFolder(module.Paths.AppFolder, places);
     if (!problem.isEmpty()) {
         Complain(problem);
         return 1;

@@ -19,8 +19,13 @@ QString MarkOf(const QString& folder) {
     return folder + u"/.filling"_s;
 }
 
-bool HasDefaults(const QString& folder) {
+/// Whether a folder is one of the program's; its default file may have been lost.
+bool IsOwn(const QString& folder) {
     return QFileInfo(folder + u"/ini"_s).isDir();
+}
+
+bool HasDefaults(const QString& folder) {
+    return QFileInfo(folder + u"/ini/Tempolark.ini"_s).isFile();
 }
 
 /// The mark of a running program may outlive a power cut.
@@ -45,9 +50,9 @@ AppFolderPlaces FindAppFolderPlaces() {
 }
 
 QString ChooseAppFolder(const AppFolderPlaces& places) {
-    const bool isOwn =
-        HasDefaults(places.ExecutableFolder) && QFileInfo(places.ExecutableFolder).isWritable();
-    return isOwn ? places.ExecutableFolder : places.UserFolder;
+    const bool isUsable =
+        IsOwn(places.ExecutableFolder) && QFileInfo(places.ExecutableFolder).isWritable();
+    return isUsable ? places.ExecutableFolder : places.UserFolder;
 }
 
 QString PrepareAppFolder(const QString& folder) {
@@ -65,7 +70,7 @@ QString PrepareAppFolder(const QString& folder) {
 }
 
 bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places) {
-    return folder != places.UserFolder && QFileInfo(folder).isDir() && !HasDefaults(folder) &&
+    return folder != places.UserFolder && QFileInfo(folder).isDir() && !IsOwn(folder) &&
            !IsEmpty(folder) && !QFile::exists(MarkOf(folder));
 }
 
@@ -88,6 +93,14 @@ QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {
     }
     QFile::remove(MarkOf(folder));
     return {};
+}
+
+QString CompleteAppFolder(const QString& folder, const AppFolderPlaces& places) {
+    const bool isHalf = IsOwn(folder) && !HasDefaults(folder) && HasDefaults(SourceOf(places));
+    if (isHalf && !QFile(MarkOf(folder)).open(QIODevice::WriteOnly)) {
+        return u"The folder %1 can't be written"_s.arg(folder);
+    }
+    return FillAppFolder(folder, places);
 }
 
 }  // namespace platform

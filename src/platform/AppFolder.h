@@ -33,4 +33,8 @@ bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places);
 /// @return why it could not be filled, and then nothing of this run is left in it; empty when it is
 QString FillAppFolder(const QString& folder, const AppFolderPlaces& places);
 
+/// `FillAppFolder`; a folder that has its `ini`, but not the default file in it, counts as one
+/// whose filling broke off, as long as there is data to fill it with.
+QString CompleteAppFolder(const QString& folder, const AppFolderPlaces& places);
+
 }  // namespace platform
