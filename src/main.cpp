@@ -149,10 +149,11 @@ void Complain(const QString& problem) {
 
 /// Readies the program folder and claims it for this program, before anything is written there.
 /// @return the exit status of a program that is not to go on
-std::optional<int> TakeFolder(const QString& folder, const QString& commandLine,
+std::optional<int> TakeFolder(const QString& folder, const platform::AppFolderPlaces& places,
+                              const QString& commandLine,
                               std::optional<platform::LocalOneProgram>& program) {
     const QString problem =
-        platform::HoldsOtherFiles(folder)
+        platform::HoldsOtherFiles(folder, places)
             ? u"The folder %1 holds other files: name a new folder, or an empty one"_s.arg(folder)
             : platform::PrepareAppFolder(folder);
     if (!problem.isEmpty()) {
@@ -184,10 +185,11 @@ int main(int argc, char** argv) {
     module.Paths.AppFolder =
         options.AppFolder.isEmpty() ? platform::ChooseAppFolder(places) : options.AppFolder;
     std::optional<platform::LocalOneProgram> program;
-    if (const auto status = TakeFolder(module.Paths.AppFolder, options.CommandLine, program)) {
+    if (const auto status =
+            TakeFolder(module.Paths.AppFolder, places, options.CommandLine, program)) {
         return *status;
     }
-    const QString problem = platform::FillAppFolder(module.Paths.AppFolder, places);
+    const QString problem = platform::CompleteAppFolder(module.Paths.AppFolder, places);
     if (!problem.isEmpty()) {
         Complain(problem);
         return 1;

@@ -63,25 +63,35 @@ if ((${#missing[@]})); then
     Install "${missing[@]}"
 fi
 
-# The zone database is on most machines, but old: it is asked for anew once a week. A machine that
-# can't get another goes on with the one that it has.
+# The zone database is on most machines, but old: it is asked for anew once a week, and on the next
+# day where that failed. A machine that can't get another goes on with the one that it has.
 asked=${ZONES_ASKED:-$(dirname "$0")/../build/tzdata.asked}
 [[ -z "$(find "$asked" -mtime -7 2>/dev/null)" ]] || exit 0
-mkdir -p "$(dirname "$asked")" && touch "$asked" || exit 0
+mkdir -p "$(dirname "$asked")" && [[ -w "$(dirname "$asked")" ]] && MayInstall || exit 0
 
 # ZoneVersions: the installed version of tzdata, and the newest that apt knows of.
 ZoneVersions() {
     LC_ALL=C "${APT_CACHE:-apt-cache}" policy tzdata 2>/dev/null |
         awk '/^ *Installed:/ {installed = $2} /^ *Candidate:/ {print installed, $2}'
 }
+# Without a network an update would take its time and succeed.
+Ask() {
+    Apt -o APT::Update::Error-Mode=any -o Acquire::Retries=0 -o Acquire::http::Timeout=10 \
+        -o Acquire::https::Timeout=10 update >/dev/null 2>&1
+}
+TryTomorrow() { touch -d '6 days ago' "$asked"; exit 0; }
+
 read -r has candidate < <(ZoneVersions) || exit 0
-MayInstall || exit 0
-# What apt knows may be as old; a database of this year needs no second question.
-if [[ "$has" == "$candidate" && "$has" != "$(date +%Y)"* ]]; then
-    Apt update >/dev/null 2>&1 || true
+# What apt knows may be as old, unless it has just been asked.
+if [[ "$has" == "$candidate" ]] && ((${#missing[@]} == 0)); then
+    Ask || TryTomorrow
     read -r has candidate < <(ZoneVersions) || exit 0
 fi
-[[ "$has" != "$candidate" ]] || exit 0
-echo "Bringing the zone database up to date: $has to $candidate"
-Install tzdata 2>/dev/null || { Apt update >/dev/null 2>&1 && Install tzdata 2>/dev/null; } ||
-    echo "That failed: clocks go by the zone database $has." >&2
+if [[ "$has" != "$candidate" ]]; then
+    echo "Bringing the zone database up to date: $has to $candidate"
+    Install tzdata 2>/dev/null || { Ask && Install tzdata 2>/dev/null; } || {
+        echo "That failed: clocks go by the zone database $has." >&2
+        TryTomorrow
+    }
+fi
+touch "$asked"

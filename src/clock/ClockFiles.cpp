@@ -115,13 +115,20 @@ bool ClockFiles::HasOldZone() const {
     return mduTimeZones::IsOfAnotherYear(data_.Properties(), program_.Services.Clock.Now().date());
 }
 
+// What else has been changed waits for its own save.
 void ClockFiles::WriteZone(const QString& zoneName) {
-    if (mayWrite_) {
-        bool written = true;
-        mduTimeZones::WriteZoneKeys(program_.Services, program_.Module.Paths,
-                                    data_.EditProperties(), zoneName, data_.PropertyFileName,
-                                    &written);
-        ReportUnless(written);
+    platform::Files& files = program_.Services.FileSystem;
+    const QString& path = data_.PropertyFileName;
+    if (!mayWrite_ || !mduLib::MayRewrite(files, path)) {
+        return;
+    }
+    ClockProperties stored;
+    const bool isThere = mduLib::ReadPropertyFile(files, path, stored);
+    ClockProperties renewed = isThere ? stored : data_.Properties();
+    mduTimeZones::PutZoneKeys(program_.Services, program_.Module.Paths, renewed, zoneName);
+    mduTimeZones::CopyZoneKeys(renewed, data_.EditProperties());
+    if (renewed != stored) {
+        ReportUnless(mduLib::WritePropertyFile(files, renewed, path));
     }
 }
 

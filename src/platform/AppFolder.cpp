@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <algorithm>
 
 #include "platform/StockData.h"
 
@@ -18,13 +19,21 @@ QString MarkOf(const QString& folder) {
     return folder + u"/.filling"_s;
 }
 
-bool HasDefaults(const QString& folder) {
+/// Whether a folder is one of the program's; its default file may have been lost.
+bool IsOwn(const QString& folder) {
     return QFileInfo(folder + u"/ini"_s).isDir();
 }
 
+bool HasDefaults(const QString& folder) {
+    return QFileInfo(folder + u"/ini/Tempolark.ini"_s).isFile();
+}
+
+/// The mark of a running program may outlive a power cut.
 bool IsEmpty(const QString& folder) {
-    return QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                QDir::NoDotAndDotDot);
+    const QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden |
+                                                     QDir::System | QDir::NoDotAndDotDot);
+    return std::all_of(names.begin(), names.end(),
+                       [](const QString& name) { return name.startsWith(u".running-"_s); });
 }
 
 QString SourceOf(const AppFolderPlaces& places) {
@@ -41,9 +50,9 @@ AppFolderPlaces FindAppFolderPlaces() {
 }
 
 QString ChooseAppFolder(const AppFolderPlaces& places) {
-    const bool isOwn =
-        HasDefaults(places.ExecutableFolder) && QFileInfo(places.ExecutableFolder).isWritable();
-    return isOwn ? places.ExecutableFolder : places.UserFolder;
+    const bool isUsable =
+        IsOwn(places.ExecutableFolder) && QFileInfo(places.ExecutableFolder).isWritable();
+    return isUsable ? places.ExecutableFolder : places.UserFolder;
 }
 
 QString PrepareAppFolder(const QString& folder) {
@@ -60,9 +69,9 @@ QString PrepareAppFolder(const QString& folder) {
     return {};
 }
 
-bool HoldsOtherFiles(const QString& folder) {
-    return QFileInfo(folder).isDir() && !HasDefaults(folder) && !IsEmpty(folder) &&
-           !QFile::exists(MarkOf(folder));
+bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places) {
+    return folder != places.UserFolder && QFileInfo(folder).isDir() && !IsOwn(folder) &&
+           !IsEmpty(folder) && !QFile::exists(MarkOf(folder));
 }
 
 QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {
@@ -84,6 +93,14 @@ QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {
     }
     QFile::remove(MarkOf(folder));
     return {};
+}
+
+QString CompleteAppFolder(const QString& folder, const AppFolderPlaces& places) {
+    const bool isHalf = IsOwn(folder) && !HasDefaults(folder) && HasDefaults(SourceOf(places));
+    if (isHalf && !QFile(MarkOf(folder)).open(QIODevice::WriteOnly)) {
+        return u"The folder %1 can't be written"_s.arg(folder);
+    }
+    return FillAppFolder(folder, places);
 }
 
 }  // namespace platform

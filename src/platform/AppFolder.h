@@ -22,8 +22,9 @@ QString ChooseAppFolder(const AppFolderPlaces& places);
 /// to be filled. @return why it can't be one; empty when it can
 QString PrepareAppFolder(const QString& folder);
 
-/// Whether a folder holds files, but not those of a program folder: somebody's documents.
-bool HoldsOtherFiles(const QString& folder);
+/// Whether a folder holds files, but not those of a program folder: somebody's documents. The
+/// user's own place is the program's, whatever else has been put there.
+bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places);
 
 /// Fills a prepared folder that is marked, and goes on with one whose filling broke off. The user's
 /// own place is brought up to date as well: default files that have become newer come over again,
@@ -31,5 +32,9 @@ bool HoldsOtherFiles(const QString& folder);
 /// folder is left as it is.
 /// @return why it could not be filled, and then nothing of this run is left in it; empty when it is
 QString FillAppFolder(const QString& folder, const AppFolderPlaces& places);
+
+/// `FillAppFolder`; a folder that has its `ini`, but not the default file in it, counts as one
+/// whose filling broke off, as long as there is data to fill it with.
+QString CompleteAppFolder(const QString& folder, const AppFolderPlaces& places);
 
 }  // namespace platform

@@ -135,10 +135,14 @@ bool WriteFromRecord(platform::Files& files, const TimeZoneRecord& record, const
     return saved;
 }
 
+bool ReadProfile(const platform::Files& files, const QString& path, ClockProperties& profile) {
+    return !path.isEmpty() && mduLib::ReadPropertyFile(files, path, profile);
+}
+
 bool WriteFromProfile(platform::Files& files, const QString& profile, ClockProperties& properties,
                       const QString& path) {
     ClockProperties source;
-    if (profile.isEmpty() || !mduLib::ReadPropertyFile(files, profile, source)) {
+    if (!ReadProfile(files, profile, source)) {
         return true;
     }
     CopyZoneKeys(source, properties);
@@ -208,6 +212,21 @@ bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
     bool written = false;
     WriteZoneKeys(services, paths, properties, zoneName, path, &written);
     return written;
+}
+
+void PutZoneKeys(const platform::Services& services, const PathTable& paths,
+                 ClockProperties& properties, const QString& zoneName) {
+    const TimeZoneRecord record = FindTimeZone(services, paths, zoneName);
+    ClockProperties profile;
+    if (record.KeyName.isEmpty()) {
+        ReadProfile(services.FileSystem, ProfilePath(paths, zoneName), profile);
+        CopyZoneKeys(profile, properties);
+        return;
+    }
+    const QDate today = services.Clock.Now().date();
+    for (qsizetype key = 0; key < ZoneKeys().size(); ++key) {
+        PutWhole(ZoneKeys()[key], KeyText(record, key, today), properties);
+    }
 }
 
 void CopyZoneKeys(const ClockProperties& source, ClockProperties& target) {

@@ -35,6 +35,11 @@ TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable
                              ClockProperties& properties, const QString& zoneName,
                              const QString& path, bool* written = nullptr);
 
+/// Puts what `WriteZoneKeys` would write into @p properties, and writes nothing. A zone that
+/// nothing knows leaves them as they are.
+void PutZoneKeys(const platform::Services& services, const PathTable& paths,
+                 ClockProperties& properties, const QString& zoneName);
+
 /// Loads a zone's file into an empty array; one that is missing or empty has no rows. @return false
 /// when a file is there that may not be written anew (`mduLib::MayRewrite`); no row is then read.
 bool LoadZoneFile(const platform::Files& files, const QString& path, ClockProperties& properties);

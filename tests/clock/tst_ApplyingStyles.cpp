@@ -373,9 +373,14 @@ private Q_SLOTS:
         QTest::keyClick(clock, Qt::Key_End);
         QTest::keyClicks(clock, u"%'"_s);
         QCOMPARE(clock->Controls().lblTimeInput(1).Tag, u".-1/2/2026 10:15%'"_s);
-        QVERIFY(clock->Controls().lblClock(1).Visible);
+        const mduUILib::Control& hint = clock->Controls().lblClock(1);
+        QVERIFY(hint.Visible);
+        const QImage painted = clock->PaintedSurface().Image().copy(hint.Rect().toRect());
+        QImage blank = painted;
+        blank.fill(Corner(clock));
+        QVERIFY(painted != blank);
         clock->SetClocks(1);  // leaves the input state
-        QVERIFY(!clock->Controls().lblClock(1).Visible);
+        QVERIFY(!hint.Visible);
         QCOMPARE(clock->GetLocation(), u"Nepal Standard Time"_s);
         clock->SetClocks(3);
         QTest::keyClick(clock, Qt::Key_Tab);

@@ -71,6 +71,8 @@ private Q_SLOTS:
     void LeavesAMergedFileOfThisYear();
     void RenewsAFileThatIsReadAsItStands();
     void RenewsAnOpenClockInTheNextYear();
+    void RenewsTheZoneAloneInOneWrite();
+    void WritesNothingWhereNothingIsRenewed();
     void LeavesWhatItMayNotWrite();
 };
 
@@ -137,6 +139,44 @@ void tst_ClockFiles::RenewsAnOpenClockInTheNextYear() {
     QVERIFY(desk.FileIsOf2026());
     QVERIFY(desk.ZoneIsOf2026());
     QCOMPARE(desk.Data.Zone.CurrentGMTHours, 4.0F);
+}
+
+// A look that is only tried, or that has come by itself, is not the user's choice.
+void tst_ClockFiles::RenewsTheZoneAloneInOneWrite() {
+    Desk desk;
+    desk.LeaveOldFile();
+    QVERIFY(desk.Files.NameCurrentFile(Eastern));
+    desk.Files.LoadCurrent();
+    mduLib::PutProperty(u"Zone Colour"_s, u"tried"_s, desk.Data.EditProperties());
+    desk.Machine.WriteFile(File, desk.Machine.ReadFile(File) + "Other=saved meanwhile\r\n");
+    desk.Machine.Files.Writes.clear();
+    desk.Files.RefreshZone();
+    QCOMPARE(desk.Machine.Files.Writes, QStringList{desk.Data.PropertyFileName});
+    QVERIFY(desk.FileIsOf2026());
+    QVERIFY(desk.FileHas("Time Zone Standard Name", "Eastern Standard Time"));
+    QVERIFY(desk.FileHas("Time Zone Standard GMT (Minutes)", "300"));
+    QVERIFY(desk.FileHas("Time Zone Daylight Name", "Eastern Daylight Time"));
+    QVERIFY(desk.FileHas("Time Zone Daylight GMT (Minutes)", "240"));
+    QVERIFY(desk.FileHas("Other", "saved meanwhile"));
+    QVERIFY(!desk.Machine.ReadFile(File).contains("tried"));
+    QCOMPARE(mduLib::GetProperty(u"Zone Colour"_s, desk.Data.Properties()), u"tried"_s);
+    QVERIFY(desk.ZoneIsOf2026());
+}
+
+// No database and no profile knows the zone.
+void tst_ClockFiles::WritesNothingWhereNothingIsRenewed() {
+    Desk desk;
+    desk.LeaveOldFile();
+    const QByteArray content = desk.Machine.ReadFile(File);
+    const QString nowhere = desk.Machine.WriteFile(u"tester/TimeZones/Nowhere.ini"_s, content);
+    QVERIFY(desk.Files.NameCurrentFile(u"Nowhere"_s));
+    desk.Files.LoadCurrent();
+    desk.Files.FillZone(u"Nowhere"_s);
+    desk.Machine.Files.Writes.clear();
+    desk.Files.RefreshZone();
+    QCOMPARE(desk.Machine.Files.Writes, QStringList());
+    QVERIFY(
+        desk.Machine.ReadFile(u"tester/TimeZones/Nowhere.ini"_s).contains("=02/11/2025 2:00:00"));
 }
 
 void tst_ClockFiles::LeavesWhatItMayNotWrite() {

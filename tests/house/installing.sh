@@ -56,7 +56,12 @@ Runs() {
 
 update="Bringing the zone database up to date:"
 Machine "${year}f" "${year}f"
-Check "leaves the newest database of this year alone" Runs "" ""
+Check "asks whether there is a newer one than that of this year" Runs "update" ""
+: >"$scratch/calls"
+Check "does so once a week only" Runs "" ""
+touch -d '8 days ago' "$scratch/asked"
+echo "${year}g" >"$scratch/newer"
+Check "takes it within the year" Runs "update|$install tzdata" "$update ${year}f to ${year}g"
 Machine 2019b "${year}f"
 Check "takes the newer one that apt knows of" \
     Runs "$install tzdata" "$update 2019b to ${year}f"
@@ -67,21 +72,41 @@ touch -d '8 days ago' "$scratch/asked"
 Check "asks again in the next" Runs "$install tzdata" "$update 2019b to ${year}f"
 Machine 2019b 2019b
 Check "asks the archive when all that apt knows is old" Runs "update" ""
-Check "does so once a week only" Runs "update" ""
+Check "asks an old archive once a week only" Runs "update" ""
 Machine 2019b 2019b
 echo "${year}a" >"$scratch/newer"
 Check "takes what the archive has" Runs "update|$install tzdata" "$update 2019b to ${year}a"
 Machine 2019b 2019b
 touch "$scratch/offline"
 Check "goes on with an old one where there is no network" Runs "update" ""
+Check "does not try again on that day" Runs "update" ""
+# Ages DAYS: so much time goes by.
+Ages() { touch -d "@$(($(stat -c %Y "$scratch/asked") - $1 * 86400))" "$scratch/asked"; }
+Ages 1
+rm "$scratch/offline"
+echo "${year}a" >"$scratch/newer"
+: >"$scratch/calls"
+Check "tries again on the next" Runs "update|$install tzdata" "$update 2019b to ${year}a"
+: >"$scratch/calls"
+Ages 6
+Check "and then in a week" Runs "" ""
+Ages 1
+Check "which is over now" Runs "update" ""
 Machine 2019b "${year}f"
 touch "$scratch/offline"
 Check "tells when the newer one can't be had" Runs "$install tzdata|update" \
     "$update 2019b to ${year}f
 That failed: clocks go by the zone database 2019b."
+: >"$scratch/calls"
+Check "tells it once a day" Runs "" ""
+Ages 1
+rm "$scratch/offline"
+Check "has it on the next" Runs "$install tzdata" "$update 2019b to ${year}f"
 Machine "${year}f" "${year}f"
 echo ninja-build >"$scratch/missing"
 Check "installs what is missing" Runs "update|$install ninja-build" "Installing: ninja-build"
+rm "$scratch/missing"
+Check "has asked with that" Runs "update|$install ninja-build" ""
 
 Fails() { ! "$root/tools/install.sh" run >/dev/null 2>&1; }
 Machine "${year}f" "${year}f"

@@ -35,6 +35,10 @@ private Q_SLOTS:
     void refusesWhatCantBeAFolder();
     void refusesAFolderThatCantBeWritten();
     void tellsOtherFilesFromItsOwn();
+    void fillsTheUsersFolderWhateverItHolds();
+    void fillsAFolderThatAPowerCutHasLeft();
+    void completesAFolderWithoutItsDefaultFile();
+    void completesNothingWithoutData();
 
 private:
     /// The folder that is chosen where none is named, ready for use.
@@ -232,7 +236,7 @@ void tst_AppFolder::goesOnWhereFillingBrokeOff() {
     const QString folder = folder_->filePath(u"clocks"_s);
     QCOMPARE(platform::PrepareAppFolder(folder), QString());
     Write(folder + u"/Images/Background/a.gif"_s, "GIF", 1000000000);
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
     QCOMPARE(Make(folder), QString());
     QCOMPARE(FilesIn(folder), (QStringList{u"Images/Background/a.gif"_s, u"ini/Tempolark.ini"_s}));
 }
@@ -273,15 +277,68 @@ void tst_AppFolder::refusesAFolderThatCantBeWritten() {
 
 void tst_AppFolder::tellsOtherFilesFromItsOwn() {
     const QString folder = folder_->filePath(u"clocks"_s);
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
     Write(folder + u"/.profile"_s, "text", 1000000000);
-    QVERIFY(platform::HoldsOtherFiles(folder));
+    QVERIFY(platform::HoldsOtherFiles(folder, places_));
     QCOMPARE(Make(folder), QString());
     QCOMPARE(FilesIn(folder), QStringList{u".profile"_s});
     QVERIFY(QDir().mkpath(folder + u"/ini"_s));
-    QVERIFY(!platform::HoldsOtherFiles(folder));
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
+}
+
+/// It may be a note, or what a filling without a mark has come to.
+void tst_AppFolder::fillsTheUsersFolderWhateverItHolds() {
+    Write(User(u"notes.txt"_s), "notes", 1000000000);
+    Write(User(u"Images/Background/a.gif"_s), "GIF", 1000000000);
+    QVERIFY(!platform::HoldsOtherFiles(places_.UserFolder, places_));
+    QCOMPARE(Make(places_.UserFolder), QString());
+    QCOMPARE(FilesIn(places_.UserFolder),
+             (QStringList{u"Images/Background/a.gif"_s, u"ini/Tempolark.ini"_s, u"notes.txt"_s}));
+    QCOMPARE(Read(User(u"notes.txt"_s)), "notes"_ba);
+}
+
+void tst_AppFolder::fillsAFolderThatAPowerCutHasLeft() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    Write(folder + u"/.running-1000"_s, {}, 1000000000);
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), (QStringList{u".running-1000"_s, u"Images/Background/a.gif"_s,
+                                           u"ini/Tempolark.ini"_s}));
+    const QString other = folder_->filePath(u"other"_s);
+    Write(other + u"/.running-1000"_s, {}, 1000000000);
+    Write(other + u"/running-1000"_s, "log", 1000000000);
+    QVERIFY(platform::HoldsOtherFiles(other, places_));
+}
+
+/// An empty `ini` is what a filling may have come to; whoever only looks leaves it.
+void tst_AppFolder::completesAFolderWithoutItsDefaultFile() {
+    const QString folder = folder_->filePath(u"clocks"_s);
+    Write(folder + u"/ini/Own.ini"_s, "O=1", 1000000000);
+    QCOMPARE(Make(folder), QString());
+    QCOMPARE(FilesIn(folder), QStringList{u"ini/Own.ini"_s});
+    QCOMPARE(platform::CompleteAppFolder(folder, places_), QString());
+    QCOMPARE(FilesIn(folder),
+             (QStringList{u"Images/Background/a.gif"_s, u"ini/Own.ini"_s, u"ini/Tempolark.ini"_s}));
+    QCOMPARE(Read(folder + u"/ini/Tempolark.ini"_s), "A=1"_ba);
+    QVERIFY(QFile::remove(folder + u"/Images/Background/a.gif"_s));
+    QCOMPARE(platform::CompleteAppFolder(folder, places_), QString());
+    QVERIFY(!QFile::exists(folder + u"/Images/Background/a.gif"_s));
+}
+
+/// What is lost there, other rules tell of.
+void tst_AppFolder::completesNothingWithoutData() {
+    QVERIFY(QFile::remove(places_.InstalledData + u"/ini/Tempolark.ini"_s));
+    const QString folder = folder_->filePath(u"clocks"_s);
+    Write(folder + u"/ini/Own.ini"_s, "O=1", 1000000000);
+    QVERIFY(!platform::HoldsOtherFiles(folder, places_));
+    QCOMPARE(platform::CompleteAppFolder(folder, places_), QString());
+    QCOMPARE(FilesIn(folder), QStringList{u"ini/Own.ini"_s});
+    Write(User(u"ini/Own.ini"_s), "O=1", 1000000000);
+    QCOMPARE(platform::CompleteAppFolder(places_.UserFolder, places_),
+             u"The data that %1 is to be filled with is missing: there is none in %2"_s.arg(
+                 places_.UserFolder, places_.InstalledData));
 }
 
 QTEST_GUILESS_MAIN(tst_AppFolder)
