@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <cstdio>
 #include <optional>
@@ -10,6 +9,7 @@
 #include "platform/AppFolder.h"
 #include "platform/CalendarWatch.h"
 #include "platform/LocalFiles.h"
+#include "platform/ProfileOrigin.h"
 #include "platform/QuitSignals.h"
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
@@ -102,19 +102,31 @@ public:
     }
 };
 
-/// The profiles of the cities hold the days of one year and follow the zone database. The tool does
-/// nothing while they are up to date, and touches only a folder that it has made itself.
+/// The profiles of the cities hold the days of one year and follow the zone database.
 class ProfileRenewal {
 public:
     ProfileRenewal(const platform::WallClock& clock, const QString& appFolder)
         : clock_(clock),
           tool_(QApplication::applicationDirPath() + u"/tempolark-profiles"_s),
-          appFolder_(appFolder) {}
+          appFolder_(appFolder) {
+        process_.setProcessChannelMode(QProcess::ForwardedChannels);
+    }
 
-    /// Waits for the end: the clocks that open now are to find the new days.
-    void Run() const {
+    /// Every step of the tool is whole: the next start goes on where this one breaks it off.
+    ~ProfileRenewal() {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    Q_DISABLE_COPY_MOVE(ProfileRenewal)
+
+    /// Waits for the end: the clocks that open now are to find the new days. A slow disk holds them
+    /// up for a few seconds at most.
+    void Run() {
+        constexpr int LongestWait = 5000;
         if (IsDue()) {
-            QProcess::execute(tool_, Order());
+            process_.start(tool_, Order());
+            process_.waitForFinished(LongestWait);
         }
     }
 
@@ -127,7 +139,7 @@ public:
 
 private:
     bool IsDue() const {
-        return QFile::exists(appFolder_ + u"/Timezones/made-of.txt"_s) && QFile::exists(tool_);
+        return platform::AreProfilesDue({appFolder_, tool_, {}, clock_.Now().date()});
     }
 
     // The year begins by this machine's calendar.
@@ -138,6 +150,7 @@ private:
     const platform::WallClock& clock_;
     QString tool_;
     QString appFolder_;
+    QProcess process_;
 };
 
 /// Tells a problem on the error output, if there is one.
@@ -212,7 +225,7 @@ int main(int argc, char** argv) {
                                       players, sound, dialogs, tray, help,     random};
     Forms windows;
 
-    const ProfileRenewal profiles(clock, module.Paths.AppFolder);
+    ProfileRenewal profiles(clock, module.Paths.AppFolder);
     profiles.Run();
     const platform::CalendarWatch calendar(clock, [&profiles] { profiles.RunBehind(); });
 

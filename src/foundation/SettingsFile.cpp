@@ -20,6 +20,36 @@ bool ShareAKey(const ClockProperties& defaults, const ClockProperties& found) {
     return false;
 }
 
+/// The row of @p defaults from which on @p found has none of its keys, where it has all keys before
+/// that row; 0 where keys are missing here and there.
+int CutAt(const ClockProperties& defaults, const ClockProperties& found) {
+    int cut = 0;
+    for (int row = 1; row <= defaults.UpperBound(); ++row) {
+        const QString& name = defaults[row].Name;
+        if (name.isEmpty()) {
+            continue;
+        }
+        const bool isThere = mduLib::FindPropertyRow(name, found) > 0;
+        if (isThere && cut > 0) {
+            return 0;
+        }
+        cut = isThere || cut > 0 ? cut : row;
+    }
+    return cut;
+}
+
+/// A file that broke off while it was written has lost its last keys. One in which the user has
+/// left keys out is as the user wants it.
+void RestoreLostEnd(const ClockProperties& defaults, ClockProperties& found) {
+    const int cut = CutAt(defaults, found);
+    for (int row = cut; cut > 0 && row <= defaults.UpperBound(); ++row) {
+        const ClockProperty& lost = defaults[row];
+        if (!lost.Name.isEmpty()) {
+            mduLib::AppendProperty(lost.Category, lost.Name, lost.Value, found);
+        }
+    }
+}
+
 }  // namespace
 
 bool IsBrokenSettings(const platform::Files& files, const QString& path,
@@ -37,11 +67,14 @@ bool IsBrokenSettings(const platform::Files& files, const QString& path,
 
 ClockProperties ReadSettings(const platform::Files& files, const QString& path,
                              const QString& defaultFile) {
+    ClockProperties defaults;
+    mduLib::ReadPropertyFile(files, defaultFile, defaults);
     ClockProperties settings;
     if (IsBrokenSettings(files, path, defaultFile) ||
         !mduLib::ReadPropertyFile(files, path, settings)) {
-        mduLib::ReadPropertyFile(files, defaultFile, settings);
+        return defaults;
     }
+    RestoreLostEnd(defaults, settings);
     return settings;
 }
 

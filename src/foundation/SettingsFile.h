@@ -12,7 +12,9 @@ namespace mduMain {
 bool IsBrokenSettings(const platform::Files& files, const QString& path,
                       const QString& defaultFile);
 
-/// Reads the settings; the defaults where the file is missing or broken.
+/// Reads the settings; the defaults where the file is missing or broken. Where it ends before its
+/// time, with the first keys of the defaults but none of the others, these have their defaults and
+/// come back at the next save.
 ClockProperties ReadSettings(const platform::Files& files, const QString& path,
                              const QString& defaultFile);
 

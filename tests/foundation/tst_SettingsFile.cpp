@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SettingsFile.h"
 #include "support/FakeServices.h"
@@ -65,6 +66,39 @@ private Q_SLOTS:
         desk.Write(content);
         QTEST(desk.IsBroken(), "broken");
         QTEST(desk.ToolBar(), "toolBar");
+    }
+
+    /// A file that was cut while it was written, beside such as have gaps.
+    void LostEnds_data() {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QByteArray>("read");
+        const QByteArray end = "C:Third=3,4\r\nFourth=\r\n";
+        QTest::newRow("after a line") << "A:First=x\r\n"_ba
+                                      << "A:First=x\r\nB:Second=2\r\n" + end;
+        QTest::newRow("after two") << "A:First=x\r\nB:Second=y\r\n"_ba
+                                   << "A:First=x\r\nB:Second=y\r\n" + end;
+        QTest::newRow("within the third") << "A:First=x\r\nB:Second=y\r\nC:Thi"_ba
+                                          << "A:First=x\r\nB:Second=y\r\nC:Thi=\r\n" + end;
+        QTest::newRow("in another order, with a key of its own")
+            << "second=y\r\nMine=1\r\nFIRST=\r\n"_ba
+            << "second=y\r\nMine=1\r\nFIRST=\r\n" + end;
+        for (const char* content : {"A:First=x\r\nFourth=z\r\n", "B:Second=y\r\n",
+                                    "A:First=x\r\nB:Second=y\r\nC:Third=z\r\nFourth=4\r\n"}) {
+            QTest::addRow("left as it is: %s", content)
+                << QByteArray(content) << QByteArray(content);
+        }
+    }
+
+    void LostEnds() {
+        QFETCH(QByteArray, content);
+        Desk desk;
+        desk.Machine.WriteFile(u"default.ini"_s,
+                               "A:First=1\r\n\r\nB:Second=2\r\nC:Third=3,4\r\nFourth=\r\n");
+        desk.Write(content);
+        QVERIFY(!desk.IsBroken());
+        const ClockProperties settings =
+            mduMain::ReadSettings(desk.Machine.Files, desk.File, desk.Default);
+        QTEST(mduLib::PropertyFileContent(settings), "read");
     }
 
     void WhatIsNotThereIsNotBroken() {

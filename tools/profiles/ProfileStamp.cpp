@@ -37,18 +37,6 @@ bool IsOfThatZone(const QList<QByteArray>& lines, const ClockProperties& made) {
 
 }  // namespace
 
-Stamp ParseStamp(const QByteArray& content) {
-    const QList<QByteArray> lines = content.split('\n');
-    Stamp stamp{lines[0], {}};
-    for (const QByteArray& line : lines.mid(1)) {
-        const qsizetype blank = line.indexOf(' ');
-        if (blank > 0) {
-            stamp.Sums[QString::fromUtf8(line.mid(blank + 1))] = line.first(blank);
-        }
-    }
-    return stamp;
-}
-
 QByteArray StampContent(const Stamp& stamp) {
     QByteArray content = stamp.Origin + '\n';
     for (auto sum = stamp.Sums.begin(); sum != stamp.Sums.end(); ++sum) {

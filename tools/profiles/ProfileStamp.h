@@ -1,25 +1,17 @@
 #pragma once
 
 #include <QByteArray>
-#include <QMap>
 #include <QString>
 
 #include "foundation/ClockProperty.h"
+#include "platform/ProfileOrigin.h"
 
 /// What has been made the last time, so that a user's changes are told from an older edition.
 namespace profiles {
 
-/// The file that holds it, in the folder of the profiles. It is no hidden one: it goes wherever the
-/// profiles are copied.
-inline const QString StampName = QStringLiteral("made-of.txt");
+using Stamp = platform::ProfileStamp;
 
-struct Stamp {
-    QByteArray Origin;               ///< what the profiles were made of; no line breaks
-    QMap<QString, QByteArray> Sums;  ///< by file name: `SumOf` the profile as it was made
-};
-
-/// stamp = origin LF { sum blank name LF }
-Stamp ParseStamp(const QByteArray& content);
+/// What `platform::ParseProfileStamp` reads.
 QByteArray StampContent(const Stamp& stamp);
 
 /// A short text that tells one content from another.

@@ -9,16 +9,14 @@
 // A profile that stays the same keeps its time; in one that the user has changed, the six keys of
 // the zone are renewed and nothing else.
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QDir>
-#include <algorithm>
 #include <cstdio>
 
 #include "Profile.h"
 #include "ProfileStamp.h"
 #include "foundation/PropertyFile.h"
 #include "platform/LocalFiles.h"
-#include "platform/TzFolder.h"
+#include "platform/ProfileOrigin.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +28,11 @@ struct Order {
     QDateTime Now = QDateTime::currentDateTimeUtc();
     bool Good = true;
 
-    QString ProfileFolder() const { return AppFolder.filePath(u"Timezones/"_s); }
-    QString StampFile() const { return ProfileFolder() + profiles::StampName; }
+    platform::ProfileSources Sources() const {
+        return {AppFolder.path(), QCoreApplication::applicationFilePath(), ZoneInfo, Now.date()};
+    }
+    QString ProfileFolder() const { return Sources().ProfileFolder(); }
+    QString StampFile() const { return Sources().StampFile(); }
 };
 
 Order ReadOrder(QStringList words) {
@@ -55,37 +56,6 @@ Order ReadOrder(QStringList words) {
 QByteArray Content(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QByteArray ZoneFile(const Order& order, const QString& name) {
-    return order.ZoneInfo.isEmpty() ? platform::TzFile(name)
-                                    : Content(order.ZoneInfo + u'/' + name);
-}
-
-// The first has a row for each country, the second knows a few more of today's identifiers.
-QByteArray ZoneTable(const Order& order) {
-    return ZoneFile(order, u"zone.tab"_s) + '\n' + ZoneFile(order, u"zone1970.tab"_s);
-}
-
-/// Tells what the profiles are made of. A month counts because a zone that changes more than twice
-/// in a year can be told only for the time about the present; the folder, because a copy of it may
-/// have kept older profiles beside a newer stamp.
-QByteArray Origin(const Order& order) {
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(ZoneTable(order));
-    hash.addData(ZoneFile(order, u"tzdata.zi"_s));
-    hash.addData(order.AppFolder.canonicalPath().toUtf8());
-    hash.addData(Content(order.AppFolder.filePath(u"ini/Tempolark.ini"_s)));
-    hash.addData(Content(QCoreApplication::applicationFilePath()));
-    hash.addData(QDir(order.AppFolder.filePath(u"Images/Flags"_s)).entryList().join(u'/').toUtf8());
-    return order.Now.toString(u"yyyy-MM"_s).toLatin1() + ' ' + hash.result().toHex();
-}
-
-bool IsUpToDate(const Order& order, const profiles::Stamp& stamp, const QByteArray& origin) {
-    const QStringList names = stamp.Sums.keys();
-    return stamp.Origin == origin && std::all_of(names.begin(), names.end(), [&](const auto& name) {
-               return QFile::exists(order.ProfileFolder() + name);
-           });
 }
 
 QString FlagOf(const Order& order, const profiles::City& city) {
@@ -116,7 +86,8 @@ QByteArray Renewed(const QByteArray& present, const QByteArray& sum, const Clock
 
 bool MakeProfiles(const Order& order, const ClockProperties& defaults,
                   const profiles::Stamp& oldStamp, profiles::Stamp& stamp) {
-    for (const profiles::City& city : profiles::ListCities(ZoneTable(order))) {
+    for (const profiles::City& city :
+         profiles::ListCities(platform::ProfileZoneTable(order.Sources()))) {
         const QString name = city.Name + u".ini"_s;
         const ClockProperties made =
             profiles::MakeProfile(city, order.Now, FlagOf(order, city), defaults);
@@ -166,12 +137,11 @@ int main(int argc, char** argv) {
                      "[--date YYYY-MM-DD]\n");
         return 2;
     }
-    const QByteArray origin = Origin(order);
-    const profiles::Stamp stamp = profiles::ParseStamp(Content(order.StampFile()));
-    if (IsUpToDate(order, stamp, origin)) {
+    if (platform::AreProfilesUpToDate(order.Sources())) {
         return 0;
     }
-    if (!MakeAll(order, stamp, origin)) {
+    const profiles::Stamp stamp = platform::ParseProfileStamp(Content(order.StampFile()));
+    if (!MakeAll(order, stamp, platform::ProfileOrigin(order.Sources()))) {
         std::fprintf(stderr, "Can't make the profiles in %s\n", qPrintable(order.ProfileFolder()));
         return 1;
     }

@@ -281,7 +281,7 @@ void frmMain::SaveWindowPlacement() {
     ClockProperties fresh;
     if (!mduMain::IsBrokenSettings(files, IniFile(), DefaultIniFile()) &&
         mduLib::ReadPropertyFile(files, IniFile(), fresh)) {
-        centralProperties_ = fresh;
+        centralProperties_ = mduMain::ReadSettings(files, IniFile(), DefaultIniFile());
     }
     if (WindowState() == 0) {
         // What nobody has changed keeps its number: a small screen may have cut it for this time.
