@@ -116,10 +116,10 @@ Qt::WindowFlags FlagsOf(const ClockFrame& frame) {
 
 }  // namespace
 
-ClockFrame::ClockFrame(QMdiArea* area) : area_(area), place_(*this, *area) {
+ClockFrame::ClockFrame(QMdiArea* area) : ground_(area->viewport()), place_(*this, *area) {
     setStyle(StyleOf(area));
     setWindowFlags(FlagsOf(*this));
-    area->viewport()->installEventFilter(this);
+    ground_->installEventFilter(this);
 }
 
 // The flags' setter also takes the frame's measures anew, and may enlarge the window.
@@ -222,7 +222,7 @@ void ClockFrame::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 bool ClockFrame::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+    if (watched == ground_ && event->type() == QEvent::Resize) {
         place_.AreaResized();
     }
     return QMdiSubWindow::eventFilter(watched, event);

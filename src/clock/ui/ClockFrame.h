@@ -54,7 +54,7 @@ private:
 
     FrameLook look_;
     WindowOutline outline_{*this, [this] { RestoreMask(); }};
-    QMdiArea* area_;
+    QWidget* ground_;  ///< of the area, which may be half gone when its last events come
     FramePlace place_;
 };
 
