@@ -30,7 +30,7 @@ seam='\bcurrentDateTime(Utc)?\b|\bcurrent(Secs|MSecs)SinceEpoch\b|QTime::current
 seam+='|QDate::currentDate|\b(system|steady)_clock\b|\bQTimer\b|\bQBasicTimer\b'
 seam+='|\bQElapsedTimer\b|\bstartTimer\(|QRandomGenerator::(global|system)|\bs?rand\('
 seam+='|\bQ(Message|File|Color|Input|Font)(Box|Dialog)::|QProcess::|QDesktopServices::'
-seam+='|\bqgetenv\b|\bqEnvironmentVariable|\bgetenv\b|QThread::m?sleep|QStandardPaths::'
+seam+='|\bqgetenv\b|\bqEnvironmentVariable|\bgetenv\b|QStandardPaths::'
 KeepsSeam() {
     mapfile -t files < <(Sources src | grep -Ev '^src/(platform/|main\.cpp$)')
     Refuse "$seam" "${files[@]}"
@@ -40,6 +40,7 @@ KeepsSeam() {
 # windows that the user opens, the start, the companion, what runs in a thread of its own, and the
 # end of processes that have been killed.
 waits='\bexec\(|\bQEventLoop\b|\bprocessEvents\b|\bwaitFor[A-Z][A-Za-z]*\(|\bQDBus::Block'
+waits+='|\b(([mu]|nano)?sleep|sleep_(for|until)|qSleep)\('
 mayWait='main\.cpp|ctl/[A-Za-z]+\.cpp|platform/(voice|player)/main\.cpp'
 mayWait+='|platform/devices/(ChildProcess|OpenPath|LogindActions|LocalOneProgram)\.cpp'
 mayWait+='|platform/ui/DesktopDialogs\.cpp|foundation/SetupPaths\.cpp'
@@ -49,10 +50,12 @@ NeverWaits() {
     Refuse "$waits" "${files[@]}"
 }
 
-# What a tick finds out it posts: a box that asks would hold the tick up.
+# What a tick finds out it posts: a box that asks would hold the tick up. Of the clock's window a
+# tick reaches all but the menus and what they ask.
 asks='\bShowMsgbox\(|\bDialog\.(MessageBox|OpenFile|SaveFile|PickColour)\('
 AsksNobodyInATick() {
-    mapfile -t files < <(Sources src | grep -E '^src/(drawing|timers|speech|clock)/[^/]+$')
+    mapfile -t files < <(Sources src | grep -E '^src/(drawing|timers|speech|clock)/' |
+        grep -Ev '^src/clock/ui/frmTempolark(Asking|Menus)\.cpp$')
     Refuse "$asks" "${files[@]}"
 }
 

@@ -8,12 +8,14 @@
 #include "clock/ui/frmTempolark.h"
 #include "ctl/Command.h"
 #include "ctl/RecordingMachine.h"
+#include "ctl/ZoneByName.h"
 #include "foundation/SetupPaths.h"
 #include "platform/SimulatedClock.h"
 #include "platform/SystemClock.h"
 #include "platform/TzFolder.h"
 #include "platform/TzZoneDatabase.h"
 #include "timezones/StartZone.h"
+#include "timezones/UnknownZone.h"
 
 using namespace Qt::StringLiterals;
 
@@ -140,6 +142,7 @@ int Run(Context& context) {
         Complain(context.State.FailedSetupPath + u" can't be made"_s);
         return OperationFailed;
     }
+    TellNotice(mduTimeZones::UnknownClockNotice(services, context.State.Paths, name));
     Forms windows;
     const Program program{services, context.State, windows};
     MessageLog messages(log.Teller());

@@ -1,6 +1,6 @@
 #include <QJsonObject>
 
-#include "ctl/Command.h"
+#include "ctl/ZoneByName.h"
 #include "speech/SpeechPatterns.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneSources.h"
@@ -16,7 +16,7 @@ int Expand(Context& context) {
     if (zone.isEmpty()) {
         return WrongArguments;
     }
-    TimeZoneRecord record = mduTimeZones::FindTimeZone(context.Services, context.State.Paths, zone);
+    TimeZoneRecord record = FindAndTell(context, zone);
     const QDateTime now = context.Services.Clock.Now();
     mduTimeZones::ApplyCurrentOffset(record, now,
                                      mduTimeZones::GetLocalZone(context.Services).CurrentGMTHours);

@@ -1,7 +1,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include "ctl/Command.h"
+#include "ctl/ZoneByName.h"
 #include "timers/ClockTimers.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneSources.h"
@@ -47,8 +47,7 @@ struct LoadedTimers {
     timers::ClockTimers Timers;
 
     explicit LoadedTimers(const Context& context)
-        : Zone(mduTimeZones::FindTimeZone(context.Services, context.State.Paths,
-                                          context.Option(u"--zone"_s))),
+        : Zone(FindAndTell(context, context.Option(u"--zone"_s))),
           Shared{Host.Properties, Zone, Controls, context.Services, context.State, Host},
           Messages(Shared, [](const QString&) {}),
           Timers(Shared, Messages) {

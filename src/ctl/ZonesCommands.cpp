@@ -3,9 +3,9 @@
 #include <QFileInfo>
 #include <QJsonArray>
 
+#include "ctl/ZoneByName.h"
 #include "foundation/Numbers.h"
 #include "foundation/SetupPaths.h"
-#include "timezones/UnknownZone.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneConversion.h"
 #include "timezones/ZoneDescription.h"
@@ -35,17 +35,12 @@ float LocalHours(const Context& context) {
     return mduTimeZones::GetLocalZone(context.Services).CurrentGMTHours;
 }
 
-/// A name that no zone has is told, unless a file holds the zone's keys.
+/// The zone of the first argument. Where a file holds the zone's keys its name may be any.
 TimeZoneRecord Find(const Context& context) {
     const QString& name = context.Arguments[0];
-    const PathTable& paths = context.State.Paths;
-    const QString notice = context.HasOption(u"--file"_s)
-                               ? QString()
-                               : mduTimeZones::UnknownZoneNotice(context.Services, paths, name);
-    if (!notice.isEmpty()) {
-        Complain(notice);
-    }
-    return mduTimeZones::FindTimeZone(context.Services, paths, name);
+    return context.HasOption(u"--file"_s)
+               ? mduTimeZones::FindTimeZone(context.Services, context.State.Paths, name)
+               : FindAndTell(context, name);
 }
 
 /// The folder of the user's zone files.
@@ -73,11 +68,7 @@ std::optional<TimeZoneRecords> RecordsOfSource(const Context& context, const QSt
 void TellEdition(const Context& context) {
     const QString edition = context.Services.Zones.Edition();
     Complain(mduTimeZones::EditionText(edition));
-    const QString notice =
-        mduTimeZones::OldEditionNotice(edition, context.Services.Clock.Now().date());
-    if (!notice.isEmpty()) {
-        Complain(notice);
-    }
+    TellNotice(mduTimeZones::OldEditionNotice(edition, context.Services.Clock.Now().date()));
 }
 
 int List(Context& context) {

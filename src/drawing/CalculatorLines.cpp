@@ -15,6 +15,7 @@ namespace {
 using mduUILib::Control;
 
 constexpr int Tab = 9;
+constexpr int Enter = 13;
 constexpr int Esc = 27;
 
 }  // namespace
@@ -44,7 +45,7 @@ void CalculatorLines::SetCalculatorClock(bool fill) {
 
 void CalculatorLines::HideCalculatorClock() {
     isTyping_ = false;
-    ShowHint();
+    face_.Controls.lblClock(1).Visible = false;
     Line(false).Visible = false;
     Line(true).Visible = false;
 }
@@ -54,10 +55,14 @@ void CalculatorLines::BeginInput() {
     caret_ = {};
     isTyping_ = true;
     MoveCaretTo(false);
-    ShowHint();
+    SetCalculatorLayout();
+    TellKeys();
+    face_.Window.ShowChanges();
+}
+
+void CalculatorLines::TellKeys() {
     face_.Window.ShowStatus(
         u"Type a time. Tab changes the line, Esc goes back to the present time."_s);
-    face_.Window.ShowChanges();
 }
 
 bool CalculatorLines::EditCalculatorKey(int keyCode) {
@@ -67,6 +72,9 @@ bool CalculatorLines::EditCalculatorKey(int keyCode) {
         GiveBackTexts();
     } else {
         EditLine(keyCode);
+    }
+    if (keyCode == Enter) {
+        TellKeys();  // nothing else shows that the clock goes on standing still
     }
     face_.Window.ShowChanges();
     return keyCode != Esc;
@@ -113,10 +121,10 @@ void CalculatorLines::MoveCaretTo(bool zoneLine) {
 
 void CalculatorLines::GiveBackTexts() {
     isTyping_ = false;
-    ShowHint();
     face_.Controls.lblLocation(1).Caption = before_.Location;
     ShowText(false, before_.Local);
     ShowText(true, before_.Zone);
+    SetCalculatorLayout();
 }
 
 void CalculatorLines::EditLine(int keyCode) {

@@ -12,7 +12,8 @@ namespace drawing {
 /// The plain date and time of a line, without its prefix and the caret, is in the line's `Tag`.
 ///
 /// While a line is typed into the clock stands still. A small hint below the lines, in `lblClock`,
-/// then tells the way back, if there is room for it; the status bar tells it in any case.
+/// then tells the way back. The lines make room for it: those of an automatic size are smaller
+/// meanwhile, others move up. Where they can't, the status bar tells it alone.
 class CalculatorLines final : public CalculatorClock {
 public:
     explicit CalculatorLines(const FaceContext& face) : face_(face) {}
@@ -51,7 +52,8 @@ private:
     bool IsAutomatic(bool zoneLine) const;
     double AutomaticSize() const;
 
-    void ShowHint();
+    void FillHint();
+    void TellKeys();
     void MoveCaretTo(bool zoneLine);
     void GiveBackTexts();
     void EditLine(int keyCode);

@@ -46,8 +46,10 @@ void CalculatorLines::SetCalculatorLayout() {
         }
         PlaceAcross(zoneLine);
     }
+    if (isTyping_) {
+        FillHint();
+    }
     PlaceBelowEachOther();
-    ShowHint();
 }
 
 double CalculatorLines::WidestText(bool zoneLine, const QFont& font) const {
@@ -68,25 +70,36 @@ void CalculatorLines::PlaceAcross(bool zoneLine) {
     AutoSize(line, surface.DevicePixelRatio());
 }
 
+// In the middle of the height, and no lower than the hint's room below them allows. Where it finds
+// no room even so, there is none.
 void CalculatorLines::PlaceBelowEachOther() {
+    const Surface& surface = face_.Window.Surface();
+    Control& hint = face_.Controls.lblClock(1);
     const double first = static_cast<double>(Line(false).Height);
     const double second = static_cast<double>(Line(true).Height);
     const double gap = LinesApart * std::max(first, second);
-    const double top = (face_.Window.Surface().ScaleHeight() - first - gap - second) / 2;
-    Line(false).Top = static_cast<float>(std::nearbyint(top));
+    const double apart = HintApart * static_cast<double>(hint.Height);
+    const double free = surface.ScaleHeight() - first - gap - second;
+    const double below = free - apart - static_cast<double>(hint.Height);
+    const bool fitsAcross = static_cast<double>(hint.Width) <= surface.ScaleWidth();
+    hint.Visible = isTyping_ && fitsAcross && below >= 0;
+    const double top = std::nearbyint(hint.Visible ? std::min(free / 2, below) : free / 2);
+    Line(false).Top = static_cast<float>(top);
     Line(true).Top = static_cast<float>(std::nearbyint(top + first + gap));
+    hint.Top = static_cast<float>(std::floor(top + first + gap + second + apart));
 }
 
 bool CalculatorLines::IsAutomatic(bool zoneLine) const {
     return mduAPILib::IntegerValue(Value(zoneLine, u"Font Size"_s)) == -1;
 }
 
-// The whole number of pixels at which the widest automatic line fills the width, and two lines
-// have room in the height; in points.
+// The whole number of pixels at which the widest automatic line fills the width, and two lines,
+// with the hint while there is one, have room in the height; in points.
 double CalculatorLines::AutomaticSize() const {
     constexpr double tried = 100;  // logical pixels
     const Surface& surface = face_.Window.Surface();
     const double ratio = surface.DevicePixelRatio();
+    const double rows = 2 + LinesApart + (isTyping_ ? HintSize * (1 + HintApart) : 0);
     double pixels = LargestSize;
     for (const bool zoneLine : {false, true}) {
         if (IsAutomatic(zoneLine)) {
@@ -94,34 +107,25 @@ double CalculatorLines::AutomaticSize() const {
             font.setPointSizeF(tried * PointsPerPixel);
             const double height = TextSize(font, WidestMoment(), ratio).height();
             const double across = surface.ScaleWidth() / WidestText(zoneLine, font);
-            const double down = surface.ScaleHeight() / ((2 + LinesApart) * height);
+            const double down = surface.ScaleHeight() / (rows * height);
             pixels = std::min(pixels, tried * Filled * std::min(across, down));
         }
     }
     return std::max(std::floor(pixels) * PointsPerPixel, SmallestSize);
 }
 
-// Below the lines, in the colour of the first, where that leaves room.
-void CalculatorLines::ShowHint() {
+// In the colour of the first line, in the middle of the width.
+void CalculatorLines::FillHint() {
     const Surface& surface = face_.Window.Surface();
-    const double ratio = surface.DevicePixelRatio();
     Control& hint = face_.Controls.lblClock(1);
-    hint.Visible = isTyping_;
-    if (!isTyping_) {
-        return;
-    }
     hint.Caption = u"Esc: present time"_s;
     hint.ForeColor = Line(false).ForeColor;
     hint.Font = Line(false).Font;
     hint.Font.setPointSizeF(
         std::clamp(HintSize * hint.Font.pointSizeF(), SmallestHint, LargestHint));
-    AutoSize(hint, ratio);
-    const double height = static_cast<double>(hint.Height);
+    AutoSize(hint, surface.DevicePixelRatio());
     const double free = surface.ScaleWidth() - static_cast<double>(hint.Width);
-    const double top = static_cast<double>(Line(true).Top + Line(true).Height) + HintApart * height;
     hint.Left = static_cast<float>(std::nearbyint(free / 2));
-    hint.Top = static_cast<float>(std::nearbyint(top));
-    hint.Visible = free >= 0 && top + height <= surface.ScaleHeight();
 }
 
 }  // namespace drawing

@@ -18,7 +18,6 @@ using mduUILib::Control;
 
 namespace {
 
-constexpr double Automatic = -1;
 // Logical pixels.
 constexpr double SpeakerMargin = 4;
 constexpr double LeastSpeaker = 14, LargestSpeaker = 32;
@@ -123,9 +122,9 @@ void ClockOverlays::SetSpeakerPosition() {
     const double top = Pixels(u"Speaker Image Top"_s);
     const double margin = SpeakerMargin * ratio;
     Control& speaker = face_.Controls.imgSpeaker(1);
-    SetSquare(speaker, left == Automatic ? margin : left * ratio,
-              top == Automatic ? surface.ScaleHeight() - margin - side : top * ratio, side);
-    if (left == Automatic && top == Automatic) {
+    SetSquare(speaker, left == AutomaticPlace ? margin : left * ratio,
+              top == AutomaticPlace ? surface.ScaleHeight() - margin - side : top * ratio, side);
+    if (IsAutomaticPlace(left, top)) {
         KeepInside(speaker);
     }
     if (!speaker.Picture || speaker.Picture == speakerIdle_) {
@@ -139,9 +138,9 @@ void ClockOverlays::SetTransparentIconPosition() {
     const double left = Pixels(u"Transparent Icon Left"_s);
     const double top = Pixels(u"Transparent Icon Top"_s);
     Control& handle = face_.Controls.shpArea(1);
-    SetSquare(handle, left == Automatic ? 0 : left * ratio, top == Automatic ? 0 : top * ratio,
-              side);
-    if (left == Automatic && top == Automatic) {
+    SetSquare(handle, left == AutomaticPlace ? 0 : left * ratio,
+              top == AutomaticPlace ? 0 : top * ratio, side);
+    if (IsAutomaticPlace(left, top)) {
         KeepInside(handle);
     }
     handle.Visible = face_.Window.IsTransparent();
@@ -164,7 +163,7 @@ void ClockOverlays::SetLocationLabel() {
     const QPointF centre =
         ClockCentre(face_.Properties, surface.ScaleWidth(), surface.ScaleHeight());
     PlaceLocationLabel(label, locationLook_, surface, centre, Seen());
-    if (label.Visible && locationLook_.HasOwnPlace()) {
+    if (label.Visible && locationLook_.IsAutomatic()) {
         KeepInside(label);
     }
 }

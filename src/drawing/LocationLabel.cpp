@@ -13,7 +13,6 @@ namespace drawing {
 
 namespace {
 
-constexpr double Automatic = -1;
 constexpr double SmallestPoints = 6;
 constexpr double PointStep = 0.5;
 constexpr double PointsPerHeight = 0.05;
@@ -33,7 +32,7 @@ double NameWidth(const QString& name, double points, const Surface& surface) {
 }
 
 float Place(double stored, double automatic, double extent, double whole, double ratio) {
-    const double place = stored == Automatic ? automatic - extent / 2 : stored * ratio;
+    const double place = stored == AutomaticPlace ? automatic - extent / 2 : stored * ratio;
     const double inside = extent <= whole ? std::clamp(place, 0.0, whole - extent) : place;
     return static_cast<float>(mduAPILib::RoundToInteger(inside));
 }
@@ -94,7 +93,7 @@ void PlaceLocationLabel(mduUILib::Control& label, const LocationLook& look, cons
     }
     label.ForeColor = look.Colour;
     LayOut(label, points, look, surface, centre);
-    const bool mayShrink = look.Points < 0 && look.HasOwnPlace();
+    const bool mayShrink = look.Points < 0 && look.IsAutomatic();
     while (mayShrink && points > SmallestPoints && !seen.Holds(label.Rect())) {
         points = std::max(points - PointStep, SmallestPoints);
         LayOut(label, points, look, surface, centre);

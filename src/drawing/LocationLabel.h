@@ -10,15 +10,23 @@
 
 namespace drawing {
 
+/// In the properties this is a left or a top that the clock works out by itself.
+inline constexpr double AutomaticPlace = -1;
+
+/// Both are worked out: nobody has put the thing where it stands.
+inline bool IsAutomaticPlace(double left, double top) {
+    return left == AutomaticPlace && top == AutomaticPlace;
+}
+
 /// How the zone's name is shown, as the properties tell it.
 struct LocationLook {
-    double Points = -1;  ///< below 0: automatic; 0: not shown
-    double Left = -1;    ///< logical pixels; -1: automatic
-    double Top = -1;
+    double Points = -1;            ///< below 0: automatic; 0: not shown
+    double Left = AutomaticPlace;  ///< logical pixels
+    double Top = AutomaticPlace;
     int Colour = 0;
     bool Digital = false;  ///< the read-out takes the middle of the surface
 
-    bool HasOwnPlace() const { return Left == -1 && Top == -1; }  ///< both are automatic
+    bool IsAutomatic() const { return IsAutomaticPlace(Left, Top); }
 };
 
 /// A colour by chance is drawn here, once for each reading.

@@ -18,4 +18,12 @@ IForm* FindClock(const Forms& windows, const QString& zoneName) {
     return nullptr;
 }
 
+void BringToFront(IForm& window) {
+    if (window.WindowState() == 1) {
+        window.SetWindowState(0);
+    }
+    window.Show();
+    window.SetFocus();
+}
+
 }  // namespace mduLib

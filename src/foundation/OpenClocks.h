@@ -11,4 +11,7 @@ QString ClockCaption(const QString& zoneName);
 /// none. A file belongs to one clock at a time.
 IForm* FindClock(const Forms& windows, const QString& zoneName);
 
+/// Shows a window, a minimised one in its normal size, and gives it the focus.
+void BringToFront(IForm& window);
+
 }  // namespace mduLib

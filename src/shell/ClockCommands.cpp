@@ -1,6 +1,9 @@
 #include "shell/ClockCommands.h"
 
+#include <algorithm>
+
 #include "foundation/Numbers.h"
+#include "foundation/OpenClocks.h"
 #include "shell/OpenedMenu.h"
 
 using namespace Qt::StringLiterals;
@@ -9,23 +12,52 @@ namespace shell {
 
 namespace {
 
-/// Every clock, in order, as the list stands at each step.
-template <typename Do>
-void ForEachClock(const Forms& windows, const Do& act) {
+using HandleList = std::vector<int>;
+
+/// The handles of all windows. Any act on a window may close others and shorten the list, so that
+/// an index tells nothing later on.
+HandleList HandlesOf(const Forms& windows) {
+    HandleList handles;
     for (int i = 0; i < windows.Count(); ++i) {
-        if (windows[i].Name() == ClockWindowName) {
-            act(windows[i]);
+        handles.push_back(windows[i].hwnd());
+    }
+    return handles;
+}
+
+/// Every window that is still there when its turn comes.
+template <typename Do>
+void ForEachOf(const HandleList& handles, const Forms& windows, const Do& act) {
+    for (const int handle : handles) {
+        if (IForm* window = windows.Find(handle)) {
+            act(*window);
         }
     }
 }
 
+/// Every clock, in order.
+template <typename Do>
+void ForEachClock(const Forms& windows, const Do& act) {
+    ForEachOf(HandlesOf(windows), windows, [&](IForm& window) {
+        if (window.Name() == ClockWindowName) {
+            act(window);
+        }
+    });
+}
+
+/// The windows behind the shell, the first.
+HandleList ChildHandles(const Forms& windows) {
+    HandleList handles = HandlesOf(windows);
+    handles.erase(handles.begin(), handles.begin() + (handles.empty() ? 0 : 1));
+    return handles;
+}
+
 template <typename Do>
 void ForEachChild(const Forms& windows, const Do& act) {
-    for (int i = 1; i < windows.Count(); ++i) {
-        if (IsArrangeableChild(windows[i])) {
-            act(windows[i]);
+    ForEachOf(ChildHandles(windows), windows, [&](IForm& window) {
+        if (IsArrangeableChild(window)) {
+            act(window);
         }
-    }
+    });
 }
 
 /// The handle that a menu's Tag names; 0 for all clocks.
@@ -70,20 +102,7 @@ void SendMessageA(IForm& window, int message, int wParam) {
 }
 
 void SendToAllClocks(const Forms& windows, int message, int wParam) {
-    int bound = windows.Count() - 1;
-    for (int i = 0; i <= bound && i < windows.Count(); ++i) {
-        if (windows[i].Name() != ClockWindowName) {
-            continue;
-        }
-        const int before = windows.Count();
-        SendMessageA(windows[i], message, wParam);
-        // A closed clock has left the list and the next one stands in its place. One that refuses
-        // to close stays, and is passed by.
-        if (wParam == 0 && windows.Count() < before) {
-            --i;
-            --bound;
-        }
-    }
+    ForEachClock(windows, [=](IForm& window) { SendMessageA(window, message, wParam); });
 }
 
 void SendToClock(const Forms& windows, const QString& target, int message, int wParam) {
@@ -188,23 +207,23 @@ void MinimiseAllChildren(const Forms& windows) {
 }
 
 void CloseAllChildren(const Forms& windows) {
-    for (int i = windows.Count() - 1; i >= 1; --i) {
-        windows[i].Unload();
-    }
+    HandleList handles = ChildHandles(windows);
+    std::reverse(handles.begin(), handles.end());
+    ForEachOf(handles, windows, [](IForm& window) { window.Unload(); });
 }
 
-void BringToFront(IForm& window) {
-    if (window.WindowState() == 1) {
-        window.SetWindowState(0);
-    }
-    window.Show();
-    window.SetFocus();
+void CloseClocksOf(const Forms& windows, const QString& caption) {
+    ForEachClock(windows, [&](IForm& window) {
+        if (window.Caption() == caption) {
+            window.Unload();
+        }
+    });
 }
 
 bool ActivateWindowByHandle(const Forms& windows, int handle) {
     for (int i = 1; i < windows.Count(); ++i) {
         if (windows[i].hwnd() == handle) {
-            BringToFront(windows[i]);
+            mduLib::BringToFront(windows[i]);
             return true;
         }
     }

@@ -21,8 +21,7 @@ inline constexpr int Restore = 61728;
 /// Sends a message to one window.
 void SendMessageA(IForm& window, int message, int wParam);
 
-/// Sends a message to every clock. With a @p wParam of 0 the window may leave the list meanwhile,
-/// and none is skipped.
+/// Sends a message to every clock. One that closes may take others along; none is skipped.
 void SendToAllClocks(const Forms& windows, int message, int wParam);
 
 /// To the window whose handle is @p target; a text that is no number above 0 means all clocks.
@@ -63,8 +62,8 @@ void RestoreAllChildren(const Forms& windows);
 void MinimiseAllChildren(const Forms& windows);
 void CloseAllChildren(const Forms& windows);
 
-/// Shows a window, a minimised one in its normal size, and gives it the focus.
-void BringToFront(IForm& window);
+/// Closes the clocks of that caption.
+void CloseClocksOf(const Forms& windows, const QString& caption);
 
 /// Brings a window to the front; the first window is never found. @return whether it was.
 bool ActivateWindowByHandle(const Forms& windows, int handle);

@@ -43,7 +43,7 @@ int Launcher::LaunchTempolark(QString name) {
 }
 
 int Launcher::ShowOpen(IForm& clock, const QString& name) {
-    BringToFront(clock);
+    mduLib::BringToFront(clock);
     lastOpened_.PushLastOpened(name);
     status_(u"Tempolark for "_s + name + u" is open already."_s);
     return clock.hwnd();

@@ -391,6 +391,28 @@ private Q_SLOTS:
             u"Local Time: 15/06/2026 12:00:0"_s));
     }
 
+    /// A window that becomes low and wide: the lines and the hint follow at once, and stay so.
+    void TypedLinesFollowTheWindow() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"Nepal Standard Time"_s);
+        clock->SetClocks(3);
+        desk.Machine.Clock.Advance(1000);
+        QTest::keyClick(clock, Qt::Key_Tab);
+        const mduUILib::Control& hint = clock->Controls().lblClock(1);
+        const QString typed = clock->Controls().lblTimeInput(1).Caption;
+        clock->parentWidget()->resize(700, 130);
+        for (int i = 0; i < 3; ++i) {
+            const QRectF surface(0, 0, clock->width(), clock->height());
+            QVERIFY(hint.Visible);
+            QVERIFY(surface.contains(hint.Rect()));
+            QVERIFY(qAbs(hint.Rect().center().x() - surface.center().x()) <= 1);
+            QVERIFY(surface.contains(clock->Controls().lblTimeInput(1).Rect()));
+            QVERIFY(clock->Controls().lblTimeOutput(1).Rect().bottom() < hint.Rect().top());
+            QCOMPARE(clock->Controls().lblTimeInput(1).Caption, typed);
+            desk.Machine.Clock.Advance(1000);
+        }
+    }
+
     /// A right click offers the kinds, the styles of the folder and the colours.
     void MenuOfTheLook() {
         Desk desk;

@@ -446,6 +446,16 @@ private Q_SLOTS:
         QVERIFY(!child.Frame().isVisible());
     }
 
+    /// One that still speaks is there for a while, but no longer seen.
+    void ClosingGivesThePlaceUp() {
+        Child child;
+        child.Place.ApplyWindowRect();
+        child.Place.ShowClockWindow(true);
+        QVERIFY(child.Frame().Place().Stands());
+        child.Place.ShowClockWindow(false);
+        QVERIFY(!child.Frame().Place().Stands());
+    }
+
     void WrapperFillsTheShell() {
         Child child;
         child.Data.Tag = u"8"_s;

@@ -313,6 +313,22 @@ private Q_SLOTS:
         QCOMPARE(other.Data().Zone.HoursFromLocal, 5.75F);
     }
 
+    void LaunchingAnOpenClockRestoresIt() {
+        Desk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        frmTempolark* other = desk.Running(u"Nepal Standard Time"_s);
+        other->SetWindowState(1);
+        clock->SetFocus();
+        QCOMPARE(other->WindowState(), 1);
+        clock->LaunchMDITempolark(u"Nepal Standard Time"_s);
+        QCOMPARE(other->WindowState(), 0);
+        QVERIFY(other->IsActiveForm());
+        QCOMPARE(desk.Windows.Count(), 2);
+        other->SetWindowState(2);
+        clock->LaunchMDITempolark(u"Nepal Standard Time"_s);
+        QCOMPARE(other->WindowState(), 2);  // one that fills the area goes on doing so
+    }
+
     void DisabledByItsFile() {
         Desk desk;
         QByteArray file = desk.Machine.ReadFile(u"ini/Tempolark.ini"_s);

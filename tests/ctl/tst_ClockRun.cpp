@@ -7,7 +7,8 @@ using namespace Qt::StringLiterals;
 class tst_ClockRun : public QObject {
     Q_OBJECT
 
-    static CompanionAnswer Run(const Companion& companion, const QStringList& more) {
+    static CompanionAnswer Run(const Companion& companion, const QStringList& more,
+                               const QString& zone = u"GMT Standard Time"_s) {
         QDir().mkpath(companion.Folder.filePath(u"ini"_s));
         const QDir defaults(QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/ini"));
         for (const QString& name : defaults.entryList(QDir::Files)) {
@@ -16,7 +17,7 @@ class tst_ClockRun : public QObject {
         return companion.Run(QStringList{u"--app-folder"_s, companion.Folder.path(), u"--user"_s,
                                          u"me"_s, u"--now"_s, u"2026-11-21T10:08:42"_s,
                                          u"--local-zone"_s, u"Europe/London"_s, u"clock"_s,
-                                         u"run"_s, u"GMT Standard Time"_s} +
+                                         u"run"_s, zone} +
                              more);
     }
 
@@ -48,6 +49,22 @@ private Q_SLOTS:
                               u"10:08:42.000 interval "_s, u"10:08:42.010 state "_s,
                               u"10:08:42.010 state "_s, u"10:08:42.010 interval "_s,
                               u"10:08:42.010 interval "_s, u"10:08:42.020 state "_s}));
+    }
+
+    void TellsOfAZoneThatNobodyKnows() {
+        const Companion companion;
+        const QStringList atOnce = {u"--seconds"_s, u"0"_s};
+        const CompanionAnswer answer = Run(companion, atOnce, u"tokyo"_s);
+        QCOMPARE(answer.Status, 0);
+        QVERIFY(answer.Output.contains("\"event\":\"state\""));
+        QVERIFY2(answer.Messages.contains(
+                     "No time zone is called \"tokyo\": it counts as GMT. The nearest is "
+                     "\"Tokyo Standard Time\"\n"),
+                 answer.Messages.constData());
+        QVERIFY(!Run(companion, atOnce).Messages.contains("No time zone"));
+        companion.Write(u"me/TimeZones/Town.ini"_s,
+                        "Time Zone:Time Zone Standard GMT (Minutes)=-345\r\n");
+        QVERIFY(!Run(companion, atOnce, u"Town"_s).Messages.contains("No time zone"));
     }
 
     void TellsOfATimer() {

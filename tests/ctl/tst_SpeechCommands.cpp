@@ -21,6 +21,7 @@ class tst_SpeechCommands : public QObject {
 private Q_SLOTS:
     void ExpandsPatterns_data();
     void ExpandsPatterns();
+    void TellsOfAZoneThatNobodyKnows();
     void RefusesOtherArguments_data();
     void RefusesOtherArguments();
 };
@@ -50,6 +51,17 @@ void tst_SpeechCommands::ExpandsPatterns() {
     QCOMPARE(answer.Status, 0);
     QCOMPARE(answer.Object().keys(), QStringList{u"text"_s});
     QTEST(answer.Object()[u"text"_s].toString(), "text");
+}
+
+void tst_SpeechCommands::TellsOfAZoneThatNobodyKnows() {
+    const CompanionAnswer answer = Run({u"expand"_s, u"<ShortTime>"_s, u"--zone"_s, u"tokyo"_s});
+    QCOMPARE(answer.Messages,
+             QByteArray("No time zone is called \"tokyo\": it counts as GMT. The nearest is "
+                        "\"Tokyo Standard Time\"\n"));
+    QCOMPARE(answer.Output, QByteArray("{\"text\":\"06:30\"}\n"));
+    QCOMPARE(answer.Status, 0);
+    const QStringList known = {u"expand"_s, u"a"_s, u"--zone"_s, u"Tokyo Standard Time"_s};
+    QCOMPARE(Run(known).Messages, QByteArray());
 }
 
 void tst_SpeechCommands::RefusesOtherArguments_data() {

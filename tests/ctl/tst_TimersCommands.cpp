@@ -38,6 +38,7 @@ class tst_TimersCommands : public QObject {
 private Q_SLOTS:
     void Loads();
     void LoadsAtTheClocksTime();
+    void TellsOfAZoneThatNobodyKnows();
     void LoadsAMissingFile();
     void TellsOfAFileThatIsNoText();
     void Saves();
@@ -75,6 +76,23 @@ void tst_TimersCommands::LoadsAtTheClocksTime() {
     QCOMPARE(tokyo[u"slots"_s].toArray()[1].toObject()[u"TimerTime"_s].toString(), u"09:30"_s);
     QCOMPARE(tokyo[u"deferred"_s].toArray(),
              QJsonArray{u"0,Blue,.\\Sounds\\bell.wav,Log Off,40#16/11/2026 16:30=Tea"_s});
+}
+
+void tst_TimersCommands::TellsOfAZoneThatNobodyKnows() {
+    const Companion companion;
+    const QString file = companion.Write(u"Timer.txt"_s, "");
+    const QByteArray notice =
+        "No time zone is called \"tokyo\": it counts as GMT. The nearest is "
+        "\"Tokyo Standard Time\"\n";
+    CompanionAnswer answer = Run(companion, {u"load"_s, file, u"--zone"_s, u"tokyo"_s});
+    QCOMPARE(answer.Messages, notice);
+    QCOMPARE(answer.Output, QByteArray("{\"deferred\":[],\"slots\":[]}\n"));
+    QCOMPARE(answer.Status, 0);
+    const QString saved = companion.Folder.filePath(u"saved.txt"_s);
+    answer = Run(companion, {u"save"_s, file, saved, u"--zone"_s, u"tokyo"_s});
+    QCOMPARE(answer.Messages, notice);
+    QCOMPARE(answer.Status, 0);
+    QCOMPARE(Run(companion, {u"load"_s, file, u"--zone"_s, London}).Messages, QByteArray());
 }
 
 void tst_TimersCommands::LoadsAMissingFile() {

@@ -97,6 +97,10 @@ private Q_SLOTS:
     void BeginsAnewInTheLocalLine();
     void TellsOfEscWhileItStandsStill();
     void PlacesTheHintBelowTheLines();
+    void AutomaticLinesMakeRoomForTheHint_data();
+    void AutomaticLinesMakeRoomForTheHint();
+    void LinesMoveUpForTheHint();
+    void EnterTellsOfEscAgain();
     void TellsOfEscInTheStatusBarWithoutRoom();
     void SurvivesBadInput_data();
     void SurvivesBadInput();
@@ -454,6 +458,74 @@ void tst_CalculatorLines::PlacesTheHintBelowTheLines() {
     lines.Face.Set(u"Calculator Local Time Font Size"_s, u"6"_s);
     lines.Calculator.SetCalculatorLayout();
     QCOMPARE(hint.Font.pointSizeF(), 7.0);
+}
+
+void tst_CalculatorLines::AutomaticLinesMakeRoomForTheHint_data() {
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::newRow("low") << 600 << 60;
+    QTest::newRow("low and wide") << 1600 << 120;
+    QTest::newRow("large") << 3000 << 300;
+    QTest::newRow("the width decides") << 300 << 200;
+}
+
+void tst_CalculatorLines::AutomaticLinesMakeRoomForTheHint() {
+    QFETCH(int, width);
+    QFETCH(int, height);
+    Lines lines;
+    const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
+    lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
+    lines.Face.Window.Resize(width, height);
+    lines.Calculator.SetCalculatorClock(true);
+    const double size = lines.Local().Font.pointSizeF();
+    const QRectF zone = lines.Zone().Rect();
+    lines.Calculator.BeginInput();
+    QVERIFY(hint.Visible);
+    QVERIFY(lines.Local().Top >= 0);
+    QVERIFY(lines.Local().Rect().bottom() <= lines.Zone().Rect().top());
+    QVERIFY(lines.Zone().Rect().bottom() < hint.Rect().top());
+    QVERIFY2(hint.Rect().bottom() <= height, qPrintable(QString::number(hint.Rect().bottom())));
+    QCOMPARE(lines.Local().Font.pointSizeF() < size, width > 300);
+    lines.Press(27);
+    QVERIFY(!hint.Visible);
+    QCOMPARE(lines.Local().Font.pointSizeF(), size);
+    QCOMPARE(lines.Zone().Rect(), zone);
+}
+
+/// Lines of a size of their own keep it.
+void tst_CalculatorLines::LinesMoveUpForTheHint() {
+    Lines lines;
+    const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
+    lines.Face.Window.Resize(600, 70);
+    lines.Calculator.SetCalculatorClock(true);
+    const float local = lines.Local().Top;
+    const float zone = lines.Zone().Top;
+    lines.Calculator.BeginInput();
+    QVERIFY(hint.Visible);
+    QCOMPARE(hint.Rect().bottom(), 70.0);  // as far as needed, and no farther
+    QVERIFY(lines.Local().Top < local && lines.Local().Top >= 0);
+    QVERIFY(qAbs(local - lines.Local().Top - (zone - lines.Zone().Top)) <= 1);
+    QCOMPARE(lines.Local().Font.pointSizeF(), 12.0);
+    lines.Calculator.SetCalculatorClock(true);
+    QCOMPARE(lines.Local().Top, local);
+    lines.Face.Window.Resize(600, 60);
+    lines.Calculator.BeginInput();  // there is no room: they stay in the middle
+    QVERIFY(!hint.Visible);
+    const float below = 60 - lines.Zone().Top - lines.Zone().Height;
+    QVERIFY(qAbs(lines.Local().Top - below) <= 1);
+}
+
+void tst_CalculatorLines::EnterTellsOfEscAgain() {
+    BlankLines lines;
+    lines.Type(u"12:30"_s);
+    QCOMPARE(lines.Face.Window.Status, QStringList());
+    lines.Press(13);
+    QCOMPARE(
+        lines.Face.Window.Status,
+        QStringList{u"Type a time. Tab changes the line, Esc goes back to the present time."_s});
+    lines.Press(27);
+    QCOMPARE(lines.Face.Window.Status.size(), 1);
 }
 
 void tst_CalculatorLines::TellsOfEscInTheStatusBarWithoutRoom() {

@@ -42,7 +42,7 @@ for call in 'QDateTime::currentDateTime();' 'QTime::currentTime();' 'QTimer t;' 
     'std::chrono::system_clock::now();' 'QRandomGenerator::global();' 'QProcess::execute(a);' \
     'QMessageBox::warning(a);' 'QFileDialog::getOpenFileName();' 'qgetenv("A");' \
     'QElapsedTimer t;' 'QDateTime::currentMSecsSinceEpoch();' 'startTimer(5);' \
-    'QColorDialog::getColor();' 'std::getenv("A");' 'QThread::msleep(5);'; do
+    'QColorDialog::getColor();' 'std::getenv("A");'; do
     Check "refuses $call" Refused "$seam" src/clock/ui/Bad.cpp "$call"
 done
 Check "refuses it behind a string with slashes" \
@@ -65,6 +65,13 @@ for call in 'box.exec();' 'QEventLoop loop;' 'QCoreApplication::processEvents();
     Check "refuses $call" Refused "$tick" src/clock/ui/Bad.cpp "$call"
     Check "refuses it in the platform: $call" Refused "$tick" src/platform/Bad.h "$call"
 done
+for call in 'std::this_thread::sleep_for(1s);' 'this_thread::sleep_until(t);' 'usleep(500);' \
+    'nanosleep(&t, 0);' 'sleep(1);' 'qSleep(9);' 'QThread::msleep(5);'; do
+    Check "refuses a sleep: $call" Refused "$tick" src/clock/ui/Bad.cpp "$call"
+    Check "refuses it in the platform: $call" Refused "$tick" src/platform/Bad.h "$call"
+done
+Check "lets the wait for another program sleep" \
+    Accepted src/platform/devices/LocalOneProgram.cpp 'QThread::msleep(BetweenTries);'
 Check "refuses it in a file of a like name" \
     Refused "$tick" src/clock/ui/DesktopDialogs.cpp 'box.exec();'
 Check "lets the program run" Accepted src/main.cpp 'QApplication::exec();'
@@ -80,7 +87,13 @@ for call in 'host.ShowMsgbox(a, 1, b);' 'services.Dialog.MessageBox(a, 1, b);' \
 done
 Check "refuses a question in a clock" \
     Refused "$asks" src/clock/Bad.cpp 'services.Dialog.SaveFile(a, b, c);'
-Check "lets a window ask" Accepted src/clock/ui/Good.cpp 'services.Dialog.OpenFile(a, b, c);'
+for file in Timers Canvas Styles; do
+    Check "refuses a question in the clock's window, where a tick comes: $file" Refused "$asks" \
+        "src/clock/ui/frmTempolark$file.cpp" 'program_.Services.Dialog.OpenFile(a, b, c);'
+done
+Check "lets a clock's menu ask" \
+    Accepted src/clock/ui/frmTempolarkAsking.cpp 'services.Dialog.OpenFile(a, b, c);'
+Check "lets a window ask" Accepted src/shell/ui/Good.cpp 'services.Dialog.OpenFile(a, b, c);'
 Check "lets a tick post" Accepted src/timers/Good.cpp 'services.Dialog.PostMessageBox(a, 1, b);'
 
 core="the core is free of widgets"

@@ -5,6 +5,25 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A window that takes others along when it closes.
+class Companion final : public RecordingForm<IForm> {
+public:
+    using RecordingForm::RecordingForm;
+
+    std::vector<IForm*> Others;
+
+    void Unload() override {
+        RecordingForm::Unload();
+        for (IForm* other : Others) {
+            other->Unload();
+        }
+    }
+};
+
+}  // namespace
+
 class tst_ClockCommands : public QObject {
     Q_OBJECT
 
@@ -179,6 +198,39 @@ private Q_SLOTS:
         shell::CloseAllChildren(desk.Windows);
         QCOMPARE(desk.Log, Lines("C: close|B: close|other: close|A: close"));
         QCOMPARE(desk.Windows.Count(), 1);
+    }
+
+    /// The window of zones removes the zones that are no longer checked, and their clocks go, too.
+    void CloseAllGoesOnWhereAWindowTakesOthersAlong() {
+        Desk desk;
+        Companion zones{desk.Windows, u"frmTimeZones"_s, u"zones"_s, desk.Log};
+        zones.Others = {&desk.B, &desk.C, &desk.Other};
+        shell::CloseAllChildren(desk.Windows);
+        QCOMPARE(desk.Log, Lines("zones: close|B: close|C: close|other: close|A: close"));
+        QCOMPARE(desk.Windows.Count(), 1);
+    }
+
+    void CloseAllClocksGoesOnWhereAClockTakesOthersAlong() {
+        Desk desk;
+        Companion first{desk.Windows, ClockWindowName, u"first"_s, desk.Log};
+        Companion last{desk.Windows, ClockWindowName, u"last"_s, desk.Log};
+        FakeClock end{desk.Windows, u"end"_s, desk.Log};
+        first.Others = {&desk.A, &desk.B, &last};
+        shell::SendToAllClocks(desk.Windows, 16, 0);
+        QCOMPARE(desk.Log, Lines("A: close|B: close|C: close|first: close|A: close|B: close|"
+                                 "last: close|end: close"));
+        QCOMPARE(desk.Windows.Count(), 2);
+    }
+
+    void ClosesTheClocksOfOneZone() {
+        Desk desk;
+        FakeForm like{desk.Windows, u"frmProperties"_s, u"B"_s, desk.Log};
+        Companion twin{desk.Windows, ClockWindowName, u"B"_s, desk.Log};
+        FakeClock end{desk.Windows, u"end"_s, desk.Log};
+        twin.Others = {&end};
+        shell::CloseClocksOf(desk.Windows, u"B"_s);
+        QCOMPARE(desk.Log, Lines("B: close|B: close|end: close"));
+        QCOMPARE(desk.Windows.Count(), 5);  // the shell, A, C, and two that are no clocks
     }
 
     void ActivateNeverFindsTheFirst() {

@@ -22,6 +22,10 @@ private Q_SLOTS:
     void UncheckingAsksBeforeTheNextFill_data();
     void UncheckingAsksBeforeTheNextFill();
     void UncheckingInTheListOfFilesOnlySelects();
+    void UncheckingAsksBeforeTheListOfFiles_data();
+    void UncheckingAsksBeforeTheListOfFiles();
+    void UncheckedFilesAreKeptByTheNextSource_data();
+    void UncheckedFilesAreKeptByTheNextSource();
     void AsksForBothAtOnce();
     void CheckingAgainKeepsTheFile();
     void SpaceChecksARow();
@@ -143,6 +147,52 @@ void tst_TimeZoneWindow::UncheckingInTheListOfFilesOnlySelects() {
     desk.Run(u"ShowAll"_s);
     QCOMPARE(desk.Shell.Boxes, QStringList());
     QVERIFY(desk.IsChecked(Tokyo));
+}
+
+void tst_TimeZoneWindow::UncheckingAsksBeforeTheListOfFiles_data() {
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("listed");
+    QTest::newRow("yes") << 6 << QStringList();
+    QTest::newRow("no") << 7 << QStringList{Tokyo};
+}
+
+/// The rows are those of the database still, whatever source comes next. It is asked once.
+void tst_TimeZoneWindow::UncheckingAsksBeforeTheListOfFiles() {
+    QFETCH(int, answer);
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo, "Time Zone:Time Zone Standard Name=Tokyo Standard Time\r\n");
+    desk.Open();
+    desk.ClickCheckBox(Tokyo);
+    desk.Shell.Answers = {answer};
+    desk.Run(u"SourceSelected"_s);
+    QCOMPARE(desk.Shell.Boxes,
+             QStringList{u"Do you want to save the removal of Tokyo Standard Time, with the "
+                         "settings of its clock?|292|Save Seleted Time Zones"_s});
+    QTEST(desk.Listed(), "listed");
+    QCOMPARE(desk.HasFile(Tokyo), answer == 7);
+}
+
+void tst_TimeZoneWindow::UncheckedFilesAreKeptByTheNextSource_data() {
+    QTest::addColumn<QString>("source");
+    QTest::newRow("database") << u"SourceWindows"_s;
+    QTest::newRow("profiles") << u"SourceTempolark"_s;
+    QTest::newRow("both") << u"SourceBoth"_s;
+}
+
+/// In the list of files a check tells what "Delete Selected" takes, and is no wish of its own.
+void tst_TimeZoneWindow::UncheckedFilesAreKeptByTheNextSource() {
+    QFETCH(QString, source);
+    ZoneWindowDesk desk;
+    desk.ZoneFile(Tokyo, "Time Zone:Time Zone Standard Name=Tokyo Standard Time\r\n");
+    desk.ZoneFile(Utc, "Time Zone:Time Zone Standard Name=UTC\r\n");
+    desk.Open();
+    desk.Run(u"SourceSelected"_s);
+    desk.ClickCheckBox(Tokyo);
+    QVERIFY(!desk.IsChecked(Tokyo));
+    desk.Run(source);
+    QCOMPARE(desk.Shell.Boxes, QStringList());
+    QVERIFY(desk.HasFile(Tokyo));
+    QVERIFY(desk.HasFile(Utc));
 }
 
 void tst_TimeZoneWindow::AsksForBothAtOnce() {

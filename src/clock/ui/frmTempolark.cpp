@@ -107,7 +107,7 @@ void frmTempolark::LaunchMDITempolark(QString zoneName) {
         zoneName = mduTimeZones::GetLocalZone(program_.Services).StandardName;
     }
     if (IForm* open = mduLib::FindClock(program_.Windows, zoneName)) {
-        open->SetFocus();
+        mduLib::BringToFront(*open);
         return;
     }
     auto* other = new frmTempolark(program_, shell_, area_);

@@ -70,6 +70,8 @@ public:
     void SetClocks(int mode) override;
     /// Applies a style file; an empty name or "More" asks for one.
     void SetClockStyle(const QString& styleFile) override;
+    /// The same without a question: a tick may do it.
+    void ApplyClockStyle(const QString& styleFile);
     void SetWindowBackColour(const QString& value, const QString& caption) override;
     /// Asks for a colour and makes it the window's.
     void PickWindowBackColour();

@@ -1,4 +1,4 @@
-// The operations that change a clock's look as a whole.
+// The operations that change a clock's look as a whole. A tick comes here, so none of them asks.
 #include "clock/ClockMode.h"
 #include "clock/ui/frmTempolark.h"
 #include "foundation/FileHelpers.h"
@@ -10,12 +10,6 @@
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;
-
-namespace {
-
-const QString IniFilter = u"Ini File (*.ini)"_s;
-
-}  // namespace
 
 void frmTempolark::SetProperty() {
     program_.Module.CurrentProperties = data_.Properties();
@@ -54,27 +48,10 @@ void frmTempolark::SetWindowBackColour(const QString& value, const QString& capt
     Refresh();
 }
 
-void frmTempolark::PickWindowBackColour() {
-    const QPointer<frmTempolark> self = this;  // the clock may be closed beside its picker
-    const int colour = program_.Services.Dialog.PickColour(backColour_);
-    if (self && !IsClosing() && colour >= 0) {
-        SetWindowBackColour(QString::number(colour), u"Custom"_s);
-    }
-}
-
-void frmTempolark::SetClockStyle(const QString& styleFile) {
-    QString name = styleFile;
-    if (name.isEmpty() || name == u"More"_s) {
-        const QPointer<frmTempolark> self = this;
-        name = program_.Services.Dialog.OpenFile(u"Clock Styles"_s,
-                                                 program_.Module.Paths.StylesFolder, IniFilter);
-        if (!self || IsClosing()) {
-            return;
-        }
-    }
+void frmTempolark::ApplyClockStyle(const QString& styleFile) {
     QString problem;
     const std::optional<ClockProperties> style =
-        styles_.Read(name, data_.PropertyFileName, data_.Properties(), problem);
+        styles_.Read(styleFile, data_.PropertyFileName, data_.Properties(), problem);
     if (!problem.isEmpty()) {
         Status(problem);
     }
@@ -101,7 +78,7 @@ void frmTempolark::ApplyNextStyle() {
     }
     int& index = data_.Dial.StyleIndex;
     index = index + 1 >= names.size() ? 0 : index + 1;
-    SetClockStyle(program_.Module.Paths.StylesFolder + names[index]);
+    ApplyClockStyle(program_.Module.Paths.StylesFolder + names[index]);
 }
 
 // "Clock Special" and all that was chosen by name is in the properties already; places and fonts
@@ -154,21 +131,6 @@ void frmTempolark::SaveCurrentStyle() {
 
 void frmTempolark::TellSaved(const QString& what) {
     Status(mduLib::SavedMessage(what, program_.Services.Clock.Now()));
-}
-
-void frmTempolark::SaveStyleAs() {
-    const QPointer<frmTempolark> self = this;
-    const QString chosen = program_.Services.Dialog.SaveFile(
-        u"Save Style As"_s, program_.Module.Paths.StylesFolder, IniFilter);
-    if (!self || IsClosing() || chosen.isEmpty()) {
-        return;
-    }
-    const QString path = clockcore::StyleFiles::SavePath(chosen);
-    if (styles_.Write(path, data_.Properties(), placement_.PlaceToStore())) {
-        TellSaved(u"the style "_s + mduLib::FileBaseName(path, false));
-    } else {
-        Status(path + u" can't be written"_s);
-    }
 }
 
 void frmTempolark::RefreshForm(const QString& fileName) {

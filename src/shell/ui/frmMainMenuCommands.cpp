@@ -267,12 +267,7 @@ void frmMain::ClickRemove(const shell::MenuItem& item) {
 
 // A clock that is open goes first: it writes its file once more when it closes.
 QString frmMain::RemoveZone(const QString& name) {
-    for (int i = program_.Windows.Count() - 1; i > 0; --i) {
-        IForm& window = program_.Windows[i];
-        if (window.Name() == ClockWindowName && window.Caption() == name) {
-            window.Unload();
-        }
-    }
+    shell::CloseClocksOf(program_.Windows, name);
     if (shell::IsClockWindowOpen(program_.Windows, name)) {
         return u"The clock of %1 is still open"_s.arg(name);
     }

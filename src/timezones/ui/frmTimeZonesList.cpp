@@ -36,11 +36,17 @@ void frmTimeZones::NarrowToBand() {
     ShowBandButton();
 }
 
+// What the rows hold is judged by the source that they came from.
 void frmTimeZones::SetSource(SourceMode source) {
-    list_.Source = source;
-    if (isVisible()) {
-        LoadZoneList(list_.Show);
+    if (!isVisible()) {
+        list_.Source = source;
+        return;
     }
+    ConfirmSave();
+    Refill([&] {
+        list_.Source = source;
+        list_.Load();
+    });
 }
 
 void frmTimeZones::SetSort(ZoneSort sort) {
