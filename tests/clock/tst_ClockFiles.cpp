@@ -72,7 +72,6 @@ private Q_SLOTS:
     void RenewsAFileThatIsReadAsItStands();
     void RenewsAnOpenClockInTheNextYear();
     void RenewsTheZoneAloneInOneWrite();
-    void WritesNothingWhereNothingIsRenewed();
     void LeavesWhatItMayNotWrite();
 };
 
@@ -161,22 +160,6 @@ void tst_ClockFiles::RenewsTheZoneAloneInOneWrite() {
     QVERIFY(!desk.Machine.ReadFile(File).contains("tried"));
     QCOMPARE(mduLib::GetProperty(u"Zone Colour"_s, desk.Data.Properties()), u"tried"_s);
     QVERIFY(desk.ZoneIsOf2026());
-}
-
-// No database and no profile knows the zone.
-void tst_ClockFiles::WritesNothingWhereNothingIsRenewed() {
-    Desk desk;
-    desk.LeaveOldFile();
-    const QByteArray content = desk.Machine.ReadFile(File);
-    const QString nowhere = desk.Machine.WriteFile(u"tester/TimeZones/Nowhere.ini"_s, content);
-    QVERIFY(desk.Files.NameCurrentFile(u"Nowhere"_s));
-    desk.Files.LoadCurrent();
-    desk.Files.FillZone(u"Nowhere"_s);
-    desk.Machine.Files.Writes.clear();
-    desk.Files.RefreshZone();
-    QCOMPARE(desk.Machine.Files.Writes, QStringList());
-    QVERIFY(
-        desk.Machine.ReadFile(u"tester/TimeZones/Nowhere.ini"_s).contains("=02/11/2025 2:00:00"));
 }
 
 void tst_ClockFiles::LeavesWhatItMayNotWrite() {
