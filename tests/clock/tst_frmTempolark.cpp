@@ -322,7 +322,7 @@ private Q_SLOTS:
         QCOMPARE(other->WindowState(), 1);
         clock->LaunchMDITempolark(u"Nepal Standard Time"_s);
         QCOMPARE(other->WindowState(), 0);
-        QVERIFY(other->IsActiveForm());
+        QCOMPARE(desk.Area.activeSubWindow()->widget(), other);
         QCOMPARE(desk.Windows.Count(), 2);
         other->SetWindowState(2);
         clock->LaunchMDITempolark(u"Nepal Standard Time"_s);
