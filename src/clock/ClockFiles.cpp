@@ -132,8 +132,15 @@ void ClockFiles::WriteZone(const QString& zoneName) {
     }
 }
 
+// All that is in memory has just come from the file.
 void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
-    WriteZone(zoneName);
+    if (mayWrite_) {
+        bool written = true;
+        mduTimeZones::WriteZoneKeys(program_.Services, program_.Module.Paths,
+                                    data_.EditProperties(), zoneName, data_.PropertyFileName,
+                                    &written);
+        ReportUnless(written);
+    }
     program_.Module.CurrentProperties = data_.Properties();
 }
 
