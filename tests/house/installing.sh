@@ -80,8 +80,8 @@ Machine 2019b 2019b
 touch "$scratch/offline"
 Check "goes on with an old one where there is no network" Runs "update" ""
 Check "does not try again on that day" Runs "update" ""
-# Ages DAYS: so much time goes by.
-Ages() { touch -d "@$(($(stat -c %Y "$scratch/asked") - $1 * 86400))" "$scratch/asked"; }
+# Ages DAYS: so much time goes by, and a little more: find counts whole days.
+Ages() { touch -d "@$(($(stat -c %Y "$scratch/asked") - $1 * 86400 - 2))" "$scratch/asked"; }
 Ages 1
 rm "$scratch/offline"
 echo "${year}a" >"$scratch/newer"
