@@ -78,21 +78,21 @@ QRect KiteBox(const Hand& hand) {
 }
 
 struct StyleRow {
-    HandStyle Style;
     QLatin1StringView Name;
-    bool IsPen;
     void (*Draw)(Surface&, const Hand&);
     QRect (*Bounds)(const Hand&);
+    HandStyle Style;
+    bool IsPen;
 };
 
 constexpr StyleRow Styles[] = {
-    {HandStyle::Line, "Line"_L1, true, DrawLine, LineBox},
-    {HandStyle::Frame, "Frame"_L1, true, DrawOutline, OutlineBox},
-    {HandStyle::MetalSimple, "3D Metal Simple"_L1, false, DrawBar<MetalTone>, BarBox},
-    {HandStyle::GoldSimple, "3D Gold Simple"_L1, false, DrawBar<GoldTone>, BarBox},
-    {HandStyle::Metal, "3D Metal"_L1, false, DrawKite<MetalTone>, KiteBox},
-    {HandStyle::Gold, "3D Gold"_L1, false, DrawKite<GoldTone>, KiteBox},
-    {HandStyle::Solid, "3D"_L1, false, DrawColouredKite, KiteBox},
+    {"Line"_L1, DrawLine, LineBox, HandStyle::Line, true},
+    {"Frame"_L1, DrawOutline, OutlineBox, HandStyle::Frame, true},
+    {"3D Metal Simple"_L1, DrawBar<MetalTone>, BarBox, HandStyle::MetalSimple, false},
+    {"3D Gold Simple"_L1, DrawBar<GoldTone>, BarBox, HandStyle::GoldSimple, false},
+    {"3D Metal"_L1, DrawKite<MetalTone>, KiteBox, HandStyle::Metal, false},
+    {"3D Gold"_L1, DrawKite<GoldTone>, KiteBox, HandStyle::Gold, false},
+    {"3D"_L1, DrawColouredKite, KiteBox, HandStyle::Solid, false},
 };
 
 /// Null for an unknown style.

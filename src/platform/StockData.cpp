@@ -68,7 +68,7 @@ QString CopyStockData(const QString& source, const QString& folder) {
         QDirIterator files(source + u'/' + name, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString file = files.next();
-            const QString target = folder + file.sliced(source.size());
+            QString target = folder + file.sliced(source.size());
             const bool isNew = !QFile::exists(target);
             if (!IsWanted(name, QFileInfo(file), QFileInfo(target))) {
                 continue;
