@@ -60,9 +60,11 @@ QString PrepareAppFolder(const QString& folder) {
     return {};
 }
 
+// In the order in which another start makes them: the mark comes before all else, and goes when the
+// default files are there.
 bool HoldsOtherFiles(const QString& folder) {
-    return QFileInfo(folder).isDir() && !HasDefaults(folder) && !IsEmpty(folder) &&
-           !QFile::exists(MarkOf(folder));
+    return QFileInfo(folder).isDir() && !IsEmpty(folder) && !QFile::exists(MarkOf(folder)) &&
+           !HasDefaults(folder);
 }
 
 QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {
