@@ -69,9 +69,11 @@ QString PrepareAppFolder(const QString& folder) {
     return {};
 }
 
+// In the order in which another start makes them: the mark comes before all else, and goes when the
+// default files are there.
 bool HoldsOtherFiles(const QString& folder, const AppFolderPlaces& places) {
-    return folder != places.UserFolder && QFileInfo(folder).isDir() && !IsOwn(folder) &&
-           !IsEmpty(folder) && !QFile::exists(MarkOf(folder));
+    return folder != places.UserFolder && QFileInfo(folder).isDir() && !IsEmpty(folder) &&
+           !QFile::exists(MarkOf(folder)) && !IsOwn(folder);
 }
 
 QString FillAppFolder(const QString& folder, const AppFolderPlaces& places) {

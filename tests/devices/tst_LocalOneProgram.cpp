@@ -25,7 +25,10 @@ struct Desk {
         QDir().mkpath(Folder);
         QDir().mkpath(Sockets);
     }
-    std::unique_ptr<LocalOneProgram> Program(std::chrono::milliseconds patience = 10s) const {
+    using Patience = LocalOneProgram::Patience;
+    static constexpr Patience Long = {1h, 1h};
+
+    std::unique_ptr<LocalOneProgram> Program(const Patience& patience = Long) const {
         return std::make_unique<LocalOneProgram>(Folder, Sockets, patience);
     }
     std::unique_ptr<LocalOneProgram> Running() {
@@ -41,8 +44,7 @@ struct Desk {
 
     /// A start somewhere else, while this thread is the program that runs.
     static std::future<Outcome> Start(const QString& folder, const QString& sockets,
-                                      const QString& commandLine,
-                                      std::chrono::milliseconds patience = 10s) {
+                                      const QString& commandLine, const Patience& patience = Long) {
         return std::async(std::launch::async, [=] {
             return LocalOneProgram(folder, sockets, patience).Claim(commandLine);
         });
@@ -137,12 +139,13 @@ private Q_SLOTS:
         QCOMPARE(later.get().As, Role::HandedOver);
     }
 
+    /// It may be filling its folder: that takes longer than an answer.
     void WaitsForOneThatIsAboutToListen() {
         Desk desk;
         const auto first = desk.Program();
         QCOMPARE(first->Claim({}).As, Role::Alone);
-        auto later = Desk::Start(desk.Folder, desk.Sockets, u"UTC"_s);
-        QCOMPARE(later.wait_for(300ms), std::future_status::timeout);
+        auto later = Desk::Start(desk.Folder, desk.Sockets, u"UTC"_s, {1s, 1h});
+        QCOMPARE(later.wait_for(1500ms), std::future_status::timeout);
         QCOMPARE(desk.Listen(*first), QString());
         QTRY_VERIFY(Desk::IsDone(later));
         QCOMPARE(later.get().As, Role::HandedOver);
@@ -178,18 +181,24 @@ private Q_SLOTS:
 
     void GivesUpOnOneThatHangs_data() {
         QTest::addColumn<bool>("listens");
-        QTest::newRow("before it listens") << false;
-        QTest::newRow("with an open socket") << true;
+        QTest::addColumn<int>("answer");  // milliseconds
+        QTest::addColumn<int>("start");
+        QTest::newRow("before it listens") << false << 3'600'000 << 200;
+        QTest::newRow("with an open socket") << true << 200 << 3'600'000;
     }
 
     /// Its thread never comes to its events.
     void GivesUpOnOneThatHangs() {
         QFETCH(bool, listens);
+        QFETCH(int, answer);
+        QFETCH(int, start);
         Desk desk;
         const auto hung = desk.Program();
         QCOMPARE(hung->Claim({}).As, Role::Alone);
         QVERIFY(!listens || desk.Listen(*hung).isEmpty());
-        const Outcome outcome = desk.Program(200ms)->Claim(u"UTC"_s);
+        const Desk::Patience patience = {std::chrono::milliseconds(answer),
+                                         std::chrono::milliseconds(start)};
+        const Outcome outcome = desk.Program(patience)->Claim(u"UTC"_s);
         QCOMPARE(outcome.As, Role::Refused);
         QCOMPARE(
             outcome.Problem,
@@ -200,8 +209,8 @@ private Q_SLOTS:
     void OfTwoStartsOneRuns() {
         for (int time = 0; time < 50; ++time) {
             Desk desk;
-            const auto one = desk.Program(100ms);
-            const auto two = desk.Program(100ms);
+            const auto one = desk.Program({100ms, 100ms});
+            const auto two = desk.Program({100ms, 100ms});
             auto first = std::async(std::launch::async, [&] { return one->Claim({}).As; });
             const Role second = two->Claim({}).As;
             const Role other = first.get();

@@ -4,11 +4,11 @@
 
 #include <QCryptographicHash>
 #include <QDataStream>
-#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +41,7 @@ QByteArray Packed(const QString& text) {
 }  // namespace
 
 LocalOneProgram::LocalOneProgram(const QString& folder, const QString& socketFolder,
-                                 std::chrono::milliseconds patience)
+                                 const Patience& patience)
     : folder_(folder),
       socketName_(SocketName(folder, socketFolder)),
       patience_(patience),
@@ -56,7 +56,8 @@ QString LocalOneProgram::SocketFolder() {
 
 // The other one may be about to listen, or about to end: then the next try finds out.
 OneProgram::Outcome LocalOneProgram::Claim(const QString& commandLine) {
-    const QDeadlineTimer deadline(patience_);
+    const QDeadlineTimer start(patience_.Start);
+    QDeadlineTimer answer(QDeadlineTimer::Forever);
     do {
         switch (lock_.Take(socketName_.toUtf8())) {
             case LockFile::Outcome::Taken:
@@ -66,17 +67,24 @@ OneProgram::Outcome LocalOneProgram::Claim(const QString& commandLine) {
             case LockFile::Outcome::HeldByAnother:
                 break;
         }
-        if (HandOver(commandLine, deadline.remainingTime())) {
-            return {Role::HandedOver, {}};
+        const QDeadlineTimer once(patience_.Answer);
+        switch (HandOver(commandLine, std::min(once, answer))) {
+            case Reply::Taken:
+                return {Role::HandedOver, {}};
+            case Reply::Silence:
+                answer = std::min(once, answer);
+                break;
+            case Reply::Unreachable:
+                break;
         }
         QThread::msleep(BetweenTries);
-    } while (!deadline.hasExpired());
+    } while (!start.hasExpired() && !answer.hasExpired());
     return {Role::Refused,
             u"Tempolark runs already with the folder %1, and does not answer"_s.arg(folder_)};
 }
 
-bool LocalOneProgram::HandOver(const QString& commandLine, qint64 milliseconds) const {
-    const QDeadlineTimer deadline(milliseconds);
+LocalOneProgram::Reply LocalOneProgram::HandOver(const QString& commandLine,
+                                                 const QDeadlineTimer& deadline) const {
     const auto left = [&] { return static_cast<int>(deadline.remainingTime()); };
     const QString name = QString::fromUtf8(lock_.Note());
     QLocalSocket socket;
@@ -85,7 +93,7 @@ bool LocalOneProgram::HandOver(const QString& commandLine, qint64 milliseconds) 
         socket.waitForConnected(left());
     }
     if (socket.state() != QLocalSocket::ConnectedState) {
-        return false;
+        return Reply::Unreachable;
     }
     socket.write(Packed(commandLine));
     QByteArray answer;
@@ -93,7 +101,7 @@ bool LocalOneProgram::HandOver(const QString& commandLine, qint64 milliseconds) 
            socket.waitForReadyRead(left())) {
         answer += socket.readAll();
     }
-    return answer == Answer;
+    return answer == Answer ? Reply::Taken : Reply::Silence;
 }
 
 QString LocalOneProgram::Listen(std::function<void(const QString&)> onCommandLine) {

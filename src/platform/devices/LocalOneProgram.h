@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QLocalServer>
 #include <chrono>
 
@@ -12,10 +13,16 @@ namespace platform {
 /// that is, whatever way leads to the folder; it names the socket that later starts talk to.
 class LocalOneProgram final : public OneProgram {
 public:
-    /// @p folder exists. The socket lies in @p socketFolder, which is the account's own. A start
-    /// waits for an answer as long as @p patience.
+    /// How long a start waits for the program that has the folder.
+    struct Patience {
+        std::chrono::milliseconds Answer;  ///< once that can be reached
+        std::chrono::milliseconds Start;   ///< until then: it may be filling a new folder
+    };
+    static constexpr Patience Usual = {std::chrono::seconds(10), std::chrono::seconds(60)};
+
+    /// @p folder exists. The socket lies in @p socketFolder, which is the account's own.
     LocalOneProgram(const QString& folder, const QString& socketFolder,
-                    std::chrono::milliseconds patience = std::chrono::seconds(10));
+                    const Patience& patience = Usual);
 
     /// Where sockets of this account lie; empty when there is no such place.
     static QString SocketFolder();
@@ -24,12 +31,13 @@ public:
     QString Listen(std::function<void(const QString& commandLine)> onCommandLine) override;
 
 private:
-    bool HandOver(const QString& commandLine, qint64 milliseconds) const;
+    enum class Reply { Taken, Silence, Unreachable };
+    Reply HandOver(const QString& commandLine, const QDeadlineTimer& deadline) const;
     void Receive(QLocalSocket& socket);
 
     QString folder_;
     QString socketName_;  ///< a full path
-    std::chrono::milliseconds patience_;
+    Patience patience_;
     LockFile lock_;
     QLocalServer server_;
     std::function<void(const QString&)> onCommandLine_;
