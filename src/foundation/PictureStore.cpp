@@ -58,6 +58,18 @@ bool JpegHasManyPasses(const QByteArray& content) {
     return true;
 }
 
+/// What a GIF file's screen measures: its first two words, of which the lower byte comes first. The
+/// decoder makes room for the screen, though it tells the size of the first frame.
+QSize GifScreen(const QByteArray& content) {
+    constexpr qsizetype width = 6;  // behind the signature
+    constexpr qsizetype height = 8;
+    if (content.size() < height + 2) {
+        return {};
+    }
+    return {qFromLittleEndian<quint16>(content.constData() + width),
+            qFromLittleEndian<quint16>(content.constData() + height)};
+}
+
 QImage InPaintingForm(QImage image) {
     const QImage::Format form =
         image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
@@ -135,7 +147,8 @@ QImage DecodePicture(const QByteArray& content) {
     if (kind == "png" && !PngIsWhole(content)) {
         return {};
     }
-    const QSize size = reader.size();
+    const QSize size =
+        kind == "gif" ? reader.size().expandedTo(GifScreen(content)) : reader.size();
     if (IsTooLarge(size, isJpeg && !JpegHasManyPasses(content))) {
         return {};
     }

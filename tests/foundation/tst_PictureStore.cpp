@@ -59,6 +59,15 @@ QByteArray BmpHeader(quint32 width, quint32 height) {
            QByteArray::fromHex("01001800") + QByteArray(24, '\0');
 }
 
+/// A GIF file of one white pixel, at the corner of a screen of that size.
+QByteArray GifOf(quint16 width, quint16 height) {
+    QByteArray bytes = QByteArray::fromHex(
+        "47494638396101000100800000ffffff0000002c00000000010001000002024401003b");
+    qToLittleEndian(width, bytes.data() + 6);
+    qToLittleEndian(height, bytes.data() + 8);
+    return bytes;
+}
+
 /// A real JPEG file whose header is made to tell another size.
 QByteArray JpegOf(quint16 width, quint16 height) {
     QByteArray bytes = Coded(Plain(16, 16, Qt::red), "jpg");
@@ -113,12 +122,15 @@ private Q_SLOTS:
     }
 
     void Gif() {
-        // One white pixel.
-        const QByteArray bytes = QByteArray::fromHex(
-            "47494638396101000100800000ffffff0000002c00000000010001000002024401003b");
-        const auto picture = LoadBytes(u"a.gif"_s, bytes);
+        const auto picture = LoadBytes(u"a.gif"_s, GifOf(1, 1));
         QVERIFY(picture);
         QCOMPARE(picture->pixel(0, 0), 0xFFFFFFFF);
+    }
+
+    void AGifAsLargeAsItsScreen() {
+        const auto picture = LoadBytes(u"a.gif"_s, GifOf(8000, 2000));
+        QVERIFY(picture);
+        QCOMPARE(picture->size(), QSize(8000, 2000));
     }
 
     void Forms() {
@@ -157,6 +169,9 @@ private Q_SLOTS:
         QTest::newRow("huge JPEG") << JpegOf(20000, 20000);
         QTest::newRow("long JPEG") << JpegOf(65000, 16);
         QTest::newRow("JPEG of no size") << JpegOf(0, 0);
+        QTest::newRow("GIF of a pixel on a huge screen") << GifOf(65'292, 255);
+        QTest::newRow("GIF of a pixel on a wide screen") << GifOf(32'768, 1);
+        QTest::newRow("head of a GIF") << GifOf(1, 1).left(9);
         QTest::newRow("zeros") << QByteArray(100000, '\0');
     }
 
