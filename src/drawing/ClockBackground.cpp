@@ -82,7 +82,8 @@ void ClockBackground::ApplyTransparency() {
 }
 
 void ClockBackground::UpdateColourKey() {
-    face_.Window.SetColourKey(face_.Window.IsTransparent() || IsShape(Property(u"Clock Shape"_s)));
+    face_.Window.SetColourKey(face_.Window.IsTransparent() ||
+                              IsFigure(ReadShape(Property(u"Clock Shape"_s))));
 }
 
 void ClockBackground::SetWindowShape() {
@@ -92,7 +93,7 @@ void ClockBackground::SetWindowShape() {
     }
     shaped_ = MeasuresOf(face_.Window);
     face_.Window.SetWindowRgn(
-        WindowFigure(Property(u"Window Shape"_s), *shaped_).value_or(QRegion()));
+        WindowFigure(ReadShape(Property(u"Window Shape"_s)), *shaped_).value_or(QRegion()));
 }
 
 void ClockBackground::SetClockShape() {

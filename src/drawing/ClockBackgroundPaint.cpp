@@ -89,9 +89,9 @@ void ClockBackground::Place(const Surface& surface) const {
     }
     placing_.Surface = SizeOf(surface);
     placing_.Box = speck ? Around(centre, {SpeckSide, SpeckSide}) : PictureBox(surface);
-    placing_.Hole = ShapePath(Property(u"Clock Shape"_s), imgClock(1).Picture
-                                                              ? Around(centre, placing_.Box.size())
-                                                              : PlateBox(centre, surface));
+    placing_.Hole = ShapePath(
+        ReadShape(Property(u"Clock Shape"_s)),
+        imgClock(1).Picture ? Around(centre, placing_.Box.size()) : PlateBox(centre, surface));
     placing_.Brightness = mduAPILib::IntegerValue(Property(u"Clock Image Brightness(%)"_s));
     mduUILib::Control& image = imgClock(1);
     image.Width = static_cast<float>(placing_.Box.width());

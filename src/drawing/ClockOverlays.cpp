@@ -54,8 +54,7 @@ void ClockOverlays::ReadProperties() {
     sunMoonSize_ = mduAPILib::Val(mduLib::GetProperty(u"Sun Moon Size"_s, face_.Properties));
     locationLook_ = ReadLocationLook(face_.Properties, face_.Random);
     locationShown_.reset();
-    const QString shape = mduLib::GetProperty(u"Window Shape"_s, face_.Properties);
-    windowShape_ = IsShape(shape) ? shape : QString();
+    windowShape_ = ReadShape(mduLib::GetProperty(u"Window Shape"_s, face_.Properties));
     measured_.reset();
     seen_ = {};
 }

@@ -67,8 +67,8 @@ private:
     std::shared_ptr<const QImage> sunMoon_[2];
     std::optional<std::shared_ptr<const QImage>> icon_;  ///< the flag in the window's icon
     std::optional<double> sunMoonSize_;                  ///< logical pixels, once it has been read
-    QString windowShape_;                                ///< empty for a plain rectangle
-    std::optional<WindowMeasures> measured_;             ///< what `seen_` has been worked out for
+    Shape windowShape_ = Shape::Unknown;
+    std::optional<WindowMeasures> measured_;  ///< what `seen_` has been worked out for
     SeenArea seen_;
     LocationLook locationLook_;
     std::optional<LocationKey> locationShown_;

@@ -15,7 +15,7 @@ const SeenArea& ClockOverlays::Seen() {
     if (!sunMoonSize_) {
         ReadProperties();
     }
-    if (!windowShape_.isEmpty()) {
+    if (IsFigure(windowShape_)) {
         const WindowMeasures window = MeasuresOf(face_.Window);
         if (measured_ != window) {
             measured_ = window;

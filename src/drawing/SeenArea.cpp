@@ -116,7 +116,7 @@ WindowMeasures MeasuresOf(Canvas& window) {
         surface.DevicePixelRatio()};
 }
 
-SeenArea SeenThrough(const QString& shape, const WindowMeasures& window) {
+SeenArea SeenThrough(Shape shape, const WindowMeasures& window) {
     const std::optional<QRegion> figure = WindowFigure(shape, window);
     return figure ? SeenArea((*figure & window.Client).translated(-window.Client.topLeft()))
                   : SeenArea();

@@ -54,6 +54,6 @@ private:
 WindowMeasures MeasuresOf(Canvas& window);
 
 /// What is seen of a surface through a "Window Shape".
-SeenArea SeenThrough(const QString& shape, const WindowMeasures& window);
+SeenArea SeenThrough(Shape shape, const WindowMeasures& window);
 
 }  // namespace drawing

@@ -11,36 +11,58 @@ namespace drawing {
 
 namespace {
 
-struct Figure {
+struct ShapeRow {
     QLatin1StringView Name;
+    Shape Kind;
     int Corners;  // 0 is the ellipse
     double StartAngle;
+    bool IsFigure = true;
 };
 
 // The counts are not those of the names; clocks have always looked like this.
-constexpr Figure Figures[] = {
-    {"Circle"_L1, 0, 0},   {"Ellips"_L1, 0, 0},  {"Diamond"_L1, 4, -Pi / 2},
-    {"Pentagon"_L1, 6, 0}, {"Hexagon"_L1, 8, 0}, {"Octagon"_L1, 10, 0},
+constexpr ShapeRow Shapes[] = {
+    {"Normal"_L1, Shape::Normal, 0, 0, false}, {"Circle"_L1, Shape::Circle, 0, 0},
+    {"Ellips"_L1, Shape::Ellips, 0, 0},        {"Diamond"_L1, Shape::Diamond, 4, -Pi / 2},
+    {"Pentagon"_L1, Shape::Pentagon, 6, 0},    {"Hexagon"_L1, Shape::Hexagon, 8, 0},
+    {"Octagon"_L1, Shape::Octagon, 10, 0},
 };
 
-const Figure* FindFigure(const QString& shape) {
-    const QString name = shape.trimmed();
-    for (const Figure& figure : Figures) {
-        if (name == figure.Name) {
-            return &figure;
+/// Null for the rectangle.
+const ShapeRow* FindFigure(Shape shape) {
+    for (const ShapeRow& row : Shapes) {
+        if (row.Kind == shape && row.IsFigure) {
+            return &row;
         }
     }
     return nullptr;
 }
 
-QRegion FigureRegion(const Figure& figure, const QRect& box) {
+QRegion FigureRegion(const ShapeRow& figure, const QRect& box) {
     return figure.Corners == 0 ? QRegion(box, QRegion::Ellipse)
                                : QRegion(PolygonPoints(figure.Corners, figure.StartAngle, box));
 }
 
 }  // namespace
 
-bool IsShape(const QString& shape) {
+Shape ReadShape(const QString& text) {
+    const QStringView name = QStringView(text).trimmed();
+    for (const ShapeRow& row : Shapes) {
+        if (name == row.Name) {
+            return row.Kind;
+        }
+    }
+    return Shape::Unknown;
+}
+
+QStringList ShapeNames() {
+    QStringList names;
+    for (const ShapeRow& row : Shapes) {
+        names += row.Name;
+    }
+    return names;
+}
+
+bool IsFigure(Shape shape) {
     return FindFigure(shape) != nullptr;
 }
 
@@ -59,15 +81,9 @@ QPolygon PolygonPoints(int n, double startAngle, const QRect& box) {
     return points;
 }
 
-QRegion ShapeRegion(const QString& shape, const QRect& box) {
-    const Figure* figure = FindFigure(shape);
-    const QRegion region = figure && box.isValid() ? FigureRegion(*figure, box) : QRegion();
-    return region.isEmpty() ? QRegion(box) : region;
-}
-
-QPainterPath ShapePath(const QString& shape, const QRect& box) {
+QPainterPath ShapePath(Shape shape, const QRect& box) {
     QPainterPath path;
-    const Figure* figure = FindFigure(shape);
+    const ShapeRow* figure = FindFigure(shape);
     if (figure && figure->Corners == 0) {
         path.addEllipse(box);
     } else if (figure) {
@@ -77,8 +93,8 @@ QPainterPath ShapePath(const QString& shape, const QRect& box) {
     return path;
 }
 
-std::optional<QRegion> WindowFigure(const QString& shape, const WindowMeasures& window) {
-    const Figure* figure = FindFigure(shape);
+std::optional<QRegion> WindowFigure(Shape shape, const WindowMeasures& window) {
+    const ShapeRow* figure = FindFigure(shape);
     if (!figure) {
         return std::nullopt;
     }

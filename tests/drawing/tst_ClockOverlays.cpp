@@ -321,7 +321,7 @@ private Q_SLOTS:
         face.Part.LayOutOverlays();
         face.Part.SetLocationLabel();
         const drawing::SeenArea seen =
-            drawing::SeenThrough(shape, drawing::MeasuresOf(face.Window));
+            drawing::SeenThrough(drawing::ReadShape(shape), drawing::MeasuresOf(face.Window));
         for (const int minute : {0, 60, 150, 270, 330, 400, 520, 580, 640, 719}) {
             face.SetTime(minute / 60, minute % 60, 0);
             face.Part.SetSunMoon();

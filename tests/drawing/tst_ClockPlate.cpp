@@ -18,7 +18,7 @@ QImage Painted(PlateGround ground, QRgb colour, double ratio = 1) {
     image.fill(Ground);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawing::PaintPlate(painter, drawing::ShapePath(u"Circle"_s, QRect(50, 10, 100, 80)),
+    drawing::PaintPlate(painter, drawing::ShapePath(drawing::Shape::Circle, QRect(50, 10, 100, 80)),
                         QColor(colour), ground, ratio);
     return image;
 }
@@ -109,8 +109,8 @@ private Q_SLOTS:
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
         const QPen pen = painter.pen();
-        drawing::PaintPlate(painter, drawing::ShapePath(u"Diamond"_s, image.rect()), Qt::white,
-                            PlateGround::SeeThrough, 1);
+        drawing::PaintPlate(painter, drawing::ShapePath(drawing::Shape::Diamond, image.rect()),
+                            Qt::white, PlateGround::SeeThrough, 1);
         QCOMPARE(painter.pen(), pen);
         QVERIFY(painter.testRenderHint(QPainter::Antialiasing));
     }

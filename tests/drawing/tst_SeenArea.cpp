@@ -128,9 +128,9 @@ private Q_SLOTS:
         const drawing::WindowMeasures window = drawing::MeasuresOf(face.Window);
         QCOMPARE(window.Outer, QSize(208, 128));
         QCOMPARE(window.Client, QRect(4, 24, 200, 100));
-        QVERIFY(drawing::SeenThrough(u"Normal"_s, window).IsWhole());
+        QVERIFY(drawing::SeenThrough(drawing::Shape::Normal, window).IsWhole());
         // Its corners are (100, 1), (198, 50), (100, 99), (2, 50) of the surface.
-        const SeenArea diamond = drawing::SeenThrough(u"Diamond"_s, window);
+        const SeenArea diamond = drawing::SeenThrough(drawing::Shape::Diamond, window);
         QVERIFY(diamond.Holds(QRectF(99, 3, 2, 2)));
         QVERIFY(diamond.Holds(QRectF(6, 49, 4, 2)));
         QVERIFY(!diamond.Holds(QRectF(0, 49, 4, 2)));

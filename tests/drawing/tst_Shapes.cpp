@@ -4,6 +4,7 @@
 #include "drawing/Shapes.h"
 
 using namespace Qt::StringLiterals;
+using drawing::Shape;
 using drawing::WindowMeasures;
 
 static const QRect Box(0, 0, 200, 100);
@@ -40,16 +41,16 @@ private Q_SLOTS:
     }
 
     void CornerCounts_data() {
-        QTest::addColumn<QString>("shape");
+        QTest::addColumn<Shape>("shape");
         QTest::addColumn<int>("corners");
-        QTest::newRow("diamond") << u"Diamond"_s << 4;
-        QTest::newRow("pentagon") << u"Pentagon"_s << 6;
-        QTest::newRow("hexagon") << u"Hexagon"_s << 8;
-        QTest::newRow("octagon") << u"Octagon"_s << 10;
+        QTest::newRow("diamond") << Shape::Diamond << 4;
+        QTest::newRow("pentagon") << Shape::Pentagon << 6;
+        QTest::newRow("hexagon") << Shape::Hexagon << 8;
+        QTest::newRow("octagon") << Shape::Octagon << 10;
     }
 
     void CornerCounts() {
-        QFETCH(QString, shape);
+        QFETCH(Shape, shape);
         // A move, a line to each further corner, and the line that closes the figure.
         const QPainterPath path = drawing::ShapePath(shape, Box);
         QTEST(path.elementCount() - 1, "corners");
@@ -73,58 +74,76 @@ private Q_SLOTS:
 
     void DiamondRegion() {
         QFETCH(QPoint, at);
-        QTEST(drawing::ShapeRegion(u"Diamond"_s, Box).contains(at), "inside");
+        const WindowMeasures bare{Box.size(), Box, 1};
+        QTEST(drawing::WindowFigure(Shape::Diamond, bare)->contains(at), "inside");
     }
 
     void CircleIsEllips() {
-        const QRegion circle = drawing::ShapeRegion(u"Circle"_s, Box);
-        QCOMPARE(circle, drawing::ShapeRegion(u"Ellips"_s, Box));
-        QCOMPARE(circle.boundingRect(), Box);
-        QVERIFY(circle.contains(QPoint(100, 0)));
-        QVERIFY(circle.contains(QPoint(0, 50)));
-        QVERIFY(!circle.contains(QPoint(10, 10)));
-        QCOMPARE(drawing::WindowFigure(u"Circle"_s, Framed()),
-                 drawing::WindowFigure(u"Ellips"_s, Framed()));
+        const QPainterPath circle = drawing::ShapePath(Shape::Circle, Box);
+        QCOMPARE(circle, drawing::ShapePath(Shape::Ellips, Box));
+        QCOMPARE(circle.boundingRect(), QRectF(Box));
+        QVERIFY(circle.contains(QPointF(100, 1)));
+        QVERIFY(circle.contains(QPointF(1, 50)));
+        QVERIFY(!circle.contains(QPointF(10, 10)));
+        QCOMPARE(drawing::WindowFigure(Shape::Circle, Framed()),
+                 drawing::WindowFigure(Shape::Ellips, Framed()));
     }
 
     void Rectangle_data() {
-        QTest::addColumn<QString>("shape");
-        QTest::newRow("normal") << u"Normal"_s;
-        QTest::newRow("empty") << QString();
-        QTest::newRow("missing key") << u"0"_s;
-        QTest::newRow("well spelled") << u"Ellipse"_s;
-        QTest::newRow("unknown") << u"Heart"_s;
+        QTest::addColumn<Shape>("shape");
+        QTest::newRow("normal") << Shape::Normal;
+        QTest::newRow("unknown") << Shape::Unknown;
     }
 
     void Rectangle() {
-        QFETCH(QString, shape);
-        QVERIFY(!drawing::IsShape(shape));
-        QCOMPARE(drawing::ShapeRegion(shape, Box), QRegion(Box));
+        QFETCH(Shape, shape);
+        QVERIFY(!drawing::IsFigure(shape));
         QVERIFY(drawing::ShapePath(shape, Box).isEmpty());
         QVERIFY(!drawing::WindowFigure(shape, Framed()));
     }
 
-    void NamesAreTrimmedAndElseLiteral() {
-        QVERIFY(drawing::IsShape(u" Hexagon "_s));
-        QVERIFY(!drawing::IsShape(u"hexagon"_s));
-        QCOMPARE(drawing::ShapeRegion(u" Octagon "_s, Box),
-                 drawing::ShapeRegion(u"Octagon"_s, Box));
+    void Names_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Shape>("shape");
+        QTest::newRow("normal") << u"Normal"_s << Shape::Normal;
+        QTest::newRow("circle") << u"Circle"_s << Shape::Circle;
+        QTest::newRow("so spelled") << u"Ellips"_s << Shape::Ellips;
+        QTest::newRow("diamond") << u"Diamond"_s << Shape::Diamond;
+        QTest::newRow("pentagon") << u"Pentagon"_s << Shape::Pentagon;
+        QTest::newRow("blanks") << u" Hexagon "_s << Shape::Hexagon;
+        QTest::newRow("octagon") << u"Octagon"_s << Shape::Octagon;
+        QTest::newRow("lower case") << u"hexagon"_s << Shape::Unknown;
+        QTest::newRow("empty") << QString() << Shape::Unknown;
+        QTest::newRow("missing key") << u"0"_s << Shape::Unknown;
+        QTest::newRow("well spelled") << u"Ellipse"_s << Shape::Unknown;
+        QTest::newRow("unknown") << u"Heart"_s << Shape::Unknown;
+    }
+
+    void Names() {
+        QFETCH(QString, text);
+        QTEST(drawing::ReadShape(text), "shape");
+    }
+
+    void NamesInTheirOrder() {
+        QCOMPARE(drawing::ShapeNames(),
+                 QStringList({u"Normal"_s, u"Circle"_s, u"Ellips"_s, u"Diamond"_s, u"Pentagon"_s,
+                              u"Hexagon"_s, u"Octagon"_s}));
     }
 
     void WindowEllipse() {
         // Ten from the sides and the bottom, title bar and borders (28 in all) from the top.
-        const QRegion figure = drawing::WindowFigure(u"Circle"_s, Framed()).value_or(QRegion());
+        const QRegion figure = drawing::WindowFigure(Shape::Circle, Framed()).value_or(QRegion());
         QCOMPARE(figure.boundingRect(), QRect(10, 28, 188, 90));
     }
 
     void WindowEllipseOnAFineScreen() {
         const WindowMeasures window{QSize(400, 400), QRect(0, 0, 400, 400), 2};
-        const QRegion figure = drawing::WindowFigure(u"Ellips"_s, window).value_or(QRegion());
+        const QRegion figure = drawing::WindowFigure(Shape::Ellips, window).value_or(QRegion());
         QCOMPARE(figure.boundingRect(), QRect(20, 0, 360, 380));
     }
 
     void WindowPolygonsFillTheClientArea() {
-        const QRegion figure = drawing::WindowFigure(u"Diamond"_s, Framed()).value_or(QRegion());
+        const QRegion figure = drawing::WindowFigure(Shape::Diamond, Framed()).value_or(QRegion());
         QVERIFY(Framed().Client.contains(figure.boundingRect()));
         QVERIFY(figure.contains(QPoint(104, 28)));  // below the top corner (104, 25)
         QVERIFY(figure.contains(QPoint(199, 74)));  // before the right one (202, 74)
@@ -133,16 +152,16 @@ private Q_SLOTS:
     }
 
     void TinyWindowsStayRectangles_data() {
-        QTest::addColumn<QString>("shape");
+        QTest::addColumn<Shape>("shape");
         QTest::addColumn<int>("side");
-        QTest::newRow("no room for an ellipse") << u"Circle"_s << 20;
-        QTest::newRow("less than none") << u"Ellips"_s << 5;
-        QTest::newRow("polygon") << u"Diamond"_s << 1;
-        QTest::newRow("nothing at all") << u"Octagon"_s << 0;
+        QTest::newRow("no room for an ellipse") << Shape::Circle << 20;
+        QTest::newRow("less than none") << Shape::Ellips << 5;
+        QTest::newRow("polygon") << Shape::Diamond << 1;
+        QTest::newRow("nothing at all") << Shape::Octagon << 0;
     }
 
     void TinyWindowsStayRectangles() {
-        QFETCH(QString, shape);
+        QFETCH(Shape, shape);
         QFETCH(int, side);
         const WindowMeasures window{QSize(side, side), QRect(0, 0, side, side), 1};
         QVERIFY(!drawing::WindowFigure(shape, window));
@@ -150,8 +169,8 @@ private Q_SLOTS:
 
     void HugeWindowsToo() {
         const WindowMeasures window{QSize(4000, 4000), QRect(0, 0, 4000, 4000), 1};
-        QVERIFY(drawing::WindowFigure(u"Circle"_s, window)->contains(QPoint(2000, 2000)));
-        QVERIFY(drawing::WindowFigure(u"Pentagon"_s, window)->contains(QPoint(3900, 2000)));
+        QVERIFY(drawing::WindowFigure(Shape::Circle, window)->contains(QPoint(2000, 2000)));
+        QVERIFY(drawing::WindowFigure(Shape::Pentagon, window)->contains(QPoint(3900, 2000)));
     }
 };
 

@@ -9,6 +9,7 @@
 #include "clock/ClockWindow.h"
 #include "clock/ui/ClockFrame.h"
 #include "clock/ui/WindowReveal.h"
+#include "drawing/Shapes.h"
 
 namespace clockcore {
 
@@ -68,6 +69,7 @@ public:
 
 private:
     QString Property(const QString& key) const;
+    drawing::Shape WindowShape() const;
     QSizeF ContainerSize() const;
     void StandInShell(const StoredPlace& stored);
     void StandOnScreen(const StoredPlace& stored);

@@ -21,8 +21,12 @@ QString MdiPlacement::Property(const QString& key) const {
     return mduLib::GetProperty(key, data_.Properties()).trimmed();
 }
 
+drawing::Shape MdiPlacement::WindowShape() const {
+    return drawing::ReadShape(Property(u"Window Shape"_s));
+}
+
 void MdiPlacement::ApplyWindowBorder() {
-    if (Property(u"Window Shape"_s) == u"Normal"_s) {
+    if (WindowShape() == drawing::Shape::Normal) {
         const int border = mduUILib::WindowBorderValue(Property(u"Window Border"_s));
         look_.Border = border != 0 ? border : look_.Border;
     }
@@ -30,14 +34,14 @@ void MdiPlacement::ApplyWindowBorder() {
 }
 
 void MdiPlacement::ApplyTitleBar() {
-    if (Property(u"Window Shape"_s) == u"Normal"_s) {
+    if (WindowShape() == drawing::Shape::Normal) {
         look_.TitleBar = mduUILib::YesNoToBool(Property(u"Window Title Bar"_s));
     }
     ApplyLook();
 }
 
 void MdiPlacement::ApplyLook() {
-    const bool bare = data_.Is(Wrapper) || drawing::IsShape(Property(u"Window Shape"_s));
+    const bool bare = data_.Is(Wrapper) || drawing::IsFigure(WindowShape());
     const FrameLook look = bare ? FrameLook{NoBorder, false} : look_;
     if (frame_) {
         frame_->SetLook(look);
