@@ -152,7 +152,7 @@ void ClockDial::SetSpots(const DialLook& look) {
 
 void ClockDial::SetSpot(int index, const DialLook& look) {
     Control& spot = face_.Controls.imgClockNumber(index);
-    const bool isWanted = look.SpotSize != 0 && WantsSpot(look.SpotStyle, index);
+    const bool isWanted = look.SpotSize != 0 && look.Spots.Wants(index);
     spot.Visible = isWanted;
     spot.Tag = isWanted ? u"True"_s : u"False"_s;
     spot.Picture = StockMark(index);

@@ -5,6 +5,7 @@
 
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
+#include "drawing/FlagPosition.h"
 #include "drawing/LocationLabel.h"
 #include "drawing/SeenArea.h"
 #include "drawing/StockPictures.h"
@@ -56,7 +57,7 @@ private:
     void KeepInside(mduUILib::Control& control);
     void ShowFlagAsIcon();
     void ShowStoredIcon();
-    void PlaceFlag(const QString& position);
+    void PlaceFlag(FlagPosition position);
     void ShowOneOf(int index, int side);
     std::shared_ptr<const QImage> Stock(StockPicture picture, int side) const;
     double Pixels(const QString& key) const;

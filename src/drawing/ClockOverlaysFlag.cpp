@@ -28,9 +28,10 @@ void ClockOverlays::LoadFlag() {
 }
 
 void ClockOverlays::SetFlagPosition() {
-    const QString position = mduLib::GetProperty(u"Flag Position"_s, face_.Properties);
+    const FlagPosition position =
+        ReadFlagPosition(mduLib::GetProperty(u"Flag Position"_s, face_.Properties));
     face_.Controls.imgFlag(1).Visible = false;
-    if (position.contains(u"Icon"_s, Qt::CaseInsensitive)) {
+    if (position == FlagPosition::Icon) {
         ShowFlagAsIcon();
         return;
     }
@@ -54,7 +55,7 @@ void ClockOverlays::ShowStoredIcon() {
     }
 }
 
-void ClockOverlays::PlaceFlag(const QString& position) {
+void ClockOverlays::PlaceFlag(FlagPosition position) {
     mduUILib::Control& flag = face_.Controls.imgFlag(1);
     const double scaleWidth = face_.Window.Surface().ScaleWidth();
     const double scaleHeight = face_.Window.Surface().ScaleHeight();
@@ -67,8 +68,9 @@ void ClockOverlays::PlaceFlag(const QString& position) {
     }
     const double width = height * flag_->width() / flag_->height();
     flag.Width = static_cast<float>(width);
-    const bool bottom = position.contains(u"Bottom"_s, Qt::CaseInsensitive);
-    const bool left = position.contains(u"left"_s, Qt::CaseInsensitive);
+    const bool bottom =
+        position == FlagPosition::BottomLeft || position == FlagPosition::BottomRight;
+    const bool left = position == FlagPosition::TopLeft || position == FlagPosition::BottomLeft;
     flag.Top = static_cast<float>(bottom ? scaleHeight - height : 0);
     flag.Left = static_cast<float>(left ? 0 : scaleWidth - width);
     KeepInside(flag);

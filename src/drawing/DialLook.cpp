@@ -58,7 +58,7 @@ DialLook ReadDialLook(const ClockProperties& properties, Canvas& window, const Q
         .NumberFont = text(u"Hour Number Font"_s),
         .NumberSize = number(u"Hour Number Size"_s),
         .NumberRadius = RoundToInteger(outermost * number(u"Hour Number Position(%)"_s) / 100),
-        .SpotStyle = text(u"Minute Spot Style"_s),
+        .Spots = SpotStyle(text(u"Minute Spot Style"_s)),
         .SpotSize = SpotSize(number(u"Minute Spot Size"_s), surface.ScaleHeight(), ratio),
         .SpotRadius = RoundToInteger(outermost * (number(u"Minute Spot Position(%)"_s) / 100.0)),
         .SpotImageFile = text(u"Minute Spot Image File"_s),

@@ -18,7 +18,7 @@ struct DialLook {
     QString NumberFont;
     int NumberSize = -1;  ///< of captions, in points; -1 for a size that follows the surface
     int NumberRadius = 0;
-    QString SpotStyle;
+    SpotStyle Spots;
     int SpotSize = 0;
     int SpotRadius = 0;
     QString SpotImageFile;  ///< as the property holds it

@@ -18,16 +18,6 @@ constexpr int HeaviestWeight = 10000000;
 constexpr int SmallestCaption = 4;  // points
 constexpr int SmallestSpot = 4;     // logical pixels
 
-NumberStyle::Look LookOf(const QString& text) {
-    const auto has = [&](QLatin1StringView word) {
-        return text.contains(word, Qt::CaseInsensitive);
-    };
-    return has("True Roman"_L1) ? NumberStyle::Look::TrueRoman
-           : has("Roman"_L1)    ? NumberStyle::Look::Roman
-           : has("3D"_L1)       ? NumberStyle::Look::Digits3D
-                                : NumberStyle::Look::Caption;
-}
-
 /// A number on a radial dial: its text, how it is turned, and where it starts from the corner of
 /// its click area, in heights of the font. All of it is tuned by hand.
 struct RadialNumber {
@@ -43,32 +33,6 @@ constexpr RadialNumber RadialNumbers[] = {
     {"X"_L1, -3000, -0.58, 0.1},   {"XI"_L1, -3270, -0.49, -0.01}, {"XII"_L1, 0, -0.2, -0.06}};
 
 }  // namespace
-
-NumberStyle::NumberStyle(const QString& text)
-    : text_(text.trimmed()),
-      isNone_(text_.compare("No Numbers"_L1, Qt::CaseInsensitive) == 0),
-      hasShadow_(Has("3D"_L1)),
-      look_(LookOf(text_)) {}
-
-bool NumberStyle::IsNumbered(int index) const {
-    if (isNone_) {
-        return false;
-    }
-    const int hour = RoundToInteger(index / 5.0);
-    const bool level = hour == 3 || hour == 9;
-    const bool upright = hour == 6 || hour == 12;
-    return Has("12"_L1) || ((level || upright) && Has("Cross 4"_L1)) ||
-           (level && Has("Horizontal 2"_L1)) || (upright && Has("Vertical 2"_L1));
-}
-
-bool NumberStyle::ShowsCaption(int hour) const {
-    const QString hidingStyles = hour == 6 || hour == 12 ? u"Number Horizontal 2,No Numbers"_s
-                                 : hour == 3 || hour == 9
-                                     ? u"Number Vertical 2,No Numbers"_s
-                                     : u"Number Horizontal 2,Number Vertical 2,Number Cross 4,"
-                                       "No Numbers"_s;
-    return !hidingStyles.contains(text_, Qt::CaseInsensitive);
-}
 
 double DialAngle(int index, ClockSpecial special) {
     const double forward = Pi - TwoPi * index / 60;
@@ -108,20 +72,6 @@ int CaptionSize(int index, ClockSpecial special, double scaleHeight, int hourNum
         return whole(scaleHeight * (index + 12) / 700);
     }
     return hourNumberSize == -1 ? whole(small) : hourNumberSize;
-}
-
-bool WantsSpot(const QString& style, int index) {
-    const auto is = [&](QLatin1StringView word) {
-        return style.contains(word, Qt::CaseInsensitive);
-    };
-    if (is("No Spots"_L1) || is("Spot 60"_L1) || index % 5 != 0) {
-        return is("Spot 60"_L1) && !is("No Spots"_L1);
-    }
-    const bool level = index == 15 || index == 45;
-    const bool upright = index == 30 || index == 60;
-    return is("Spot 12"_L1) || (is("Spot 8"_L1) && !level && !upright) ||
-           (is("Cross 4"_L1) && (level || upright)) || (is("Horizontal 2"_L1) && level) ||
-           (is("Vertical 2"_L1) && upright);
 }
 
 int SpotSize(int minuteSpotSize, int scaleHeight, double devicePixelRatio) {

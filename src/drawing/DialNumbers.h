@@ -5,42 +5,12 @@
 #include <QString>
 
 #include "drawing/ClockSpecial.h"
+#include "drawing/DialStyles.h"
 #include "drawing/FontText.h"
 
-/// Where everything on a dial stands, worked out from plain values. An index runs from 1 to 60 and
-/// stands at that minute, 60 at twelve o'clock; an hour runs from 1 to 12 and stands at index
-/// hour * 5.
+/// Where everything on a dial stands, worked out from plain values. Indexes (1 to 60) and hours
+/// (1 to 12) count as in `DialStyles.h`.
 namespace drawing {
-
-/// What an "Hour Number Style" says. The words are sought anywhere in the text, letter case aside:
-/// how the numbers look ("True Roman", "Roman", "3D", in this order; else captions), and which of
-/// them there are ("12", "Cross 4", "Horizontal 2", "Vertical 2"). A text without a word of the
-/// second kind numbers nothing, nor does "No Numbers".
-class NumberStyle {
-public:
-    enum class Look { Caption, Roman, TrueRoman, Digits3D };
-
-    explicit NumberStyle(const QString& text);
-
-    Look NumberLook() const { return look_; }
-    bool IsPainted() const { return look_ != Look::Caption; }
-    bool HasShadow() const { return hasShadow_; }  ///< the text holds "3D"
-
-    /// Whether an index takes part. Those between the hours go with the nearest hour, half to even:
-    /// with "Cross 4" the indexes 13 to 17 take part with hour 3.
-    bool IsNumbered(int index) const;
-
-    /// Whether the caption of an hour may be seen.
-    bool ShowsCaption(int hour) const;
-
-private:
-    bool Has(QLatin1StringView word) const { return text_.contains(word, Qt::CaseInsensitive); }
-
-    QString text_;
-    bool isNone_;
-    bool hasShadow_;
-    Look look_;
-};
 
 /// The angle of an index, as in `Angles.h`. A special face folds or mirrors the dial as it does
 /// with the hands; which hour then stands where is not corrected.
@@ -50,9 +20,6 @@ double DialAngle(int index, ClockSpecial special);
 /// worked-out sizes follow, in whole points, 4 at least; @p hourNumberSize is used as it stands
 /// unless it is -1 or a special face has a size of its own.
 int CaptionSize(int index, ClockSpecial special, double scaleHeight, int hourNumberSize);
-
-/// Whether a "Minute Spot Style" wants a spot at an index.
-bool WantsSpot(const QString& style, int index);
 
 /// A spot's side in device pixels: @p minuteSpotSize in logical pixels, or by itself when that is
 /// -1. No spot has a size below 0.

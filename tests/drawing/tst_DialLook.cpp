@@ -41,7 +41,7 @@ private Q_SLOTS:
         QVERIFY(look.IsRandomColour());
         QVERIFY(look.IsRecoloured());
         QVERIFY(!look.IsBackward());
-        QCOMPARE(look.SpotStyle, u"Spot 8"_s);
+        QVERIFY(look.Spots == drawing::SpotStyle(u"Spot 8"_s));
         QCOMPARE(look.SpotRadius, 137);
         QCOMPARE(look.SpotSize, 6);
         QCOMPARE(look.OuterHeight, 4500.0);

@@ -15,9 +15,6 @@ namespace clockcore {
 
 namespace {
 
-constexpr int PlainBorder = 7;
-constexpr int NoBorder = 1;
-constexpr int RaisedBorder = 3;
 constexpr int PlainWidth = 1;
 
 /// Frames as the clocks in them want them; one style serves all clocks of a shell.
@@ -35,9 +32,9 @@ public:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
         switch (frame->ShownBorder()) {
-            case NoBorder:
+            case WindowBorder::NoBorder:
                 return 0;
-            case PlainBorder:
+            case WindowBorder::Plain:
                 return PlainWidth;
             default:
                 return QProxyStyle::pixelMetric(PM_MdiSubWindowFrameWidth, option, widget);
@@ -73,7 +70,8 @@ public:
                        const QWidget* widget) const override {
         const auto* frame = qobject_cast<const ClockFrame*>(widget);
         const bool own = frame != nullptr && element == PE_FrameWindow;
-        const bool asEver = own && frame->ShowsTitleBar() && frame->ShownBorder() == RaisedBorder;
+        const bool asEver =
+            own && frame->ShowsTitleBar() && frame->ShownBorder() == WindowBorder::Raised;
         if (!own || asEver) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
         } else {
@@ -85,9 +83,9 @@ private:
     void DrawBorder(const ClockFrame& frame, QPainter& painter) const {
         const QRect rect = frame.rect();
         const QPalette& palette = frame.palette();
-        if (frame.ShownBorder() == PlainBorder) {
+        if (frame.ShownBorder() == WindowBorder::Plain) {
             qDrawPlainRect(&painter, rect, palette.color(QPalette::Shadow), PlainWidth);
-        } else if (frame.ShownBorder() == RaisedBorder) {
+        } else if (frame.ShownBorder() == WindowBorder::Raised) {
             const int width = pixelMetric(PM_MdiSubWindowFrameWidth, nullptr, &frame);
             qDrawPlainRect(&painter, rect, palette.color(QPalette::Window), width);
             qDrawWinPanel(&painter, rect, palette);

@@ -5,14 +5,17 @@
 
 #include "clock/ui/FramePlace.h"
 #include "clock/ui/WindowOutline.h"
+#include "foundation/WindowBorder.h"
 
 class QWindowStateChangeEvent;
 
 namespace clockcore {
 
+using mduUILib::WindowBorder;
+
 /// What frames a clock's window.
 struct FrameLook {
-    int Border = 3;  ///< 1 none, 3 raised, 7 a plain line
+    WindowBorder Border = WindowBorder::Raised;
     bool TitleBar = true;
     bool operator==(const FrameLook&) const = default;
 };
@@ -36,7 +39,7 @@ public:
     /// Whether the title bar is there at this moment.
     bool ShowsTitleBar() const { return look_.TitleBar || isMinimized(); }
     /// The border at this moment; a minimised clock has the raised one.
-    int ShownBorder() const { return isMinimized() ? FrameLook().Border : look_.Border; }
+    WindowBorder ShownBorder() const { return isMinimized() ? FrameLook().Border : look_.Border; }
 
 protected:
     bool event(QEvent* event) override;

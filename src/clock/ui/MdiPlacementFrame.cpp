@@ -11,12 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
-namespace {
-
-constexpr int NoBorder = 1;
-
-}  // namespace
-
 QString MdiPlacement::Property(const QString& key) const {
     return mduLib::GetProperty(key, data_.Properties()).trimmed();
 }
@@ -27,8 +21,8 @@ drawing::Shape MdiPlacement::WindowShape() const {
 
 void MdiPlacement::ApplyWindowBorder() {
     if (WindowShape() == drawing::Shape::Normal) {
-        const int border = mduUILib::WindowBorderValue(Property(u"Window Border"_s));
-        look_.Border = border != 0 ? border : look_.Border;
+        const WindowBorder border = mduUILib::ReadWindowBorder(Property(u"Window Border"_s));
+        look_.Border = border == WindowBorder::Unknown ? look_.Border : border;
     }
     ApplyLook();
 }
@@ -42,7 +36,7 @@ void MdiPlacement::ApplyTitleBar() {
 
 void MdiPlacement::ApplyLook() {
     const bool bare = data_.Is(Wrapper) || drawing::IsFigure(WindowShape());
-    const FrameLook look = bare ? FrameLook{NoBorder, false} : look_;
+    const FrameLook look = bare ? FrameLook{WindowBorder::NoBorder, false} : look_;
     if (frame_) {
         frame_->SetLook(look);
         return;
@@ -50,7 +44,7 @@ void MdiPlacement::ApplyLook() {
     Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint;
     if (look.TitleBar) {
         flags |= Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-    } else if (look.Border == NoBorder) {
+    } else if (look.Border == WindowBorder::NoBorder) {
         flags |= Qt::FramelessWindowHint;
     }
     ApplyFlags(flags);
