@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <memory>
+#include <set>
 #include <vector>
 
 /// One line of a property file.
@@ -12,8 +14,14 @@ struct ClockProperty {
     bool operator==(const ClockProperty&) const = default;
 };
 
+/// The names that have been asked for, letter case as it was asked.
+using AskedNames = std::set<QString>;
+
 /// A property file in memory. Rows are numbered from 1; row 0 exists and stays empty. It is a value
 /// and is copied whole when it passes between owners.
+///
+///     Clock:Clocks=Analogue,Analogue,Digital      row 1: {"Clock", "Clocks", "Analogue,..."}
+///     Clock:Enable=Yes,Yes,No                     row 2: {"Clock", "Enable", "Yes,Yes,No"}
 class ClockProperties {
 public:
     /// Rows 0 and 1, both empty: what a reader resets an array to.
@@ -27,11 +35,29 @@ public:
     /// Gives the array the rows 0 to @p upperBound (at least 0), keeping what is in them.
     void Resize(int upperBound) { rows_.resize(static_cast<std::size_t>(upperBound) + 1); }
 
+    /// A row from 0 to `UpperBound`; there is no check.
     ClockProperty& operator[](int row) { return rows_[static_cast<std::size_t>(row)]; }
     const ClockProperty& operator[](int row) const { return rows_[static_cast<std::size_t>(row)]; }
 
-    bool operator==(const ClockProperties&) const = default;
+    /// Collects in @p names, from now on, what values are asked for by name in this array and in
+    /// its copies: for those who check which keys a program goes by. Null collects nothing.
+    void CollectAskedNames(std::shared_ptr<AskedNames> names) { asked_ = std::move(names); }
+    void NoteAsked(const QString& name) const {
+        if (asked_) {
+            asked_->insert(name);
+        }
+    }
+
+    /// An array without rows whose names go to the same collection.
+    ClockProperties EmptyOfItsKind() const {
+        ClockProperties empty;
+        empty.asked_ = asked_;
+        return empty;
+    }
+
+    bool operator==(const ClockProperties& other) const { return rows_ == other.rows_; }
 
 private:
     std::vector<ClockProperty> rows_;
+    std::shared_ptr<AskedNames> asked_;
 };

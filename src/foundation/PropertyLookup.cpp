@@ -44,15 +44,18 @@ int FindPropertyRow(const QString& name, const ClockProperties& array, const QSt
 }
 
 QString GetPropertyRaw(const QString& name, const ClockProperties& array) {
+    array.NoteAsked(name);
     return ValueAt(FindPropertyRow(name, array), array);
 }
 
 QString GetPropertyRawIn(const QString& name, const ClockProperties& array,
                          const QString& category) {
+    array.NoteAsked(name);
     return ValueAt(FindPropertyRow(name, array, category), array);
 }
 
 QString GetProperty(const QString& name, const ClockProperties& array, const QString& category) {
+    array.NoteAsked(name);
     const int row = FindPropertyRow(name, array, category);
     return row == 0 ? u"0"_s : RowFirstField(row, array);
 }

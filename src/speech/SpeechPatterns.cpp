@@ -18,7 +18,7 @@ constexpr QStringView PastToToken = u"<Past/To>";
 
 // Few keys of a clock are about speech; the sixty numbered names are then looked up among these.
 ClockProperties SpeechRows(const ClockProperties& properties) {
-    ClockProperties speech;
+    ClockProperties speech = properties.EmptyOfItsKind();
     for (int row = 1; row <= properties.UpperBound(); ++row) {
         if (properties[row].Name.trimmed().startsWith("Speech "_L1, Qt::CaseInsensitive)) {
             speech.Resize(speech.UpperBound() + 1);

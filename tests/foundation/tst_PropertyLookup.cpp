@@ -51,6 +51,7 @@ private Q_SLOTS:
     void appends();
     void sortsRows_data();
     void sortsRows();
+    void collectsTheNamesAskedFor();
 };
 
 void tst_PropertyLookup::findsRows_data() {
@@ -246,6 +247,23 @@ void tst_PropertyLookup::sortsRows() {
                                         {u"B"_s, u"Z"_s, u"1"_s},
                                         {u"A"_s, u"b"_s, u"10"_s}});
     QTEST(mduLib::SortPropertyRows(array, column, direction), "rows");
+}
+
+void tst_PropertyLookup::collectsTheNamesAskedFor() {
+    ClockProperties array;
+    const auto names = std::make_shared<AskedNames>();
+    array.CollectAskedNames(names);
+    mduLib::PutProperty(u"Written"_s, u"1"_s, array);
+    const ClockProperties copy = array;
+    QVERIFY(copy == array);
+    mduLib::GetProperty(u"Current"_s, copy);
+    mduLib::GetPropertyRaw(u"Raw"_s, copy);
+    mduLib::GetPropertyRawIn(u"In A Category"_s, copy, u"Clock"_s);
+    mduLib::GetPropertyChoices(u"Choices"_s, copy.EmptyOfItsKind());
+    QCOMPARE(*names, AskedNames({u"Choices"_s, u"Current"_s, u"In A Category"_s, u"Raw"_s}));
+    QCOMPARE(copy.EmptyOfItsKind().UpperBound(), 1);
+    QVERIFY(ClockProperties() != array);
+    mduLib::GetProperty(u"Nobody Listens"_s, ClockProperties());
 }
 
 QTEST_GUILESS_MAIN(tst_PropertyLookup)
