@@ -1,4 +1,22 @@
-# Sourced by the end-to-end tests: a program in a window, a mouse, and what the files say.
+# Sourced by the end-to-end tests, which hand it their first word, the folder of the program and its
+# data: a program in a window, a mouse, and what the files say.
+#
+# It leaves $bin, that folder; $scratch, which goes at the end; $folder, the program folder of the
+# test, which is not made yet; $user, the user's folder in it; and $zones, the clocks' in that.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+. "$here/../../tools/tally.sh"
+bin=$(cd "$1" && pwd)
+export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+
+scratch=$(mktemp -d)
+trap 'StopProgram; StopOthers; rm -rf "$scratch"' EXIT
+folder=$scratch/app
+user=$folder/$(id -un)
+zones=$user/TimeZones
+
+# What a test has started beside the program; one that does has its own.
+StopOthers() { :; }
 
 # WaitFor SECONDS COMMAND...: until the command succeeds; fails when it never does.
 WaitFor() {

@@ -4,17 +4,10 @@
 # hangs, and twice at the same moment. Needs a display with a window manager.
 #
 #   tests/e2e/once.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
-
-scratch=$(mktemp -d)
-trap 'StopProgram; StopOthers; rm -rf "$scratch"' EXIT
+. "$(dirname "$0")/lib.sh"
 folder=$scratch/clocks
-zones=$folder/$(id -un)/TimeZones
+user=$folder/$(id -un)
+zones=$user/TimeZones
 others=()
 StopOthers() { ((${#others[@]} == 0)) || kill -9 "${others[@]}" 2>/dev/null || true; }
 

@@ -3,18 +3,7 @@
 # side. Needs a display with a window manager.
 #
 #   tests/e2e/places.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
-
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-folder=$scratch/app
-user=$folder/$(id -un)
-zones=$user/TimeZones
+. "$(dirname "$0")/lib.sh"
 
 # Clock ZONE COLOUR [KEY=VALUE...]: a plain clock of one colour, which starts by itself.
 Clock() {

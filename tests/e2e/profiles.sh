@@ -4,22 +4,13 @@
 # window manager.
 #
 #   tests/e2e/profiles.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
+. "$(dirname "$0")/lib.sh"
 # The tests' own zone database, in which Berlin keeps daylight time in every year.
 TZDIR=$(cd "$bin/../zoneinfo" && pwd)
-export TZDIR TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+export TZDIR
 
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-
-folder=$scratch/app
-user=$(id -un)
 profile=$folder/Timezones/Berlin.ini
-clock=$folder/$user/TimeZones/Berlin.ini
+clock=$zones/Berlin.ini
 year=$(date +%Y)
 start="Time Zone Standard Start Time"
 
@@ -30,7 +21,7 @@ Prepare() {
     "$bin/tempolark-profiles" "$folder" --date "$((year - 1))-07-01"
     cp "$profile" "$clock"
     sed -i 's/Flag File=.*/Flag File=mine.png\r/' "$profile"
-    printf 'Berlin=Berlin\r\n' >"$folder/$user/AutoStart.txt"
+    printf 'Berlin=Berlin\r\n' >"$user/AutoStart.txt"
 }
 
 IsOf() { [[ "$(Value "$2" "$start")" == ??"/10/$1 3:00:00" ]]; }

@@ -3,19 +3,8 @@
 # program, and reads in the files what it left. Needs a display with a window manager.
 #
 #   tests/e2e/run.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+. "$(dirname "$0")/lib.sh"
 
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-
-user=$(id -un)
-folder=$scratch/app
-zones=$folder/$user/TimeZones
 names=("India Standard Time" "Nepal Standard Time" "Tokyo Standard Time")
 
 Prepare() {
@@ -66,7 +55,7 @@ Moved() {
         (($(Value "$right" "Window Top") - $(Value "$moved" "Window Top") == 100 * 15))
 }
 
-OpenedListIs() { [[ "$(tr -d '\r' <"$folder/$user/OpenedForms.txt" | tr '\n' '|')" == "$1" ]]; }
+OpenedListIs() { [[ "$(tr -d '\r' <"$user/OpenedForms.txt" | tr '\n' '|')" == "$1" ]]; }
 
 KeepPlaces() { grep -h '^.*Window \(Top\|Left\|Width\|Height\)=' "$zones"/*.ini >"$scratch/places.$1"; }
 
@@ -106,7 +95,7 @@ Check "the mouse closes the program" CloseWithMouse
 Check "the moved clock's place is in its file" Moved
 Check "the opened clocks are listed, the last one first" \
     OpenedListIs "Tokyo Standard Time=|Nepal Standard Time=|India Standard Time=|"
-Check "the shell's place is in its file" test "$(Value "$folder/$user/TempolarkCentral.ini" 'Window Left')" -ge 0
+Check "the shell's place is in its file" test "$(Value "$user/TempolarkCentral.ini" 'Window Left')" -ge 0
 KeepPlaces before
 
 Check "the shell appears again" Start
@@ -116,7 +105,7 @@ Check "a clock is set to start by itself" StartOneByItself
 Check "the mouse closes the program again" CloseWithMouse
 KeepPlaces after
 Check "all places are the same" cmp "$scratch/places.before" "$scratch/places.after"
-autoStart=$(tr -d '\r' <"$folder/$user/AutoStart.txt")
+autoStart=$(tr -d '\r' <"$user/AutoStart.txt")
 Check "the auto-start list holds one clock" test "$(grep -c '=.' <<<"$autoStart")" -eq 1
 Check "the shell starts" Start
 Check "that clock has opened by itself" WaitFor 5 MovedClockShows

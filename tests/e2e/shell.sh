@@ -4,18 +4,9 @@
 # a display with a window manager.
 #
 #   tests/e2e/shell.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+. "$(dirname "$0")/lib.sh"
 
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-folder=$scratch/app
-zones=$folder/$(id -un)/TimeZones
-settings=$folder/$(id -un)/TempolarkCentral.ini
+settings=$user/TempolarkCentral.ini
 
 # A browser that only notes what it is to show.
 Prepare() {

@@ -4,18 +4,10 @@
 # display with a window manager.
 #
 #   tests/e2e/styles.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+. "$(dirname "$0")/lib.sh"
 
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-folder=$scratch/app
 zone="Nepal Standard Time"
-file=$folder/$(id -un)/TimeZones/$zone.ini
+file=$zones/$zone.ini
 
 # Two styles, "Blue" and "Red"; the clock stands at the upper left of the shell and opens from its
 # middle.

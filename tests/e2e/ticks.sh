@@ -5,20 +5,11 @@
 # display with a window manager.
 #
 #   tests/e2e/ticks.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-data=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+. "$(dirname "$0")/lib.sh"
+data=$bin
 # Whatever is asked of the login service is refused: there is none.
 export DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent
-
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
 bin=$scratch/bin
-folder=$scratch/app
-user=$folder/$(id -un)
 zones=("UTC" "India Standard Time") # on the left and on the right
 iana=(UTC Asia/Kolkata)
 places=(20 340) # the left edges of the two

@@ -4,17 +4,8 @@
 # display with a window manager.
 #
 #   tests/e2e/timers.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
+. "$(dirname "$0")/lib.sh"
 
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-folder=$scratch/app
-user=$folder/$(id -un)
 message="UTC"                   # the clock on the left, whose message runs
 action="India Standard Time"    # the clock on the right, whose action counts down
 script=$scratch/tools/note.sh

@@ -4,17 +4,7 @@
 # files are deleted after a question. Needs a display with a window manager.
 #
 #   tests/e2e/zones.sh FOLDER      where FOLDER holds TempolarkCentral and its data
-set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../../tools/tally.sh"
-. "$here/lib.sh"
-bin=$(cd "$1" && pwd)
-export TZ=UTC LC_ALL=C.UTF-8 QT_SCALE_FACTOR=1
-
-scratch=$(mktemp -d)
-trap 'StopProgram; rm -rf "$scratch"' EXIT
-folder=$scratch/app
-zones=$folder/$(id -un)/TimeZones
+. "$(dirname "$0")/lib.sh"
 
 Prepare() {
     mkdir -p "$folder"
