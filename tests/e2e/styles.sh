@@ -21,7 +21,7 @@ Prepare() {
         sed "$place; s/Window Background Colour=[^,]*/Window Background Colour=$style/" \
             "$folder/ini/Tempolark.ini" >"$folder/Styles/$style.ini"
     done
-    echo "$zone=$zone" >"$folder/$(id -un)/AutoStart.txt"
+    echo "$zone=$zone" >"$user/AutoStart.txt"
 }
 
 # ClockAt X Y: a point of the clock's window, on the screen.

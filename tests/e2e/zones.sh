@@ -53,7 +53,7 @@ Uncheck() {
     WaitFor 5 HasPopups 0
 }
 Exit() { PressButton 20 && WaitFor 10 test -s "$scratch/status" && [[ "$(<"$scratch/status")" == 0 ]]; }
-OpenedListIs() { [[ "$(tr -d '\r' <"$folder/$(id -un)/OpenedForms.txt" | tr '\n' '|')" == "$1" ]]; }
+OpenedListIs() { [[ "$(tr -d '\r' <"$user/OpenedForms.txt" | tr '\n' '|')" == "$1" ]]; }
 
 Prepare
 Check "the shell appears" Start
