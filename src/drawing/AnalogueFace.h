@@ -15,18 +15,22 @@ struct HandLook {
     HandStyle Style = HandStyle::Unknown;
     QString Colour;            ///< a colour name; "Random" is another colour at each pass
     double LengthPercent = 0;  ///< of the radius of the inscribed circle
+    /// As the property has it; what it means depends on the style (`DrawClockHand`).
     int LineWidth = 0;
 };
 
 /// What the analogue pass reads from the properties.
+/// It stays the same until the properties change; only colours by chance are picked at each pass.
 struct AnalogueLook {
     double CentralX = -1;  ///< percent of the surface's width; -1 means the middle
     double CentralY = -1;
     HandLook Hour, Minute, Second;
+    /// Of the hub; a colour name.
     QString HeadColour;
     ClockSpecial Special = ClockSpecial::None;
 };
 
+/// A key that is missing reads "0": a hand of that length or style is not drawn.
 AnalogueLook ReadAnalogueLook(const ClockProperties& properties);
 
 /// The centre of the dial on a surface, before rounding.
@@ -37,12 +41,16 @@ QPointF ClockCentre(const ClockProperties& properties, int scaleWidth, int scale
 struct HandsFrame {
     struct Hand {
         HandStyle Style = HandStyle::Unknown;
+        /// In radians as in `Angles.h`: pi is twelve o'clock, and the angle falls as the hand goes
+        /// on.
         double Angle = Pi;
+        /// In device pixels; 0 or less is not drawn.
         int Length = 0;
         int LineWidth = 0;
         int Colour = 0;
         bool operator==(const Hand&) const = default;
     };
+    /// The centre, in device pixels.
     int Cx = 0, Cy = 0;
     std::array<Hand, 3> Hands;  ///< hour, minute, second: in the order of painting
     int HeadColour = 0;

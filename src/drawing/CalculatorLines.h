@@ -40,8 +40,12 @@ public:
     bool EditingZoneLine() const { return editingZoneLine_; }
 
 private:
+    /// The label of a line: of the clock's zone, or of the local time.
     mduUILib::Control& Line(bool zoneLine) const;
+    /// The current value of "Calculator Local Time ..." or "Calculator Time ...", @p what being the
+    /// rest.
     QString Value(bool zoneLine, const QString& what) const;
+    /// What stands before the time: the name of the place, or that the time is local.
     QString Prefix(bool zoneLine) const;
     double WidestText(bool zoneLine, const QFont& font) const;
 
@@ -49,6 +53,7 @@ private:
     void ShowText(bool zoneLine, const QString& text);
     void PlaceAcross(bool zoneLine);
     void PlaceBelowEachOther();
+    /// Whether the font size is -1: the longest line fills the width.
     bool IsAutomatic(bool zoneLine) const;
     double AutomaticSize() const;
 

@@ -47,13 +47,18 @@ private:
         int Brightness = 100;
     };
 
+    /// The current value without the blanks around it; "0" when the key is missing.
     QString Property(const QString& name) const;
+    /// The file that a property names, in native form; empty for "0", "None" and an empty value.
     QString PathOf(const QString& name) const;
+    /// Null for a file that is missing or can't be read; the latter is told once for each file.
     Picture LoadNamed(const QString& path);
     void TakeClockPicture(const Picture& picture);
     void UpdateColourKey();
 
     void Place(const Surface& surface) const;
+    /// The size that the dial picture has on a surface: its margin is what "Clock Image Size(%)"
+    /// leaves of half the height. Without a picture it is all of the surface.
     QRect PictureBox(const Surface& surface) const;
     bool CoversAll(const Picture& picture) const;
     void PaintWipe(QPainter& painter, double devicePixelRatio) const;
@@ -61,6 +66,7 @@ private:
                      double devicePixelRatio) const;
     void PaintDial(QPainter& painter, const Picture& dial, Picture& stretched) const;
 
+    /// The pictures that change by themselves: those beside the dial picture, else the stock's.
     struct Candidates {
         QString Folder;
         QStringList Names;

@@ -19,6 +19,7 @@ namespace drawing {
 /// as if it had been painted whole.
 class FaceComposer {
 public:
+    /// All that it is given outlives it.
     FaceComposer(Canvas& canvas, const mduUILib::ClockControls& controls, const Dial& dial,
                  const Background& background);
 
@@ -34,6 +35,7 @@ public:
 
 private:
     /// A control as it was painted.
+    /// Two equal ones paint the same pixels.
     struct Overlay {
         const mduUILib::Control* Source;
         bool IsImage;

@@ -12,6 +12,7 @@ namespace drawing {
 /// next pixel. Ends are pixel centres; a hairline ends square, a wider line round.
 class LineCoverage {
 public:
+    /// @param width in pixels; below 1 it counts as 1. Two ends in one place give a dot.
     LineCoverage(int x1, int y1, int x2, int y2, int width)
         : x1_(static_cast<float>(x1)),
           y1_(static_cast<float>(y1)),
@@ -53,6 +54,7 @@ public:
               along_(-line.x1_ * line.ux_ + (static_cast<float>(y) - line.y1_) * line.uy_) {}
 
         /// The covered part of a pixel, of 256.
+        /// @param x any pixel of the row; outside of `Span` the part is 0
         unsigned At(int x) const {
             const float at = static_cast<float>(x);
             const float across = std::abs(across_ + at * line_.uy_);

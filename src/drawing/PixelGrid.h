@@ -10,6 +10,8 @@ namespace drawing {
 /// Fills one colour, within the surface's clip.
 class PixelGrid {
 public:
+    /// @param yDrives whether the driving axis is the vertical one
+    /// @param colour red in the low byte
     PixelGrid(Surface& surface, bool yDrives, int colour)
         : pixels_(surface.Row(0)),
           majorStride_(yDrives ? surface.Stride() : 1),
@@ -34,6 +36,7 @@ public:
 
     /// Fills from one pixel to another across the driving axis, both included. @p major lies within
     /// the clip.
+    /// What lies outside of the clip is left out; nothing is filled when @p from lies beyond @p to.
     void Fill(int major, int from, int to) {
         const int last = std::min(to, MinorLast);
         int minor = std::max(from, MinorFirst);

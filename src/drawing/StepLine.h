@@ -13,10 +13,13 @@ namespace drawing {
 class StepLine {
 public:
     StepLine() = default;
+    /// From the first end to the second, in pixels. Both in one place give one pixel.
     StepLine(double x1, double y1, double x2, double y2);
 
     bool YDrives = false;
+    /// 1 or -1.
     int Step = 1;
+    /// The first pixel along the driving axis.
     int Start = 0;
     int Steps = 0;  ///< the number of the last pixel; the first is 0
     bool StartsHalfWay = false;
@@ -32,8 +35,6 @@ public:
     bool IsAlike(const StepLine& line) const {
         return YDrives == line.YDrives && Step == line.Step && Start == line.Start;
     }
-    /// Whether the line runs exactly along its driving axis.
-    bool IsLevel() const { return otherSpan_ == 0; }
 
 private:
     int ExactlyAt(int k) const;

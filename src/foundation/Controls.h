@@ -25,6 +25,7 @@ struct Control {
     QFont Font;
     std::shared_ptr<const QImage> Picture;  ///< shared between clocks; null for none
 
+    /// The place as one value, in device pixels.
     QRectF Rect() const {
         return {static_cast<qreal>(Left), static_cast<qreal>(Top), static_cast<qreal>(Width),
                 static_cast<qreal>(Height)};
@@ -39,6 +40,7 @@ struct ControlArray {
     std::vector<Control> Members;
 
     int Count() const { return static_cast<int>(Members.size()); }
+    /// A member by its number, `First` being the first; there is no check.
     Control& operator()(int index) { return Members[static_cast<std::size_t>(index - First)]; }
     const Control& operator()(int index) const {
         return Members[static_cast<std::size_t>(index - First)];
@@ -48,6 +50,7 @@ struct ControlArray {
 /// The controls of one clock window, as they stand when it is created. Only the timer slots
 /// (`txtMsg`, `imgTimer`) grow later.
 struct ClockControls {
+    /// All arrays with their members, each hidden and without a place.
     ClockControls();
 
     ControlArray picFrame, txtMsg, imgSpeaker, shpArea, imgAction, lblLocation, imgSunMoon,

@@ -28,11 +28,13 @@ const QStringList& MenuColours();
 bool IsCustomColour(const QString& text);  ///< exactly "Custom"
 
 bool YesNoToBool(const QString& text);  ///< "no" is false; all else, the empty text too, is true
+/// "Yes" or "No".
 QString BoolToYesNo(bool flag);
 
 bool IsNoneValue(const QString& text);  ///< "0", "None" or empty
 
 int WindowStateValue(const QString& text);  ///< 2 maximized, 1 minimized, else 0
+/// "Normal" for any other number.
 QString WindowStateName(int state);
 
 /// The border style of "No Border" 1, "3D Border" 3, "Classic" 7; 0 for any other text.

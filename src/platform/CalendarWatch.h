@@ -12,6 +12,8 @@ namespace platform {
 /// its beginning, or of the machine's waking up in it.
 class CalendarWatch {
 public:
+    /// @param onNewMonth is called from the event loop; it is not for the month in which the watch
+    /// begins
     CalendarWatch(WallClock& clock, std::function<void()> onNewMonth);
 
 private:

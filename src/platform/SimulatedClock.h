@@ -24,6 +24,7 @@ public:
 
     /// Sets the reading without calling anyone.
     void SetNow(const QDateTime& now);
+    /// Another zone of the machine; the reading stays.
     void SetZone(const QTimeZone& zone) { zone_ = zone; }
 
     /// Lets @p milliseconds pass.

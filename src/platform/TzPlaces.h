@@ -24,6 +24,7 @@ public:
     /// The tables of this machine; without them nothing is known.
     static TzPlaces OfThisMachine();
 
+    /// Nothing for an identifier that the table does not hold, such as "UTC".
     std::optional<ZonePlace> PlaceOf(const QByteArray& iana) const;
 
     /// The English names of the countries that keep a zone of that CLDR name, in order.

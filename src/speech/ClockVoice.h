@@ -9,8 +9,12 @@ class ClockVoice {
 public:
     virtual ~ClockVoice() = default;
 
+    /// Shows the mark, or not, and takes voice, rate and volume from the properties.
     virtual void PrepareSpeaker() {}
+    /// Fills the menu of the mark with the voices that there are now.
     virtual void FillVoiceMenu() {}
+    /// @param flags as in `SpeechFlags.h`
+    /// @param force speaks also for a clock that is not the active one
     virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, bool /*force*/) {}
     virtual void PurgeSpeech(bool /*force*/) {}
     virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
@@ -32,8 +36,12 @@ class ClockMusic {
 public:
     virtual ~ClockMusic() = default;
 
+    /// Begins the next piece of music when none plays, is wanted and not held; ends music that is
+    /// no longer wanted.
     virtual void CheckMusic() {}
+    /// Plays a file, in place of what is playing.
     virtual void PlaySound(const QString& /*path*/) {}
+    /// Stops the music and holds it; a sound that is playing goes on.
     virtual void StopMusic() {}
 };
 

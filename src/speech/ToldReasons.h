@@ -13,6 +13,7 @@ class ToldReasons {
 public:
     explicit ToldReasons(const platform::WallClock& clock) : clock_(clock) {}
 
+    /// Notes it with the present time; one that is there is told anew.
     void Add(const QString& reason) { told_.insert(reason, clock_.Now()); }
     /// Something has been heard: each reason is news again.
     void Clear() { told_.clear(); }

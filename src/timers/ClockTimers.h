@@ -54,7 +54,6 @@ public:
 
     /// Lines of the file that belong to another half-day. They are written back at each save.
     const QStringList& DeferredTimerLines() const { return deferredTimerLines_; }
-    void AddDeferredTimerLine(const QString& line) { deferredTimerLines_ += line; }
 
     QStringList TimerLines() const;  ///< all lines that `SaveTimer` would write at present
     QString Path() const { return path_; }

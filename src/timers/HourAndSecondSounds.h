@@ -18,7 +18,9 @@ public:
     /// Sounds when another second has come.
     void PlaySecondSound() override;
 
+    /// Counts the calls for which the sound is busy, from 1; 0 when it is not.
     int HourSoundCount() const { return hourSoundCount_; }
+    /// The second, 0 to 59, at which the second sound was last considered; -1 before the first.
     int LastSecond() const { return lastSecond_; }
 
 private:

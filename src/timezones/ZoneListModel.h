@@ -27,11 +27,14 @@ public:
     }
     void ChecksChanged();  ///< of any rows, by the program
 
+    /// As many as are listed.
     int rowCount(const QModelIndex& parent = {}) const override;
+    /// Two: name, and offset from GMT.
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Takes checks only. @return false for anything else
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
 private:

@@ -20,7 +20,6 @@ public:
     /// The part of width and height, around the centre, that shows; 1 is all of it.
     void SetRevealed(double part);
 
-    const QRegion& Figure() const { return figure_; }
     /// Sets the mask again, for a window that has lost it or has another size.
     void Apply();
 

@@ -25,11 +25,14 @@ enum class BalloonStand {
 /// The window of a balloon: it paints what it is told and answers a click, and decides nothing.
 class BalloonWindow final : public QWidget {
 public:
+    /// @param onClick is called for a press on the balloon; it may destroy the window later, not at
+    /// once
     BalloonWindow(QWidget* owner, std::function<void()> onClick);
 
     /// Shows the look beside @p tool, which is given in pixels of the screen.
     void Appear(const BalloonLook& look, const QRect& tool, BalloonStand stand);
 
+    /// Where it stands, and to which side it points.
     const BalloonPlace& Place() const { return place_; }
     const BalloonLook& Look() const { return look_; }
 

@@ -14,6 +14,7 @@
 /// as lines to the standard output, and the process ends with its input.
 namespace platform {
 
+/// Writes a line and sends it off at once. @p line holds no line break.
 inline void Answer(const QByteArray& line) {
     std::puts(line.constData());
     std::fflush(stdout);
@@ -34,12 +35,15 @@ inline void EndWithParent() {
 /// Hands each line of the standard input on, split at its blanks; `Leave`s at its end.
 class OrderLines {
 public:
+    /// @param obey is called, from the event loop, with the words of each line; an empty line is
+    /// one empty word
     explicit OrderLines(std::function<void(const QByteArrayList& words)> obey)
         : obey_(std::move(obey)), input_(STDIN_FILENO, QSocketNotifier::Read) {
         QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { Read(); });
     }
 
 private:
+    /// The beginning of a line waits for its rest.
     void Read() {
         char buffer[4096];
         const ssize_t size = ::read(STDIN_FILENO, buffer, sizeof buffer);

@@ -11,6 +11,7 @@ namespace platform {
 /// The messages of all voices. One is spoken at a time, in the order in which they came.
 class SpeechQueue {
 public:
+    /// @param bounds how long a message may take to begin and to end
     explicit SpeechQueue(const SpeechBounds& bounds = {}) : bounds_(bounds) {}
 
     /// @param onEnd is called, from the event loop, when the message has ended; null is let be
@@ -34,6 +35,8 @@ private:
 /// message tries again with a fresh engine. A voice may be destroyed while it speaks.
 class QueuedVoice final : public Voice {
 public:
+    /// @param make makes the engine of this voice
+    /// @param directory which voices there are; by default none
     QueuedVoice(std::shared_ptr<SpeechQueue> queue, MakeEngine make,
                 std::shared_ptr<VoiceDirectory> directory = std::make_shared<VoiceDirectory>());
     ~QueuedVoice() override;
@@ -41,10 +44,14 @@ public:
 
     QStringList Descriptions() const override { return directory_->Descriptions(); }
     bool IsAsking() const override { return directory_->IsAsking(); }
+    /// @param index into `Descriptions`
     void SetVoice(int index) override;
+    /// @param rate -10 to 10; beyond that it is held to the nearer of the two
     void SetRate(int rate) override;
+    /// @param volume 0 to 100, held likewise
     void SetVolume(int volume) override;
     bool Speak(const QString& text, int flags) override;
+    /// A message that waits for its turn counts as spoken.
     bool IsSpeaking() const override { return last_ && !last_->HasEnded(); }
     QString LastError() const override;
     void SetOnNews(const std::function<void()>& onNews) override;

@@ -11,13 +11,16 @@ namespace platform {
 /// one has none to tell.
 class VoiceDirectory {
 public:
+    /// Is called each time that something is news.
     using Listener = std::function<void()>;
 
     VoiceDirectory() = default;
     virtual ~VoiceDirectory() = default;
     Q_DISABLE_COPY_MOVE(VoiceDirectory)
 
+    /// One for each voice; none while the machine has not told.
     virtual QStringList Descriptions() { return {}; }
+    /// Whether an answer is still to come.
     virtual bool IsAsking() const { return false; }
 
     /// Calls @p listener, for as long as it lives, whenever the machine has told something.
@@ -26,6 +29,7 @@ public:
     }
 
 protected:
+    /// Calls all who still live, in the order in which they came.
     void TellNews() {
         std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
         const auto told = listeners_;  // a listener may bring others

@@ -14,9 +14,11 @@ public:
         std::function<void(int)> HeaderClicked;        ///< column 0 or 1
     };
 
+    /// All handlers must be given.
     ZoneListView(Handlers handlers, QWidget* parent);
 
     /// Divides the width among the columns; the first keeps a minimum.
+    /// To be called when the rows or the size have changed.
     void FitColumns();
 
     /// What stands in an empty list.

@@ -22,7 +22,9 @@ struct MapDot {
 class ZoneMap final : public QWidget {
 public:
     struct Handlers {
+        /// There is another band, or none any more; `Band` tells which.
         std::function<void()> BandChanged;
+        /// @param dot its number in `Dots`
         std::function<void(int)> DotClicked;
         std::function<void(const QPoint&)> MenuAsked;  ///< at a point of the screen
     };
@@ -30,12 +32,16 @@ public:
     ZoneMap(const Program& program, Handlers handlers, QWidget* parent);
     ~ZoneMap() override;
 
+    /// Replaces all dots. None of the new ones is current.
     void SetDots(std::vector<MapDot> dots);
+    /// In the order in which they are painted: a later dot lies over an earlier one.
     const std::vector<MapDot>& Dots() const { return dots_; }
     void SetCurrentDot(int dot);  ///< -1 for none
+    /// The middle of a dot, in pixels of the map. It lies outside where the map is too low for it.
     QPointF PointOfDot(int dot) const;
 
     const mduTimeZones::MapBand& Band() const { return band_; }
+    /// Gives the band up. `BandChanged` is called also when there was none.
     void ClearBand();
 
     /// Ends a drag, as letting the button go does.
@@ -59,9 +65,13 @@ protected:
 private:
     mduTimeZones::MapLayout Layout() const { return mduTimeZones::MapLayout(rect()); }
     void TakeBand();
+    /// Moves the band by whole hours, from -12 to 14; the first step of all picks Greenwich.
     void StepBand(int hours);
     void PlaceBandShape();
+    /// The dot nearest to a pixel, the one on top where several are; -1 when none lies within 7
+    /// pixels.
     int DotAt(const QPointF& position) const;
+    /// The names of the dots within 7 pixels, one a line, the nearest first, four at most.
     QString NamesAt(const QPointF& position) const;
     void Hover(int dot);
 

@@ -9,6 +9,7 @@
 /// The two pop-up menus of the window of zones.
 class ZoneMenu {
 public:
+    /// The entries. In the menus each is an action whose `objectName` is the same word.
     enum class Item {
         NameAscending,
         NameDescending,
@@ -39,15 +40,23 @@ public:
         bool MapVisible = true;
     };
 
+    /// @param owner owns the menus and outlives this object
+    /// @param onItem is called with each entry that is chosen
     ZoneMenu(QWidget* owner, std::function<void(Item)> onItem);
 
+    /// Checks what holds and greys what can't be done; to be called before a menu is shown.
     void Refresh(const State& state);
+    /// The menu of the list.
     QMenu& TimeZoneMenu() { return *timeZoneMenu_; }
+    /// The menu of the map.
     QMenu& MapMenu() { return *mapMenu_; }
+    /// The action of an entry; each item has one.
     QAction& Action(Item item) const { return *actions_.at(item); }
 
 private:
+    /// @param name the `objectName`, by which it can be found
     QMenu* AddMenu(QMenu& menu, const QString& name, const QString& caption);
+    /// @param isChoice whether the entry can be checked
     void Add(QMenu& menu, Item item, const QString& name, const QString& caption,
              bool isChoice = false);
     void AddSorts();

@@ -12,6 +12,7 @@ public:
         std::function<void(int)> Moved;           ///< it has been let go with its top at this y
     };
 
+    /// @param parent the window that is divided; the bar moves over it
     ZoneSplitter(Handlers handlers, QWidget* parent);
 
     static constexpr int Thickness = 10;  ///< pixels
@@ -24,6 +25,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// @p y, held to the limits.
     int Within(int y) const;
     void PlaceBar(const QPointF& position);
 

@@ -37,7 +37,11 @@ public:
     void LoadZoneList(mduTimeZones::ShowFilter show);
     /// Lists another source; before the window is shown it only chooses it.
     void SetSource(mduTimeZones::SourceMode source);
+    /// Makes a property file for each checked row that has none, and tells in the status bar how
+    /// many were made or why one could not be.
     void SaveCheckedZones();
+    /// Removes the files of the checked rows, and their clocks, after a question whose default is
+    /// "No".
     void DeleteCheckedZones();
     /// Asks for checked rows that have no file, and for rows that are no longer checked and have
     /// one; on yes the files of the first are made and those of the others removed.
@@ -55,6 +59,7 @@ public:
     QString Name() const override { return QStringLiteral("frmTimeZones"); }
     QString Caption() const override { return windowTitle(); }
     int hwnd() const override { return handle_; }
+    /// 0 normal, 1 minimised, 2 maximised: of the frame in the shell, where there is one.
     int WindowState() const override;
     void SetWindowState(int state) override;
     bool IsEnabled() const override { return isEnabled(); }
@@ -63,7 +68,9 @@ public:
     void SetFocus() override;
     void Unload() override { Outer().close(); }
 
+    /// What is listed, in the order of the rows; the first has position 0.
     const mduTimeZones::ZoneList& List() const { return list_; }
+    /// The balloon of `ShowZoneDetails`.
     CBalloonToolTip& Balloon() { return balloon_; }
 
     QSize sizeHint() const override { return {760, 640}; }
@@ -77,15 +84,20 @@ protected:
 private:
     using Item = ZoneMenu::Item;
 
+    /// What is moved and closed: the frame in the shell, or this window where there is none.
     QWidget& Outer();
     const QWidget& Outer() const;
+    /// Says something in the shell's status bar; nothing where there is no shell.
     void Tell(const QString& text);
     void TellOutcome(const mduTimeZones::RowsOutcome& outcome, const QString& done);
+    /// @return the button pressed, such as `MsgBox::Yes`; 0 where there is no shell to ask
     int Ask(const QString& text, int flags, const QString& title);
     mduTimeZones::RowsOutcome Remove(const QStringList& names);
+    /// Makes the row's file if it has none, and opens its clock.
     void LaunchRow(int position);
 
     // What the list does (frmTimeZonesList.cpp)
+    /// Runs what lists other rows. The current zone stays current where it is still listed.
     void Refill(const std::function<void()>& action);
     void ShowRows();
     void Search(const QString& typed);
@@ -111,7 +123,9 @@ private:
     // Their places and the menus (frmTimeZonesLayout.cpp)
     void LayOut();
     int MapHeight() const;
+    /// The highest and the lowest place of the splitter, in pixels from the top.
     QPair<int, int> SplitLimits() const;
+    /// @param y where the splitter was let go, in pixels from the top
     void SetSplit(int y);
     void SetMapVisible(bool visible);
     void RefreshMenus();
