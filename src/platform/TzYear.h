@@ -24,7 +24,7 @@ struct TzYear {
     bool operator==(const TzYear&) const = default;
 };
 
-/// @param year of the local calendar; an invalid zone has no changes and the offset 0
+/// @param year of the calendar of GMT
 TzYear ReadTzYear(const QTimeZone& zone, int year);
 
 /// The date and time that a clock with that offset shows at an instant.

@@ -25,8 +25,7 @@ enum class BalloonStand {
 /// The window of a balloon: it paints what it is told and answers a click, and decides nothing.
 class BalloonWindow final : public QWidget {
 public:
-    /// @param onClick is called for a press on the balloon; it may destroy the window later, not at
-    /// once
+    /// @param onClick is called for a press on the balloon; the window must outlive the call
     BalloonWindow(QWidget* owner, std::function<void()> onClick);
 
     /// Shows the look beside @p tool, which is given in pixels of the screen.
