@@ -111,7 +111,7 @@ private Q_SLOTS:
         Child child;
         child.Set(u"Window Border"_s, border);
         child.Place.ApplyWindowBorder();
-        QCOMPARE(child.Frame().Look().Border, style);
+        QCOMPARE(static_cast<int>(child.Frame().Look().Border), style);
     }
 
     void UnknownBorderKeepsTheOneBefore() {
