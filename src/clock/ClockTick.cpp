@@ -50,7 +50,7 @@ void ClockTick::FirstTick() {
     parts_.Background.LoadClockPicture();
     parts_.Overlays.LayOutOverlays();
     parts_.Voice.PrepareSpeaker();
-    if (data_.Is(Wrapper)) {
+    if (data_.Tag.IsWrapper) {
         FirstTickOfWrapper();
         return;
     }
@@ -81,7 +81,7 @@ void ClockTick::FirstTick() {
 void ClockTick::FirstTickOfWrapper() {
     parts_.Face.ApplyWindowBackground();
     if (data_.IsAnalogue()) {
-        parts_.Dial.DrawDialNumbers(true, {}, true);
+        parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
     }
 }
 
@@ -92,7 +92,7 @@ void ClockTick::Redraw() {
     parts_.Placement.ApplyWindowBorder();
     parts_.Placement.ApplyTitleBar();
     if (data_.IsAnalogue()) {
-        parts_.Dial.DrawDialNumbers(true, {}, true);
+        parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
     }
     const QDateTime clockTime = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
     parts_.Dial.ShowMinuteSpots(clockTime.time().hour());
@@ -166,7 +166,7 @@ void ClockTick::RefreshTickValues() {
 }
 
 bool ClockTick::StayTimeIsOver() const {
-    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !data_.Is(Wrapper) &&
+    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !data_.Tag.IsWrapper &&
            static_cast<double>(data_.StartTime.secsTo(clock_.Now())) > stayTime_;
 }
 
@@ -179,7 +179,7 @@ void ClockTick::HandleFocus() {
     }
     if (data_.ActiveEditFlag && active && window.IsEnabled()) {
         if (data_.IsAnalogue()) {
-            parts_.Dial.DrawDialNumbers(true, {}, true);
+            parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
         }
     } else if (window.TimerInterval() != NormalInterval) {
         parts_.Window.SetTimerInterval(NormalInterval);
@@ -212,10 +212,10 @@ void ClockTick::RequestRedraw() {
     if (data_.IsAnalogue()) {
         parts_.Overlays.SetSunMoon();
     }
-    if (data_.Is(Digital) || data_.Is(AnalogueAndDigital)) {
+    if (data_.IsDigital()) {
         parts_.Digital.SetDigitalLayout();
     }
-    if (data_.Is(Calculator) || data_.Is(CalculatorInput)) {
+    if (data_.IsCalculator()) {
         parts_.Calculator.SetCalculatorLayout();
     }
     parts_.Timers.PlaceTimerMarks();

@@ -70,7 +70,7 @@ class RecordingParts {
 
     struct Dial final : drawing::Dial {
         Calls* Log = nullptr;
-        void DrawDialNumbers(bool, const QString&, bool) override {
+        void DrawDialNumbers(drawing::DialParts) override {
             *Log += QStringLiteral("DrawDialNumbers");
         }
         void ShowMinuteSpots(int hour) override {

@@ -20,7 +20,7 @@ namespace clockcore {
 class MdiPlacement final : public ClockPlacement {
 public:
     /// @param time runs the animation of opening and closing; without it there is none
-    MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data,
+    MdiPlacement(QWidget& clock, QMdiArea* area, ClockData& data,
                  platform::WallClock* time = nullptr);
 
     /// Makes the frame around the clock; invisible and, until the first tick, of no size.
@@ -42,8 +42,8 @@ public:
     void ShowClockWindow(bool show) override;
 
     /// An entry of the position menu: each word of its caption acts by itself. "Centre" and
-    /// "Auto Size" store -1 in @p data, which is the clock's.
-    void MoveTo(const QString& caption, ClockData& data);
+    /// "Auto Size" store -1 in the clock's properties.
+    void MoveTo(const QString& caption);
 
     /// The outline of the outer window, in device pixels; an empty region takes it away.
     void SetWindowRgn(const QRegion& outline);
@@ -81,7 +81,7 @@ private:
 
     QWidget& clock_;
     QMdiArea* area_;
-    const ClockData& data_;
+    ClockData& data_;
     platform::WallClock* time_;
     QPointer<ClockFrame> frame_;
     WindowOutline ownOutline_;  ///< of a clock that stands alone

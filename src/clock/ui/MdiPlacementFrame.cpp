@@ -37,7 +37,7 @@ void MdiPlacement::ApplyTitleBar() {
 }
 
 void MdiPlacement::ApplyLook() {
-    const bool bare = data_.Is(Wrapper) || drawing::IsShape(Property(u"Window Shape"_s));
+    const bool bare = data_.Tag.IsWrapper || drawing::IsShape(Property(u"Window Shape"_s));
     const FrameLook look = bare ? FrameLook{NoBorder, false} : look_;
     if (frame_) {
         frame_->SetLook(look);

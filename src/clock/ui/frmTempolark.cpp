@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "clock/ClockMode.h"
+#include "drawing/ClockSpecial.h"
 #include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
@@ -84,19 +85,18 @@ bool frmTempolark::ShowMeMDIChild(const QString& zoneName) {
     }
     Load();
     placement_.PlaceInTheMiddle();
-    data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
+    data_.Tag = {clockcore::GetClockType(data_.Properties()), false};
     files_.FillZone(zoneName);
     FinishLoading();
     return true;
 }
 
-void frmTempolark::ShowMe(const QString& zoneName, bool refresh, bool wrapper) {
+void frmTempolark::ShowMe(const QString& zoneName, const ShowOptions& options) {
     files_.LoadCurrent();
     Load();
-    const int mode = clockcore::GetClockType(data_.Properties());
-    data_.Tag = QString::number(wrapper ? mode + clockcore::Wrapper : mode);
+    data_.Tag = {clockcore::GetClockType(data_.Properties()), options.AsWrapper};
     files_.FillZone(zoneName);
-    if (refresh) {
+    if (options.RefreshZone) {
         RefreshDefaultTimeZoneDetails(zoneName);
     }
     FinishLoading();
@@ -113,7 +113,7 @@ void frmTempolark::LaunchMDITempolark(QString zoneName) {
     auto* other = new frmTempolark(program_, shell_, area_);
     if (other->files_.NameCurrentFile(zoneName)) {
         const bool merged = other->files_.RefreshFile();
-        other->ShowMe(zoneName, !merged, false);
+        other->ShowMe(zoneName, {.RefreshZone = !merged});
         other->placement_.SetOuterSize(placement_.OuterRect().size());
     } else {
         delete other;
@@ -266,7 +266,9 @@ void frmTempolark::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
 }
 
 void frmTempolark::SetBackward() {
-    mduLib::PutProperty(u"Clock Special"_s, u"Analogue Backward"_s, data_.EditProperties());
+    mduLib::PutProperty(u"Clock Special"_s,
+                        drawing::ClockSpecialName(drawing::ClockSpecial::AnalogueBackward),
+                        data_.EditProperties());
 }
 
 void frmTempolark::Status(const QString& text) {

@@ -49,9 +49,13 @@ public:
 
     // The ways in.
     bool ShowMeMDIChild(const QString& zoneName) override;
-    /// The stand-alone way in: shows `CurrentPropertyFile` as it stands. @p wrapper gives a plain,
-    /// undrawn window.
-    void ShowMe(const QString& zoneName, bool refresh, bool wrapper);
+    /// How the stand-alone way in departs from the usual.
+    struct ShowOptions {
+        bool RefreshZone = false;  ///< the file's zone keys are made anew first
+        bool AsWrapper = false;    ///< a plain, undrawn window
+    };
+    /// The stand-alone way in: shows `CurrentPropertyFile` as it stands.
+    void ShowMe(const QString& zoneName, const ShowOptions& options);
     /// Opens another clock, sized like this one and with its parent; one that is open comes to the
     /// front.
     void LaunchMDITempolark(QString zoneName);

@@ -63,7 +63,7 @@ void frmTempolark::TakeSurface() {
 // comes all the same.
 void frmTempolark::LayOutFace() {
     background_.ApplySurface();
-    dial_.DrawDialNumbers(data_.IsAnalogue(), {}, false);
+    dial_.DrawDialNumbers(data_.IsAnalogue() ? drawing::DialParts::All : drawing::DialParts::None);
 }
 
 // The surface holds the whole picture. A part that we did not change ourselves has come to light:

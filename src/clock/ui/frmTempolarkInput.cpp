@@ -12,6 +12,7 @@
 #include "drawing/TitleEdit.h"
 
 using namespace Qt::StringLiterals;
+using clockcore::ClockKind;
 
 namespace {
 
@@ -57,12 +58,12 @@ bool IsPlain(const QKeyEvent& event) {
 
 void frmTempolark::keyPressEvent(QKeyEvent* event) {
     const int key = IsPlain(*event) ? CalculatorKey(*event) : 0;
-    if (data_.Is(clockcore::CalculatorInput) && key != 0) {
+    if (data_.Is(ClockKind::CalculatorInput) && key != 0) {
         if (!calculator_.EditCalculatorKey(key)) {
-            data_.Tag = QString::number(clockcore::Calculator);
+            data_.Tag = {ClockKind::Calculator, false};
         }
-    } else if (data_.Is(clockcore::Calculator) && key == 9) {
-        data_.Tag = QString::number(clockcore::CalculatorInput);
+    } else if (data_.Is(ClockKind::Calculator) && key == 9) {
+        data_.Tag = {ClockKind::CalculatorInput, false};
         calculator_.BeginInput();
     } else {
         QWidget::keyPressEvent(event);
@@ -170,6 +171,5 @@ void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 bool frmTempolark::focusNextPrevChild(bool next) {
-    const bool takesTab = data_.Is(clockcore::Calculator) || data_.Is(clockcore::CalculatorInput);
-    return !takesTab && QWidget::focusNextPrevChild(next);
+    return !data_.IsCalculator() && QWidget::focusNextPrevChild(next);
 }

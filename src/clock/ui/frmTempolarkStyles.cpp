@@ -16,13 +16,13 @@ void frmTempolark::SetProperty() {
 }
 
 void frmTempolark::SetClocks(int mode) {
-    const QString name = clockcore::ClockModeName(mode);
-    if (name.isEmpty()) {
+    const clockcore::ClockKind kind = clockcore::NumberedClockKind(mode);
+    if (kind == clockcore::ClockKind::None) {
         return;
     }
-    data_.Tag = QString::number(mode);
+    data_.Tag = {kind, false};
     controls_.lblLocation(1).Caption = data_.Zone.CurrentName;  // typing may have changed it
-    mduLib::PutProperty(u"Clocks"_s, name, data_.EditProperties());
+    mduLib::PutProperty(u"Clocks"_s, clockcore::ClockKindName(kind), data_.EditProperties());
     face_.ApplyWindowBackground();
     face_.PrepareClockFace();
     face_.ReadDigitalFormat();
@@ -43,7 +43,8 @@ void frmTempolark::SetWindowBackColour(const QString& value, const QString& capt
     const QString colour = mduUILib::IsCustomColour(caption) ? value : caption;
     mduLib::PutProperty(u"Window Background Colour"_s, colour, data_.EditProperties());
     face_.ApplyWindowBackground();
-    dial_.DrawDialNumbers(data_.IsAnalogue(), {}, true);
+    dial_.DrawDialNumbers(data_.IsAnalogue() ? drawing::DialParts::Numbers
+                                             : drawing::DialParts::None);
     overlays_.SetTransparentIconPosition();
     Refresh();
 }
@@ -66,7 +67,7 @@ void frmTempolark::ApplyClockStyle(const QString& styleFile) {
     RefreshForm({});
     overlays_.LayOutOverlays();
     if (data_.IsAnalogue()) {
-        dial_.DrawDialNumbers(true, {}, true);
+        dial_.DrawDialNumbers(drawing::DialParts::Numbers);
     }
     RequestRedrawNow();
 }
@@ -149,9 +150,9 @@ void frmTempolark::RefreshForm(const QString& fileName) {
     placement_.ApplyWindowBorder();
     placement_.ApplyTitleBar();
     placement_.ApplyWindowState();
-    data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
+    data_.Tag = {clockcore::GetClockType(data_.Properties()), false};
     face_.PrepareClockFace();
-    if (data_.Is(clockcore::Digital) || data_.Is(clockcore::AnalogueAndDigital)) {
+    if (data_.IsDigital()) {
         digital_.SetDigitalLayout();
     }
     face_.ApplyWindowBackground();

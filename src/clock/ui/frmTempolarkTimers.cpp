@@ -36,8 +36,9 @@ void frmTempolark::FitLabel(mduUILib::Control& label) {
 void frmTempolark::PlaceMark(int slot, int spot, int place) {
     mduUILib::Control& mark = controls_.imgTimer(slot);
     const double side = drawing::TimerMarkSide(*surface_);
-    const QPointF at = drawing::TimerMarkPlace(
-        *surface_, data_.Properties(), data_.Is(clockcore::Analogue), spot, place, {side, side});
+    const QPointF at = drawing::TimerMarkPlace(*surface_, data_.Properties(),
+                                               data_.Is(clockcore::ClockKind::Analogue), spot,
+                                               place, {side, side});
     mark.Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
     mark.Width = mark.Height = static_cast<float>(side);
     mark.Left = static_cast<float>(at.x());
