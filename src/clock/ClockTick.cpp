@@ -1,7 +1,5 @@
 #include "clock/ClockTick.h"
 
-#include <utility>
-
 #include "foundation/Dates.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -148,8 +146,7 @@ void ClockTick::CheckMusic() {
 // Once in each second, however often the clock ticks in it.
 void ClockTick::Rotate() {
     const QDateTime now = clock_.Now();
-    const QDateTime second = now.addMSecs(-now.time().msec());
-    if (std::exchange(rotatedAt_, second) != second) {
+    if (rotation_.IsNew(now)) {
         RotateStyle(now.time().second());
         RotateBackground(now.time().second());
     }

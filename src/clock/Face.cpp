@@ -98,12 +98,14 @@ void Face::ShowChanges() {
 }
 
 void Face::MoveHands() {
-    const QDateTime time = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
-    mduUILib::Control& lblClock = controls_.lblClock(1);
-    lblClock.Caption = HandCaption(time.time());
-    if (!canvas_.CanBeSeen()) {
-        return;
+    const QTime time = mduTimeZones::GetClockTime(data_.Zone, clock_.Now()).time();
+    if (canvas_.CanBeSeen()) {
+        AimHands({time.hour(), time.minute(), time.second()});
     }
+    HandText().Caption = HandCaption(time);
+}
+
+void Face::AimHands(const drawing::HandTime& time) {
     if (revisionRead_ != data_.Revision()) {
         revisionRead_ = data_.Revision();
         look_ = drawing::ReadAnalogueLook(data_.Properties());
@@ -112,8 +114,7 @@ void Face::MoveHands() {
         }
     }
     RecolourNumbers();
-    hands_ = drawing::MakeHandsFrame(canvas_.Surface(), look_,
-                                     drawing::ReadHandTime(lblClock.Caption), random_);
+    hands_ = drawing::MakeHandsFrame(canvas_.Surface(), look_, time, random_);
 }
 
 // Numbers that take a colour by chance take another at each pass.

@@ -39,6 +39,9 @@ public:
 private:
     void PrepareReadOuts();
     void MoveHands();
+    void AimHands(const drawing::HandTime& time);
+    /// `lblClock`, which tells those who look from outside what the hands show.
+    mduUILib::Control& HandText() { return controls_.lblClock(1); }
     void RecolourNumbers();
 
     ClockData& data_;
