@@ -35,6 +35,16 @@ public:
     }
     void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
 
+    /// Whether the first tick is over: before it a clock has nothing to show, nor any state to
+    /// change.
+    bool HasBegun() const {
+        return state_ != ClockState::Loading && state_ != ClockState::FirstTickDue;
+    }
+    /// Whether the face is laid out and to be kept up to date.
+    bool IsDrawn() const {
+        return state_ == ClockState::Running || state_ == ClockState::RedrawRequested;
+    }
+
 private:
     ClockState state_ = ClockState::Loading;
     Watcher watcher_;

@@ -28,13 +28,9 @@ public:
     void ReadDigitalFormat() override;
     void PrepareClockFace() override;
     void DrawClockFace() override;
-
-    /// Paints and shows what has changed, with the hands where they are.
-    void ShowChanges();
-    /// Makes the next repaint a whole one.
-    void Invalidate() { composer_.Invalidate(); }
-    /// Makes the next repaint begin with the still layer.
-    void StillChanged() { composer_.StillChanged(); }
+    void ShowChanges() override;
+    void Invalidate() override { composer_.Invalidate(); }
+    void StillChanged() override { composer_.StillChanged(); }
 
 private:
     void PrepareReadOuts();

@@ -45,21 +45,22 @@ public:
     /// "Auto Size" store -1 in the clock's properties.
     void MoveTo(const QString& caption);
 
-    /// The outline of the outer window, in device pixels; an empty region takes it away.
-    void SetWindowRgn(const QRegion& outline);
-    /// Where the clock begins within the outer window, in device pixels.
-    QPoint SurfaceOffset() const;
-    /// Lets what the clock does not paint be see-through; a clock in the shell takes no notice.
-    void SetColourKey(bool on);
+    void SetWindowRgn(const QRegion& outline) override;
+    QPoint SurfaceOffset() const override;
+    /// A clock in the shell takes no notice.
+    void SetColourKey(bool on) override;
+    void SetIcon(const QImage& picture) override;
 
-    int WindowState() const;  ///< 0 normal, 1 minimised, 2 maximised
-    void SetWindowState(int state);
+    QString Caption() const override { return Outer().windowTitle(); }
+    int WindowState() const override;
+    void SetWindowState(int state) override;
+    bool IsShown() const override { return Outer().isVisible(); }
     void Show();
 
-    QRectF OuterRect() const;  ///< in twips, at this moment
-    /// What a file is to remember, in twips of the whole area: the place that the window has while
-    /// it is normal. Nothing for a minimised or maximised one that still has the place of its file.
-    std::optional<QRectF> PlaceToStore() const;
+    QRectF OuterRect() const override;
+    /// In twips of the whole area: the place that the window has while it is normal. Nothing for a
+    /// minimised or maximised one that still has the place of its file.
+    std::optional<QRectF> PlaceToStore() const override;
     void SetOuterRect(const QRectF& twips);
     void SetOuterSize(const QSizeF& twips);
 

@@ -1,4 +1,5 @@
 // The frame of a clock's window: border, title bar, outline, opening and closing.
+#include <QPixmap>
 #include <algorithm>
 
 #include "clock/ui/MdiPlacement.h"
@@ -86,6 +87,10 @@ QPoint MdiPlacement::SurfaceOffset() const {
     }
     return (QPointF(clock_.mapTo(frame_.data(), QPoint(0, 0))) * clock_.devicePixelRatioF())
         .toPoint();
+}
+
+void MdiPlacement::SetIcon(const QImage& picture) {
+    Outer().setWindowIcon(QPixmap::fromImage(picture));
 }
 
 void MdiPlacement::SetColourKey(bool on) {

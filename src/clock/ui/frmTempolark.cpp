@@ -27,14 +27,16 @@ constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
 
 frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area)
     : program_(program),
-      shell_(shell),
       area_(area),
       handle_(program.Windows.NewHandle()),
-      surface_(std::make_unique<drawing::Surface>(1, 1, 1.0)),
-      files_(data_, program, [this](const QString& text) { Status(text); }),
-      styles_(program),
-      timClock_(program.Services.Clock.MakeTicker([this] { Tick(); })),
+      screen_(*this, area, shell),
       placement_(*this, area, data_, &program.Services.Clock),
+      canvas_(data_.State, screen_, placement_),
+      window_(*this, area, placement_, canvas_, controls_,
+              program.Services.Clock.MakeTicker([this] { Tick(); })),
+      host_(data_, controls_, window_, screen_, canvas_),
+      files_(data_, program, [this](const QString& text) { screen_.ShowStatus(text); }),
+      styles_(program),
       dial_(Context()),
       digital_(Context()),
       calculator_(Context()),
@@ -49,12 +51,14 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       voice_(Parts<speech::SpeechHost>()),
       spoken_(Parts<speech::SpeechHost>(), voice_),
       music_(Parts<speech::SpeechHost>()),
-      face_(data_, controls_, *this, {dial_, digital_, calculator_, background_, overlays_},
+      face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, overlays_},
             program.Services.Clock, program.Services.Random),
       tick_(data_,
-            {*this, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
+            {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
              timers_, messages_, sounds_, voice_, spoken_, music_, *this, *this},
             program.Module, program.Services.Clock) {
+    canvas_.SetFace(face_);
+    host_.SetSpeech(voice_, music_);
     setObjectName(ClockWindowName);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -66,7 +70,7 @@ drawing::FaceContext frmTempolark::Context() {
     return {data_.Properties(),
             data_.Zone,
             controls_,
-            *this,
+            canvas_,
             program_.Services.Clock,
             program_.Services.FileSystem,
             program_.Services.Random,
@@ -110,7 +114,7 @@ void frmTempolark::LaunchMDITempolark(QString zoneName) {
         mduLib::BringToFront(*open);
         return;
     }
-    auto* other = new frmTempolark(program_, shell_, area_);
+    auto* other = new frmTempolark(program_, screen_.Shell(), area_);
     if (other->files_.NameCurrentFile(zoneName)) {
         const bool merged = other->files_.RefreshFile();
         other->ShowMe(zoneName, {.RefreshZone = !merged});
@@ -140,8 +144,9 @@ void frmTempolark::Load() {
     data_.State = ClockState::FirstTickDue;
     placement_.SetOuterSize({0, 0});
     controls_.imgSpeaker(1).Visible = false;
-    SetTimerInterval(FirstShot);
-    SetTimerInterval(timers::NormalInterval);  // from then on; the first shot comes all the same
+    window_.SetTimerInterval(FirstShot);
+    window_.SetTimerInterval(
+        timers::NormalInterval);  // from then on; the first shot comes all the same
 }
 
 void frmTempolark::LayOutTimerMarks() {
@@ -168,6 +173,14 @@ void frmTempolark::Activate() {
     }
 }
 
+// The message and the action move after the face has been painted.
+void frmTempolark::Tick() {
+    tick_.Tick();
+    if (data_.State == ClockState::Running) {
+        canvas_.ShowChanges();
+    }
+}
+
 void frmTempolark::ApplyEnable() {
     EnableWindow(mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties())));
 }
@@ -179,7 +192,7 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
         event->accept();
         return;
     }
-    timClock_->SetInterval(0);
+    window_.StopTimer();
     voice_.FallSilent();
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
@@ -191,66 +204,27 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
     placement_.ShowClockWindow(false);
     program_.Windows.Remove(*this);
     event->accept();
-    if (!IsMDIChild()) {
+    if (area_ == nullptr) {
         QCoreApplication::quit();  // a clock that stands alone is the whole program
     }
 }
 
-void frmTempolark::CloseClock() {
-    Unload();
-}
-
-void frmTempolark::Unload() {
-    placement_.Outer().close();
-}
-
-QString frmTempolark::Caption() const {
-    return placement_.Outer().windowTitle();
-}
-
-bool frmTempolark::IsEnabled() const {
-    return placement_.Outer().isEnabled();
-}
-
-void frmTempolark::EnableWindow(bool enabled) {
-    placement_.Outer().setEnabled(enabled);
-    for (mduUILib::ControlArray* array : controls_.All()) {
-        for (mduUILib::Control& control : array->Members) {
-            control.Enabled = enabled;
-        }
-    }
-}
-
-// Before its first tick a clock has nothing to show yet, nor any state to change.
-bool frmTempolark::HasBegun() const {
-    return data_.State != ClockState::Loading && data_.State != ClockState::FirstTickDue;
-}
-
 void frmTempolark::SetWindowState(int state) {
-    if (HasBegun()) {
+    if (data_.State.HasBegun()) {
         placement_.SetWindowState(state);
     }
 }
 
 void frmTempolark::Show() {
-    if (HasBegun()) {
+    if (data_.State.HasBegun()) {
         placement_.Show();
     }
 }
 
 void frmTempolark::SetFocus() {
-    if (!HasBegun()) {
-        return;
+    if (data_.State.HasBegun()) {
+        window_.Activate();
     }
-    if (area_ != nullptr) {
-        area_->setActiveSubWindow(placement_.Frame());
-        placement_.Frame()->Place().ScrollTo();
-    }
-    setFocus();
-}
-
-bool frmTempolark::IsActiveForm() const {
-    return area_ != nullptr ? area_->activeSubWindow() == placement_.Frame() : isActiveWindow();
 }
 
 QString frmTempolark::AppEXEName() const {
@@ -269,10 +243,4 @@ void frmTempolark::SetBackward() {
     mduLib::PutProperty(u"Clock Special"_s,
                         drawing::ClockSpecialName(drawing::ClockSpecial::AnalogueBackward),
                         data_.EditProperties());
-}
-
-void frmTempolark::Status(const QString& text) {
-    if (shell_ != nullptr) {
-        shell_->ShowStatusMsg(text);
-    }
 }

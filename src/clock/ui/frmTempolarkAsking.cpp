@@ -12,8 +12,8 @@ const QString IniFilter = u"Ini File (*.ini)"_s;
 
 void frmTempolark::PickWindowBackColour() {
     const QPointer<frmTempolark> self = this;
-    const int colour = program_.Services.Dialog.PickColour(backColour_);
-    if (self && !IsClosing() && colour >= 0) {
+    const int colour = program_.Services.Dialog.PickColour(canvas_.BackColor());
+    if (self && data_.State != clockcore::ClockState::Closing && colour >= 0) {
         SetWindowBackColour(QString::number(colour), u"Custom"_s);
     }
 }
@@ -24,7 +24,7 @@ void frmTempolark::SetClockStyle(const QString& styleFile) {
         const QPointer<frmTempolark> self = this;
         name = program_.Services.Dialog.OpenFile(u"Clock Styles"_s,
                                                  program_.Module.Paths.StylesFolder, IniFilter);
-        if (!self || IsClosing()) {
+        if (!self || data_.State == clockcore::ClockState::Closing) {
             return;
         }
     }
@@ -35,13 +35,13 @@ void frmTempolark::SaveStyleAs() {
     const QPointer<frmTempolark> self = this;
     const QString chosen = program_.Services.Dialog.SaveFile(
         u"Save Style As"_s, program_.Module.Paths.StylesFolder, IniFilter);
-    if (!self || IsClosing() || chosen.isEmpty()) {
+    if (!self || data_.State == clockcore::ClockState::Closing || chosen.isEmpty()) {
         return;
     }
     const QString path = clockcore::StyleFiles::SavePath(chosen);
     if (styles_.Write(path, data_.Properties(), placement_.PlaceToStore())) {
         TellSaved(u"the style "_s + mduLib::FileBaseName(path, false));
     } else {
-        Status(path + u" can't be written"_s);
+        screen_.ShowStatus(path + u" can't be written"_s);
     }
 }

@@ -145,7 +145,7 @@ void frmTempolark::SpeakAction() {
     if (voice_.IsSpeaking()) {
         controls_.imgAction(1).Picture =
             drawing::GetStockPicture(drawing::StockPicture::ActionSpeaking);
-        ShowChanges();
+        canvas_.ShowChanges();
     }
 }
 

@@ -20,7 +20,7 @@ void frmTempolark::ShowMessageMenu(const QPoint& globalPosition) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     clockcore::AddEntry(*menu, u"Hide Message"_s, [this] {
         messages_.HideMessage();
-        ShowChanges();
+        canvas_.ShowChanges();
     });
     menu->popup(globalPosition);
 }
@@ -31,7 +31,7 @@ void frmTempolark::ShowActionMenu(const QPoint& globalPosition) {
     const int left = deadline ? static_cast<int>(now.secsTo(deadline->Moment) / 60) : 0;
     const auto cancel = [this] {
         messages_.CancelAction();
-        ShowChanges();
+        canvas_.ShowChanges();
     };
     const auto setColour = [this](const QString& name) {
         messages_.SetActionColour(name);
@@ -85,7 +85,7 @@ void frmTempolark::SaveByMenu(const QStringList& keys) {
         TellSaved(u"the settings of "_s + Caption());
     }
     timers_.SaveTimer(data_.TimerFile);
-    ShowChanges();
+    canvas_.ShowChanges();
 }
 
 void frmTempolark::ShowDisabledMenu(const QPoint& globalPosition) {
@@ -119,8 +119,8 @@ void frmTempolark::ShowFormMenu(const QPoint& globalPosition) {
                                 {[this](int mode) { SetClocks(mode); }, setStyle, setColour,
                                  [this] { SaveCurrentStyle(); }, [this] { SaveStyleAs(); },
                                  [this] {
-                                     if (shell_ != nullptr) {
-                                         shell_->ShowClockHelp();
+                                     if (screen_.Shell() != nullptr) {
+                                         screen_.Shell()->ShowClockHelp();
                                      }
                                  },
                                  [this] { Unload(); }});

@@ -32,14 +32,14 @@ void frmTempolark::SetClocks(int mode) {
 
 // The face is shown at once; the redraw at the next tick comes all the same.
 void frmTempolark::RequestRedrawNow() {
-    if (data_.State == ClockState::Running || data_.State == ClockState::RedrawRequested) {
+    if (data_.State.IsDrawn()) {
         tick_.RequestRedraw();
         face_.DrawClockFace();
     }
 }
 
 void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
-    SetTransparent(false);
+    canvas_.SetTransparent(false);
     const QString colour = mduUILib::IsCustomColour(caption) ? value : caption;
     mduLib::PutProperty(u"Window Background Colour"_s, colour, data_.EditProperties());
     face_.ApplyWindowBackground();
@@ -54,7 +54,7 @@ void frmTempolark::ApplyClockStyle(const QString& styleFile) {
     const std::optional<ClockProperties> style =
         styles_.Read(styleFile, data_.PropertyFileName, data_.Properties(), problem);
     if (!problem.isEmpty()) {
-        Status(problem);
+        screen_.ShowStatus(problem);
     }
     // Without a style the steps below apply what the clock has.
     if (style) {
@@ -109,8 +109,8 @@ void frmTempolark::StoreFontState() {
 void frmTempolark::SaveCurrentStyle() {
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
     if (!files_.MayWrite()) {
-        Status(data_.PropertyFileName +
-               u" can't be read as a property file; it is left as it is"_s);
+        screen_.ShowStatus(data_.PropertyFileName +
+                           u" can't be read as a property file; it is left as it is"_s);
         return;
     }
     mduLib::PutProperty(u"Window State"_s, mduUILib::WindowStateName(WindowState()),
@@ -122,7 +122,7 @@ void frmTempolark::SaveCurrentStyle() {
     StoreFontState();
     if (!mduLib::WritePropertyFile(program_.Services.FileSystem, data_.Properties(),
                                    data_.PropertyFileName)) {
-        Status(data_.PropertyFileName + u" can't be written"_s);
+        screen_.ShowStatus(data_.PropertyFileName + u" can't be written"_s);
         return;
     }
     if (!place || files_.SavePosition(*place)) {
@@ -131,7 +131,7 @@ void frmTempolark::SaveCurrentStyle() {
 }
 
 void frmTempolark::TellSaved(const QString& what) {
-    Status(mduLib::SavedMessage(what, program_.Services.Clock.Now()));
+    screen_.ShowStatus(mduLib::SavedMessage(what, program_.Services.Clock.Now()));
 }
 
 void frmTempolark::RefreshForm(const QString& fileName) {
