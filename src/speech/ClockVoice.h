@@ -21,6 +21,8 @@ class SpokenTime {
 public:
     virtual ~SpokenTime() = default;
 
+    /// Reads the patterns from the properties anew.
+    virtual void ReadPatterns() {}
     /// Speaks the shortest unit whose pattern is due, unless a message or an action is showing.
     virtual void CheckSpokenTime() {}
     /// Speaks the longest unit that has a pattern, due or not: a click on the speaker mark.

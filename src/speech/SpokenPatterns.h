@@ -19,7 +19,7 @@ public:
     SpokenPatterns(const SpeechContext& context, ClockVoice& voice)
         : context_(context), voice_(voice) {}
 
-    void ReadPatterns();
+    void ReadPatterns() override;
 
     /// One tick: the shortest unit that is due is spoken, and only that. Nothing while a message or
     /// an action shows or a text is still being spoken, and nothing twice for the same second.

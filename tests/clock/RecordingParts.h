@@ -98,7 +98,9 @@ class RecordingParts {
 
     struct Dial final : drawing::Dial {
         Calls* Log = nullptr;
-        void DrawDialNumbers(drawing::DialParts) override {
+        std::vector<drawing::DialParts> Drawn;
+        void DrawDialNumbers(drawing::DialParts parts) override {
+            Drawn.push_back(parts);
             *Log += QStringLiteral("DrawDialNumbers");
         }
         void ShowMinuteSpots(int hour) override {
@@ -121,7 +123,9 @@ class RecordingParts {
         Calls* Log = nullptr;
         RECORD(LoadClockPicture)
         RECORD(ApplyTransparency)
+        RECORD(LoadWindowPicture)
         RECORD(SetWindowShape)
+        RECORD(SetClockShape)
         RECORD(ApplySurface)
         RECORD(ShowAutoBackground)
     };
@@ -173,6 +177,7 @@ class RecordingParts {
     struct Spoken final : speech::SpokenTime {
         Calls* Log = nullptr;
         RECORD(CheckSpokenTime)
+        RECORD(ReadPatterns)
     };
 
     struct Music final : speech::ClockMusic {

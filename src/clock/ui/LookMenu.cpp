@@ -10,14 +10,15 @@ namespace clockcore {
 
 namespace {
 
-void AddKinds(QMenu& menu, ClockKind present, const std::function<void(int)>& choose) {
+void AddKinds(QMenu& menu, ClockKind present, const std::function<void(ClockKind)>& choose) {
     QMenu* kinds = menu.addMenu(u"Clocks"_s);
     kinds->setObjectName(u"ClocksMenu"_s);
-    int number = 0;
-    for (const QString& name : ClockKindNames()) {
-        const int mode = ++number;
-        QAction* action = kinds->addAction(name, &menu, [choose, mode] { choose(mode); });
-        Mark(*action, NumberedClockKind(mode) == present);
+    const QStringList names = ClockKindNames();
+    for (int number = 1; number <= names.size(); ++number) {
+        const ClockKind kind = NumberedClockKind(number);
+        QAction* action =
+            kinds->addAction(ClockKindName(kind), &menu, [choose, kind] { choose(kind); });
+        Mark(*action, kind == present);
     }
 }
 

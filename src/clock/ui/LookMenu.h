@@ -10,7 +10,7 @@ namespace clockcore {
 
 /// What a right click on a clock offers of its look.
 struct LookCommands {
-    std::function<void(int mode)> SetClocks;                 ///< the number of the entry, from 1
+    std::function<void(ClockKind kind)> SetClocks;
     std::function<void(const QString& name)> SetClockStyle;  ///< "More" asks for a file
     std::function<void(const QString& colour)> SetColour;    ///< a name, or "Custom"
     std::function<void()> SaveCurrentStyle;

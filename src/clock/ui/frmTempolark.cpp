@@ -53,9 +53,19 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       music_(Parts<speech::SpeechHost>()),
       face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, overlays_},
             program.Services.Clock, program.Services.Random),
+      look_(data_, controls_, program, files_, styles_,
+            {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_, overlays_,
+             voice_, spoken_, tick_}),
+      dialogs_(*this, program, data_.State, canvas_, look_),
+      settings_(data_, {files_, look_, window_, placement_, canvas_, overlays_, messages_, timers_,
+                        voice_, spoken_}),
+      menus_(data_, program,
+             {*this, screen_, window_, controls_, canvas_, files_, styles_, look_, dialogs_,
+              settings_, messages_, actions_, voice_, spoken_}),
+      input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
             {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
-             timers_, messages_, sounds_, voice_, spoken_, music_, *this, *this},
+             timers_, messages_, sounds_, voice_, spoken_, music_, menus_, look_},
             program.Module, program.Services.Clock) {
     canvas_.SetFace(face_);
     host_.SetSpeech(voice_, music_);
@@ -138,7 +148,7 @@ void frmTempolark::Load() {
     }
     data_.StartTime = program_.Services.Clock.Now();
     placement_.Outer().raise();
-    ApplyEnable();
+    look_.ApplyEnable();
     LayOutTimerMarks();
     controls_.MusicPlayer(1).Tag = u"0"_s;
     data_.State = ClockState::FirstTickDue;
@@ -179,10 +189,6 @@ void frmTempolark::Tick() {
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
     }
-}
-
-void frmTempolark::ApplyEnable() {
-    EnableWindow(mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties())));
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {
@@ -239,8 +245,26 @@ void frmTempolark::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
     files_.RefreshDefaultTimeZoneDetails(zoneName);
 }
 
-void frmTempolark::SetBackward() {
-    mduLib::PutProperty(u"Clock Special"_s,
-                        drawing::ClockSpecialName(drawing::ClockSpecial::AnalogueBackward),
-                        data_.EditProperties());
+void frmTempolark::SetClocks(int mode) {
+    look_.SetClocks(clockcore::NumberedClockKind(mode));
+}
+
+void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
+    look_.SetWindowBackColour(value, caption);
+}
+
+void frmTempolark::Refresh() {
+    face_.StillChanged();
+    face_.DrawClockFace();
+}
+
+void frmTempolark::LayOutAgain() {
+    if (data_.State == ClockState::Running) {
+        tick_.RequestRedraw();
+    }
+}
+
+void frmTempolark::FinishMotions() {
+    digital_.FinishMotion();
+    background_.FinishWipe();
 }

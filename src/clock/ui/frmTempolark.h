@@ -8,9 +8,14 @@
 #include "clock/ClockData.h"
 #include "clock/ClockFiles.h"
 #include "clock/ClockHost.h"
+#include "clock/ClockLook.h"
 #include "clock/ClockTick.h"
 #include "clock/Face.h"
+#include "clock/LookDialogs.h"
+#include "clock/MenuSettings.h"
 #include "clock/StyleFiles.h"
+#include "clock/ui/ClockInput.h"
+#include "clock/ui/ClockMenuHandlers.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
 #include "clock/ui/WidgetScreen.h"
@@ -30,15 +35,10 @@
 #include "timers/HourAndSecondSounds.h"
 #include "timers/SystemActions.h"
 
-class QHelpEvent;
-
 /// One world clock: a window that shows a zone's time, driven by one property file. It is built in
 /// two halves: `ShowMeMDIChild` reads the file and fills the zone, and the first tick finishes the
 /// window. It owns its parts and routes the tick to them; it decides nothing itself.
-class frmTempolark final : public QWidget,
-                           public IClock,
-                           private clockcore::ClockStyles,
-                           private clockcore::ClockMenus {
+class frmTempolark final : public QWidget, public IClock {
 public:
     /// @param shell the shell, or null for a clock that stands alone
     /// @param area the shell's frame for its children; null for a clock that stands alone
@@ -71,18 +71,16 @@ public:
     void Unload() override { window_.CloseClock(); }
     void SetClocks(int mode) override;
     /// Applies a style file; an empty name or "More" asks for one.
-    void SetClockStyle(const QString& styleFile) override;
-    /// The same without a question: a tick may do it.
-    void ApplyClockStyle(const QString& styleFile);
+    void SetClockStyle(const QString& styleFile) override { dialogs_.SetClockStyle(styleFile); }
     void SetWindowBackColour(const QString& value, const QString& caption) override;
     /// Asks for a colour and makes it the window's.
-    void PickWindowBackColour();
-    void SaveCurrentStyle() override;
+    void PickWindowBackColour() { dialogs_.PickWindowBackColour(); }
+    void SaveCurrentStyle() override { look_.SaveCurrentStyle(); }
     /// Asks for a name and writes the clock's look there, without its zone.
-    void SaveStyleAs();
+    void SaveStyleAs() { dialogs_.SaveStyleAs(); }
     /// Gives the clock's properties to the property window.
-    void SetProperty();
-    void RefreshForm(const QString& fileName) override;
+    void SetProperty() { look_.SetProperty(); }
+    void RefreshForm(const QString& fileName) override { look_.RefreshForm(fileName); }
     void Refresh() override;
     void LayOutAgain() override;
     int DrawStyle() const override { return canvas_.IsTransparent() ? 1 : 0; }
@@ -95,7 +93,7 @@ public:
     QString GetLocation() const;
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);
     /// Turns the clock backward: stores the property and draws nothing itself.
-    void SetBackward();
+    void SetBackward() { look_.SetBackward(); }
 
     /// Gives the zone's record, the state and the controls to those who look from outside.
     const clockcore::ClockData& Data() const { return data_; }
@@ -142,43 +140,18 @@ private:
     void LayOutTimerMarks();
     void FinishLoading();
     void Activate();
-    void ApplyEnable();
     void TakeSurface();
-    void ShowToolTip(QHelpEvent& event);
-    const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array,
-                                       const QPoint& position) const;
-    bool IsOnAction(const QPoint& position) const;
-    void SpeakAction();
-    void TellSaved(const QString& what);
-
     /// What timers and speech, each with its own kind of host, share.
     template <class Host>
     ClockContext<Host> Parts() {
         return {data_.Properties(), data_.Zone,      controls_,
                 program_.Services,  program_.Module, host_};
     }
-    void FillMenuArrays() override { actions_.FillActionMenu(); }
-    void ShowMessageMenu(const QPoint& globalPosition);
-    void ShowActionMenu(const QPoint& globalPosition);
-    void ShowSpeakerMenu(const QPoint& globalPosition);
-    void ShowFormMenu(const QPoint& globalPosition);
-    void ShowDisabledMenu(const QPoint& globalPosition);
-    void EnableByMenu();
-    void SetByMenu(const QString& key, const QString& value);
-    void PutSpeakerPosition();
-    void SaveByMenu(const QStringList& keys);
-
-    // Styles.
-    void ApplyNextStyle() override;
-    void StoreFontState();
-    void RequestRedrawNow();
-    void LayOutFace();
     drawing::FaceContext Context();
 
     Program program_;
     QMdiArea* area_;
     int handle_;
-    std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
 
     clockcore::ClockData data_;
     mduUILib::ClockControls controls_;
@@ -203,5 +176,10 @@ private:
     speech::SpokenPatterns spoken_;
     speech::PlayerMusic music_;
     clockcore::Face face_;
+    clockcore::ClockLook look_;
+    clockcore::LookDialogs dialogs_;
+    clockcore::MenuSettings settings_;
+    clockcore::ClockMenuHandlers menus_;
+    clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
 };

@@ -1,10 +1,13 @@
-// What is painted in the clock's window, and when it is laid out anew.
+// What the window system tells a clock's window.
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
 #include "clock/ui/DisabledVeil.h"
 #include "clock/ui/frmTempolark.h"
-#include "drawing/TimerMarks.h"
 
 using clockcore::ClockState;
 
@@ -14,21 +17,7 @@ void frmTempolark::resizeEvent(QResizeEvent*) {
 
 void frmTempolark::TakeSurface() {
     canvas_.TakeSurface();
-    mduUILib::Control& action = controls_.imgAction(1);
-    action.Width = action.Height = static_cast<float>(drawing::TimerMarkSide(canvas_.Painted()));
-    if (data_.State.IsDrawn()) {
-        LayOutFace();
-        tick_.RequestRedraw();
-        overlays_.LayOutOverlays();
-        face_.DrawClockFace();
-    }
-}
-
-// So that the face follows the mouse that drags the window's edge; the redraw at the next tick
-// comes all the same.
-void frmTempolark::LayOutFace() {
-    background_.ApplySurface();
-    dial_.DrawDialNumbers(data_.IsAnalogue() ? drawing::DialParts::All : drawing::DialParts::None);
+    look_.FitSurface();
 }
 
 // The surface holds the whole picture. A part that we did not change ourselves has come to light:
@@ -53,18 +42,42 @@ void frmTempolark::paintEvent(QPaintEvent* event) {
     }
 }
 
-void frmTempolark::Refresh() {
-    face_.StillChanged();
-    face_.DrawClockFace();
+bool frmTempolark::event(QEvent* event) {
+    if (event->type() == QEvent::ContextMenu && !isEnabled()) {
+        input_.ShowMenu(*static_cast<QContextMenuEvent*>(event));
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::ToolTip) {
+        if (!input_.ShowToolTip(*static_cast<QHelpEvent*>(event))) {
+            event->ignore();
+        }
+        return true;
+    }
+    return QWidget::event(event);
 }
 
-void frmTempolark::LayOutAgain() {
-    if (data_.State == ClockState::Running) {
-        tick_.RequestRedraw();
+void frmTempolark::keyPressEvent(QKeyEvent* event) {
+    if (!input_.PressKey(*event)) {
+        QWidget::keyPressEvent(event);
     }
 }
 
-void frmTempolark::FinishMotions() {
-    digital_.FinishMotion();
-    background_.FinishWipe();
+void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
+    input_.MoveMouse(*event);
+    QWidget::mouseMoveEvent(event);
+}
+
+void frmTempolark::mousePressEvent(QMouseEvent* event) {
+    if (!input_.PressMouse(*event)) {
+        QWidget::mousePressEvent(event);
+    }
+}
+
+void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {
+    input_.ShowMenu(*event);
+}
+
+bool frmTempolark::focusNextPrevChild(bool next) {
+    return !input_.TakesTab() && QWidget::focusNextPrevChild(next);
 }
