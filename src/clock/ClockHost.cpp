@@ -12,15 +12,15 @@ void ClockHost::SetSpeech(speech::ClockVoice& voice, speech::ClockMusic& music) 
     music_ = &music;
 }
 
-void ClockHost::SpeakMessage(const QString& text, int flags, bool force) {
+void ClockHost::SpeakMessage(const QString& text, int flags, Urgency urgency) {
     if (voice_ != nullptr && !IsClosing()) {
-        voice_->SpeakMessage(text, flags, force);
+        voice_->SpeakMessage(text, flags, urgency);
     }
 }
 
-void ClockHost::PurgeSpeech(bool force) {
+void ClockHost::PurgeSpeech(Urgency urgency) {
     if (voice_ != nullptr) {
-        voice_->PurgeSpeech(force);
+        voice_->PurgeSpeech(urgency);
     }
 }
 

@@ -27,8 +27,8 @@ public:
 
     // For timers.
     /// A closing clock says nothing more.
-    void SpeakMessage(const QString& text, int flags, bool force) override;
-    void PurgeSpeech(bool force) override;
+    void SpeakMessage(const QString& text, int flags, Urgency urgency) override;
+    void PurgeSpeech(Urgency urgency) override;
     bool IsSpeaking() const override;
     void PlaySound(const QString& path) override;
     void StopMusic() override;

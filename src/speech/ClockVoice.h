@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "foundation/Urgency.h"
+
 namespace speech {
 
 /// The voice of one clock, its menu and its mark.
@@ -11,8 +13,8 @@ public:
 
     virtual void PrepareSpeaker() {}
     virtual void FillVoiceMenu() {}
-    virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, bool /*force*/) {}
-    virtual void PurgeSpeech(bool /*force*/) {}
+    virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, Urgency /*urgency*/) {}
+    virtual void PurgeSpeech(Urgency /*urgency*/) {}
     virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
 };
 

@@ -146,6 +146,9 @@ class RecordingParts {
         void LoadTimers(const QString& path) override {
             *Log += QStringLiteral("LoadTimers ") + path;
         }
+        void SaveTimer(const QString& path) override {
+            *Log += QStringLiteral("SaveTimer ") + path;
+        }
         void CheckTimers(const QString& clockTime) override {
             *Log += QStringLiteral("CheckTimers ") + clockTime;
         }

@@ -18,10 +18,13 @@ namespace {
 struct WritingVoice final : speech::ClockVoice {
     QStringList Log;
     bool Speaking = false;
-    void SpeakMessage(const QString& text, int flags, bool force) override {
-        Log += u"%1 %2%3"_s.arg(text).arg(flags).arg(force ? u"!"_s : QString());
+    void SpeakMessage(const QString& text, int flags, Urgency urgency) override {
+        Log +=
+            u"%1 %2%3"_s.arg(text).arg(flags).arg(urgency == Urgency::Urgent ? u"!"_s : QString());
     }
-    void PurgeSpeech(bool force) override { Log += force ? u"purge!"_s : u"purge"_s; }
+    void PurgeSpeech(Urgency urgency) override {
+        Log += urgency == Urgency::Urgent ? u"purge!"_s : u"purge"_s;
+    }
     bool IsSpeaking() const override { return Speaking; }
 };
 
@@ -61,9 +64,9 @@ class tst_ClockHost : public QObject {
 private Q_SLOTS:
     void PassesTextsToTheVoice() {
         HostDesk desk;
-        desk.Host.SpeakMessage(u"Tea"_s, 2, true);
-        desk.Host.SpeakMessage(u"Eggs"_s, 0, false);
-        desk.Host.PurgeSpeech(true);
+        desk.Host.SpeakMessage(u"Tea"_s, 2, Urgency::Urgent);
+        desk.Host.SpeakMessage(u"Eggs"_s, 0, Urgency::Routine);
+        desk.Host.PurgeSpeech(Urgency::Urgent);
         QCOMPARE(desk.Voice.Log, (QStringList{u"Tea 2!"_s, u"Eggs 0"_s, u"purge!"_s}));
         QVERIFY(!desk.Host.IsSpeaking());
         desk.Voice.Speaking = true;
@@ -75,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(!desk.Host.IsClosing());
         desk.Data.State = ClockState::Closing;
         QVERIFY(desk.Host.IsClosing());
-        desk.Host.SpeakMessage(u"Tea"_s, 2, true);
+        desk.Host.SpeakMessage(u"Tea"_s, 2, Urgency::Urgent);
         QCOMPARE(desk.Voice.Log, QStringList());
     }
 
@@ -90,8 +93,8 @@ private Q_SLOTS:
         HostDesk desk;
         clockcore::ClockHost host(desk.Data, desk.Controls, desk.Parts.TheWindow, desk.Screen,
                                   desk.Canvas);
-        host.SpeakMessage(u"Tea"_s, 2, true);
-        host.PurgeSpeech(true);
+        host.SpeakMessage(u"Tea"_s, 2, Urgency::Urgent);
+        host.PurgeSpeech(Urgency::Urgent);
         host.PlaySound(u"Bell.wav"_s);
         host.StopMusic();
         QVERIFY(!host.IsSpeaking());

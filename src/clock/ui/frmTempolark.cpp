@@ -2,12 +2,8 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QPaintEvent>
-#include <QPainter>
-#include <cmath>
 
 #include "clock/ClockMode.h"
-#include "drawing/ClockSpecial.h"
 #include "drawing/StockPictures.h"
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
@@ -22,6 +18,15 @@ namespace {
 
 constexpr int FirstShot = 10;         // milliseconds until the first tick
 constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
+
+void LayOutTimerMarks(mduUILib::ControlArray& marks) {
+    marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
+    marks(1).Left = FirstTimerMark;
+    marks(1).Top = FirstTimerMark;
+    for (int i = 2; i <= marks.Count(); ++i) {
+        marks(i) = marks(i - 1);
+    }
+}
 
 }  // namespace
 
@@ -149,7 +154,7 @@ void frmTempolark::Load() {
     data_.StartTime = program_.Services.Clock.Now();
     placement_.Outer().raise();
     look_.ApplyEnable();
-    LayOutTimerMarks();
+    LayOutTimerMarks(controls_.imgTimer);
     controls_.MusicPlayer(1).Tag = u"0"_s;
     data_.State = ClockState::FirstTickDue;
     placement_.SetOuterSize({0, 0});
@@ -157,16 +162,6 @@ void frmTempolark::Load() {
     window_.SetTimerInterval(FirstShot);
     window_.SetTimerInterval(
         timers::NormalInterval);  // from then on; the first shot comes all the same
-}
-
-void frmTempolark::LayOutTimerMarks() {
-    mduUILib::ControlArray& marks = controls_.imgTimer;
-    marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
-    marks(1).Left = FirstTimerMark;
-    marks(1).Top = FirstTimerMark;
-    for (int i = 2; i <= marks.Count(); ++i) {
-        marks(i) = marks(i - 1);
-    }
 }
 
 void frmTempolark::FinishLoading() {
@@ -262,6 +257,13 @@ void frmTempolark::LayOutAgain() {
     if (data_.State == ClockState::Running) {
         tick_.RequestRedraw();
     }
+}
+
+void frmTempolark::Watch(const Watchers& watchers) {
+    data_.State.Watch(watchers.State);
+    window_.WatchInterval(watchers.Interval);
+    timers_.WatchFiring(watchers.Firing);
+    messages_.Watch(watchers.Messages);
 }
 
 void frmTempolark::FinishMotions() {

@@ -107,19 +107,15 @@ public:
     /// Takes motions and wipes that are under way to their end.
     void FinishMotions();
     const QString& PendingMessage() const { return messages_.PendingMessage(); }
-    // For those who watch a clock from outside: a script that tells its events.
-    void WatchState(clockcore::WatchedState::Watcher watcher) {
-        data_.State.Watch(std::move(watcher));
-    }
-    void WatchInterval(std::function<void(int)> watcher) {
-        window_.WatchInterval(std::move(watcher));
-    }
-    void WatchFiring(timers::ClockTimers::Watcher watcher) {
-        timers_.WatchFiring(std::move(watcher));
-    }
-    void WatchMessages(timers::ClockMessages::Watcher watcher) {
-        messages_.Watch(std::move(watcher));
-    }
+    /// Those who watch a clock from outside, such as a script that tells its events.
+    struct Watchers {
+        clockcore::WatchedState::Watcher State = {};
+        std::function<void(int milliseconds)> Interval = {};  ///< of `timClock`
+        timers::ClockTimers::Watcher Firing = {};
+        timers::ClockMessages::Watcher Messages = {};
+    };
+    /// From now on these watch, and nobody else.
+    void Watch(const Watchers& watchers);
     /// One event of `timClock`, now.
     void Tick();
 
@@ -137,7 +133,6 @@ protected:
 
 private:
     void Load();
-    void LayOutTimerMarks();
     void FinishLoading();
     void Activate();
     void TakeSurface();
