@@ -70,7 +70,7 @@ void ClockCanvas::Present(const QRegion& changed) {
 }
 
 QRegion ClockCanvas::Exposed(const QRegion& painted) {
-    const QRegion exposed = painted - presented_;
+    QRegion exposed = painted - presented_;
     presented_ -= painted;
     return exposed;
 }
@@ -81,7 +81,7 @@ QImage ClockCanvas::ShownPicture() const {
 }
 
 QImage ClockCanvas::SeenPicture() const {
-    const QImage picture = ShownPicture().convertToFormat(QImage::Format_ARGB32);
+    QImage picture = ShownPicture().convertToFormat(QImage::Format_ARGB32);
     if (outline_.isEmpty()) {
         return picture;
     }

@@ -87,7 +87,7 @@ void ClockTick::Redraw() {
     parts_.Window.Cls();
     parts_.Window.LockWindowUpdate(true);
     parts_.Placement.ApplyWindowBorder();
-    parts_.Placement.ApplyWindowBorder();
+    parts_.Placement.ApplyWindowBorder();  // twice, as ever
     parts_.Placement.ApplyTitleBar();
     if (data_.IsAnalogue()) {
         parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);

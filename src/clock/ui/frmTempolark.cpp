@@ -160,8 +160,8 @@ void frmTempolark::Load() {
     placement_.SetOuterSize({0, 0});
     controls_.imgSpeaker(1).Visible = false;
     window_.SetTimerInterval(FirstShot);
-    window_.SetTimerInterval(
-        timers::NormalInterval);  // from then on; the first shot comes all the same
+    // From then on; the first shot comes all the same.
+    window_.SetTimerInterval(timers::NormalInterval);
 }
 
 void frmTempolark::FinishLoading() {
