@@ -44,6 +44,9 @@ private Q_SLOTS:
         SettingsDesk desk;
         desk.Set(u"Speaker Image Left"_s, u"30"_s);
         desk.Set(u"Speaker Image Top"_s, u"40"_s);
+        desk.Look.SaveCurrentStyle();
+        QCOMPARE(desk.InFile(u"Speaker Image Top"_s), u"40"_s);
+        desk.Calls();
         desk.Settings.PutSpeakerPosition();
         QCOMPARE(desk.InFile(u"Speaker Image Left"_s), u"-1"_s);
         QCOMPARE(desk.InFile(u"Speaker Image Top"_s), u"-1"_s);
