@@ -49,7 +49,7 @@ struct Face : FakeFace {
             Set(hand + u" Hand Line Width"_s, measures.second);
         }
         Background.LoadClockPicture();
-        Dial.DrawDialNumbers(true, {}, false);
+        Dial.DrawDialNumbers(drawing::DialParts::All);
     }
 
     drawing::ClockBackground Background;

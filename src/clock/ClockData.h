@@ -35,6 +35,16 @@ public:
     }
     void Watch(Watcher watcher) { watcher_ = std::move(watcher); }
 
+    /// Whether the first tick is over: before it a clock has nothing to show, nor any state to
+    /// change.
+    bool HasBegun() const {
+        return state_ != ClockState::Loading && state_ != ClockState::FirstTickDue;
+    }
+    /// Whether the face is laid out and to be kept up to date.
+    bool IsDrawn() const {
+        return state_ == ClockState::Running || state_ == ClockState::RedrawRequested;
+    }
+
 private:
     ClockState state_ = ClockState::Loading;
     Watcher watcher_;
@@ -54,15 +64,21 @@ public:
     QString ClockFormat;
     QString PropertyFileName;
     QString TimerFile;  ///< of this clock; the path table's is that of the clock created last
-    QString Tag = QStringLiteral("1");
+    ClockTag Tag;       ///< what the clock is
     bool ActiveEditFlag = false;
     bool AutoStyleChange = false;
     DialState Dial;
 
-    /// Whether the window is of that kind (`ClockMode.h`).
-    bool Is(int kind) const { return IsClockMode(Tag, kind); }
+    /// Whether the clock is of that kind, in a wrapper or not.
+    bool Is(ClockKind kind) const { return Tag.Kind == kind; }
     /// Whether it has a dial, alone or with a read-out.
-    bool IsAnalogue() const { return Is(Analogue) || Is(AnalogueAndDigital); }
+    bool IsAnalogue() const { return Is(ClockKind::Analogue) || Is(ClockKind::AnalogueAndDigital); }
+    /// Whether it has a digital read-out, alone or on a dial.
+    bool IsDigital() const { return Is(ClockKind::Digital) || Is(ClockKind::AnalogueAndDigital); }
+    /// Whether it is a calculator, typed into or not.
+    bool IsCalculator() const {
+        return Is(ClockKind::Calculator) || Is(ClockKind::CalculatorInput);
+    }
 
     const ClockProperties& Properties() const { return properties_; }
 

@@ -1,9 +1,7 @@
 #include "clock/ClockMode.h"
 
-#include <QStringList>
-
-#include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/WordTable.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,36 +9,36 @@ namespace clockcore {
 
 namespace {
 
-const QStringList& ModeNames() {
-    static const QStringList names = {u"Analogue"_s, u"Digital"_s, u"Calculator"_s,
-                                      u"Analogue and Digital"_s};
-    return names;
-}
+constexpr int WrapperOffset = 7;
+
+constexpr mduUILib::WordTable<ClockKind, 4> Kinds = {{{
+    {"Analogue"_L1, ClockKind::Analogue},
+    {"Digital"_L1, ClockKind::Digital},
+    {"Calculator"_L1, ClockKind::Calculator},
+    {"Analogue and Digital"_L1, ClockKind::AnalogueAndDigital},
+}}};
 
 }  // namespace
 
-int GetClockType(const ClockProperties& properties) {
-    return static_cast<int>(
-               ModeNames().indexOf(mduLib::GetProperty(u"Clocks"_s, properties).trimmed())) +
-           1;
+ClockKind GetClockType(const ClockProperties& properties) {
+    return Kinds.Find(mduLib::GetProperty(u"Clocks"_s, properties)).value_or(ClockKind::None);
 }
 
-QString ClockModeName(int mode) {
-    return ModeNames().value(mode - 1);
+ClockKind NumberedClockKind(int number) {
+    return Kinds.Find(ClockKindNames().value(number - 1)).value_or(ClockKind::None);
 }
 
-bool IsClockMode(const QString& tag, int kind) {
-    if (!mduAPILib::IsNumeric(tag)) {
-        return false;
-    }
-    const int number = mduAPILib::IntegerValue(tag);
-    if (number < Wrapper) {
-        return number == kind;
-    }
-    if (kind == Wrapper) {
-        return true;
-    }
-    return number - Wrapper == kind || (kind == AnalogueAndDigital && number == kind);
+QString ClockKindName(ClockKind kind) {
+    return Kinds.NameOf(kind);
+}
+
+QStringList ClockKindNames() {
+    return Kinds.Words();
+}
+
+QString ClockTag::Text() const {
+    const int number = static_cast<int>(Kind);
+    return QString::number(IsWrapper ? number + WrapperOffset : number);
 }
 
 }  // namespace clockcore

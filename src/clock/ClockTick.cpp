@@ -1,7 +1,5 @@
 #include "clock/ClockTick.h"
 
-#include <utility>
-
 #include "foundation/Dates.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -50,7 +48,7 @@ void ClockTick::FirstTick() {
     parts_.Background.LoadClockPicture();
     parts_.Overlays.LayOutOverlays();
     parts_.Voice.PrepareSpeaker();
-    if (data_.Is(Wrapper)) {
+    if (data_.Tag.IsWrapper) {
         FirstTickOfWrapper();
         return;
     }
@@ -81,7 +79,7 @@ void ClockTick::FirstTick() {
 void ClockTick::FirstTickOfWrapper() {
     parts_.Face.ApplyWindowBackground();
     if (data_.IsAnalogue()) {
-        parts_.Dial.DrawDialNumbers(true, {}, true);
+        parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
     }
 }
 
@@ -89,10 +87,10 @@ void ClockTick::Redraw() {
     parts_.Window.Cls();
     parts_.Window.LockWindowUpdate(true);
     parts_.Placement.ApplyWindowBorder();
-    parts_.Placement.ApplyWindowBorder();
+    parts_.Placement.ApplyWindowBorder();  // twice, as ever
     parts_.Placement.ApplyTitleBar();
     if (data_.IsAnalogue()) {
-        parts_.Dial.DrawDialNumbers(true, {}, true);
+        parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
     }
     const QDateTime clockTime = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
     parts_.Dial.ShowMinuteSpots(clockTime.time().hour());
@@ -148,8 +146,7 @@ void ClockTick::CheckMusic() {
 // Once in each second, however often the clock ticks in it.
 void ClockTick::Rotate() {
     const QDateTime now = clock_.Now();
-    const QDateTime second = now.addMSecs(-now.time().msec());
-    if (std::exchange(rotatedAt_, second) != second) {
+    if (rotation_.IsNew(now)) {
         RotateStyle(now.time().second());
         RotateBackground(now.time().second());
     }
@@ -166,7 +163,7 @@ void ClockTick::RefreshTickValues() {
 }
 
 bool ClockTick::StayTimeIsOver() const {
-    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !data_.Is(Wrapper) &&
+    return !module_.CommandLine.isEmpty() && stayTime_ > 0 && !data_.Tag.IsWrapper &&
            static_cast<double>(data_.StartTime.secsTo(clock_.Now())) > stayTime_;
 }
 
@@ -179,7 +176,7 @@ void ClockTick::HandleFocus() {
     }
     if (data_.ActiveEditFlag && active && window.IsEnabled()) {
         if (data_.IsAnalogue()) {
-            parts_.Dial.DrawDialNumbers(true, {}, true);
+            parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
         }
     } else if (window.TimerInterval() != NormalInterval) {
         parts_.Window.SetTimerInterval(NormalInterval);
@@ -212,10 +209,10 @@ void ClockTick::RequestRedraw() {
     if (data_.IsAnalogue()) {
         parts_.Overlays.SetSunMoon();
     }
-    if (data_.Is(Digital) || data_.Is(AnalogueAndDigital)) {
+    if (data_.IsDigital()) {
         parts_.Digital.SetDigitalLayout();
     }
-    if (data_.Is(Calculator) || data_.Is(CalculatorInput)) {
+    if (data_.IsCalculator()) {
         parts_.Calculator.SetCalculatorLayout();
     }
     parts_.Timers.PlaceTimerMarks();

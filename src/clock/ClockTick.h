@@ -4,6 +4,7 @@
 #include "clock/ClockWindow.h"
 #include "drawing/FaceParts.h"
 #include "foundation/ModuleState.h"
+#include "foundation/OncePerSecond.h"
 #include "platform/WallClock.h"
 #include "speech/ClockVoice.h"
 #include "timers/ClockSounds.h"
@@ -72,7 +73,7 @@ private:
     int revisionRead_ = -1;
     double stayTime_ = 0;
     int autoBackground_ = 0;
-    QDateTime rotatedAt_;  ///< the second in which styles and backgrounds had their last turn
+    OncePerSecond rotation_;  ///< the turn of styles and backgrounds
 };
 
 /// The date and time text that timers compare on, such as "25/03/2008 2:05:09".

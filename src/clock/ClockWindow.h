@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QImage>
+#include <QRectF>
+#include <QRegion>
 #include <QString>
+#include <optional>
 
 namespace clockcore {
 
@@ -13,6 +17,8 @@ public:
     virtual bool IsActiveForm() const = 0;    ///< the form that the screen reports as active
     virtual bool IsActiveWindow() const = 0;  ///< the system's active window
     virtual bool IsEnabled() const = 0;
+    /// Lets the window and all that lies on it be used, or not.
+    virtual void EnableWindow(bool enabled) = 0;
 
     virtual int TimerInterval() const = 0;  ///< of `timClock`, in milliseconds
     virtual void SetTimerInterval(int milliseconds) = 0;
@@ -41,6 +47,21 @@ public:
     virtual void SetClockCaption() {}
     /// Opens or closes the window, with its animation.
     virtual void ShowClockWindow(bool /*show*/) {}
+    virtual bool IsShown() const { return false; }
+
+    virtual QString Caption() const { return {}; }
+    virtual int WindowState() const { return 0; }  ///< 0 normal, 1 minimised, 2 maximised
+    virtual void SetWindowState(int /*state*/) {}
+    virtual QRectF OuterRect() const { return {}; }  ///< in twips, at this moment
+    /// What a file is to remember, in twips; nothing where that keeps what it has.
+    virtual std::optional<QRectF> PlaceToStore() const { return std::nullopt; }
+    /// Where the clock begins within the outer window, in device pixels.
+    virtual QPoint SurfaceOffset() const { return {}; }
+    /// The outline of the outer window, in device pixels; an empty region takes it away.
+    virtual void SetWindowRgn(const QRegion& /*outline*/) {}
+    /// Lets what the clock does not paint be see-through.
+    virtual void SetColourKey(bool /*on*/) {}
+    virtual void SetIcon(const QImage& /*picture*/) {}
 };
 
 /// The face: its background colour, its still parts, its moving parts.
@@ -55,6 +76,12 @@ public:
     virtual void PrepareClockFace() {}
     /// One repaint by clock kind: the moving parts.
     virtual void DrawClockFace() {}
+    /// Paints and shows what has changed, with the hands where they are.
+    virtual void ShowChanges() {}
+    /// Makes the next repaint a whole one.
+    virtual void Invalidate() {}
+    /// Makes the next repaint begin with the still layer.
+    virtual void StillChanged() {}
 };
 
 /// The pop-up menus of the clock.

@@ -45,12 +45,12 @@ void Face::ReadDigitalFormat() {
 
 void Face::PrepareClockFace() {
     const bool analogue = data_.IsAnalogue();
-    parts_.Dial.DrawDialNumbers(analogue, {}, false);
+    parts_.Dial.DrawDialNumbers(analogue ? drawing::DialParts::All : drawing::DialParts::None);
     if (!analogue) {
         hands_.reset();
         parts_.Overlays.HideSunMoon();
     }
-    if (!data_.Is(Analogue) && !data_.Is(Digital)) {
+    if (!data_.Is(ClockKind::Analogue) && !data_.Is(ClockKind::Digital)) {
         parts_.Overlays.HideLocationLabel();
     }
     PrepareReadOuts();
@@ -58,30 +58,30 @@ void Face::PrepareClockFace() {
 }
 
 void Face::PrepareReadOuts() {
-    if (data_.Is(Digital) || data_.Is(AnalogueAndDigital)) {
+    if (data_.IsDigital()) {
         ReadDigitalFormat();
         parts_.Digital.SetDigitalLayout();
     } else {
         parts_.Digital.HideDigitalClock();
     }
-    if (data_.Is(Calculator)) {
-        parts_.Calculator.SetCalculatorClock(true);
-    } else if (!data_.Is(CalculatorInput)) {
+    if (data_.Is(ClockKind::Calculator)) {
+        parts_.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
+    } else if (!data_.Is(ClockKind::CalculatorInput)) {
         parts_.Calculator.HideCalculatorClock();
     }
 }
 
 void Face::DrawClockFace() {
-    if (data_.Is(Analogue)) {
+    if (data_.Is(ClockKind::Analogue)) {
         MoveHands();
         parts_.Overlays.SetSunMoon();
         parts_.Overlays.SetLocationLabel();
-    } else if (data_.Is(Digital)) {
+    } else if (data_.Is(ClockKind::Digital)) {
         parts_.Digital.DrawDigitalClock(data_.ClockFormat);
         parts_.Overlays.SetLocationLabel();
-    } else if (data_.Is(Calculator)) {
+    } else if (data_.Is(ClockKind::Calculator)) {
         parts_.Calculator.DrawCalculatorClock();
-    } else if (data_.Is(AnalogueAndDigital)) {
+    } else if (data_.Is(ClockKind::AnalogueAndDigital)) {
         MoveHands();
         parts_.Overlays.SetSunMoon();
         parts_.Digital.DrawDigitalClock(data_.ClockFormat);
@@ -98,22 +98,23 @@ void Face::ShowChanges() {
 }
 
 void Face::MoveHands() {
-    const QDateTime time = mduTimeZones::GetClockTime(data_.Zone, clock_.Now());
-    mduUILib::Control& lblClock = controls_.lblClock(1);
-    lblClock.Caption = HandCaption(time.time());
-    if (!canvas_.CanBeSeen()) {
-        return;
+    const QTime time = mduTimeZones::GetClockTime(data_.Zone, clock_.Now()).time();
+    if (canvas_.CanBeSeen()) {
+        AimHands({time.hour(), time.minute(), time.second()});
     }
+    HandText().Caption = HandCaption(time);
+}
+
+void Face::AimHands(const drawing::HandTime& time) {
     if (revisionRead_ != data_.Revision()) {
         revisionRead_ = data_.Revision();
         look_ = drawing::ReadAnalogueLook(data_.Properties());
         if (parts_.Dial.NumbersArePainted()) {
-            parts_.Dial.DrawDialNumbers(true, {}, true);
+            parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
         }
     }
     RecolourNumbers();
-    hands_ = drawing::MakeHandsFrame(canvas_.Surface(), look_,
-                                     drawing::ReadHandTime(lblClock.Caption), random_);
+    hands_ = drawing::MakeHandsFrame(canvas_.Surface(), look_, time, random_);
 }
 
 // Numbers that take a colour by chance take another at each pass.
@@ -124,7 +125,7 @@ void Face::RecolourNumbers() {
     if (look_.Special == drawing::ClockSpecial::RandomNumberColour) {
         parts_.Dial.RecolourNumbers();
     } else {
-        parts_.Dial.DrawDialNumbers(true, {}, true);
+        parts_.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
     }
     Invalidate();
 }

@@ -28,17 +28,16 @@ public:
     void ReadDigitalFormat() override;
     void PrepareClockFace() override;
     void DrawClockFace() override;
-
-    /// Paints and shows what has changed, with the hands where they are.
-    void ShowChanges();
-    /// Makes the next repaint a whole one.
-    void Invalidate() { composer_.Invalidate(); }
-    /// Makes the next repaint begin with the still layer.
-    void StillChanged() { composer_.StillChanged(); }
+    void ShowChanges() override;
+    void Invalidate() override { composer_.Invalidate(); }
+    void StillChanged() override { composer_.StillChanged(); }
 
 private:
     void PrepareReadOuts();
     void MoveHands();
+    void AimHands(const drawing::HandTime& time);
+    /// `lblClock`, which tells those who look from outside what the hands show.
+    mduUILib::Control& HandText() { return controls_.lblClock(1); }
     void RecolourNumbers();
 
     ClockData& data_;

@@ -38,7 +38,7 @@ std::unique_ptr<frmTempolark> DrawnClock(const Program& program, const QString& 
     auto clock = std::make_unique<frmTempolark>(program, nullptr, nullptr);
     clock->setWindowFlag(Qt::FramelessWindowHint);
     clock->setFixedSize(size);
-    clock->ShowMe(mduLib::FileBaseName(file, false), false, false);
+    clock->ShowMe(mduLib::FileBaseName(file, false), {});
     for (int tick = 0; tick < normalTicks + 2; ++tick) {
         clock->Tick();
         clock->FinishMotions();  // a tick is over when what it set in motion has come to rest
@@ -77,7 +77,7 @@ int Render(Context& context) {
     if (!saved) {
         Complain(context.Arguments[1] + u" can't be written"_s);
     }
-    PrintPicture(image.size(), clock->Data().Tag);
+    PrintPicture(image.size(), clock->Data().Tag.Text());
     return saved ? Done : OperationFailed;
 }
 

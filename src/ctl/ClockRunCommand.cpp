@@ -80,19 +80,23 @@ private:
 };
 
 void WatchClock(frmTempolark& clock, const TellEvent& tell, MessageLog& messages) {
-    clock.WatchState([tell](clockcore::ClockState from, clockcore::ClockState to) {
-        tell(u"state"_s, {{u"from"_s, static_cast<int>(from)}, {u"to"_s, static_cast<int>(to)}});
-    });
-    clock.WatchInterval([tell](int milliseconds) {
-        tell(u"interval"_s, {{u"ms"_s, milliseconds}});
-    });
-    clock.WatchFiring([tell](int slot, const timers::ClockTimer& timer) {
-        tell(u"timer-fired"_s,
-             {{u"slot"_s, slot}, {u"time"_s, timer.TimerTime}, {u"message"_s, timer.Message}});
-    });
-    clock.WatchMessages([&messages](timers::MessageEvent event, const QString& text) {
-        messages.Tell(event, text);
-    });
+    clock.Watch({.State =
+                     [tell](clockcore::ClockState from, clockcore::ClockState to) {
+                         tell(u"state"_s, {{u"from"_s, static_cast<int>(from)},
+                                           {u"to"_s, static_cast<int>(to)}});
+                     },
+                 .Interval =
+                     [tell](int milliseconds) {
+                         tell(u"interval"_s, {{u"ms"_s, milliseconds}});
+                     },
+                 .Firing =
+                     [tell](int slot, const timers::ClockTimer& timer) {
+                         tell(u"timer-fired"_s, {{u"slot"_s, slot},
+                                                 {u"time"_s, timer.TimerTime},
+                                                 {u"message"_s, timer.Message}});
+                     },
+                 .Messages = [&messages](timers::MessageEvent event,
+                                         const QString& text) { messages.Tell(event, text); }});
 }
 
 void PassTime(platform::SimulatedClock& clock, qint64 milliseconds, bool real) {

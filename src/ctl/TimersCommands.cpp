@@ -17,8 +17,8 @@ class QuietHost final : public timers::TimerHost {
 public:
     bool Failed = false;
 
-    void SpeakMessage(const QString&, int, bool) override {}
-    void PurgeSpeech(bool) override {}
+    void SpeakMessage(const QString&, int, Urgency) override {}
+    void PurgeSpeech(Urgency) override {}
     void PlaySound(const QString&) override {}
     void StopMusic() override {}
     void ShowStatus(const QString& text) override {

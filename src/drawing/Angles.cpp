@@ -42,10 +42,4 @@ HandAngles AnglesAt(const HandTime& time, ClockSpecial special) {
             OnLeftMinutes(time.Second) == rightHalf ? mirrored.Second : forward.Second};
 }
 
-HandTime ReadHandTime(const QString& caption) {
-    const QStringList parts = caption.split(u':');
-    const auto part = [&parts](qsizetype index) { return parts.value(index).trimmed().toInt(); };
-    return {part(0), part(1), part(2)};
-}
-
 }  // namespace drawing

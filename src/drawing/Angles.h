@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include "drawing/ClockSpecial.h"
 
 /// Angles of all clock drawing. A point at distance r from the centre (cx, cy) is
@@ -33,8 +31,5 @@ struct HandAngles {
 /// special is forward. The folding tests look at whole hours only, so a hand may lean over the edge
 /// of its half for an hour.
 HandAngles AnglesAt(const HandTime& time, ClockSpecial special);
-
-/// The hour, minute and second of a text "hh:mm:ss"; parts that are missing are 0.
-HandTime ReadHandTime(const QString& caption);
 
 }  // namespace drawing

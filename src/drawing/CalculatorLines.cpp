@@ -24,18 +24,17 @@ void CalculatorLines::DrawCalculatorClock() {
     ShowPresentTime();
 }
 
-void CalculatorLines::SetCalculatorClock(bool fill) {
+void CalculatorLines::SetCalculatorClock(CalculatorTexts texts) {
     isTyping_ = false;
-    if (fill) {
+    if (texts == CalculatorTexts::PresentTime) {
         ShowPresentTime();
     } else {
-        ShowText(false, {});
-        ShowText(true, {});
+        ShowText(Side::Local, {});
+        ShowText(Side::Zone, {});
     }
-    for (const bool zoneLine : {false, true}) {
-        Line(zoneLine).ForeColor =
-            mduUILib::ColourValue(Value(zoneLine, u"Font Colour"_s), face_.Random);
-        Line(zoneLine).Visible = true;
+    for (const Side side : {Side::Local, Side::Zone}) {
+        Line(side).ForeColor = mduUILib::ColourValue(Value(side, u"Font Colour"_s), face_.Random);
+        Line(side).Visible = true;
     }
     for (Control& label : face_.Controls.lblDigitalNumber.Members) {
         label.Visible = false;
@@ -45,16 +44,16 @@ void CalculatorLines::SetCalculatorClock(bool fill) {
 
 void CalculatorLines::HideCalculatorClock() {
     isTyping_ = false;
-    face_.Controls.lblClock(1).Visible = false;
-    Line(false).Visible = false;
-    Line(true).Visible = false;
+    Hint().Visible = false;
+    Line(Side::Local).Visible = false;
+    Line(Side::Zone).Visible = false;
 }
 
 void CalculatorLines::BeginInput() {
-    before_ = {Line(false).Tag, Line(true).Tag, face_.Controls.lblLocation(1).Caption};
+    before_ = {Line(Side::Local).Tag, Line(Side::Zone).Tag, face_.Controls.lblLocation(1).Caption};
     caret_ = {};
     isTyping_ = true;
-    MoveCaretTo(false);
+    MoveCaretTo(Side::Local);
     SetCalculatorLayout();
     TellKeys();
     face_.Window.ShowChanges();
@@ -67,7 +66,7 @@ void CalculatorLines::TellKeys() {
 
 bool CalculatorLines::EditCalculatorKey(int keyCode) {
     if (keyCode == Tab) {
-        MoveCaretTo(!editingZoneLine_);
+        MoveCaretTo(Other(edited_));
     } else if (keyCode == Esc) {
         GiveBackTexts();
     } else {
@@ -80,71 +79,73 @@ bool CalculatorLines::EditCalculatorKey(int keyCode) {
     return keyCode != Esc;
 }
 
-Control& CalculatorLines::Line(bool zoneLine) const {
-    return zoneLine ? face_.Controls.lblTimeOutput(1) : face_.Controls.lblTimeInput(1);
+Control& CalculatorLines::Line(Side side) const {
+    return side == Side::Zone ? face_.Controls.lblTimeOutput(1) : face_.Controls.lblTimeInput(1);
 }
 
-QString CalculatorLines::Value(bool zoneLine, const QString& what) const {
-    const QString line = zoneLine ? u"Calculator Time "_s : u"Calculator Local Time "_s;
+QString CalculatorLines::Value(Side side, const QString& what) const {
+    const QString line = side == Side::Zone ? u"Calculator Time "_s : u"Calculator Local Time "_s;
     return mduLib::GetProperty(line + what, face_.Properties);
 }
 
-QString CalculatorLines::Prefix(bool zoneLine) const {
-    return (zoneLine ? face_.Controls.lblLocation(1).Caption + u':' : u"Local Time:"_s) + u' ';
+QString CalculatorLines::Prefix(Side side) const {
+    return (side == Side::Zone ? face_.Controls.lblLocation(1).Caption + u':' : u"Local Time:"_s) +
+           u' ';
 }
 
 void CalculatorLines::ShowPresentTime() {
     const QDateTime now = face_.Clock.Now();
     const QString local = mduAPILib::MomentText(now);
-    ShowText(false, local);
-    ShowText(true, mduTimeZones::ConvertZoneTime(local, true, face_.Zone, now));
+    ShowText(Side::Local, local);
+    ShowText(Side::Zone, mduTimeZones::ConvertZoneTime(local, true, face_.Zone, now));
 }
 
-void CalculatorLines::ShowText(bool zoneLine, const QString& text) {
-    Control& line = Line(zoneLine);
-    const QString caption = Prefix(zoneLine) + text;
+void CalculatorLines::ShowText(Side side, const QString& text) {
+    Control& line = Line(side);
+    const QString caption = Prefix(side) + text;
     if (line.Caption != caption || line.Tag != text) {
         line.Tag = text;
         line.Caption = caption;
-        PlaceAcross(zoneLine);
+        PlaceAcross(side);
     }
 }
 
-void CalculatorLines::MoveCaretTo(bool zoneLine) {
-    ShowText(editingZoneLine_, Line(editingZoneLine_).Tag);
-    editingZoneLine_ = zoneLine;
-    Control& line = Line(zoneLine);
+void CalculatorLines::MoveCaretTo(Side side) {
+    ShowText(edited_, Line(edited_).Tag);
+    edited_ = side;
+    Control& line = Line(side);
     caret_.Position = static_cast<int>(line.Tag.size());
-    line.Caption = Prefix(zoneLine) + TextWithCaret(line.Tag, caret_.Position);
-    PlaceAcross(zoneLine);
+    line.Caption = Prefix(side) + TextWithCaret(line.Tag, caret_.Position);
+    PlaceAcross(side);
 }
 
 void CalculatorLines::GiveBackTexts() {
     isTyping_ = false;
     face_.Controls.lblLocation(1).Caption = before_.Location;
-    ShowText(false, before_.Local);
-    ShowText(true, before_.Zone);
+    ShowText(Side::Local, before_.Local);
+    ShowText(Side::Zone, before_.Zone);
     SetCalculatorLayout();
 }
 
 void CalculatorLines::EditLine(int keyCode) {
-    Control& line = Line(editingZoneLine_);
+    Control& line = Line(edited_);
     const QString text = line.Tag;
-    EditTitleKey(line.Tag, line.Caption, Prefix(editingZoneLine_), keyCode, caret_);
+    EditTitleKey(line.Tag, line.Caption, Prefix(edited_), keyCode, caret_);
     if (line.Tag != text) {
         ConvertEdited();
     }
-    PlaceAcross(editingZoneLine_);
+    PlaceAcross(edited_);
 }
 
 void CalculatorLines::ConvertEdited() {
-    const bool toZone = !editingZoneLine_;
-    const QString converted = mduTimeZones::ConvertZoneTime(Line(editingZoneLine_).Tag, toZone,
-                                                            face_.Zone, face_.Clock.Now());
-    NameZoneAtTypedTime(toZone ? converted : Line(true).Tag);
-    ShowText(!editingZoneLine_, converted);
-    if (editingZoneLine_) {
-        Line(true).Caption = Prefix(true) + TextWithCaret(Line(true).Tag, caret_.Position);
+    const bool toZone = edited_ == Side::Local;
+    const QString converted =
+        mduTimeZones::ConvertZoneTime(Line(edited_).Tag, toZone, face_.Zone, face_.Clock.Now());
+    NameZoneAtTypedTime(toZone ? converted : Line(Side::Zone).Tag);
+    ShowText(Other(edited_), converted);
+    if (edited_ == Side::Zone) {
+        Line(Side::Zone).Caption =
+            Prefix(Side::Zone) + TextWithCaret(Line(Side::Zone).Tag, caret_.Position);
     }
 }
 

@@ -20,8 +20,7 @@ public:
 
     void DrawCalculatorClock() override;
 
-    /// Shows both lines, with the present time (@p fill) or blank.
-    void SetCalculatorClock(bool fill) override;
+    void SetCalculatorClock(CalculatorTexts texts) override;
 
     /// Fonts and places of the lines: one above the other in the middle of the surface. A size of
     /// -1 lets the longest line fill the width.
@@ -37,29 +36,34 @@ public:
     bool EditCalculatorKey(int keyCode) override;
 
     /// The line that is being edited: false `lblTimeInput`, true `lblTimeOutput`.
-    bool EditingZoneLine() const { return editingZoneLine_; }
+    bool EditingZoneLine() const { return edited_ == Side::Zone; }
 
 private:
-    /// The label of a line: of the clock's zone, or of the local time.
-    mduUILib::Control& Line(bool zoneLine) const;
+    /// The line of the local time and that of the clock's zone.
+    enum class Side { Local, Zone };
+    static Side Other(Side side) { return side == Side::Local ? Side::Zone : Side::Local; }
+
+    mduUILib::Control& Line(Side side) const;
+    /// `lblClock`, which tells the way back to the present time.
+    mduUILib::Control& Hint() const { return face_.Controls.lblClock(1); }
     /// The current value of "Calculator Local Time ..." or "Calculator Time ...", @p what being the
     /// rest.
-    QString Value(bool zoneLine, const QString& what) const;
+    QString Value(Side side, const QString& what) const;
     /// What stands before the time: the name of the place, or that the time is local.
-    QString Prefix(bool zoneLine) const;
-    double WidestText(bool zoneLine, const QFont& font) const;
+    QString Prefix(Side side) const;
+    double WidestText(Side side, const QFont& font) const;
 
     void ShowPresentTime();
-    void ShowText(bool zoneLine, const QString& text);
-    void PlaceAcross(bool zoneLine);
+    void ShowText(Side side, const QString& text);
+    void PlaceAcross(Side side);
     void PlaceBelowEachOther();
     /// Whether the font size is -1: the longest line fills the width.
-    bool IsAutomatic(bool zoneLine) const;
+    bool IsAutomatic(Side side) const;
     double AutomaticSize() const;
 
     void FillHint();
     void TellKeys();
-    void MoveCaretTo(bool zoneLine);
+    void MoveCaretTo(Side side);
     void GiveBackTexts();
     void EditLine(int keyCode);
     void ConvertEdited();
@@ -67,7 +71,7 @@ private:
 
     FaceContext face_;
     bool isTyping_ = false;
-    bool editingZoneLine_ = false;
+    Side edited_ = Side::Local;
     TitleCaret caret_;
     struct {
         QString Local, Zone, Location;

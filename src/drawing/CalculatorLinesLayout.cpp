@@ -33,18 +33,18 @@ QString WidestMoment() {
 }  // namespace
 
 void CalculatorLines::SetCalculatorLayout() {
-    for (const bool zoneLine : {false, true}) {
-        const double size = mduAPILib::IntegerValue(Value(zoneLine, u"Font Size"_s));
-        QFont font(Value(zoneLine, u"Font"_s).trimmed());
+    for (const Side side : {Side::Local, Side::Zone}) {
+        const double size = mduAPILib::IntegerValue(Value(side, u"Font Size"_s));
+        QFont font(Value(side, u"Font"_s).trimmed());
         font.setPointSizeF(std::clamp(size, SmallestSize, LargestSize));
-        Line(zoneLine).Font = font;
+        Line(side).Font = font;
     }
     const double automatic = AutomaticSize();
-    for (const bool zoneLine : {false, true}) {
-        if (IsAutomatic(zoneLine)) {
-            Line(zoneLine).Font.setPointSizeF(automatic);
+    for (const Side side : {Side::Local, Side::Zone}) {
+        if (IsAutomatic(side)) {
+            Line(side).Font.setPointSizeF(automatic);
         }
-        PlaceAcross(zoneLine);
+        PlaceAcross(side);
     }
     if (isTyping_) {
         FillHint();
@@ -52,19 +52,19 @@ void CalculatorLines::SetCalculatorLayout() {
     PlaceBelowEachOther();
 }
 
-double CalculatorLines::WidestText(bool zoneLine, const QFont& font) const {
+double CalculatorLines::WidestText(Side side, const QFont& font) const {
     const double ratio = face_.Window.Surface().DevicePixelRatio();
     const auto widthOf = [&](const QString& text) {
-        return TextSize(font, Prefix(zoneLine) + text, ratio).width();
+        return TextSize(font, Prefix(side) + text, ratio).width();
     };
-    return std::max(widthOf(WidestMoment()), widthOf(Line(zoneLine).Tag));
+    return std::max(widthOf(WidestMoment()), widthOf(Line(side).Tag));
 }
 
 // Laid out for the widest text, so that a line stands still while its figures change.
-void CalculatorLines::PlaceAcross(bool zoneLine) {
+void CalculatorLines::PlaceAcross(Side side) {
     const Surface& surface = face_.Window.Surface();
-    Control& line = Line(zoneLine);
-    const double left = (surface.ScaleWidth() - WidestText(zoneLine, line.Font)) / 2;
+    Control& line = Line(side);
+    const double left = (surface.ScaleWidth() - WidestText(side, line.Font)) / 2;
     line.Left =
         static_cast<float>(std::nearbyint(std::max(left, Margin * surface.DevicePixelRatio())));
     AutoSize(line, surface.DevicePixelRatio());
@@ -74,9 +74,9 @@ void CalculatorLines::PlaceAcross(bool zoneLine) {
 // no room even so, there is none.
 void CalculatorLines::PlaceBelowEachOther() {
     const Surface& surface = face_.Window.Surface();
-    Control& hint = face_.Controls.lblClock(1);
-    const double first = static_cast<double>(Line(false).Height);
-    const double second = static_cast<double>(Line(true).Height);
+    Control& hint = Hint();
+    const double first = static_cast<double>(Line(Side::Local).Height);
+    const double second = static_cast<double>(Line(Side::Zone).Height);
     const double gap = LinesApart * std::max(first, second);
     const double apart = HintApart * static_cast<double>(hint.Height);
     const double free = surface.ScaleHeight() - first - gap - second;
@@ -84,13 +84,13 @@ void CalculatorLines::PlaceBelowEachOther() {
     const bool fitsAcross = static_cast<double>(hint.Width) <= surface.ScaleWidth();
     hint.Visible = isTyping_ && fitsAcross && below >= 0;
     const double top = std::nearbyint(hint.Visible ? std::min(free / 2, below) : free / 2);
-    Line(false).Top = static_cast<float>(top);
-    Line(true).Top = static_cast<float>(std::nearbyint(top + first + gap));
+    Line(Side::Local).Top = static_cast<float>(top);
+    Line(Side::Zone).Top = static_cast<float>(std::nearbyint(top + first + gap));
     hint.Top = static_cast<float>(std::floor(top + first + gap + second + apart));
 }
 
-bool CalculatorLines::IsAutomatic(bool zoneLine) const {
-    return mduAPILib::IntegerValue(Value(zoneLine, u"Font Size"_s)) == -1;
+bool CalculatorLines::IsAutomatic(Side side) const {
+    return mduAPILib::IntegerValue(Value(side, u"Font Size"_s)) == -1;
 }
 
 // The whole number of pixels at which the widest automatic line fills the width, and two lines,
@@ -101,12 +101,12 @@ double CalculatorLines::AutomaticSize() const {
     const double ratio = surface.DevicePixelRatio();
     const double rows = 2 + LinesApart + (isTyping_ ? HintSize * (1 + HintApart) : 0);
     double pixels = LargestSize;
-    for (const bool zoneLine : {false, true}) {
-        if (IsAutomatic(zoneLine)) {
-            QFont font = Line(zoneLine).Font;
+    for (const Side side : {Side::Local, Side::Zone}) {
+        if (IsAutomatic(side)) {
+            QFont font = Line(side).Font;
             font.setPointSizeF(tried * PointsPerPixel);
             const double height = TextSize(font, WidestMoment(), ratio).height();
-            const double across = surface.ScaleWidth() / WidestText(zoneLine, font);
+            const double across = surface.ScaleWidth() / WidestText(side, font);
             const double down = surface.ScaleHeight() / (rows * height);
             pixels = std::min(pixels, tried * Filled * std::min(across, down));
         }
@@ -117,10 +117,10 @@ double CalculatorLines::AutomaticSize() const {
 // In the colour of the first line, in the middle of the width.
 void CalculatorLines::FillHint() {
     const Surface& surface = face_.Window.Surface();
-    Control& hint = face_.Controls.lblClock(1);
+    Control& hint = Hint();
     hint.Caption = u"Esc: present time"_s;
-    hint.ForeColor = Line(false).ForeColor;
-    hint.Font = Line(false).Font;
+    hint.ForeColor = Line(Side::Local).ForeColor;
+    hint.Font = Line(Side::Local).Font;
     hint.Font.setPointSizeF(
         std::clamp(HintSize * hint.Font.pointSizeF(), SmallestHint, LargestHint));
     AutoSize(hint, surface.DevicePixelRatio());

@@ -42,13 +42,13 @@ void SetPlace(Control& control, const QRectF& place) {
 
 }  // namespace
 
-void ClockDial::SetClockDial(bool show, const QString& style, bool shadow, bool numbersOnly) {
-    isShown_ = show;
+void ClockDial::SetClockDial(const DialOrder& order) {
+    isShown_ = order.Parts != DialParts::None;
     HideNumbers();
-    if (show) {
-        const DialLook look = ReadDialLook(face_.Properties, face_.Window, style);
-        LayOutNumbers(look, shadow);
-        if (!numbersOnly) {
+    if (isShown_) {
+        const DialLook look = ReadDialLook(face_.Properties, face_.Window, order.Style);
+        LayOutNumbers(look, order.AsShadow);
+        if (order.Parts == DialParts::All) {
             SetSpots(look);
         }
     } else {
@@ -57,8 +57,8 @@ void ClockDial::SetClockDial(bool show, const QString& style, bool shadow, bool 
     face_.Window.StillChanged();
 }
 
-void ClockDial::DrawDialNumbers(bool show, const QString& style, bool numbersOnly) {
-    SetClockDial(show, style, false, numbersOnly);  // lays a shadow out, too
+void ClockDial::DrawDialNumbers(DialParts parts) {
+    SetClockDial({parts});  // lays a shadow out, too
 }
 
 void ClockDial::HideNumbers() {
@@ -197,7 +197,7 @@ void ClockDial::ShowMinuteSpots(int /*hour*/) {
 
 void ClockDial::ApplyClockSpecial() {
     if (isShown_) {
-        SetClockDial(true, {}, false, false);
+        SetClockDial({DialParts::All});
     }
 }
 

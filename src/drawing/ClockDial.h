@@ -20,9 +20,9 @@ class ClockDial final : public Dial {
 public:
     explicit ClockDial(const FaceContext& face) : face_(face) {}
 
-    /// With @p shadow the numbers are laid out as their own shadow: dark, and down to the left.
-    void SetClockDial(bool show, const QString& style, bool shadow, bool numbersOnly) override;
-    void DrawDialNumbers(bool show, const QString& style, bool numbersOnly) override;
+    /// A shadow is dark, and down to the left of its number.
+    void SetClockDial(const DialOrder& order) override;
+    void DrawDialNumbers(DialParts parts) override;
     /// Shows the spots whose `Tag` is "True"; the hour makes no difference.
     void ShowMinuteSpots(int hour) override;
     /// Lays the dial out anew, unless it is hidden.

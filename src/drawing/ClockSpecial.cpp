@@ -38,6 +38,10 @@ ClockSpecial ReadClockSpecial(const ClockProperties& properties) {
     return ReadClockSpecial(mduLib::GetProperty(u"Clock Special"_s, properties));
 }
 
+QString ClockSpecialName(ClockSpecial special) {
+    return Specials.NameOf(special);
+}
+
 QStringList ClockSpecialNames() {
     return Specials.Words();
 }

@@ -30,6 +30,8 @@ enum class ClockSpecial {
 ClockSpecial ReadClockSpecial(const QString& text);
 ClockSpecial ReadClockSpecial(const ClockProperties& properties);
 
+/// The property's word for it.
+QString ClockSpecialName(ClockSpecial special);
 QStringList ClockSpecialNames();
 
 }  // namespace drawing

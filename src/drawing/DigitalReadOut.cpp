@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 #include "drawing/AnalogueFace.h"
 #include "drawing/LabelText.h"
-#include "foundation/Dates.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
@@ -41,16 +39,6 @@ bool Holds(const QString& format, const QString& part) {
     return format.contains(part, Qt::CaseInsensitive);
 }
 
-/// The time that a caption tells, whoever wrote it; nothing where it tells none.
-std::optional<HandTime> TimeOfCaption(const QString& caption) {
-    const auto parsed = mduAPILib::ParseMoment(caption, 2000);
-    if (!parsed || !parsed->HasTime) {
-        return std::nullopt;
-    }
-    const QTime time = parsed->Moment.time();
-    return HandTime{time.hour(), time.minute(), time.second()};
-}
-
 QString HalfOfDay(const QString& caption) {
     const bool hasMark = Holds(caption, u"AM"_s) || Holds(caption, u"PM"_s);
     return hasMark ? caption.trimmed().right(2) : QString();
@@ -76,8 +64,7 @@ DigitalReadOut::DigitalReadOut(const FaceContext& face)
 // A motion belongs to a second: further passes in the same one leave it alone.
 void DigitalReadOut::DrawDigitalClock(const QString& format) {
     const QDateTime now = mduTimeZones::GetClockTime(face_.Zone, face_.Clock.Now());
-    const QDateTime second = now.addMSecs(-now.time().msec());
-    const bool isNew = std::exchange(drawnAt_, second) != second;
+    const bool isNew = turn_.IsNew(now);
     if (isNew) {
         motion_.Finish();
     }
@@ -131,26 +118,21 @@ QString DigitalReadOut::Value(const QString& key) const {
     return mduLib::GetProperty(key, face_.Properties);
 }
 
-// The digits are read back out of the caption. A format of the user's own may leave no time in it;
-// then they show the time itself.
-HandTime DigitalReadOut::WriteCaption(const QString& format) {
-    const QTime time = mduTimeZones::GetClockTime(face_.Zone, face_.Clock.Now()).time();
-    Model().Caption = DigitalCaption(Holds(format, u"hh"_s) ? format : u"hh:mm:ss"_s, time);
-    return TimeOfCaption(Model().Caption)
-        .value_or(HandTime{time.hour(), time.minute(), time.second()});
-}
-
+// The labels show the time itself, and "AM" or "PM" as the caption has it, whatever else a format
+// of the user's own holds. The caption is written last.
 void DigitalReadOut::Fill(const QString& format) {
-    const HandTime time = WriteCaption(format);
+    const QTime time = mduTimeZones::GetClockTime(face_.Zone, face_.Clock.Now()).time();
     const bool hasHour = Holds(format, u"hh"_s);
     const bool hasSecond = Holds(format, u"ss"_s);
-    const QString half = HalfOfDay(Model().Caption);
-    Show(1, hasHour, TwoDigits(time.Hour));
+    const QString caption = DigitalCaption(hasHour ? format : u"hh:mm:ss"_s, time);
+    const QString half = HalfOfDay(caption);
+    Show(1, hasHour, TwoDigits(time.hour()));
     Show(2, hasHour, u":"_s);
-    Show(3, true, TwoDigits(time.Minute));
+    Show(3, true, TwoDigits(time.minute()));
     Show(4, hasSecond, u":"_s);
-    Show(5, hasSecond, TwoDigits(time.Second));
+    Show(5, hasSecond, TwoDigits(time.second()));
     Show(6, !half.isEmpty(), half);
+    Model().Caption = caption;
 }
 
 void DigitalReadOut::Show(int label, bool visible, const QString& caption) {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QDateTime>
+#include <QTime>
 
-#include "drawing/Angles.h"
 #include "drawing/ClockSpecial.h"
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
 #include "drawing/LabelMotion.h"
+#include "foundation/OncePerSecond.h"
 
 namespace drawing {
 
@@ -39,7 +39,6 @@ public:
 private:
     ClockSpecial Special() const { return ReadClockSpecial(face_.Properties); }
     QString Value(const QString& key) const;
-    HandTime WriteCaption(const QString& format);
     void Fill(const QString& format);
     void Show(int label, bool visible, const QString& caption);
     void SetFonts();
@@ -55,7 +54,7 @@ private:
 
     FaceContext face_;
     LabelMotion motion_;
-    QDateTime drawnAt_;  ///< the clock's second that was drawn last
+    OncePerSecond turn_;  ///< the beginning of a motion
 };
 
 }  // namespace drawing

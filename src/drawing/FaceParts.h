@@ -8,16 +8,29 @@
 /// out the clock's controls; `FaceComposer` paints them. By themselves these classes do nothing.
 namespace drawing {
 
+/// What of the dial is to be seen.
+enum class DialParts {
+    None,     ///< the dial is hidden
+    Numbers,  ///< the hour numbers; the spots stay as they are
+    All
+};
+
+/// How the dial is laid out.
+struct DialOrder {
+    DialParts Parts = DialParts::All;
+    QString Style = {};     ///< of the numbers; empty means the property's
+    bool AsShadow = false;  ///< the numbers as their own shadow, without themselves
+};
+
 /// What stands still under the hands: hour numbers and minute spots.
 class Dial {
 public:
     virtual ~Dial() = default;
 
-    /// Lays the whole dial out; @p show false hides it. An empty @p style means the property's.
-    virtual void SetClockDial(bool /*show*/, const QString& /*style*/, bool /*shadow*/,
-                              bool /*numbersOnly*/) {}
-    /// Lays the hour numbers out, with their shadow where the style has one.
-    virtual void DrawDialNumbers(bool /*show*/, const QString& /*style*/, bool /*numbersOnly*/) {}
+    virtual void SetClockDial(const DialOrder& /*order*/) {}
+    /// Lays the dial out in the style of the properties, the numbers with their shadow where the
+    /// style has one.
+    virtual void DrawDialNumbers(DialParts /*parts*/) {}
     /// Shows the spots that the layout wants. @p hour is that of the clock; no style goes by it.
     virtual void ShowMinuteSpots(int /*hour*/) {}
     virtual void ApplyClockSpecial() {}
@@ -47,13 +60,17 @@ public:
     virtual void FinishMotion() {}
 };
 
+/// What the lines of the calculator begin with.
+enum class CalculatorTexts { Blank, PresentTime };
+
 /// The two lines of the calculator.
 class CalculatorClock {
 public:
     virtual ~CalculatorClock() = default;
 
     virtual void DrawCalculatorClock() {}
-    virtual void SetCalculatorClock(bool /*fill*/) {}
+    /// Shows both lines.
+    virtual void SetCalculatorClock(CalculatorTexts /*texts*/) {}
     virtual void SetCalculatorLayout() {}
     virtual void HideCalculatorClock() {}
     /// Begins the input state: the caret stands in the line of the local time.

@@ -1,5 +1,7 @@
 #include "foundation/NamedValues.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 #include "foundation/Numbers.h"
@@ -22,6 +24,9 @@ constexpr NamedColour Colours[] = {
     {"Blue"_L1, 0xFF0000},        {"Magenta"_L1, 0xFF00FF},
     {"Cyan"_L1, 0xFFFF00},        {"White"_L1, 0xFFFFFD},
     {"White"_L1, TransparentKey}, {"Transparent"_L1, TransparentWindow}};
+
+/// By their numbers.
+constexpr std::array WindowStates = {"Normal"_L1, "Minimized"_L1, "Maximized"_L1};
 
 int RandomColour(platform::RandomNumbers& random) {
     random.Seed();
@@ -92,14 +97,16 @@ bool IsNoneValue(const QString& text) {
 }
 
 int WindowStateValue(const QString& text) {
-    if (text.compare("maximized"_L1, Qt::CaseInsensitive) == 0) {
-        return 2;
-    }
-    return text.compare("minimized"_L1, Qt::CaseInsensitive) == 0 ? 1 : 0;
+    const auto isText = [&text](QLatin1StringView word) {
+        return text.compare(word, Qt::CaseInsensitive) == 0;
+    };
+    const auto* found = std::find_if(WindowStates.begin(), WindowStates.end(), isText);
+    return found == WindowStates.end() ? 0 : static_cast<int>(found - WindowStates.begin());
 }
 
 QString WindowStateName(int state) {
-    return state == 2 ? u"Maximized"_s : state == 1 ? u"Minimized"_s : u"Normal"_s;
+    const bool isKnown = state >= 0 && state < static_cast<int>(WindowStates.size());
+    return WindowStates[isKnown ? static_cast<std::size_t>(state) : 0];
 }
 
 int WindowBorderValue(const QString& text) {

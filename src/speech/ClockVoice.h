@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "foundation/Urgency.h"
+
 namespace speech {
 
 /// The voice of one clock, its menu and its mark.
@@ -14,9 +16,8 @@ public:
     /// Fills the menu of the mark with the voices that there are now.
     virtual void FillVoiceMenu() {}
     /// @param flags as in `SpeechFlags.h`
-    /// @param force speaks also for a clock that is not the active one
-    virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, bool /*force*/) {}
-    virtual void PurgeSpeech(bool /*force*/) {}
+    virtual void SpeakMessage(const QString& /*text*/, int /*flags*/, Urgency /*urgency*/) {}
+    virtual void PurgeSpeech(Urgency /*urgency*/) {}
     virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
 };
 
@@ -25,6 +26,8 @@ class SpokenTime {
 public:
     virtual ~SpokenTime() = default;
 
+    /// Reads the patterns from the properties anew.
+    virtual void ReadPatterns() {}
     /// Speaks the shortest unit whose pattern is due, unless a message or an action is showing.
     virtual void CheckSpokenTime() {}
     /// Speaks the longest unit that has a pattern, due or not: a click on the speaker mark.

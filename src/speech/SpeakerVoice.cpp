@@ -57,21 +57,21 @@ void SpeakerVoice::PrepareSpeaker() {
     }
 }
 
-void SpeakerVoice::SpeakMessage(const QString& text, int flags, bool force) {
-    if (!force && !context_.Host.IsActiveClock()) {
+void SpeakerVoice::SpeakMessage(const QString& text, int flags, Urgency urgency) {
+    if (urgency == Urgency::Routine && !context_.Host.IsActiveClock()) {
         return;
     }
     if (text.isEmpty() || SpeakerLevel() <= 0) {
-        TellNoVoice(text, force);
+        TellNoVoice(text, urgency);
     } else if (!IsSpeaking()) {
-        Say({text, flags, force});
+        Say({text, flags, urgency});
     } else if (text != PurgeText && waiting_.size() < MostWaiting) {
-        waiting_.push_back({text, flags, force});
+        waiting_.push_back({text, flags, urgency});
     }
 }
 
-void SpeakerVoice::PurgeSpeech(bool force) {
-    SpeakMessage(PurgeText.toString(), PurgeBeforeSpeak, force);
+void SpeakerVoice::PurgeSpeech(Urgency urgency) {
+    SpeakMessage(PurgeText.toString(), PurgeBeforeSpeak, urgency);
 }
 
 void SpeakerVoice::FallSilent() {
@@ -85,7 +85,7 @@ void SpeakerVoice::FallSilent() {
 void SpeakerVoice::SpeakNow(const QString& text) {
     FallSilent();
     failedAt_ = {};
-    SpeakMessage(text, PurgeBeforeSpeak, true);
+    SpeakMessage(text, PurgeBeforeSpeak, Urgency::Urgent);
 }
 
 bool SpeakerVoice::IsResting() const {
@@ -123,7 +123,7 @@ void SpeakerVoice::End(bool spoken) {
     }
     failedAt_ = context_.Services.Clock.Now();
     const QString reason = voice_ ? voice_->LastError() : u"this machine has no voice"_s;
-    TellWhy(reason.isEmpty() ? u"the voice failed"_s : reason, said.Force);
+    TellWhy(reason.isEmpty() ? u"the voice failed"_s : reason, said.How);
 }
 
 void SpeakerVoice::HearNews() {
@@ -143,24 +143,25 @@ void SpeakerVoice::SayWaiting() {
     while (!waiting_.empty() && !saying_) {
         const Text next = waiting_.front();
         waiting_.pop_front();
-        SpeakMessage(next.Words, next.Flags, next.Force);
+        SpeakMessage(next.Words, next.Flags, next.How);
     }
 }
 
 // The level is 0 on a machine without voices, whatever volume the user has chosen.
-void SpeakerVoice::TellNoVoice(const QString& text, bool force) {
+void SpeakerVoice::TellNoVoice(const QString& text, Urgency urgency) {
     const double wanted =
         mduAPILib::Val(mduLib::GetProperty(u"Speaker Volume"_s, context_.Properties));
     if (!missing_.isEmpty() && !text.isEmpty() && text != PurgeText && wanted > 0) {
-        TellWhy(missing_, force);
+        TellWhy(missing_, urgency);
     }
 }
 
 // Patterns speak often: they tell of the first failure only. A timer that is not heard is told of,
 // but the countdown of its action speaks each second.
-void SpeakerVoice::TellWhy(const QString& reason, bool force) {
-    const bool known = force ? told_.IsRecent(reason) : !told_.IsEmpty();
-    if (force || !known) {
+void SpeakerVoice::TellWhy(const QString& reason, Urgency urgency) {
+    const bool isUrgent = urgency == Urgency::Urgent;
+    const bool known = isUrgent ? told_.IsRecent(reason) : !told_.IsEmpty();
+    if (isUrgent || !known) {
         told_.Add(reason);
     }
     if (!known) {
@@ -172,7 +173,7 @@ void SpeakerVoice::ClickSpeaker(SpokenTime& spoken) {
     context_.Host.SetSpeakerPicture(SpeakingPicture);
     FallSilent();
     failedAt_ = {};
-    PurgeSpeech(true);
+    PurgeSpeech(Urgency::Urgent);
     spoken.SpeakTimeNow();
     if (!IsSpeaking()) {
         context_.Host.SetSpeakerPicture(SpeakerLevel() <= 0 ? MutedPicture : IdlePicture);

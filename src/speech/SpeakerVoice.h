@@ -45,13 +45,13 @@ public:
     /// menu leaves out shifts those behind it by one.
     void FillVoiceMenu() override;
 
-    /// Speaks a text, or puts it behind what is being spoken. Without @p force only the active
-    /// clock speaks. @p flags below 1 mean 2: what is being said is cut off first.
-    void SpeakMessage(const QString& text, int flags, bool force) override;
+    /// Speaks a text, or puts it behind what is being spoken. A routine one is spoken by the
+    /// active clock alone. @p flags below 1 mean 2: what is being said is cut off first.
+    void SpeakMessage(const QString& text, int flags, Urgency urgency) override;
 
     /// Cuts off what is being said, with a text of "." that can't be heard. It has its turn behind
     /// what this clock says itself, which it so leaves whole; see `FallSilent`.
-    void PurgeSpeech(bool force) override;
+    void PurgeSpeech(Urgency urgency) override;
 
     /// Cuts off what this clock is saying and forgets what it has still to say.
     void FallSilent();
@@ -83,15 +83,15 @@ private:
     struct Text {
         QString Words;
         int Flags = 0;
-        bool Force = false;
+        Urgency How = Urgency::Routine;
     };
     bool IsResting() const;
     void Say(const Text& text);
     void End(bool spoken);
     void HearNews();
     void SayWaiting();
-    void TellNoVoice(const QString& text, bool force);
-    void TellWhy(const QString& reason, bool force);
+    void TellNoVoice(const QString& text, Urgency urgency);
+    void TellWhy(const QString& reason, Urgency urgency);
 
     SpeechContext context_;
     std::vector<VoiceEntry> menu_;

@@ -23,14 +23,14 @@ bool SpokenPatterns::AnyPattern() const {
                        [](const SpeechPattern& pattern) { return pattern.IsOn(); });
 }
 
-bool SpokenPatterns::SpeakPatternOfKind(const QDateTime& clockTime, int kind, bool force,
+bool SpokenPatterns::SpeakPatternOfKind(const QDateTime& clockTime, int kind, Urgency urgency,
                                         int flags) {
     const SpeechPattern pattern = patterns_[static_cast<std::size_t>(kind - 1)];
-    if (!pattern.IsOn() || (!force && !IsDue(pattern, kind, clockTime))) {
+    if (!pattern.IsOn() || (urgency == Urgency::Routine && !IsDue(pattern, kind, clockTime))) {
         return false;
     }
     voice_.SpeakMessage(ExpandPattern(clockTime, pattern.Text, context_.Zone.CurrentName), flags,
-                        force);
+                        urgency);
     return true;
 }
 
@@ -44,7 +44,7 @@ void SpokenPatterns::CheckSpokenTime() {
         return;
     }
     for (int kind = SecondPattern; kind <= DayPattern; ++kind) {
-        if (SpeakPatternOfKind(now, kind, false, DefaultFlags)) {
+        if (SpeakPatternOfKind(now, kind, Urgency::Routine, DefaultFlags)) {
             spokenAt_ = now;
             return;
         }
@@ -56,7 +56,8 @@ void SpokenPatterns::SpeakTimeNow() {
     ReadPatterns();
     const QDateTime now = context_.ClockTime();
     for (int kind = DayPattern; kind >= SecondPattern; --kind) {
-        if (SpeakPatternOfKind(now, kind, true, platform::SpeechFlag::PurgeBeforeSpeak)) {
+        if (SpeakPatternOfKind(now, kind, Urgency::Urgent,
+                               platform::SpeechFlag::PurgeBeforeSpeak)) {
             return;
         }
     }

@@ -19,7 +19,7 @@ public:
     SpokenPatterns(const SpeechContext& context, ClockVoice& voice)
         : context_(context), voice_(voice) {}
 
-    void ReadPatterns();
+    void ReadPatterns() override;
 
     /// One tick: the shortest unit that is due is spoken, and only that. Nothing while a message or
     /// an action shows or a text is still being spoken, and nothing twice for the same second.
@@ -29,8 +29,8 @@ public:
     void SpeakTimeNow() override;
 
     /// Speaks the pattern of a kind (1 to 4) at @p clockTime.
-    /// @return whether it has a pattern that is due, or one at all with @p force on
-    bool SpeakPatternOfKind(const QDateTime& clockTime, int kind, bool force, int flags);
+    /// @return whether it has a pattern that is due, or for an urgent one, a pattern at all
+    bool SpeakPatternOfKind(const QDateTime& clockTime, int kind, Urgency urgency, int flags);
 
 private:
     bool AnyPattern() const;

@@ -110,7 +110,7 @@ void ClockMessages::CountDown(const QDateTime& clockTime) {
 // A number that is not spoken at its second is none: while the voice is busy it is passed over.
 void ClockMessages::SpeakNumber(qint64 left) {
     if (!context_.Host.IsSpeaking()) {
-        context_.Host.SpeakMessage(SignedText(left), 0, true);
+        context_.Host.SpeakMessage(SignedText(left), 0, Urgency::Urgent);
     }
 }
 

@@ -128,8 +128,8 @@ void ClockTimers::AnnounceAction(const QString& action) {
 
 void ClockTimers::Announce(const QString& key, const QString& text) {
     if (mduUILib::YesNoToBool(Property(key))) {
-        context_.Host.PurgeSpeech(true);
-        context_.Host.SpeakMessage(text, 0, true);
+        context_.Host.PurgeSpeech(Urgency::Urgent);
+        context_.Host.SpeakMessage(text, 0, Urgency::Urgent);
     }
 }
 

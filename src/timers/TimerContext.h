@@ -3,6 +3,7 @@
 #include <QRectF>
 #include <optional>
 
+#include "foundation/Urgency.h"
 #include "timezones/ClockContext.h"
 
 namespace timers {
@@ -12,8 +13,8 @@ class TimerHost {
 public:
     virtual ~TimerHost() = default;
 
-    virtual void SpeakMessage(const QString& text, int flags, bool force) = 0;
-    virtual void PurgeSpeech(bool force) = 0;
+    virtual void SpeakMessage(const QString& text, int flags, Urgency urgency) = 0;
+    virtual void PurgeSpeech(Urgency urgency) = 0;
     virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
     virtual void PlaySound(const QString& path) = 0;
     virtual void StopMusic() = 0;

@@ -27,6 +27,10 @@ class RecordingParts {
         bool IsActiveForm() const override { return ActiveForm; }
         bool IsActiveWindow() const override { return ActiveWindow; }
         bool IsEnabled() const override { return Enabled; }
+        void EnableWindow(bool enabled) override {
+            Enabled = enabled;
+            *Log += enabled ? QStringLiteral("enable") : QStringLiteral("disable");
+        }
         int TimerInterval() const override { return Interval; }
         void SetTimerInterval(int milliseconds) override {
             Interval = milliseconds;
@@ -58,6 +62,27 @@ class RecordingParts {
         void ShowClockWindow(bool show) override {
             *Log += show ? QStringLiteral("ShowClockWindow") : QStringLiteral("hide");
         }
+        QRectF Outer;   ///< twips
+        QPoint Offset;  ///< of the surface in the outer window
+        std::optional<QRectF> ToStore;
+        int State = 0;
+        bool Shown = false;
+        std::vector<QRegion> Outlines;  ///< every region given to `SetWindowRgn`
+        std::vector<QImage> Icons;
+        bool ColourKey = false;
+        bool IsShown() const override { return Shown; }
+        QString Caption() const override { return QStringLiteral("India"); }
+        int WindowState() const override { return State; }
+        void SetWindowState(int state) override {
+            State = state;
+            *Log += QStringLiteral("SetWindowState %1").arg(state);
+        }
+        QRectF OuterRect() const override { return Outer; }
+        std::optional<QRectF> PlaceToStore() const override { return ToStore; }
+        QPoint SurfaceOffset() const override { return Offset; }
+        void SetWindowRgn(const QRegion& outline) override { Outlines.push_back(outline); }
+        void SetColourKey(bool on) override { ColourKey = on; }
+        void SetIcon(const QImage& picture) override { Icons.push_back(picture); }
     };
 
     struct Face final : clockcore::ClockFace {
@@ -66,11 +91,16 @@ class RecordingParts {
         RECORD(ReadDigitalFormat)
         RECORD(PrepareClockFace)
         RECORD(DrawClockFace)
+        RECORD(ShowChanges)
+        RECORD(Invalidate)
+        RECORD(StillChanged)
     };
 
     struct Dial final : drawing::Dial {
         Calls* Log = nullptr;
-        void DrawDialNumbers(bool, const QString&, bool) override {
+        std::vector<drawing::DialParts> Drawn;
+        void DrawDialNumbers(drawing::DialParts parts) override {
+            Drawn.push_back(parts);
             *Log += QStringLiteral("DrawDialNumbers");
         }
         void ShowMinuteSpots(int hour) override {
@@ -93,7 +123,9 @@ class RecordingParts {
         Calls* Log = nullptr;
         RECORD(LoadClockPicture)
         RECORD(ApplyTransparency)
+        RECORD(LoadWindowPicture)
         RECORD(SetWindowShape)
+        RECORD(SetClockShape)
         RECORD(ApplySurface)
         RECORD(ShowAutoBackground)
     };
@@ -113,6 +145,9 @@ class RecordingParts {
         RECORD(PlaceTimerMarks)
         void LoadTimers(const QString& path) override {
             *Log += QStringLiteral("LoadTimers ") + path;
+        }
+        void SaveTimer(const QString& path) override {
+            *Log += QStringLiteral("SaveTimer ") + path;
         }
         void CheckTimers(const QString& clockTime) override {
             *Log += QStringLiteral("CheckTimers ") + clockTime;
@@ -145,6 +180,7 @@ class RecordingParts {
     struct Spoken final : speech::SpokenTime {
         Calls* Log = nullptr;
         RECORD(CheckSpokenTime)
+        RECORD(ReadPatterns)
     };
 
     struct Music final : speech::ClockMusic {

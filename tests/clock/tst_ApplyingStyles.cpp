@@ -148,7 +148,7 @@ private Q_SLOTS:
         clock->SetClocks(1);
         QCOMPARE(shown(), u"numbers spots location mark"_s);
         clock->SetClocks(9);  // no such mode
-        QCOMPARE(clock->Data().Tag, u"1"_s);
+        QCOMPARE(clock->Data().Tag.Text(), u"1"_s);
         QCOMPARE(Value(clock, u"Clocks"_s), u"Analogue"_s);
     }
 
@@ -355,7 +355,7 @@ private Q_SLOTS:
         const QString running = clock->Controls().lblTimeInput(1).Caption;
         QVERIFY(running.startsWith(u"Local Time: 15/06/2026 12:00:0"_s));
         QTest::keyClick(clock, Qt::Key_Tab);
-        QCOMPARE(clock->Data().Tag, u"5"_s);
+        QCOMPARE(clock->Data().Tag.Text(), u"5"_s);
         QCOMPARE(clock->Controls().lblTimeInput(1).Caption, running + u" _"_s);
         desk.Machine.Clock.Advance(2000);
         QCOMPARE(clock->Controls().lblTimeInput(1).Caption, running + u" _"_s);  // stands still
@@ -385,7 +385,7 @@ private Q_SLOTS:
         clock->SetClocks(3);
         QTest::keyClick(clock, Qt::Key_Tab);
         QTest::keyClick(clock, Qt::Key_Escape);
-        QCOMPARE(clock->Data().Tag, u"3"_s);
+        QCOMPARE(clock->Data().Tag.Text(), u"3"_s);
         desk.Machine.Clock.Advance(1000);
         QVERIFY(clock->Controls().lblTimeInput(1).Caption.startsWith(
             u"Local Time: 15/06/2026 12:00:0"_s));
@@ -442,7 +442,7 @@ private Q_SLOTS:
         QVERIFY(choose(u"ClockStyles"_s, u"Fish && Chips"_s));
         QCOMPARE(Corner(clock), qRgb(0, 255, 255));
         QVERIFY(choose(u"ClocksMenu"_s, u"Calculator"_s));
-        QCOMPARE(clock->Data().Tag, u"3"_s);
+        QCOMPARE(clock->Data().Tag.Text(), u"3"_s);
         QVERIFY(open()->findChild<QMenu*>(u"ClocksMenu"_s)->actions()[2]->isChecked());
         QVERIFY(choose(u"ClockColourMenu"_s, u"Magenta"_s));
         QCOMPARE(Corner(clock), qRgb(255, 0, 255));

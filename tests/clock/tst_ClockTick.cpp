@@ -5,6 +5,7 @@
 #include "support/FakeServices.h"
 
 using namespace Qt::StringLiterals;
+using clockcore::ClockKind;
 using clockcore::ClockState;
 
 class tst_ClockTick : public QObject {
@@ -19,7 +20,7 @@ class tst_ClockTick : public QObject {
             QDateTime(QDate(2008, 3, 25), QTime(7, 0, 9, 700), Qt::UTC), QTimeZone("UTC")};
         clockcore::ClockTick Tick{Data, Parts.All(), Module, Machine};
 
-        explicit Clock(ClockState state, const QString& tag = u"1"_s) {
+        explicit Clock(ClockState state, clockcore::ClockTag tag = {}) {
             Data.State = state;
             Data.Tag = tag;
             Data.Zone.HoursFromLocal = 5.5F;
@@ -72,7 +73,7 @@ private Q_SLOTS:
     }
 
     void WrapperRepeatsItsFirstTick() {
-        Clock clock(ClockState::FirstTickDue, u"8"_s);
+        Clock clock(ClockState::FirstTickDue, {ClockKind::Analogue, true});
         const QStringList calls = Lines(
             "HideHandShapes|ApplyWindowState|LoadClockPicture|LayOutOverlays|PrepareSpeaker|"
             "ApplyWindowBackground|DrawDialNumbers");
@@ -82,7 +83,9 @@ private Q_SLOTS:
     }
 
     void DigitalWrapperHasNoNumbers() {
-        QVERIFY(!Clock(ClockState::FirstTickDue, u"9"_s).Run().contains(u"DrawDialNumbers"_s));
+        QVERIFY(!Clock(ClockState::FirstTickDue, {ClockKind::Digital, true})
+                     .Run()
+                     .contains(u"DrawDialNumbers"_s));
     }
 
     void RedrawInOrder() {
@@ -95,7 +98,9 @@ private Q_SLOTS:
     }
 
     void DigitalRedrawHasNoNumbers() {
-        QVERIFY(!Clock(ClockState::RedrawRequested, u"2"_s).Run().contains(u"DrawDialNumbers"_s));
+        QVERIFY(!Clock(ClockState::RedrawRequested, {ClockKind::Digital, false})
+                     .Run()
+                     .contains(u"DrawDialNumbers"_s));
     }
 
     void NormalTickInOrder() {
@@ -130,26 +135,26 @@ private Q_SLOTS:
     void StayTime_data() {
         QTest::addColumn<QString>("commandLine");
         QTest::addColumn<QString>("stayTime");
-        QTest::addColumn<QString>("tag");
+        QTest::addColumn<bool>("isWrapper");
         QTest::addColumn<int>("seconds");
         QTest::addColumn<bool>("closes");
-        QTest::newRow("over") << u"India"_s << u"60"_s << u"1"_s << 61 << true;
-        QTest::newRow("exactly") << u"India"_s << u"60"_s << u"1"_s << 60 << false;
-        QTest::newRow("zero stays") << u"India"_s << u"0"_s << u"1"_s << 100000 << false;
-        QTest::newRow("no number stays") << u"India"_s << u"ever"_s << u"1"_s << 100000 << false;
-        QTest::newRow("no command line") << QString() << u"60"_s << u"1"_s << 61 << false;
-        QTest::newRow("wrapper") << u"India"_s << u"60"_s << u"8"_s << 61 << false;
+        QTest::newRow("over") << u"India"_s << u"60"_s << false << 61 << true;
+        QTest::newRow("exactly") << u"India"_s << u"60"_s << false << 60 << false;
+        QTest::newRow("zero stays") << u"India"_s << u"0"_s << false << 100000 << false;
+        QTest::newRow("no number stays") << u"India"_s << u"ever"_s << false << 100000 << false;
+        QTest::newRow("no command line") << QString() << u"60"_s << false << 61 << false;
+        QTest::newRow("wrapper") << u"India"_s << u"60"_s << true << 61 << false;
         QTest::newRow("raw value with choices")
-            << u"India"_s << u"60,0,60"_s << u"1"_s << 61 << true;
+            << u"India"_s << u"60,0,60"_s << false << 61 << true;
     }
 
     void StayTime() {
         QFETCH(QString, commandLine);
         QFETCH(QString, stayTime);
-        QFETCH(QString, tag);
+        QFETCH(bool, isWrapper);
         QFETCH(int, seconds);
         QFETCH(bool, closes);
-        Clock clock(ClockState::Running, tag);
+        Clock clock(ClockState::Running, {ClockKind::Analogue, isWrapper});
         clock.Module.CommandLine = commandLine;
         mduLib::PutPropertyRaw(u"Stay Time"_s, stayTime, clock.Data.EditProperties());
         clock.Machine.SetNow(clock.Machine.Now().addSecs(seconds));
@@ -260,18 +265,21 @@ private Q_SLOTS:
     }
 
     void RedrawRequestByMode_data() {
-        QTest::addColumn<QString>("tag");
+        QTest::addColumn<ClockKind>("kind");
         QTest::addColumn<QString>("calls");
-        QTest::newRow("analogue") << u"1"_s << u"SetSunMoon|PlaceTimerMarks"_s;
-        QTest::newRow("digital") << u"2"_s << u"SetDigitalLayout|PlaceTimerMarks"_s;
-        QTest::newRow("calculator") << u"3"_s << u"SetCalculatorLayout|PlaceTimerMarks"_s;
-        QTest::newRow("both") << u"4"_s << u"SetSunMoon|SetDigitalLayout|PlaceTimerMarks"_s;
-        QTest::newRow("input") << u"5"_s << u"SetCalculatorLayout|PlaceTimerMarks"_s;
+        QTest::newRow("analogue") << ClockKind::Analogue << u"SetSunMoon|PlaceTimerMarks"_s;
+        QTest::newRow("digital") << ClockKind::Digital << u"SetDigitalLayout|PlaceTimerMarks"_s;
+        QTest::newRow("calculator")
+            << ClockKind::Calculator << u"SetCalculatorLayout|PlaceTimerMarks"_s;
+        QTest::newRow("both") << ClockKind::AnalogueAndDigital
+                              << u"SetSunMoon|SetDigitalLayout|PlaceTimerMarks"_s;
+        QTest::newRow("input") << ClockKind::CalculatorInput
+                               << u"SetCalculatorLayout|PlaceTimerMarks"_s;
     }
 
     void RedrawRequestByMode() {
-        QFETCH(QString, tag);
-        Clock clock(ClockState::Running, tag);
+        QFETCH(ClockKind, kind);
+        Clock clock(ClockState::Running, {kind, false});
         clock.Tick.RequestRedraw();
         QTEST(clock.Parts.Log.join(u'|'), "calls");
         QCOMPARE(clock.Data.State, ClockState::RedrawRequested);

@@ -50,12 +50,7 @@ const QStringList YesNo = {u"Yes"_s, u"No"_s};
 
 std::vector<Expected> WordRows() {
     return {
-        {u"Clocks"_s,
-         Kind::Words,
-         {clockcore::ClockModeName(clockcore::Analogue),
-          clockcore::ClockModeName(clockcore::Digital),
-          clockcore::ClockModeName(clockcore::Calculator),
-          clockcore::ClockModeName(clockcore::AnalogueAndDigital)}},
+        {u"Clocks"_s, Kind::Words, clockcore::ClockKindNames()},
         {u"Enable"_s, Kind::Words, YesNo},
         {u"Clock Shape"_s, Kind::Words, drawing::ShapeNames()},
         {u"Clock Special"_s, Kind::Words, drawing::ClockSpecialNames()},

@@ -458,7 +458,7 @@ private Q_SLOTS:
 
     void WrapperFillsTheShell() {
         Child child;
-        child.Data.Tag = u"8"_s;
+        child.Data.Tag = {clockcore::ClockKind::Analogue, true};
         child.Set(u"Window State"_s, u"Minimized"_s);
         child.Place.ApplyWindowState();
         QVERIFY(child.Frame().isVisible());
@@ -496,7 +496,7 @@ private Q_SLOTS:
             child.Set(key, u"7"_s);
         }
         child.Place.ShowClockWindow(true);
-        child.Place.MoveTo(caption, child.Data);
+        child.Place.MoveTo(caption);
         QCOMPARE(child.Frame().geometry(), QRect(place, QSize(200, 150)));
         QStringList values;
         for (const QString& key : keys) {

@@ -259,7 +259,7 @@ void tst_TroubledTimers::SurvivesASetClock() {
     desk.Devices.Voices.Names.clear();
     frmTempolark* clock = desk.Launch("5,red,,Lock Workstation,0#12:1@Go\r\n");
     int fired = 0;
-    clock->WatchFiring([&](int, const timers::ClockTimer&) { ++fired; });
+    clock->Watch({.Firing = [&](int, const timers::ClockTimer&) { ++fired; }});
     desk.Pass(Minute + 20 * Second);
     QCOMPARE(fired, 1);
     platform::SimulatedClock& now = desk.Base.Machine.Clock;

@@ -17,7 +17,7 @@ private Q_SLOTS:
         QVERIFY(clock != nullptr);
         QCOMPARE(clock->Data().State, ClockState::FirstTickDue);
         QVERIFY(!clock->isVisible());
-        QCOMPARE(clock->Data().Tag, u"1"_s);
+        QCOMPARE(clock->Data().Tag.Text(), u"1"_s);
         QCOMPARE(clock->Data().Zone.HoursFromLocal, 5.75F);
         QCOMPARE(clock->GetLocation(), u"Nepal Standard Time"_s);
         QCOMPARE(clock->IniFile(), desk.Path(u"Nepal Standard Time"_s));
@@ -231,7 +231,7 @@ private Q_SLOTS:
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
         clock->SetClocks(2);
-        QCOMPARE(clock->Data().Tag, u"2"_s);
+        QCOMPARE(clock->Data().Tag.Text(), u"2"_s);
         QCOMPARE(mduLib::GetProperty(u"Clocks"_s, clock->Data().Properties()), u"Digital"_s);
         clock->SetClocks(1);
         clock->SetWindowBackColour({}, u"Transparent"_s);

@@ -70,21 +70,6 @@ private Q_SLOTS:
         QCOMPARE(evening.Hour, 3.14159265358979 - 3.14159265358979 * 18 / 6);
         QCOMPARE(evening.Second, 3.14159265358979 - 6.28318530717958 * 45 / 60);
     }
-
-    void ReadsCaption_data() {
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<QList<int>>("time");
-        QTest::newRow("whole") << u"23:59:08"_s << QList{23, 59, 8};
-        QTest::newRow("no seconds") << u"07:05"_s << QList{7, 5, 0};
-        QTest::newRow("empty") << QString() << QList{0, 0, 0};
-        QTest::newRow("garbage") << u"a:b:c"_s << QList{0, 0, 0};
-    }
-
-    void ReadsCaption() {
-        QFETCH(QString, caption);
-        QFETCH(QList<int>, time);
-        QCOMPARE(drawing::ReadHandTime(caption), (HandTime{time[0], time[1], time[2]}));
-    }
 };
 
 QTEST_APPLESS_MAIN(tst_Angles)

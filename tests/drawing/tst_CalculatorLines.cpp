@@ -54,7 +54,7 @@ struct Lines {
 /// A calculator whose input has begun with both lines blank.
 struct BlankLines : Lines {
     BlankLines() {
-        Calculator.SetCalculatorClock(false);
+        Calculator.SetCalculatorClock(drawing::CalculatorTexts::Blank);
         Calculator.BeginInput();
         Face.Window.Status.clear();
     }
@@ -108,7 +108,7 @@ private Q_SLOTS:
 
 void tst_CalculatorLines::ShowsThePresentTime() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00"_s);
     QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: 15/06/2026 17:30:00"_s);
     QCOMPARE(lines.Local().Tag, u"15/06/2026 12:00:00"_s);
@@ -119,7 +119,7 @@ void tst_CalculatorLines::ShowsThePresentTime() {
 
 void tst_CalculatorLines::FollowsTheClock() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Face.Machine.Clock.SetNow(QDateTime(QDate(2026, 12, 31), QTime(22, 9, 5, 990), Qt::UTC));
     lines.Calculator.DrawCalculatorClock();
     QCOMPARE(lines.Local().Caption, u"Local Time: 31/12/2026 22:09:05"_s);
@@ -128,7 +128,7 @@ void tst_CalculatorLines::FollowsTheClock() {
 
 void tst_CalculatorLines::ShowsBlankLines() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(false);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::Blank);
     QCOMPARE(lines.Local().Caption, u"Local Time: "_s);
     QCOMPARE(lines.Zone().Caption, u"Hill Daylight Time: "_s);
     QCOMPARE(lines.Local().Tag, QString());
@@ -139,7 +139,7 @@ void tst_CalculatorLines::ShowsBlankLines() {
 void tst_CalculatorLines::GivesColoursAndHidesTheDigits() {
     Lines lines;
     lines.Face.Controls.lblDigitalNumber(3).Visible = true;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QCOMPARE(lines.Local().ForeColor, 0x0000FF);
     QCOMPARE(lines.Zone().ForeColor, 0xFF0000);
     QVERIFY(!lines.Face.Controls.lblDigitalNumber(3).Visible);
@@ -147,7 +147,7 @@ void tst_CalculatorLines::GivesColoursAndHidesTheDigits() {
 
 void tst_CalculatorLines::Hides() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.HideCalculatorClock();
     QVERIFY(!lines.Local().Visible);
     QVERIFY(!lines.Zone().Visible);
@@ -178,7 +178,7 @@ void tst_CalculatorLines::GivesFontsAndSizes() {
 
 void tst_CalculatorLines::StandsInTheMiddle() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     for (const mduUILib::Control* line : {&lines.Local(), &lines.Zone()}) {
         const float middle = line->Left + line->Width / 2;
         QVERIFY2(qAbs(middle - 300) < 2, qPrintable(QString::number(middle)));
@@ -193,7 +193,7 @@ void tst_CalculatorLines::StandsInTheMiddle() {
 void tst_CalculatorLines::StandsStillWhileTheTimeRuns() {
     Lines lines;
     lines.Face.Machine.Clock.SetNow(QDateTime(QDate(2026, 6, 15), QTime(9, 59, 59), Qt::UTC));
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     const float left = lines.Local().Left;
     const float width = lines.Local().Width;
     lines.Face.Machine.Clock.Advance(1000);
@@ -206,7 +206,7 @@ void tst_CalculatorLines::StandsStillWhileTheTimeRuns() {
 void tst_CalculatorLines::KeepsLinesThatAreTooLongAtTheLeft() {
     Lines lines;
     lines.Face.Window.Resize(100, 100);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QCOMPARE(lines.Local().Left, 4.0F);
     QCOMPARE(lines.Zone().Left, 4.0F);
     QVERIFY(lines.Zone().Width > 100);
@@ -216,7 +216,7 @@ void tst_CalculatorLines::FillsTheWidth() {
     Lines lines;
     lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
     lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QVERIFY(lines.Zone().Width > 500);
     QVERIFY(lines.Zone().Width <= 592);
     QCOMPARE(lines.Local().Font.pointSizeF(), lines.Zone().Font.pointSizeF());
@@ -226,7 +226,7 @@ void tst_CalculatorLines::FillsTheWidthAtHighResolution() {
     Lines lines(2);
     lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
     lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QVERIFY(lines.Zone().Width > 1000);
     QVERIFY(lines.Zone().Width <= 1184);
 }
@@ -234,7 +234,7 @@ void tst_CalculatorLines::FillsTheWidthAtHighResolution() {
 void tst_CalculatorLines::FillsTheWidthByTheLongestLine() {
     Lines lines;
     lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QVERIFY(lines.Local().Width > 500);
     QVERIFY(lines.Local().Width <= 592);
     QCOMPARE(lines.Zone().Font.pointSizeF(), 12.0);
@@ -245,7 +245,7 @@ void tst_CalculatorLines::KeepsToTheHeight() {
     lines.Face.Window.Resize(600, 30);
     lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
     lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QVERIFY(lines.Local().Top >= 0);
     QVERIFY(lines.Zone().Top + lines.Zone().Height <= 30);
     QVERIFY(lines.Local().Top + lines.Local().Height <= lines.Zone().Top);
@@ -253,7 +253,7 @@ void tst_CalculatorLines::KeepsToTheHeight() {
 
 void tst_CalculatorLines::BeginsInput() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     QVERIFY(!lines.Calculator.EditingZoneLine());
     QCOMPARE(lines.Local().Caption, u"Local Time: 15/06/2026 12:00:00 _"_s);
@@ -264,7 +264,7 @@ void tst_CalculatorLines::BeginsInput() {
 
 void tst_CalculatorLines::TabMovesTheCaret() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     QVERIFY(lines.Calculator.EditCalculatorKey(9));
     QVERIFY(lines.Calculator.EditingZoneLine());
@@ -361,7 +361,7 @@ void tst_CalculatorLines::MovingTheCaretConvertsNothing() {
 
 void tst_CalculatorLines::EscGivesTheTextsBack() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     lines.Press(8, 19);
     lines.Type(u"15/1/2026 10:00"_s);
@@ -405,7 +405,7 @@ void tst_CalculatorLines::CapsTheText() {
 
 void tst_CalculatorLines::BeginsAnewInTheLocalLine() {
     Lines lines;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     lines.Press(9);
     lines.Press(45);
@@ -422,10 +422,11 @@ void tst_CalculatorLines::BeginsAnewInTheLocalLine() {
 void tst_CalculatorLines::TellsOfEscWhileItStandsStill() {
     Lines lines;
     const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QVERIFY(!hint.Visible);
     for (const auto& leave : std::initializer_list<std::function<void()>>{
-             [&] { lines.Press(27); }, [&] { lines.Calculator.SetCalculatorClock(true); },
+             [&] { lines.Press(27); },
+             [&] { lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime); },
              [&] { lines.Calculator.HideCalculatorClock(); }}) {
         lines.Calculator.BeginInput();
         QVERIFY(hint.Visible);
@@ -444,7 +445,7 @@ void tst_CalculatorLines::TellsOfEscWhileItStandsStill() {
 void tst_CalculatorLines::PlacesTheHintBelowTheLines() {
     Lines lines;
     const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     QCOMPARE(hint.Font.family(), u"Liberation Sans"_s);
     QCOMPARE(hint.Font.pointSizeF(), 7.2);  // 0.6 of 12
@@ -477,7 +478,7 @@ void tst_CalculatorLines::AutomaticLinesMakeRoomForTheHint() {
     lines.Face.Set(u"Calculator Local Time Font Size"_s, u"-1"_s);
     lines.Face.Set(u"Calculator Time Font Size"_s, u"-1"_s);
     lines.Face.Window.Resize(width, height);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     const double size = lines.Local().Font.pointSizeF();
     const QRectF zone = lines.Zone().Rect();
     lines.Calculator.BeginInput();
@@ -498,7 +499,7 @@ void tst_CalculatorLines::LinesMoveUpForTheHint() {
     Lines lines;
     const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
     lines.Face.Window.Resize(600, 70);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     const float local = lines.Local().Top;
     const float zone = lines.Zone().Top;
     lines.Calculator.BeginInput();
@@ -507,7 +508,7 @@ void tst_CalculatorLines::LinesMoveUpForTheHint() {
     QVERIFY(lines.Local().Top < local && lines.Local().Top >= 0);
     QVERIFY(qAbs(local - lines.Local().Top - (zone - lines.Zone().Top)) <= 1);
     QCOMPARE(lines.Local().Font.pointSizeF(), 12.0);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     QCOMPARE(lines.Local().Top, local);
     lines.Face.Window.Resize(600, 60);
     lines.Calculator.BeginInput();  // there is no room: they stay in the middle
@@ -531,7 +532,7 @@ void tst_CalculatorLines::EnterTellsOfEscAgain() {
 void tst_CalculatorLines::TellsOfEscInTheStatusBarWithoutRoom() {
     Lines lines;
     const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     QCOMPARE(
         lines.Face.Window.Status,
@@ -569,7 +570,7 @@ void tst_CalculatorLines::SurvivesBadInput() {
         }
     }
     lines.Face.Zone.HoursFromLocal = 1e9F;
-    lines.Calculator.SetCalculatorClock(true);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
     lines.Calculator.BeginInput();
     lines.Press('1', 50);
     lines.Face.Window.Drawn.Paint([&](QPainter& painter) {

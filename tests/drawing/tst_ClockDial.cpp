@@ -35,7 +35,7 @@ struct DialOnFace : FakeFace {
     ClockDial Dial{Context()};
 
     DialOnFace& LaidOut() {
-        Dial.SetClockDial(true, {}, false, false);
+        Dial.SetClockDial({drawing::DialParts::All});
         return *this;
     }
 
@@ -153,7 +153,7 @@ private Q_SLOTS:
 
     void StyleGivenGoesBeforeTheProperty() {
         DialOnFace face(u"Number 12"_s);
-        face.Dial.SetClockDial(true, u"True Roman Vertical 2"_s, false, false);
+        face.Dial.SetClockDial({.Style = u"True Roman Vertical 2"_s});
         QVERIFY(face.Dial.NumbersArePainted());
         QCOMPARE(face.Dial.Numbers().size(), 2U);
     }
@@ -284,16 +284,16 @@ private Q_SLOTS:
         DialOnFace face(u"3D 12"_s);
         face.LaidOut();
         const int red = face.Pixels(Red);
-        face.Dial.DrawDialNumbers(true, {}, true);
+        face.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
         QCOMPARE(face.Dial.Shadows().size(), 12U);
         QCOMPARE(face.Pixels(Red), red);
-        face.Dial.DrawDialNumbers(true, u"Roman 12"_s, true);
+        face.Dial.SetClockDial({drawing::DialParts::Numbers, u"Roman 12"_s});
         QVERIFY(face.Dial.Shadows().empty());
     }
 
     void ShadowForm() {
         DialOnFace face(u"Roman 12"_s);
-        face.Dial.SetClockDial(true, {}, true, true);
+        face.Dial.SetClockDial({.Parts = drawing::DialParts::Numbers, .AsShadow = true});
         QCOMPARE(face.Dial.Shadows().size(), 12U);
         QVERIFY(face.Dial.Numbers().empty());
     }
@@ -389,7 +389,7 @@ private Q_SLOTS:
 
     void NumbersOnlyLeavesTheSpots() {
         DialOnFace face(u"Number 12"_s);
-        face.Dial.DrawDialNumbers(true, {}, true);
+        face.Dial.DrawDialNumbers(drawing::DialParts::Numbers);
         QCOMPARE(face.VisibleSpots(), QString());
         QVERIFY(face.Label(15).Visible);
     }
@@ -397,7 +397,7 @@ private Q_SLOTS:
     void HidesAll() {
         DialOnFace face(u"3D 12"_s);
         face.LaidOut();
-        face.Dial.SetClockDial(false, {}, false, false);
+        face.Dial.SetClockDial({drawing::DialParts::None});
         QCOMPARE(face.VisibleLabels() + face.VisibleSpots(), QString());
         QVERIFY(face.Dial.Numbers().empty() && face.Dial.Shadows().empty());
         QVERIFY(!face.Dial.NumbersArePainted());

@@ -143,6 +143,9 @@ void tst_DigitalReadOut::FillsTheDigits_data() {
                            << QStringList{none, none, u"05"_s, none, none, none} << u"15:05:07"_s;
     QTest::newRow("abc") << u"abc"_s << afternoon
                          << QStringList{none, none, u"05"_s, none, none, none} << u"15:05:07"_s;
+    QTest::newRow("an order of its own")
+        << u"ss:mm:hh"_s << afternoon
+        << QStringList{u"15"_s, u":"_s, u"05"_s, u":"_s, u"07"_s, none} << u"07:05:15"_s;
     QTest::newRow("hours alone") << u"hh"_s << afternoon
                                  << QStringList{u"15"_s, u":"_s, u"05"_s, none, none, none}
                                  << u"15"_s;

@@ -134,7 +134,8 @@ void tst_HelpContents::tellsOfTheToolbar() {
 }
 
 void tst_HelpContents::tellsOfTheClocksMenu() {
-    const std::unique_ptr<QMenu> menu(clockcore::MakeLookMenu(nullptr, 1, {}, {}));
+    const std::unique_ptr<QMenu> menu(
+        clockcore::MakeLookMenu(nullptr, clockcore::ClockKind::Analogue, {}, {}));
     QStringList captions = Captions(*menu);
     QCOMPARE(captions.size(), 9);  // two of them are separators
     captions += SubCaptions(*menu, u"ClockStyles"_s);

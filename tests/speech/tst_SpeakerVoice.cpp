@@ -21,7 +21,7 @@ struct VoiceDesk : SpeechDesk {
 struct Patterns final : SpokenTime {
     explicit Patterns(ClockVoice& voice) : Voice(voice) {}
     ClockVoice& Voice;
-    void SpeakTimeNow() override { Voice.SpeakMessage(u"noon"_s, 2, true); }
+    void SpeakTimeNow() override { Voice.SpeakMessage(u"noon"_s, 2, Urgency::Urgent); }
 };
 
 QStringList Captions(const SpeakerVoice& voice) {
@@ -152,7 +152,7 @@ void tst_SpeakerVoice::MakesOneVoice() {
 void tst_SpeakerVoice::SpeaksStepByStep() {
     VoiceDesk desk;
     desk.Devices.Voices.WhileSpeaking = [&] { desk.Host.Log += u"speaking"_s; };
-    desk.Voice.SpeakMessage(u"Tea"_s, 2, false);
+    desk.Voice.SpeakMessage(u"Tea"_s, 2, Urgency::Routine);
     QCOMPARE(desk.Host.Log,
              QStringList({u"picture 5"_s, u"show"_s, u"speaking"_s, u"picture 3"_s}));
     QCOMPARE(desk.Said(), QStringList{u"2 Tea"_s});
@@ -162,10 +162,10 @@ void tst_SpeakerVoice::SpeaksStepByStep() {
 void tst_SpeakerVoice::SpeaksInTheActiveClockOnly() {
     VoiceDesk desk;
     desk.Host.Active = false;
-    desk.Voice.SpeakMessage(u"pattern"_s, 0, false);
+    desk.Voice.SpeakMessage(u"pattern"_s, 0, Urgency::Routine);
     QCOMPARE(desk.Said(), QStringList());
     QCOMPARE(desk.Host.Log, QStringList());
-    desk.Voice.SpeakMessage(u"timer"_s, 0, true);
+    desk.Voice.SpeakMessage(u"timer"_s, 0, Urgency::Urgent);
     QCOMPARE(desk.Said(), QStringList{u"2 timer"_s});
 }
 
@@ -184,7 +184,7 @@ void tst_SpeakerVoice::SpeaksAboveLevelZero() {
     QFETCH(QString, level);
     VoiceDesk desk;
     desk.Mark().Tag = level;
-    desk.Voice.SpeakMessage(u"Tea"_s, 2, true);
+    desk.Voice.SpeakMessage(u"Tea"_s, 2, Urgency::Urgent);
     QTEST(desk.Said(), "said");
 }
 
@@ -201,27 +201,27 @@ void tst_SpeakerVoice::PassesFlags_data() {
 void tst_SpeakerVoice::PassesFlags() {
     QFETCH(int, flags);
     VoiceDesk desk;
-    desk.Voice.SpeakMessage(u"Tea"_s, flags, true);
+    desk.Voice.SpeakMessage(u"Tea"_s, flags, Urgency::Urgent);
     QTEST(desk.Said(), "said");
 }
 
 void tst_SpeakerVoice::SpeaksNoEmptyText() {
     VoiceDesk desk;
-    desk.Voice.SpeakMessage(QString(), 2, true);
+    desk.Voice.SpeakMessage(QString(), 2, Urgency::Urgent);
     QCOMPARE(desk.Said(), QStringList());
     QCOMPARE(desk.Host.Log, QStringList());
 }
 
 void tst_SpeakerVoice::Purges() {
     VoiceDesk desk;
-    desk.Voice.PurgeSpeech(true);
+    desk.Voice.PurgeSpeech(Urgency::Urgent);
     QCOMPARE(desk.Said(), QStringList{u"2 ."_s});
     QCOMPARE(desk.Host.Log, QStringList{u"show"_s});
 
     desk.Host.Active = false;
-    desk.Voice.PurgeSpeech(false);
+    desk.Voice.PurgeSpeech(Urgency::Routine);
     desk.Mark().Tag = u"0"_s;
-    desk.Voice.PurgeSpeech(true);
+    desk.Voice.PurgeSpeech(Urgency::Urgent);
     QCOMPARE(desk.Said(), QStringList{u"2 ."_s});
 }
 
@@ -231,7 +231,7 @@ void tst_SpeakerVoice::TellsOnceWhyItCannotSpeak() {
     const auto sayAt = [&](int minute, const QString& failure) {
         desk.SetTime(15, 12, minute, 0);
         desk.Devices.Voices.Failure = failure;
-        desk.Voice.SpeakMessage(QString::number(minute), 2, true);
+        desk.Voice.SpeakMessage(QString::number(minute), 2, Urgency::Urgent);
     };
     sayAt(0, u"no sound server"_s);
     sayAt(1, u"no sound server"_s);
@@ -249,8 +249,8 @@ void tst_SpeakerVoice::RestsAfterAFailure() {
     desk.Devices.Voices.Failure = u"no sound server"_s;
     for (int second = 0; second < 20 * 60; ++second) {
         desk.SetTime(15, 12, second / 60, second % 60);
-        desk.Voice.PurgeSpeech(true);
-        desk.Voice.SpeakMessage(u"n"_s, 0, true);
+        desk.Voice.PurgeSpeech(Urgency::Urgent);
+        desk.Voice.SpeakMessage(u"n"_s, 0, Urgency::Urgent);
     }
     QCOMPARE(desk.Said().count(u"2 n"_s), 20);
     QCOMPARE(desk.Said().count(u"2 ."_s), 20);
@@ -262,20 +262,20 @@ void tst_SpeakerVoice::RestsForAMinute() {
     VoiceDesk desk;
     desk.Devices.Voices.Failure = u"busy"_s;
     desk.SetTime(15, 12, 0, 0);
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     desk.Devices.Voices.Failure.clear();
     desk.SetTime(15, 12, 0, 59);
-    desk.Voice.SpeakMessage(u"two"_s, 2, true);
+    desk.Voice.SpeakMessage(u"two"_s, 2, Urgency::Urgent);
     desk.SetTime(15, 12, 1, 0);
-    desk.Voice.SpeakMessage(u"three"_s, 2, true);
-    desk.Voice.SpeakMessage(u"four"_s, 2, true);
+    desk.Voice.SpeakMessage(u"three"_s, 2, Urgency::Urgent);
+    desk.Voice.SpeakMessage(u"four"_s, 2, Urgency::Urgent);
     QCOMPARE(desk.Said(), QStringList({u"2 one"_s, u"2 three"_s, u"2 four"_s}));
 }
 
 void tst_SpeakerVoice::AClickWakesARestingVoice() {
     VoiceDesk desk;
     desk.Devices.Voices.Failure = u"busy"_s;
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     desk.Voice.SpeakNow(u"two"_s);
     Patterns patterns(desk.Voice);
     desk.Voice.ClickSpeaker(patterns);
@@ -286,7 +286,7 @@ void tst_SpeakerVoice::AClickWakesARestingVoice() {
 void tst_SpeakerVoice::SpeaksOnByItself() {
     VoiceDesk desk;
     desk.Devices.Voices.Lasting = true;
-    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, Urgency::Urgent);
     QVERIFY(desk.Voice.IsSpeaking());
     QCOMPARE(desk.Host.Log, QStringList({u"picture 5"_s, u"show"_s}));
     desk.Devices.Voices.EndText();
@@ -299,8 +299,8 @@ void tst_SpeakerVoice::HoldsTextsForItsMouth() {
     VoiceDesk desk;
     desk.Devices.Voices.Lasting = true;
     for (const QString& text : {u"Tea"_s, u"Eggs"_s, u"Toast"_s}) {
-        desk.Voice.PurgeSpeech(true);
-        desk.Voice.SpeakMessage(text, 0, true);
+        desk.Voice.PurgeSpeech(Urgency::Urgent);
+        desk.Voice.SpeakMessage(text, 0, Urgency::Urgent);
     }
     QCOMPARE(desk.Said(), QStringList({u"2 ."_s, u"2 Tea"_s}));
     desk.Devices.Voices.EndText();
@@ -316,7 +316,7 @@ void tst_SpeakerVoice::HoldsTwentyTextsAtMost() {
     VoiceDesk desk;
     desk.Devices.Voices.Lasting = true;
     for (int text = 0; text < 100; ++text) {
-        desk.Voice.SpeakMessage(QString::number(text), 0, true);
+        desk.Voice.SpeakMessage(QString::number(text), 0, Urgency::Urgent);
     }
     for (int end = 0; end < 100; ++end) {
         desk.Devices.Voices.EndText();
@@ -328,8 +328,8 @@ void tst_SpeakerVoice::HoldsTwentyTextsAtMost() {
 void tst_SpeakerVoice::TellsOfAFailureThatShowsLater() {
     VoiceDesk desk;
     desk.Devices.Voices.Lasting = true;
-    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
-    desk.Voice.SpeakMessage(u"Eggs"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, Urgency::Urgent);
+    desk.Voice.SpeakMessage(u"Eggs"_s, 0, Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList());
     desk.Devices.Voices.Failure = u"no sound server"_s;
     desk.Devices.Voices.EndText();
@@ -342,8 +342,8 @@ void tst_SpeakerVoice::TellsOfAFailureThatShowsLater() {
 void tst_SpeakerVoice::FallsSilent() {
     VoiceDesk desk;
     desk.Devices.Voices.Lasting = true;
-    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
-    desk.Voice.SpeakMessage(u"Eggs"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, Urgency::Urgent);
+    desk.Voice.SpeakMessage(u"Eggs"_s, 0, Urgency::Urgent);
     desk.Voice.FallSilent();
     QVERIFY(!desk.Voice.IsSpeaking());
     QCOMPARE(desk.Host.Log.last(), u"picture 3"_s);
@@ -357,8 +357,8 @@ void tst_SpeakerVoice::FallsSilent() {
 void tst_SpeakerVoice::AClickCutsIn() {
     VoiceDesk desk;
     desk.Devices.Voices.Lasting = true;
-    desk.Voice.SpeakMessage(u"Tea"_s, 0, true);
-    desk.Voice.SpeakMessage(u"Eggs"_s, 0, true);
+    desk.Voice.SpeakMessage(u"Tea"_s, 0, Urgency::Urgent);
+    desk.Voice.SpeakMessage(u"Eggs"_s, 0, Urgency::Urgent);
     desk.Voice.SpeakNow(u"now"_s);
     QCOMPARE(desk.Said(), QStringList({u"2 Tea"_s, u"2 ."_s, u"2 now"_s}));
     Patterns patterns(desk.Voice);
@@ -409,14 +409,14 @@ void tst_SpeakerVoice::TellsOfEachTimer() {
     desk.Devices.Voices.Failure = u"no engine"_s;
     desk.Voice.PrepareSpeaker();
     desk.SetTime(15, 8, 0, 0);
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     desk.SetTime(15, 8, 0, 59);
-    desk.Voice.SpeakMessage(u"two"_s, 2, true);
+    desk.Voice.SpeakMessage(u"two"_s, 2, Urgency::Urgent);
     desk.SetTime(15, 12, 0, 0);
-    desk.Voice.SpeakMessage(u"noon"_s, 2, false);
+    desk.Voice.SpeakMessage(u"noon"_s, 2, Urgency::Routine);
     QCOMPARE(desk.Host.Status, QStringList{told});
     desk.SetTime(15, 20, 0, 0);
-    desk.Voice.SpeakMessage(u"three"_s, 2, true);
+    desk.Voice.SpeakMessage(u"three"_s, 2, Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList({told, told}));
 }
 
@@ -427,11 +427,11 @@ void tst_SpeakerVoice::TellsAgainAfterSpeaking() {
     const auto say = [&](const QString& failure) {
         desk.SetTime(15, 12, minute++, 0);
         desk.Devices.Voices.Failure = failure;
-        desk.Voice.SpeakMessage(u"Tea"_s, 2, true);
+        desk.Voice.SpeakMessage(u"Tea"_s, 2, Urgency::Urgent);
     };
     say(u"busy"_s);
     desk.Devices.Voices.Failure.clear();
-    desk.Voice.PurgeSpeech(true);
+    desk.Voice.PurgeSpeech(Urgency::Urgent);
     say(u"busy"_s);
     QCOMPARE(desk.Host.Status, QStringList{told});
     say({});
@@ -442,13 +442,13 @@ void tst_SpeakerVoice::TellsAgainAfterSpeaking() {
 void tst_SpeakerVoice::TellsOfPatternsOnce() {
     VoiceDesk desk;
     desk.Devices.Voices.Failure = u"first"_s;
-    desk.Voice.SpeakMessage(u"one"_s, 0, false);
+    desk.Voice.SpeakMessage(u"one"_s, 0, Urgency::Routine);
     desk.Devices.Voices.Failure = u"second"_s;
     desk.SetTime(15, 12, 1, 0);
-    desk.Voice.SpeakMessage(u"two"_s, 0, false);
+    desk.Voice.SpeakMessage(u"two"_s, 0, Urgency::Routine);
     QCOMPARE(desk.Host.Status, QStringList{u"The clock can't speak: first"_s});
     desk.SetTime(15, 12, 2, 0);
-    desk.Voice.SpeakMessage(u"three"_s, 0, true);
+    desk.Voice.SpeakMessage(u"three"_s, 0, Urgency::Urgent);
     QCOMPARE(desk.Host.Status.last(), u"The clock can't speak: second"_s);
 }
 
@@ -458,7 +458,7 @@ void tst_SpeakerVoice::TellsOfATimerAmongPatterns() {
     desk.Devices.Voices.Failure = u"no engine"_s;
     for (int minute = 0; minute < 30; ++minute) {
         desk.SetTime(15, 12, minute, 0);
-        desk.Voice.SpeakMessage(u"pattern"_s, 0, minute == 28);
+        desk.Voice.SpeakMessage(u"pattern"_s, 0, minute == 28 ? Urgency::Urgent : Urgency::Routine);
     }
     QCOMPARE(desk.Host.Status.size(), 2);
 }
@@ -466,19 +466,19 @@ void tst_SpeakerVoice::TellsOfATimerAmongPatterns() {
 void tst_SpeakerVoice::KeepsQuietAboutAPurge() {
     VoiceDesk desk;
     desk.Devices.Voices.Failure = u"busy"_s;
-    desk.Voice.PurgeSpeech(true);
+    desk.Voice.PurgeSpeech(Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList());
 }
 
 void tst_SpeakerVoice::TellsWithoutAReason() {
     VoiceDesk desk;
     desk.Devices.Voices.Silent = true;
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList{u"The clock can't speak: the voice failed"_s});
 
     VoiceDesk mute;
     mute.Devices.Voices.Present = false;
-    mute.Voice.SpeakMessage(u"one"_s, 2, true);
+    mute.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     QCOMPARE(mute.Host.Status, QStringList{u"The clock can't speak: this machine has no voice"_s});
     QCOMPARE(mute.Host.Log.last(), u"picture 3"_s);
 }
@@ -490,11 +490,11 @@ void tst_SpeakerVoice::TellsOfAMachineWithoutVoices() {
     desk.Devices.Voices.Names.clear();
     desk.Devices.Voices.Failure = u"no engine"_s;
     desk.Voice.PrepareSpeaker();
-    desk.Voice.PurgeSpeech(true);
-    desk.Voice.SpeakMessage(QString(), 2, true);
+    desk.Voice.PurgeSpeech(Urgency::Urgent);
+    desk.Voice.SpeakMessage(QString(), 2, Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList());
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
-    desk.Voice.SpeakMessage(u"two"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
+    desk.Voice.SpeakMessage(u"two"_s, 2, Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList{u"The clock can't speak: no engine"_s});
     QCOMPARE(desk.Said(), QStringList());
     QCOMPARE(desk.Host.Log, QStringList());
@@ -504,10 +504,10 @@ void tst_SpeakerVoice::KeepsQuietWhereTheUserChoseSilence() {
     VoiceDesk desk;
     desk.Set(u"Speaker Volume"_s, u"0"_s);
     desk.Voice.PrepareSpeaker();
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     desk.Devices.Voices.Names.clear();
     desk.Voice.PrepareSpeaker();
-    desk.Voice.SpeakMessage(u"one"_s, 2, true);
+    desk.Voice.SpeakMessage(u"one"_s, 2, Urgency::Urgent);
     QCOMPARE(desk.Host.Status, QStringList());
 }
 

@@ -16,8 +16,8 @@ public:
     QStringList Log;
     bool Busy = false;
     bool IsSpeaking() const override { return Busy; }
-    void SpeakMessage(const QString& text, int flags, bool force) override {
-        Log += QString::number(flags) + (force ? u"! "_s : u" "_s) + text;
+    void SpeakMessage(const QString& text, int flags, Urgency urgency) override {
+        Log += QString::number(flags) + (urgency == Urgency::Urgent ? u"! "_s : u" "_s) + text;
     }
 };
 
@@ -215,9 +215,9 @@ void tst_SpokenPatterns::ForcesAKind() {
     PatternDesk desk;
     desk.SetPatterns(QString(), QString(), u"<LongTime>"_s, QString());
     const QDateTime moment(QDate(2026, 6, 15), QTime(9, 8, 7), Qt::UTC);
-    QVERIFY(!desk.Spoken.SpeakPatternOfKind(moment, HourPattern, false, 0));
-    QVERIFY(!desk.Spoken.SpeakPatternOfKind(moment, MinutePattern, true, 2));
-    QVERIFY(desk.Spoken.SpeakPatternOfKind(moment, HourPattern, true, 1));
+    QVERIFY(!desk.Spoken.SpeakPatternOfKind(moment, HourPattern, Urgency::Routine, 0));
+    QVERIFY(!desk.Spoken.SpeakPatternOfKind(moment, MinutePattern, Urgency::Urgent, 2));
+    QVERIFY(desk.Spoken.SpeakPatternOfKind(moment, HourPattern, Urgency::Urgent, 1));
     QCOMPARE(desk.Voice.Log, QStringList{u"1! 09:08:07"_s});
 }
 

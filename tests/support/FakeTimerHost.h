@@ -29,16 +29,16 @@ public:
     std::function<void()> WhileSpeaking;  ///< what the user does in the meantime
     std::function<std::optional<QRectF>(double top, double height, double width)> Outline;
 
-    void SpeakMessage(const QString& text, int flags, bool force) override {
+    void SpeakMessage(const QString& text, int flags, Urgency urgency) override {
         Events += QStringLiteral("speak:") + text;
-        Forced = Forced && force && flags == 0;
+        Forced = Forced && urgency == Urgency::Urgent && flags == 0;
         if (WhileSpeaking) {
             WhileSpeaking();
         }
     }
-    void PurgeSpeech(bool force) override {
+    void PurgeSpeech(Urgency urgency) override {
         Events += QStringLiteral("purge");
-        Forced = Forced && force;
+        Forced = Forced && urgency == Urgency::Urgent;
     }
     void PlaySound(const QString& path) override { Events += QStringLiteral("sound:") + path; }
     void StopMusic() override { Events += QStringLiteral("stop-music"); }

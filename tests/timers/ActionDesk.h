@@ -9,8 +9,8 @@ class StatusHost final : public timers::TimerHost {
 public:
     QStringList Status;
 
-    void SpeakMessage(const QString&, int, bool) override {}
-    void PurgeSpeech(bool) override {}
+    void SpeakMessage(const QString&, int, Urgency) override {}
+    void PurgeSpeech(Urgency) override {}
     void PlaySound(const QString&) override {}
     void StopMusic() override {}
     void ShowStatus(const QString& text) override { Status += text; }

@@ -1,6 +1,6 @@
 #include "clock/ui/LookMenu.h"
 
-#include "clock/ClockMode.h"
+#include "clock/ui/MenuEntries.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
 
@@ -10,14 +10,15 @@ namespace clockcore {
 
 namespace {
 
-void AddModes(QMenu& menu, int present, const std::function<void(int)>& choose) {
-    QMenu* modes = menu.addMenu(u"Clocks"_s);
-    modes->setObjectName(u"ClocksMenu"_s);
-    for (int mode = Analogue; mode <= AnalogueAndDigital; ++mode) {
+void AddKinds(QMenu& menu, ClockKind present, const std::function<void(ClockKind)>& choose) {
+    QMenu* kinds = menu.addMenu(u"Clocks"_s);
+    kinds->setObjectName(u"ClocksMenu"_s);
+    const QStringList names = ClockKindNames();
+    for (int number = 1; number <= names.size(); ++number) {
+        const ClockKind kind = NumberedClockKind(number);
         QAction* action =
-            modes->addAction(ClockModeName(mode), &menu, [choose, mode] { choose(mode); });
-        action->setCheckable(true);
-        action->setChecked(mode == present);
+            kinds->addAction(ClockKindName(kind), &menu, [choose, kind] { choose(kind); });
+        Mark(*action, kind == present);
     }
 }
 
@@ -45,12 +46,12 @@ void AddColours(QMenu& menu, const std::function<void(const QString&)>& choose) 
 
 }  // namespace
 
-QMenu* MakeLookMenu(QWidget* clock, int mode, const QStringList& styleFiles,
+QMenu* MakeLookMenu(QWidget* clock, ClockKind present, const QStringList& styleFiles,
                     const LookCommands& commands) {
     auto* menu = new QMenu(clock);
     menu->setObjectName(u"FormPopup"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    AddModes(*menu, mode, commands.SetClocks);
+    AddKinds(*menu, present, commands.SetClocks);
     AddStyles(*menu, styleFiles, commands.SetClockStyle);
     AddColours(*menu, commands.SetColour);
     menu->addSeparator();

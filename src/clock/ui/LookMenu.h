@@ -4,11 +4,13 @@
 #include <QStringList>
 #include <functional>
 
+#include "clock/ClockMode.h"
+
 namespace clockcore {
 
 /// What a right click on a clock offers of its look.
 struct LookCommands {
-    std::function<void(int mode)> SetClocks;
+    std::function<void(ClockKind kind)> SetClocks;
     std::function<void(const QString& name)> SetClockStyle;  ///< "More" asks for a file
     std::function<void(const QString& colour)> SetColour;    ///< a name, or "Custom"
     std::function<void()> SaveCurrentStyle;
@@ -17,10 +19,10 @@ struct LookCommands {
     std::function<void()> Close;
 };
 
-/// The pop-up menu of a clock's look, made at the moment of opening: the kind of clock (@p mode is
-/// ticked), the style files by their names, the colours of the window. It deletes itself when it
+/// The pop-up menu of a clock's look, made at the moment of opening: the kind of clock (@p present
+/// is ticked), the style files by their names, the colours of the window. It deletes itself when it
 /// closes.
-QMenu* MakeLookMenu(QWidget* clock, int mode, const QStringList& styleFiles,
+QMenu* MakeLookMenu(QWidget* clock, ClockKind present, const QStringList& styleFiles,
                     const LookCommands& commands);
 
 }  // namespace clockcore

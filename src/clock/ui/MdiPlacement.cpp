@@ -36,7 +36,7 @@ QRectF ToTwips(const QRect& pixels) {
 
 }  // namespace
 
-MdiPlacement::MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data,
+MdiPlacement::MdiPlacement(QWidget& clock, QMdiArea* area, ClockData& data,
                            platform::WallClock* time)
     : clock_(clock), area_(area), data_(data), time_(time), ownOutline_(clock) {}
 
@@ -78,7 +78,7 @@ void MdiPlacement::PlaceInTheMiddle() {
 }
 
 void MdiPlacement::ApplyWindowState() {
-    if (data_.Is(Wrapper)) {
+    if (data_.Tag.IsWrapper) {
         MaximiseWrapper();
         return;
     }
@@ -138,10 +138,10 @@ void MdiPlacement::SetClockCaption() {
                                             : u"Tempolark "_s + QStringLiteral(TEMPOLARK_VERSION));
 }
 
-void MdiPlacement::MoveTo(const QString& caption, ClockData& data) {
+void MdiPlacement::MoveTo(const QString& caption) {
     const auto says = [&caption](const QString& word) { return caption.contains(word); };
-    const auto store = [&data](const QString& key) {
-        mduLib::PutProperty(key, u"-1"_s, data.EditProperties());
+    const auto store = [this](const QString& key) {
+        mduLib::PutProperty(key, u"-1"_s, data_.EditProperties());
     };
     const QSizeF container = ContainerSize();
     QRectF rect = OuterRect();

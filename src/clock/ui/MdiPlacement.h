@@ -21,7 +21,7 @@ namespace clockcore {
 class MdiPlacement final : public ClockPlacement {
 public:
     /// @param time runs the animation of opening and closing; without it there is none
-    MdiPlacement(QWidget& clock, QMdiArea* area, const ClockData& data,
+    MdiPlacement(QWidget& clock, QMdiArea* area, ClockData& data,
                  platform::WallClock* time = nullptr);
 
     /// Makes the frame around the clock; invisible and, until the first tick, of no size.
@@ -43,24 +43,25 @@ public:
     void ShowClockWindow(bool show) override;
 
     /// An entry of the position menu: each word of its caption acts by itself. "Centre" and
-    /// "Auto Size" store -1 in @p data, which is the clock's.
-    void MoveTo(const QString& caption, ClockData& data);
+    /// "Auto Size" store -1 in the clock's properties.
+    void MoveTo(const QString& caption);
 
-    /// The outline of the outer window, in device pixels; an empty region takes it away.
-    void SetWindowRgn(const QRegion& outline);
-    /// Where the clock begins within the outer window, in device pixels.
-    QPoint SurfaceOffset() const;
-    /// Lets what the clock does not paint be see-through; a clock in the shell takes no notice.
-    void SetColourKey(bool on);
+    void SetWindowRgn(const QRegion& outline) override;
+    QPoint SurfaceOffset() const override;
+    /// A clock in the shell takes no notice.
+    void SetColourKey(bool on) override;
+    void SetIcon(const QImage& picture) override;
 
-    int WindowState() const;  ///< 0 normal, 1 minimised, 2 maximised
-    void SetWindowState(int state);
+    QString Caption() const override { return Outer().windowTitle(); }
+    int WindowState() const override;
+    void SetWindowState(int state) override;
+    bool IsShown() const override { return Outer().isVisible(); }
     void Show();
 
-    QRectF OuterRect() const;  ///< in twips, at this moment
-    /// What a file is to remember, in twips of the whole area: the place that the window has while
-    /// it is normal. Nothing for a minimised or maximised one that still has the place of its file.
-    std::optional<QRectF> PlaceToStore() const;
+    QRectF OuterRect() const override;
+    /// In twips of the whole area: the place that the window has while it is normal. Nothing for a
+    /// minimised or maximised one that still has the place of its file.
+    std::optional<QRectF> PlaceToStore() const override;
     void SetOuterRect(const QRectF& twips);
     void SetOuterSize(const QSizeF& twips);
 
@@ -83,7 +84,7 @@ private:
 
     QWidget& clock_;
     QMdiArea* area_;
-    const ClockData& data_;
+    ClockData& data_;
     platform::WallClock* time_;
     QPointer<ClockFrame> frame_;
     WindowOutline ownOutline_;  ///< of a clock that stands alone

@@ -1,4 +1,5 @@
 // The frame of a clock's window: border, title bar, outline, opening and closing.
+#include <QPixmap>
 #include <algorithm>
 
 #include "clock/ui/MdiPlacement.h"
@@ -35,7 +36,7 @@ void MdiPlacement::ApplyTitleBar() {
 }
 
 void MdiPlacement::ApplyLook() {
-    const bool bare = data_.Is(Wrapper) || drawing::IsFigure(WindowShape());
+    const bool bare = data_.Tag.IsWrapper || drawing::IsFigure(WindowShape());
     const FrameLook look = bare ? FrameLook{WindowBorder::NoBorder, false} : look_;
     if (frame_) {
         frame_->SetLook(look);
@@ -84,6 +85,10 @@ QPoint MdiPlacement::SurfaceOffset() const {
     }
     return (QPointF(clock_.mapTo(frame_.data(), QPoint(0, 0))) * clock_.devicePixelRatioF())
         .toPoint();
+}
+
+void MdiPlacement::SetIcon(const QImage& picture) {
+    Outer().setWindowIcon(QPixmap::fromImage(picture));
 }
 
 void MdiPlacement::SetColourKey(bool on) {

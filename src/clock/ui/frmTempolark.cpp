@@ -2,9 +2,6 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QPaintEvent>
-#include <QPainter>
-#include <cmath>
 
 #include "clock/ClockMode.h"
 #include "drawing/StockPictures.h"
@@ -22,18 +19,29 @@ namespace {
 constexpr int FirstShot = 10;         // milliseconds until the first tick
 constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
 
+void LayOutTimerMarks(mduUILib::ControlArray& marks) {
+    marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
+    marks(1).Left = FirstTimerMark;
+    marks(1).Top = FirstTimerMark;
+    for (int i = 2; i <= marks.Count(); ++i) {
+        marks(i) = marks(i - 1);
+    }
+}
+
 }  // namespace
 
 frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area)
     : program_(program),
-      shell_(shell),
       area_(area),
       handle_(program.Windows.NewHandle()),
-      surface_(std::make_unique<drawing::Surface>(1, 1, 1.0)),
-      files_(data_, program, [this](const QString& text) { Status(text); }),
-      styles_(program),
-      timClock_(program.Services.Clock.MakeTicker([this] { Tick(); })),
+      screen_(*this, area, shell),
       placement_(*this, area, data_, &program.Services.Clock),
+      canvas_(data_.State, screen_, placement_),
+      window_(*this, area, placement_, canvas_, controls_,
+              program.Services.Clock.MakeTicker([this] { Tick(); })),
+      host_(data_, controls_, window_, screen_, canvas_),
+      files_(data_, program, [this](const QString& text) { screen_.ShowStatus(text); }),
+      styles_(program),
       dial_(Context()),
       digital_(Context()),
       calculator_(Context()),
@@ -48,12 +56,24 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       voice_(Parts<speech::SpeechHost>()),
       spoken_(Parts<speech::SpeechHost>(), voice_),
       music_(Parts<speech::SpeechHost>()),
-      face_(data_, controls_, *this, {dial_, digital_, calculator_, background_, overlays_},
+      face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, overlays_},
             program.Services.Clock, program.Services.Random),
+      look_(data_, controls_, program, files_, styles_,
+            {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_, overlays_,
+             voice_, spoken_, tick_}),
+      dialogs_(*this, program, data_.State, canvas_, look_),
+      settings_(data_, {files_, look_, window_, placement_, canvas_, overlays_, messages_, timers_,
+                        voice_, spoken_}),
+      menus_(data_, program,
+             {*this, screen_, window_, controls_, canvas_, files_, styles_, look_, dialogs_,
+              settings_, messages_, actions_, voice_, spoken_}),
+      input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
-            {*this, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
-             timers_, messages_, sounds_, voice_, spoken_, music_, *this, *this},
+            {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
+             timers_, messages_, sounds_, voice_, spoken_, music_, menus_, look_},
             program.Module, program.Services.Clock) {
+    canvas_.SetFace(face_);
+    host_.SetSpeech(voice_, music_);
     setObjectName(ClockWindowName);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -65,7 +85,7 @@ drawing::FaceContext frmTempolark::Context() {
     return {data_.Properties(),
             data_.Zone,
             controls_,
-            *this,
+            canvas_,
             program_.Services.Clock,
             program_.Services.FileSystem,
             program_.Services.Random,
@@ -84,19 +104,18 @@ bool frmTempolark::ShowMeMDIChild(const QString& zoneName) {
     }
     Load();
     placement_.PlaceInTheMiddle();
-    data_.Tag = QString::number(clockcore::GetClockType(data_.Properties()));
+    data_.Tag = {clockcore::GetClockType(data_.Properties()), false};
     files_.FillZone(zoneName);
     FinishLoading();
     return true;
 }
 
-void frmTempolark::ShowMe(const QString& zoneName, bool refresh, bool wrapper) {
+void frmTempolark::ShowMe(const QString& zoneName, const ShowOptions& options) {
     files_.LoadCurrent();
     Load();
-    const int mode = clockcore::GetClockType(data_.Properties());
-    data_.Tag = QString::number(wrapper ? mode + clockcore::Wrapper : mode);
+    data_.Tag = {clockcore::GetClockType(data_.Properties()), options.AsWrapper};
     files_.FillZone(zoneName);
-    if (refresh) {
+    if (options.RefreshZone) {
         RefreshDefaultTimeZoneDetails(zoneName);
     }
     FinishLoading();
@@ -110,10 +129,10 @@ void frmTempolark::LaunchMDITempolark(QString zoneName) {
         mduLib::BringToFront(*open);
         return;
     }
-    auto* other = new frmTempolark(program_, shell_, area_);
+    auto* other = new frmTempolark(program_, screen_.Shell(), area_);
     if (other->files_.NameCurrentFile(zoneName)) {
         const bool merged = other->files_.RefreshFile();
-        other->ShowMe(zoneName, !merged, false);
+        other->ShowMe(zoneName, {.RefreshZone = !merged});
         other->placement_.SetOuterSize(placement_.OuterRect().size());
     } else {
         delete other;
@@ -134,24 +153,15 @@ void frmTempolark::Load() {
     }
     data_.StartTime = program_.Services.Clock.Now();
     placement_.Outer().raise();
-    ApplyEnable();
-    LayOutTimerMarks();
+    look_.ApplyEnable();
+    LayOutTimerMarks(controls_.imgTimer);
     controls_.MusicPlayer(1).Tag = u"0"_s;
     data_.State = ClockState::FirstTickDue;
     placement_.SetOuterSize({0, 0});
     controls_.imgSpeaker(1).Visible = false;
-    SetTimerInterval(FirstShot);
-    SetTimerInterval(timers::NormalInterval);  // from then on; the first shot comes all the same
-}
-
-void frmTempolark::LayOutTimerMarks() {
-    mduUILib::ControlArray& marks = controls_.imgTimer;
-    marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
-    marks(1).Left = FirstTimerMark;
-    marks(1).Top = FirstTimerMark;
-    for (int i = 2; i <= marks.Count(); ++i) {
-        marks(i) = marks(i - 1);
-    }
+    window_.SetTimerInterval(FirstShot);
+    // From then on; the first shot comes all the same.
+    window_.SetTimerInterval(timers::NormalInterval);
 }
 
 void frmTempolark::FinishLoading() {
@@ -168,8 +178,12 @@ void frmTempolark::Activate() {
     }
 }
 
-void frmTempolark::ApplyEnable() {
-    EnableWindow(mduUILib::YesNoToBool(mduLib::GetProperty(u"Enable"_s, data_.Properties())));
+// The message and the action move after the face has been painted.
+void frmTempolark::Tick() {
+    tick_.Tick();
+    if (data_.State == ClockState::Running) {
+        canvas_.ShowChanges();
+    }
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {
@@ -179,7 +193,7 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
         event->accept();
         return;
     }
-    timClock_->SetInterval(0);
+    window_.StopTimer();
     voice_.FallSilent();
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
@@ -191,66 +205,27 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
     placement_.ShowClockWindow(false);
     program_.Windows.Remove(*this);
     event->accept();
-    if (!IsMDIChild()) {
+    if (area_ == nullptr) {
         QCoreApplication::quit();  // a clock that stands alone is the whole program
     }
 }
 
-void frmTempolark::CloseClock() {
-    Unload();
-}
-
-void frmTempolark::Unload() {
-    placement_.Outer().close();
-}
-
-QString frmTempolark::Caption() const {
-    return placement_.Outer().windowTitle();
-}
-
-bool frmTempolark::IsEnabled() const {
-    return placement_.Outer().isEnabled();
-}
-
-void frmTempolark::EnableWindow(bool enabled) {
-    placement_.Outer().setEnabled(enabled);
-    for (mduUILib::ControlArray* array : controls_.All()) {
-        for (mduUILib::Control& control : array->Members) {
-            control.Enabled = enabled;
-        }
-    }
-}
-
-// Before its first tick a clock has nothing to show yet, nor any state to change.
-bool frmTempolark::HasBegun() const {
-    return data_.State != ClockState::Loading && data_.State != ClockState::FirstTickDue;
-}
-
 void frmTempolark::SetWindowState(int state) {
-    if (HasBegun()) {
+    if (data_.State.HasBegun()) {
         placement_.SetWindowState(state);
     }
 }
 
 void frmTempolark::Show() {
-    if (HasBegun()) {
+    if (data_.State.HasBegun()) {
         placement_.Show();
     }
 }
 
 void frmTempolark::SetFocus() {
-    if (!HasBegun()) {
-        return;
+    if (data_.State.HasBegun()) {
+        window_.Activate();
     }
-    if (area_ != nullptr) {
-        area_->setActiveSubWindow(placement_.Frame());
-        placement_.Frame()->Place().ScrollTo();
-    }
-    setFocus();
-}
-
-bool frmTempolark::IsActiveForm() const {
-    return area_ != nullptr ? area_->activeSubWindow() == placement_.Frame() : isActiveWindow();
 }
 
 QString frmTempolark::AppEXEName() const {
@@ -265,12 +240,33 @@ void frmTempolark::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
     files_.RefreshDefaultTimeZoneDetails(zoneName);
 }
 
-void frmTempolark::SetBackward() {
-    mduLib::PutProperty(u"Clock Special"_s, u"Analogue Backward"_s, data_.EditProperties());
+void frmTempolark::SetClocks(int mode) {
+    look_.SetClocks(clockcore::NumberedClockKind(mode));
 }
 
-void frmTempolark::Status(const QString& text) {
-    if (shell_ != nullptr) {
-        shell_->ShowStatusMsg(text);
+void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
+    look_.SetWindowBackColour(value, caption);
+}
+
+void frmTempolark::Refresh() {
+    face_.StillChanged();
+    face_.DrawClockFace();
+}
+
+void frmTempolark::LayOutAgain() {
+    if (data_.State == ClockState::Running) {
+        tick_.RequestRedraw();
     }
+}
+
+void frmTempolark::Watch(const Watchers& watchers) {
+    data_.State.Watch(watchers.State);
+    window_.WatchInterval(watchers.Interval);
+    timers_.WatchFiring(watchers.Firing);
+    messages_.Watch(watchers.Messages);
+}
+
+void frmTempolark::FinishMotions() {
+    digital_.FinishMotion();
+    background_.FinishWipe();
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPointF>
+
+#include "foundation/Controls.h"
+
+namespace clockcore {
+
+/// The parts of a clock that a click may mean, each with a menu of its own.
+enum class ClockPart {
+    Face,  ///< all that is nothing else
+    Speaker,
+    Action,  ///< the mark or the text of an action that counts down
+    Message
+};
+
+/// The part at a point, in device pixels of the surface. Where parts overlap it is the upper one.
+ClockPart PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
+
+/// The first visible member of an array that holds a point, in device pixels of the surface; null
+/// where there is none.
+const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array, const QPointF& point);
+
+}  // namespace clockcore

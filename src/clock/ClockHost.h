@@ -1,0 +1,62 @@
+#pragma once
+
+#include "clock/ClockCanvas.h"
+#include "clock/ClockData.h"
+#include "clock/ClockScreen.h"
+#include "clock/ClockWindow.h"
+#include "speech/ClockVoice.h"
+#include "speech/SpeechContext.h"
+#include "timers/TimerContext.h"
+
+namespace clockcore {
+
+/// The clock that timers, messages, actions, voice and music belong to: what they ask of it, it
+/// asks of its window, its canvas and each other's.
+class ClockHost final : public timers::TimerHost, public speech::SpeechHost {
+public:
+    ClockHost(ClockData& data, mduUILib::ClockControls& controls, ClockWindow& window,
+              ClockScreen& screen, ClockCanvas& canvas)
+        : data_(data), controls_(controls), window_(window), screen_(screen), canvas_(canvas) {}
+
+    /// Whom texts and sounds of the timers go to. Without it they are not heard.
+    void SetSpeech(speech::ClockVoice& voice, speech::ClockMusic& music);
+
+    // What both ask for.
+    void ShowStatus(const QString& text) override { screen_.ShowStatus(text); }
+    ClockProperties& EditProperties() override { return data_.EditProperties(); }
+
+    // For timers.
+    /// A closing clock says nothing more.
+    void SpeakMessage(const QString& text, int flags, Urgency urgency) override;
+    void PurgeSpeech(Urgency urgency) override;
+    bool IsSpeaking() const override;
+    void PlaySound(const QString& path) override;
+    void StopMusic() override;
+    bool IsClosing() const override { return data_.State == ClockState::Closing; }
+    bool IsInSight() const override { return screen_.IsInSight(); }
+    void FitLabel(mduUILib::Control& label) override;
+    void PlaceMark(int slot, int spot, int place) override;
+    int TimerInterval() const override { return window_.TimerInterval(); }
+    void SetTimerInterval(int milliseconds) override { window_.SetTimerInterval(milliseconds); }
+    int BackColor() const override { return canvas_.BackColor(); }
+    double DevicePixelRatio() const override { return canvas_.Painted().DevicePixelRatio(); }
+    int ScaleHeight() const override { return canvas_.Painted().ScaleHeight(); }
+    std::optional<QRectF> RowInOutline(double top, double height, double width) const override;
+
+    // For voice and music.
+    bool IsActiveClock() const override;
+    /// The mark of an action that was clicked shows a speaking one no longer than the voice speaks.
+    void SetSpeakerPicture(int number) override;
+    void ShowChanges() override { canvas_.ShowChanges(); }
+
+private:
+    ClockData& data_;
+    mduUILib::ClockControls& controls_;
+    ClockWindow& window_;
+    ClockScreen& screen_;
+    ClockCanvas& canvas_;
+    speech::ClockVoice* voice_ = nullptr;
+    speech::ClockMusic* music_ = nullptr;
+};
+
+}  // namespace clockcore

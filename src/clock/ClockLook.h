@@ -1,0 +1,89 @@
+#pragma once
+
+#include "clock/ClockData.h"
+#include "clock/ClockFiles.h"
+#include "clock/ClockScreen.h"
+#include "clock/ClockTick.h"
+#include "clock/ClockWindow.h"
+#include "clock/StyleFiles.h"
+#include "drawing/Canvas.h"
+#include "drawing/FaceParts.h"
+#include "foundation/Controls.h"
+#include "foundation/Program.h"
+#include "speech/ClockVoice.h"
+
+namespace clockcore {
+
+/// The operations that change a clock's look as a whole, and those that keep it in a file. A tick
+/// comes here, so none of them asks; what went wrong is told in the status bar.
+class ClockLook final : public ClockStyles {
+public:
+    /// What a look is applied to. All of it outlives the look.
+    struct Parts {
+        ClockScreen& Screen;
+        drawing::Canvas& Canvas;
+        ClockWindow& Window;
+        ClockPlacement& Placement;
+        ClockFace& Face;
+        drawing::Dial& Dial;
+        drawing::DigitalClock& Digital;
+        drawing::Background& Background;
+        drawing::Overlays& Overlays;
+        speech::ClockVoice& Voice;
+        speech::SpokenTime& Spoken;
+        ClockTick& Tick;
+    };
+
+    ClockLook(ClockData& data, mduUILib::ClockControls& controls, const Program& program,
+              ClockFiles& files, const StyleFiles& styles, const Parts& parts)
+        : data_(data),
+          controls_(controls),
+          program_(program),
+          files_(files),
+          styles_(styles),
+          parts_(parts) {}
+
+    /// Gives the clock's properties to the property window.
+    void SetProperty();
+    /// Makes the clock one of that kind, at once; nothing for `None` and the input state.
+    void SetClocks(ClockKind kind);
+    /// Turns the clock backward: stores the property and draws nothing itself.
+    void SetBackward();
+    /// @p caption is a colour's name; with "Custom" @p value is the colour, as a number.
+    void SetWindowBackColour(const QString& value, const QString& caption);
+    /// Lays out what depends on the size of a new surface, and draws it.
+    void FitSurface();
+    /// Enables the window or disables it, as the property "Enable" tells.
+    void ApplyEnable();
+
+    /// Puts a style on the clock. Without a file of that name the clock is laid out anew as it is.
+    void ApplyClockStyle(const QString& styleFile);
+    /// Goes on to the next style of the folder, and from the last to the first.
+    void ApplyNextStyle() override;
+    /// Takes `CurrentProperties` as the clock's own and applies them all. @p fileName becomes the
+    /// current file, unless it is empty.
+    void RefreshForm(const QString& fileName);
+
+    /// Writes the look and the window's place into the clock's own file.
+    void SaveCurrentStyle();
+    /// Writes the look as a style; @p chosen is what `StyleFiles::SavePath` makes a path of.
+    void SaveStyle(const QString& chosen);
+    /// Tells that something has been saved just now.
+    void TellSaved(const QString& what);
+
+private:
+    void StoreFontState();
+    void RequestRedrawNow();
+    void ReadWhatIsSpoken();
+    void ApplyToWindow();
+    void ApplyToFace();
+
+    ClockData& data_;
+    mduUILib::ClockControls& controls_;
+    Program program_;
+    ClockFiles& files_;
+    const StyleFiles& styles_;
+    Parts parts_;
+};
+
+}  // namespace clockcore

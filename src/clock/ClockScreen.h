@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QRegion>
+#include <QSize>
+#include <QString>
+
+namespace clockcore {
+
+/// What a clock's surface is shown on: a window of the desktop or of the shell, as the drawing sees
+/// it.
+class ClockScreen {
+public:
+    virtual ~ClockScreen() = default;
+
+    /// Of the clock inside its frame, in logical pixels.
+    virtual QSize Size() const = 0;
+    virtual double DevicePixelRatio() const = 0;  ///< device pixels to a logical one, above 0
+    /// Shows a part of the surface, in logical pixels, when the event loop runs next.
+    virtual void Update(const QRegion& part) = 0;
+
+    virtual bool IsMDIChild() const = 0;
+    /// Whether anything of the window can be seen, as far as the program can tell.
+    virtual bool IsInSight() const = 0;
+    /// The shell's colour; white without a shell.
+    virtual int ShellBackColor() const = 0;
+    /// A text for the shell's status bar; nothing happens without a shell.
+    virtual void ShowStatus(const QString& text) = 0;
+};
+
+}  // namespace clockcore

@@ -1,0 +1,45 @@
+#include "clock/LookDialogs.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+namespace {
+
+const QString IniFilter = u"Ini File (*.ini)"_s;
+
+}  // namespace
+
+void LookDialogs::PickWindowBackColour() {
+    const QPointer<const QObject> clock = &clock_;
+    const int colour = program_.Services.Dialog.PickColour(canvas_.BackColor());
+    if (clock && state_ != ClockState::Closing && colour >= 0) {
+        look_.SetWindowBackColour(QString::number(colour), u"Custom"_s);
+    }
+}
+
+void LookDialogs::SetClockStyle(const QString& styleFile) {
+    QString name = styleFile;
+    if (name.isEmpty() || name == u"More"_s) {
+        const QPointer<const QObject> clock = &clock_;
+        name = program_.Services.Dialog.OpenFile(u"Clock Styles"_s,
+                                                 program_.Module.Paths.StylesFolder, IniFilter);
+        if (!clock || state_ == ClockState::Closing) {
+            return;
+        }
+    }
+    look_.ApplyClockStyle(name);
+}
+
+void LookDialogs::SaveStyleAs() {
+    const QPointer<const QObject> clock = &clock_;
+    const QString chosen = program_.Services.Dialog.SaveFile(
+        u"Save Style As"_s, program_.Module.Paths.StylesFolder, IniFilter);
+    if (clock && state_ != ClockState::Closing && !chosen.isEmpty()) {
+        look_.SaveStyle(chosen);
+    }
+}
+
+}  // namespace clockcore

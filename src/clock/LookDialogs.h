@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include "clock/ClockData.h"
+#include "clock/ClockLook.h"
+#include "drawing/Canvas.h"
+#include "foundation/Program.h"
+
+namespace clockcore {
+
+/// What is asked before a clock's look changes. The clock may be closed, and gone, when the answer
+/// comes; then nothing is done. A tick must not come here.
+class LookDialogs {
+public:
+    /// @param clock goes when the clock goes
+    LookDialogs(const QObject& clock, const Program& program, const WatchedState& state,
+                const drawing::Canvas& canvas, ClockLook& look)
+        : clock_(clock), program_(program), state_(state), canvas_(canvas), look_(look) {}
+
+    /// Asks for a colour and makes it the window's.
+    void PickWindowBackColour();
+    /// Applies a style file; an empty name or "More" asks for one.
+    void SetClockStyle(const QString& styleFile);
+    /// Asks for a name and writes the clock's look there, without its zone.
+    void SaveStyleAs();
+
+private:
+    const QObject& clock_;
+    Program program_;
+    const WatchedState& state_;
+    const drawing::Canvas& canvas_;
+    ClockLook& look_;
+};
+
+}  // namespace clockcore

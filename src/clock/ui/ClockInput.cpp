@@ -1,0 +1,148 @@
+#include "clock/ui/ClockInput.h"
+
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QToolTip>
+
+#include "drawing/TitleEdit.h"
+
+namespace clockcore {
+
+namespace {
+
+constexpr int TabCode = 9;
+
+/// The control keys of the calculator.
+constexpr struct {
+    Qt::Key Key;
+    int Code;
+} ControlKeys[] = {
+    {Qt::Key_Tab, TabCode},
+    {Qt::Key_Backtab, TabCode},
+    {Qt::Key_Backspace, 8},
+    {Qt::Key_Return, 13},
+    {Qt::Key_Enter, 13},
+    {Qt::Key_Escape, 27},
+    {Qt::Key_Left, 37},
+    {Qt::Key_Right, 39},
+    {Qt::Key_Insert, 45},
+    {Qt::Key_Delete, 46},
+    {Qt::Key_Home, drawing::HomeKey},
+    {Qt::Key_End, drawing::EndKey},
+};
+
+/// The calculator's code of a key: that of a control key, or of the character typed. 0 for a key
+/// that means nothing to it.
+int CalculatorKey(const QKeyEvent& event) {
+    for (const auto& control : ControlKeys) {
+        if (control.Key == event.key()) {
+            return control.Code;
+        }
+    }
+    const QString text = event.text();
+    return text.isEmpty() || !text[0].isPrint() ? 0 : drawing::TypedKey(text[0]);
+}
+
+constexpr int CursorSide = 16;  // logical pixels
+
+bool IsOnAction(const mduUILib::ClockControls& controls, const QPointF& point) {
+    return ControlAt(controls.imgAction, point) != nullptr ||
+           ControlAt(controls.lblActionMsg, point) != nullptr;
+}
+
+bool IsPlain(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
+    return others == Qt::NoModifier || others == Qt::ShiftModifier;
+}
+
+}  // namespace
+
+bool ClockInput::PressKey(const QKeyEvent& event) {
+    const int key = IsPlain(event) ? CalculatorKey(event) : 0;
+    if (data_.Is(ClockKind::CalculatorInput) && key != 0) {
+        if (!calculator_.EditCalculatorKey(key)) {
+            data_.Tag = {ClockKind::Calculator, false};
+        }
+        return true;
+    }
+    if (data_.Is(ClockKind::Calculator) && key == TabCode) {
+        data_.Tag = {ClockKind::CalculatorInput, false};
+        calculator_.BeginInput();
+        return true;
+    }
+    return false;
+}
+
+QPointF ClockInput::SurfacePoint(const QPoint& position) const {
+    return QPointF(position) * form_.devicePixelRatioF();
+}
+
+void ClockInput::MoveMouse(const QMouseEvent& event) {
+    const mduUILib::Control* label =
+        ControlAt(controls_.lblHour, SurfacePoint(event.position().toPoint()));
+    const std::shared_ptr<const QImage> picture = label != nullptr ? label->Picture : nullptr;
+    if (picture == mouseIcon_) {
+        return;
+    }
+    mouseIcon_ = picture;
+    if (picture && !picture->isNull()) {
+        form_.setCursor(QCursor(QPixmap::fromImage(picture->scaled(
+            CursorSide, CursorSide, Qt::KeepAspectRatio, Qt::SmoothTransformation))));
+    } else {
+        form_.unsetCursor();
+    }
+}
+
+bool ClockInput::PressMouse(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        return false;
+    }
+    const QPointF point = SurfacePoint(event.position().toPoint());
+    const bool withControl = (event.modifiers() & Qt::ControlModifier) != 0;
+    if (!withControl && ControlAt(controls_.imgSpeaker, point) != nullptr) {
+        clicks_.ClickSpeaker();
+        return true;
+    }
+    if (IsOnAction(controls_, point)) {
+        clicks_.ClickAction();
+        return true;
+    }
+    return false;
+}
+
+void ClockInput::ShowMenu(const QContextMenuEvent& event) {
+    if (!form_.isEnabled()) {
+        clicks_.ShowDisabledMenu(event.globalPos());
+        return;
+    }
+    const ClockPart part = PartAt(controls_, SurfacePoint(event.pos()));
+    const bool withControl = (event.modifiers() & Qt::ControlModifier) != 0;
+    if (part != ClockPart::Speaker || !withControl) {
+        clicks_.ShowMenu(part, event.globalPos());
+    }
+}
+
+QString ClockInput::ToolTipAt(const QPoint& position) const {
+    const QPointF point = SurfacePoint(position);
+    if (ControlAt(controls_.imgSpeaker, point) != nullptr) {
+        return clicks_.SpeakerHint();
+    }
+    const mduUILib::Control* spot = ControlAt(controls_.imgClockNumber, point);
+    return spot != nullptr ? spot->ToolTipText : QString();
+}
+
+bool ClockInput::ShowToolTip(const QHelpEvent& event) {
+    const QString text = ToolTipAt(event.pos());
+    if (text.isEmpty()) {
+        QToolTip::hideText();
+        return false;
+    }
+    QToolTip::showText(event.globalPos(), text, &form_,
+                       QRect(event.pos() - QPoint(2, 2), QSize(5, 5)));
+    return true;
+}
+
+}  // namespace clockcore

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "clock/ClockClicks.h"
+#include "clock/ClockData.h"
+#include "drawing/FaceParts.h"
+#include "foundation/Controls.h"
+
+class QContextMenuEvent;
+class QHelpEvent;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace clockcore {
+
+/// What keys and the mouse mean to a clock. Each handler tells whether the event was the clock's;
+/// what was not is the window's own. (Dragging of parts comes here, too.)
+class ClockInput {
+public:
+    /// @param form the window that the events come from, which shows cursors and hints
+    ClockInput(QWidget& form, ClockData& data, const mduUILib::ClockControls& controls,
+               drawing::CalculatorClock& calculator, ClockClicks& clicks)
+        : form_(form), data_(data), controls_(controls), calculator_(calculator), clicks_(clicks) {}
+
+    /// Tab on a calculator begins the typing of a time; from then on keys edit its lines.
+    bool PressKey(const QKeyEvent& event);
+    /// Tab belongs to the calculator; elsewhere it moves the focus.
+    bool TakesTab() const { return data_.IsCalculator(); }
+
+    /// Over an hour number the mouse shows the number's own mark.
+    void MoveMouse(const QMouseEvent& event);
+    /// The left button on the speaker or on an action. With Ctrl held a press on the speaker is
+    /// left to those who drag it.
+    bool PressMouse(const QMouseEvent& event);
+    /// Shows the menu of the part that was clicked, or that of a disabled clock.
+    void ShowMenu(const QContextMenuEvent& event);
+    /// Shows the hint of what lies above at that point. @return false where there is none
+    bool ShowToolTip(const QHelpEvent& event);
+
+private:
+    QPointF SurfacePoint(const QPoint& position) const;
+    QString ToolTipAt(const QPoint& position) const;
+
+    QWidget& form_;
+    ClockData& data_;
+    const mduUILib::ClockControls& controls_;
+    drawing::CalculatorClock& calculator_;
+    ClockClicks& clicks_;
+    std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
+};
+
+}  // namespace clockcore

@@ -1,0 +1,83 @@
+// What the window system tells a clock's window.
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "clock/ui/DisabledVeil.h"
+#include "clock/ui/frmTempolark.h"
+
+using clockcore::ClockState;
+
+void frmTempolark::resizeEvent(QResizeEvent*) {
+    TakeSurface();
+}
+
+void frmTempolark::TakeSurface() {
+    canvas_.TakeSurface();
+    look_.FitSurface();
+}
+
+// The surface holds the whole picture. A part that we did not change ourselves has come to light:
+// the clock is asked to redraw itself at its next tick.
+void frmTempolark::paintEvent(QPaintEvent* event) {
+    if (!canvas_.FitsTheScreen()) {
+        TakeSurface();  // the window has come to another screen
+    }
+    if (!canvas_.Exposed(event->region()).isEmpty() && data_.State == ClockState::Running) {
+        tick_.RequestRedraw();
+    }
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    const QImage shown = canvas_.ShownPicture();
+    const double ratio = devicePixelRatioF();
+    for (const QRect& part : event->region()) {
+        const QRectF source(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
+        painter.drawImage(QRectF(part), shown, source);
+    }
+    if (!isEnabled()) {
+        clockcore::DrawDisabledVeil(painter, event->region());
+    }
+}
+
+bool frmTempolark::event(QEvent* event) {
+    if (event->type() == QEvent::ContextMenu && !isEnabled()) {
+        input_.ShowMenu(*static_cast<QContextMenuEvent*>(event));
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::ToolTip) {
+        if (!input_.ShowToolTip(*static_cast<QHelpEvent*>(event))) {
+            event->ignore();
+        }
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void frmTempolark::keyPressEvent(QKeyEvent* event) {
+    if (!input_.PressKey(*event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
+    input_.MoveMouse(*event);
+    QWidget::mouseMoveEvent(event);
+}
+
+void frmTempolark::mousePressEvent(QMouseEvent* event) {
+    if (!input_.PressMouse(*event)) {
+        QWidget::mousePressEvent(event);
+    }
+}
+
+void frmTempolark::contextMenuEvent(QContextMenuEvent* event) {
+    input_.ShowMenu(*event);
+}
+
+bool frmTempolark::focusNextPrevChild(bool next) {
+    return !input_.TakesTab() && QWidget::focusNextPrevChild(next);
+}
