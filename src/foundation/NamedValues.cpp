@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "foundation/Numbers.h"
+#include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,6 +8,8 @@
 #include "shell/ShellDesk.h"
 #include "shell/ui/ClockArea.h"
 #include "shell/ui/ToolBar.h"
+#include "support/FakeDialogs.h"
+#include "support/FakeSettings.h"
 
 /// What the shell's property file says.
 static QString Stored(const Desk& desk, const QString& key) {

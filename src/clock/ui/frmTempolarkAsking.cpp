@@ -1,6 +1,7 @@
 // What a menu asks before it changes a clock's look. The clock may be closed meanwhile.
 #include "clock/ui/frmTempolark.h"
 #include "foundation/FileHelpers.h"
+#include "platform/Dialogs.h"
 
 using namespace Qt::StringLiterals;
 

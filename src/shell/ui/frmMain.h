@@ -8,6 +8,8 @@
 
 #include "foundation/Program.h"
 #include "foundation/ui/CBalloonToolTip.h"
+#include "platform/Voices.h"
+#include "platform/WallClock.h"
 #include "shell/Arrangement.h"
 #include "shell/Eye.h"
 #include "shell/LastOpened.h"

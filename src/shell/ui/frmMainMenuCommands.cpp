@@ -8,6 +8,8 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/RemovalQuestion.h"
+#include "platform/Dialogs.h"
+#include "platform/ZoneDatabase.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/FileList.h"
