@@ -8,8 +8,11 @@ QVariant FileSettings::Value(const QString& key, const QString& name) const {
     return QSettings(path_, QSettings::IniFormat).value(key + u'/' + name);
 }
 
-void FileSettings::SetValue(const QString& key, const QString& name, const QVariant& value) {
-    QSettings(path_, QSettings::IniFormat).setValue(key + u'/' + name, value);
+bool FileSettings::SetValue(const QString& key, const QString& name, const QVariant& value) {
+    QSettings file(path_, QSettings::IniFormat);
+    file.setValue(key + u'/' + name, value);
+    file.sync();
+    return file.status() == QSettings::NoError;
 }
 
 void FileSettings::Remove(const QString& key, const QString& name) {

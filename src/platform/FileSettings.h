@@ -10,7 +10,7 @@ public:
     /// @param path of the file, native and full; it is made when the first value is kept
     explicit FileSettings(QString path) : path_(std::move(path)) {}
     QVariant Value(const QString& key, const QString& name) const override;
-    void SetValue(const QString& key, const QString& name, const QVariant& value) override;
+    bool SetValue(const QString& key, const QString& name, const QVariant& value) override;
     void Remove(const QString& key, const QString& name) override;
 
 private:

@@ -13,7 +13,8 @@ public:
 
     /// What is kept under that name; invalid when there is nothing.
     virtual QVariant Value(const QString& key, const QString& name) const = 0;
-    virtual void SetValue(const QString& key, const QString& name, const QVariant& value) = 0;
+    /// @return false when the value can't be kept: the next run then finds what was there before
+    virtual bool SetValue(const QString& key, const QString& name, const QVariant& value) = 0;
     /// A value that is not there is removed already.
     virtual void Remove(const QString& key, const QString& name) = 0;
 };

@@ -131,7 +131,7 @@ private:
     void TellSaved(const QString& what);
     void SaveCentralSettings();
     void SaveWindowPlacement();
-    void SaveToolbarLayout();
+    bool SaveToolbarLayout();
 
     // What the menus show (frmMainMenus.cpp)
     void RefreshMenu(const QString& menu);

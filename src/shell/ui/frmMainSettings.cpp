@@ -273,9 +273,9 @@ void frmMain::SaveCentralSettings() {
 }
 
 // Which buttons the user has kept. Every start sets the bar up from the catalogue all the same.
-void frmMain::SaveToolbarLayout() {
-    program_.Services.Settings.SetValue(u"TempolarkCentralToolbar"_s,
-                                        program_.Module.Paths.UserName, toolbar_->Layout());
+bool frmMain::SaveToolbarLayout() {
+    return program_.Services.Settings.SetValue(u"TempolarkCentralToolbar"_s,
+                                               program_.Module.Paths.UserName, toolbar_->Layout());
 }
 
 void frmMain::SaveWindowPlacement() {
