@@ -8,9 +8,11 @@
 #include "foundation/Program.h"
 #include "foundation/SetupPaths.h"
 #include "platform/AbsentDevices.h"
+#include "platform/Accounts.h"
+#include "platform/FileSettings.h"
 #include "platform/LocalFiles.h"
 #include "platform/SystemClock.h"
-#include "platform/SystemServices.h"
+#include "platform/SystemRandom.h"
 #include "platform/TzZoneDatabase.h"
 #include "platform/ui/DesktopDialogs.h"
 
@@ -22,16 +24,11 @@ struct Desk {
     platform::LocalFiles Files;
     platform::NamedAccount User{QStringLiteral("bench")};
     platform::FileSettings Settings{Folder.filePath(QStringLiteral("Settings.ini"))};
-    platform::NoActions Actions;
-    platform::NoVoices Voices;
-    platform::NoPlayers Players;
-    platform::NoSound Sound;
+    platform::AbsentDevices Devices;
     platform::DesktopDialogs Dialogs;
-    platform::NoTray Tray;
-    platform::NoHelp Help;
     platform::SystemRandom Random{1};
-    platform::Services Services{Clock,   Zones, Files,   User, Settings, Actions, Voices,
-                                Players, Sound, Dialogs, Tray, Help,     Random};
+    platform::Services Services =
+        Devices.Beside(Clock, Zones, Files, User, Settings, Dialogs, Random);
     ModuleState Module;
     Forms Windows;
     QMdiArea Area;

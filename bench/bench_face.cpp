@@ -11,6 +11,7 @@
 #include "drawing/FaceComposer.h"
 #include "drawing/LabelText.h"
 #include "support/FakeFace.h"
+#include "support/FakeRandom.h"
 
 using namespace Qt::StringLiterals;
 

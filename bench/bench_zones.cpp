@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include "platform/Services.h"
 #include "platform/TzZoneDatabase.h"
 #include "support/FakeServices.h"
 #include "timezones/ZoneSources.h"
@@ -13,10 +14,7 @@ namespace {
 struct ZoneMachine {
     FakeServices Fakes;
     platform::TzZoneDatabase Zones{Fakes.Clock, "America/New_York"};
-    platform::Services Services{Fakes.Clock,    Zones,         Fakes.Files,  Fakes.User,
-                                Fakes.Settings, Fakes.Actions, Fakes.Voices, Fakes.Players,
-                                Fakes.Sound,    Fakes.Dialogs, Fakes.Tray,   Fakes.Help,
-                                Fakes.Random};
+    platform::Services Services = Fakes.Services.With(Zones);
     PathTable Paths;
 
     ZoneMachine() { Paths.ProfileFolder = Fakes.AppFolder() + u"/Timezones/"_s; }

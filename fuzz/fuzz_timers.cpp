@@ -1,5 +1,6 @@
 #include "foundation/PropertyFile.h"
 #include "fuzz/MemoryFiles.h"
+#include "platform/RandomNumbers.h"
 #include "timers/TimerFile.h"
 
 using namespace Qt::StringLiterals;

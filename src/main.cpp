@@ -6,14 +6,16 @@
 
 #include "foundation/Program.h"
 #include "platform/AbsentDevices.h"
+#include "platform/Accounts.h"
 #include "platform/AppFolder.h"
 #include "platform/CalendarWatch.h"
+#include "platform/FileSettings.h"
 #include "platform/LocalFiles.h"
 #include "platform/ProfileOrigin.h"
 #include "platform/QuitSignals.h"
 #include "platform/Services.h"
 #include "platform/SystemClock.h"
-#include "platform/SystemServices.h"
+#include "platform/SystemRandom.h"
 #include "platform/TzFolder.h"
 #include "platform/TzZoneDatabase.h"
 #include "platform/devices/DesktopHelp.h"
@@ -221,8 +223,19 @@ int main(int argc, char** argv) {
     platform::NoTray tray;
     platform::DesktopHelp help(files);
     platform::SystemRandom random;
-    const platform::Services services{clock,   zones, files,   user, settings, actions, voices,
-                                      players, sound, dialogs, tray, help,     random};
+    const platform::Services services{.Clock = clock,
+                                      .Zones = zones,
+                                      .FileSystem = files,
+                                      .User = user,
+                                      .Settings = settings,
+                                      .Actions = actions,
+                                      .Speech = voices,
+                                      .Media = players,
+                                      .Sound = sound,
+                                      .Dialog = dialogs,
+                                      .TrayIcon = tray,
+                                      .Help = help,
+                                      .Random = random};
     Forms windows;
 
     ProfileRenewal profiles(clock, module.Paths.AppFolder);

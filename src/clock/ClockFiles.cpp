@@ -5,6 +5,8 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SetupPaths.h"
+#include "platform/Files.h"
+#include "platform/WallClock.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"

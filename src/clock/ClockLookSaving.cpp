@@ -6,6 +6,7 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SavedMessage.h"
+#include "platform/WallClock.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,7 @@
 #include "clock/Face.h"
 
 #include "foundation/PropertyLookup.h"
+#include "platform/RandomNumbers.h"
 #include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;

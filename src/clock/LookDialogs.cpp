@@ -1,4 +1,5 @@
 #include "clock/LookDialogs.h"
+#include "platform/Dialogs.h"
 
 #include <QPointer>
 

@@ -5,6 +5,7 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/PropertyMerge.h"
+#include "platform/Files.h"
 #include "timezones/ZoneKeys.h"
 
 using namespace Qt::StringLiterals;

@@ -26,11 +26,6 @@ std::optional<QSize> ReadSize(const QString& text) {
     return match.hasMatch() && fits ? std::optional(size) : std::nullopt;
 }
 
-platform::Services WithFiles(const platform::Services& all, platform::Files& files) {
-    return {all.Clock, all.Zones, files,      all.User,     all.Settings, all.Actions, all.Speech,
-            all.Media, all.Sound, all.Dialog, all.TrayIcon, all.Help,     all.Random};
-}
-
 /// A clock of that size with that file, after its first tick, its redraw and some normal ticks.
 std::unique_ptr<frmTempolark> DrawnClock(const Program& program, const QString& file,
                                          const QSize& size, int normalTicks) {
@@ -69,7 +64,7 @@ int Render(Context& context) {
     }
     Forms windows;
     ReadOnlyFiles files(context.Services.FileSystem);
-    const platform::Services services = WithFiles(context.Services, files);
+    const platform::Services services = context.Services.With(files);
     const Program program{services, context.State, windows};
     const std::unique_ptr<frmTempolark> clock = DrawnClock(program, file, *size, ticks);
     const QImage image = clock->SeenPicture();

@@ -136,10 +136,7 @@ int Run(Context& context) {
     SilentActions actions;
     RecordingFiles files(machine.FileSystem, log.Teller());
     RecordingShell shell(log.Teller());
-    const platform::Services services{
-        clock,         zones,   files,         machine.User,   machine.Settings, actions,
-        voices,        players, machine.Sound, machine.Dialog, machine.TrayIcon, machine.Help,
-        machine.Random};
+    const platform::Services services = machine.With(clock, zones, files, actions, voices, players);
     const QString name = context.Arguments[0];
     ClockProperties central;
     if (mduMain::SetupFiles(context.State, services, name, central) != mduMain::SetupResult::Done) {

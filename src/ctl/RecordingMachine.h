@@ -4,8 +4,10 @@
 #include <functional>
 
 #include "foundation/Forms.h"
-#include "platform/AbsentDevices.h"
 #include "platform/Files.h"
+#include "platform/MediaPlayers.h"
+#include "platform/SystemActions.h"
+#include "platform/Voices.h"
 #include "platform/WallClock.h"
 
 /// A machine whose devices run nothing and tell what they are asked for, as events.

@@ -49,7 +49,6 @@ ScriptMachine::ScriptMachine(const GlobalOptions& options, const QString& appFol
       user_(MakeAccount(options)),
       settings_(appFolder + u"/Settings.ini"_s),
       random_(options.Seed),
-      services_{*clock_,  zones_, files_,   *user_, settings_, actions_, voices_,
-                players_, sound_, dialogs_, tray_,  help_,     random_} {}
+      services_(devices_.Beside(*clock_, zones_, files_, *user_, settings_, dialogs_, random_)) {}
 
 }  // namespace ctl

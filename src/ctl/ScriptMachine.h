@@ -4,10 +4,13 @@
 
 #include "ctl/GlobalOptions.h"
 #include "platform/AbsentDevices.h"
+#include "platform/Accounts.h"
+#include "platform/Dialogs.h"
+#include "platform/FileSettings.h"
 #include "platform/LocalFiles.h"
 #include "platform/Services.h"
 #include "platform/SimulatedClock.h"
-#include "platform/SystemServices.h"
+#include "platform/SystemRandom.h"
 #include "platform/TzZoneDatabase.h"
 
 namespace ctl {
@@ -36,13 +39,8 @@ private:
     platform::LocalFiles files_;
     std::unique_ptr<platform::Account> user_;
     platform::FileSettings settings_;
-    platform::NoActions actions_;
-    platform::NoVoices voices_;
-    platform::NoPlayers players_;
-    platform::NoSound sound_;
+    platform::AbsentDevices devices_;
     ConsoleDialogs dialogs_;
-    platform::NoTray tray_;
-    platform::NoHelp help_;
     platform::SystemRandom random_;
     platform::Services services_;
 };

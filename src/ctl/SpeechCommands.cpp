@@ -1,6 +1,7 @@
 #include <QJsonObject>
 
 #include "ctl/ZoneByName.h"
+#include "platform/WallClock.h"
 #include "speech/SpeechPatterns.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneSources.h"

@@ -2,6 +2,7 @@
 #include <QJsonObject>
 
 #include "ctl/ZoneByName.h"
+#include "platform/WallClock.h"
 #include "timers/ClockTimers.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneSources.h"

@@ -7,6 +7,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -6,7 +6,10 @@
 #include "drawing/Angles.h"
 #include "drawing/HandStyles.h"
 #include "foundation/ClockProperty.h"
-#include "platform/Machine.h"
+
+namespace platform {
+class RandomNumbers;
+}
 
 namespace drawing {
 

@@ -6,9 +6,12 @@
 #include "foundation/ModuleState.h"
 #include "foundation/PictureStore.h"
 #include "platform/Files.h"
-#include "platform/Machine.h"
 #include "platform/WallClock.h"
 #include "timezones/TimeZoneRecord.h"
+
+namespace platform {
+class RandomNumbers;
+}
 
 namespace drawing {
 

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "drawing/Angles.h"
+#include "platform/RandomNumbers.h"
 
 namespace drawing {
 

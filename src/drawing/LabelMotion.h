@@ -6,8 +6,11 @@
 
 #include "drawing/Canvas.h"
 #include "foundation/Controls.h"
-#include "platform/Machine.h"
 #include "platform/WallClock.h"
+
+namespace platform {
+class RandomNumbers;
+}
 
 namespace drawing {
 

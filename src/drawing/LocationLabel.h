@@ -6,7 +6,10 @@
 #include "drawing/Surface.h"
 #include "foundation/ClockProperty.h"
 #include "foundation/Controls.h"
-#include "platform/Machine.h"
+
+namespace platform {
+class RandomNumbers;
+}
 
 namespace drawing {
 

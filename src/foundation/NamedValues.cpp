@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "foundation/Numbers.h"
+#include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,10 @@
 #include <QStringList>
 
 #include "foundation/ClockProperty.h"
-#include "platform/Machine.h"
+
+namespace platform {
+class RandomNumbers;
+}
 
 /// The words of property values and what they mean.
 namespace mduUILib {

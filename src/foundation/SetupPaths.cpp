@@ -6,6 +6,10 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyMerge.h"
 #include "foundation/SettingsFile.h"
+#include "platform/Account.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Services.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,10 @@
 #include <QString>
 
 #include "foundation/ModuleState.h"
-#include "platform/Services.h"
+
+namespace platform {
+struct Services;
+}
 
 /// Start-up: folders, per-user files and their merges with newer defaults.
 namespace mduMain {

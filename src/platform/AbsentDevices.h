@@ -1,6 +1,12 @@
 #pragma once
 
-#include "platform/Machine.h"
+#include "platform/HelpViewer.h"
+#include "platform/MediaPlayers.h"
+#include "platform/Services.h"
+#include "platform/SoundDevices.h"
+#include "platform/SystemActions.h"
+#include "platform/Tray.h"
+#include "platform/Voices.h"
 
 /// A machine that lacks a device: no voices, no player, no sound, no tray. The program runs on it;
 /// what needs the device stays silent.
@@ -40,6 +46,34 @@ class NoHelp final : public HelpViewer {
 public:
     QString Show(const QString&, int) override {
         return QStringLiteral("This machine has nothing to show help with");
+    }
+};
+
+/// A machine without any of them: that of a script, and the ground that a test builds on.
+struct AbsentDevices {
+    NoActions Actions;
+    NoVoices Speech;
+    NoPlayers Media;
+    NoSound Sound;
+    NoTray TrayIcon;
+    NoHelp Help;
+
+    /// The machine of these parts and no device. All of it must outlive what is given back.
+    Services Beside(WallClock& clock, ZoneDatabase& zones, Files& files, Account& user,
+                    SettingsStore& settings, Dialogs& dialogs, RandomNumbers& random) {
+        return {.Clock = clock,
+                .Zones = zones,
+                .FileSystem = files,
+                .User = user,
+                .Settings = settings,
+                .Actions = Actions,
+                .Speech = Speech,
+                .Media = Media,
+                .Sound = Sound,
+                .Dialog = dialogs,
+                .TrayIcon = TrayIcon,
+                .Help = Help,
+                .Random = random};
     }
 };
 

@@ -1,9 +1,12 @@
 #include "shell/HeaderLetters.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
+
+#include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -6,7 +6,9 @@
 #include <optional>
 #include <vector>
 
-#include "platform/Machine.h"
+namespace platform {
+class RandomNumbers;
+}
 
 /// The letters that stand on the shell while no clock is open.
 namespace shell {

@@ -2,6 +2,7 @@
 
 #include "foundation/FileHelpers.h"
 #include "foundation/OpenClocks.h"
+#include "platform/Dialogs.h"
 #include "shell/ClockCommands.h"
 #include "timezones/ZoneSources.h"
 

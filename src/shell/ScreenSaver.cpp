@@ -1,5 +1,7 @@
 #include "shell/ScreenSaver.h"
 
+#include "platform/SettingsStore.h"
+
 using namespace Qt::StringLiterals;
 
 namespace shell {

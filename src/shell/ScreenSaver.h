@@ -1,7 +1,10 @@
 #pragma once
 
-#include "platform/Machine.h"
 #include "shell/MenuArray.h"
+
+namespace platform {
+class SettingsStore;
+}
 
 /// The program as the system's screen saver and as one that starts with the user's logon: what the
 /// settings store says of it.

@@ -5,6 +5,9 @@
 #include "foundation/FileHelpers.h"
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/Files.h"
+#include "platform/SoundDevices.h"
+#include "platform/WallClock.h"
 
 using namespace Qt::StringLiterals;
 

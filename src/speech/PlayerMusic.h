@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "platform/MediaPlayers.h"
 #include "speech/ClockVoice.h"
 #include "speech/SpeechContext.h"
 #include "speech/ToldReasons.h"

@@ -6,6 +6,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "platform/SpeechFlags.h"
+#include "platform/WallClock.h"
 
 using namespace Qt::StringLiterals;
 

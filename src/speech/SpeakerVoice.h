@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/Voices.h"
 #include "speech/ClockVoice.h"
 #include "speech/SpeechContext.h"
 #include "speech/ToldReasons.h"

@@ -4,6 +4,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/TextHelpers.h"
+#include "platform/Voices.h"
 #include "speech/SpeakerVoice.h"
 
 using namespace Qt::StringLiterals;

@@ -4,6 +4,7 @@
 
 #include "foundation/FileHelpers.h"
 #include "foundation/PropertyFile.h"
+#include "platform/Files.h"
 #include "timers/SystemActions.h"
 
 using namespace Qt::StringLiterals;

@@ -6,6 +6,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/Files.h"
 #include "timers/TimerFile.h"
 
 using namespace Qt::StringLiterals;

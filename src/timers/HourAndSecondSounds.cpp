@@ -3,6 +3,7 @@
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/WallClock.h"
 
 using namespace Qt::StringLiterals;
 

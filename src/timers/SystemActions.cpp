@@ -5,6 +5,9 @@
 #include <iterator>
 
 #include "foundation/FileHelpers.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/SystemActions.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,6 +3,7 @@
 #include "foundation/Dates.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
+#include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,8 +4,11 @@
 #include <QStringList>
 #include <optional>
 
-#include "platform/Machine.h"
 #include "timers/ClockTimer.h"
+
+namespace platform {
+class RandomNumbers;
+}
 
 /// The lines of a timer file, one timer each:
 ///

@@ -4,6 +4,7 @@
 #include "foundation/Controls.h"
 #include "foundation/ModuleState.h"
 #include "platform/Services.h"
+#include "platform/WallClock.h"
 #include "timezones/TimeZoneRecord.h"
 #include "timezones/ZoneArithmetic.h"
 

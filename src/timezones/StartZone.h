@@ -2,7 +2,9 @@
 
 #include <QString>
 
-#include "platform/Services.h"
+namespace platform {
+struct Services;
+}
 
 namespace mduTimeZones {
 

@@ -5,6 +5,9 @@
 #include <utility>
 
 #include "foundation/FileHelpers.h"
+#include "platform/Services.h"
+#include "platform/WallClock.h"
+#include "platform/ZoneDatabase.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSearch.h"
 #include "timezones/ZoneSources.h"

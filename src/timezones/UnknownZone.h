@@ -4,7 +4,10 @@
 #include <vector>
 
 #include "foundation/ModuleState.h"
-#include "platform/Services.h"
+
+namespace platform {
+struct Services;
+}
 
 /// A name that no zone has, as a slip of the finger makes it, runs as GMT. This tells so.
 namespace mduTimeZones {

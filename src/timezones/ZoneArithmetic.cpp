@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "foundation/Dates.h"
+#include "platform/ZoneDatabase.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,6 +4,7 @@
 
 #include "foundation/Dates.h"
 #include "foundation/Numbers.h"
+#include "platform/ZoneDatabase.h"
 #include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,7 @@
 #include "timezones/ZoneFilesOfRows.h"
 
 #include "foundation/FileHelpers.h"
+#include "platform/Services.h"
 #include "timezones/ZoneKeys.h"
 
 using namespace Qt::StringLiterals;

@@ -5,8 +5,12 @@
 
 #include "foundation/ClockProperty.h"
 #include "foundation/ModuleState.h"
-#include "platform/Services.h"
 #include "timezones/TimeZoneRecord.h"
+
+namespace platform {
+class Files;
+struct Services;
+}  // namespace platform
 
 /// The six "Time Zone ..." keys of a property file.
 namespace mduTimeZones {

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "platform/Services.h"
+#include "platform/WallClock.h"
 #include "timezones/ZoneDescription.h"
 #include "timezones/ZoneSearch.h"
 #include "timezones/ZoneSources.h"

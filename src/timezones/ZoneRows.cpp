@@ -3,6 +3,8 @@
 #include <QHash>
 
 #include "foundation/FileHelpers.h"
+#include "platform/Files.h"
+#include "platform/Services.h"
 #include "timezones/ProfileFacts.h"
 #include "timezones/ZoneSearch.h"
 #include "timezones/ZoneSources.h"

@@ -4,8 +4,13 @@
 #include <vector>
 
 #include "foundation/ModuleState.h"
-#include "platform/Services.h"
+#include "platform/ZoneDatabase.h"
 #include "timezones/TimeZoneRecord.h"
+
+namespace platform {
+class Files;
+struct Services;
+}  // namespace platform
 
 /// The rows of the window of zones, before any sorting or searching.
 namespace mduTimeZones {

@@ -3,6 +3,8 @@
 #include <QtEndian>
 #include <algorithm>
 
+#include "platform/Services.h"
+#include "platform/ZoneDatabase.h"
 #include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;

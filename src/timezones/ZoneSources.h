@@ -1,8 +1,12 @@
 #pragma once
 
 #include "foundation/ModuleState.h"
-#include "platform/Services.h"
 #include "timezones/TimeZoneRecord.h"
+
+namespace platform {
+struct Services;
+class ZoneDatabase;
+}  // namespace platform
 
 /// Where records come from: the system's zone database and the folder of zone profiles.
 namespace mduTimeZones {

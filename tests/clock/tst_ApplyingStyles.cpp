@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "ClockDesk.h"
+#include "support/FakeDialogs.h"
 
 using clockcore::ClockState;
 

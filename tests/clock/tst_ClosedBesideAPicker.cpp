@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "ClockDesk.h"
+#include "platform/Dialogs.h"
 
 namespace {
 
@@ -46,11 +47,7 @@ private Q_SLOTS:
         QFETCH(bool, gone);
         Desk desk;
         ClosingDialogs dialogs;
-        const platform::Services& own = desk.Services;
-        const platform::Services services{own.Clock,    own.Zones,   own.FileSystem, own.User,
-                                          own.Settings, own.Actions, own.Speech,     own.Media,
-                                          own.Sound,    dialogs,     own.TrayIcon,   own.Help,
-                                          own.Random};
+        const platform::Services services = desk.Services.With(dialogs);
         const QPointer<frmTempolark> clock =
             new frmTempolark(Program{services, desk.Module, desk.Windows}, &desk.Shell, &desk.Area);
         QVERIFY(clock->ShowMeMDIChild(u"UTC"_s));

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "clock/ClockDesk.h"
+#include "support/FakeDialogs.h"
 
 using clockcore::ClockFrame;
 

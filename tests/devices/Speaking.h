@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-#include "platform/Machine.h"
+#include "platform/Voices.h"
 #include "platform/devices/QtPlayers.h"
 
 /// Speaks a text and lets events run until it has come to its end. @return whether it was spoken

@@ -2,7 +2,7 @@
 
 #include "drawing/AnalogueFace.h"
 #include "foundation/PropertyLookup.h"
-#include "support/FakeServices.h"
+#include "support/FakeRandom.h"
 
 using namespace Qt::StringLiterals;
 using drawing::AnalogueLook;

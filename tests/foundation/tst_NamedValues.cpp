@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "foundation/NamedValues.h"
-#include "support/FakeServices.h"
+#include "support/FakeRandom.h"
 
 using namespace Qt::StringLiterals;
 

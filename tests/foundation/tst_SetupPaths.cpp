@@ -1,6 +1,8 @@
 #include <QTest>
 
 #include "foundation/SetupPaths.h"
+#include "platform/Accounts.h"
+#include "support/FakeDialogs.h"
 #include "support/FakeServices.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "shell/Launcher.h"
+#include "support/FakeDialogs.h"
 #include "support/FakeForms.h"
 #include "support/FakeServices.h"
 

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "shell/ShellDesk.h"
+#include "support/FakeDialogs.h"
 
 /// Real clocks in the real shell, told what to do from its menus.
 class tst_ShellCommandsOnClocks : public QObject {

@@ -1,4 +1,5 @@
 #include "shell/ShellDesk.h"
+#include "support/FakeHelp.h"
 
 /// Which help the shell asks for, and what it says when there is none.
 class tst_ShellHelp : public QObject {

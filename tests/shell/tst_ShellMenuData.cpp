@@ -3,6 +3,7 @@
 #include "shell/MenuState.h"
 #include "shell/ScreenSaver.h"
 #include "support/FakeServices.h"
+#include "support/FakeSettings.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,6 +8,8 @@
 #include "shell/ShellDesk.h"
 #include "shell/ui/ClockArea.h"
 #include "shell/ui/ToolBar.h"
+#include "support/FakeDialogs.h"
+#include "support/FakeSettings.h"
 
 /// What the shell's property file says.
 static QString Stored(const Desk& desk, const QString& key) {
@@ -272,6 +274,18 @@ private Q_SLOTS:
         desk.Machine.Files.Unwritable += path;
         desk.ClickItem(u"MainItem"_s, 8);
         QCOMPARE(desk.Status(), path + u" can't be written"_s);
+    }
+
+    void AToolbarThatCantBeKeptIsNotSaved() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        desk.Machine.Settings.Unwritable = true;
+        desk.ClickItem(u"SaveToolbarSetting"_s, 1);
+        QCOMPARE(desk.Status(), u"The toolbar can't be written"_s);
+        QVERIFY(!desk.Machine.Settings.Value(u"TempolarkCentralToolbar"_s, u"tester"_s).isValid());
+        desk.Machine.Settings.Unwritable = false;
+        desk.ClickItem(u"SaveToolbarSetting"_s, 1);
+        QVERIFY(desk.Status().startsWith(u"Saved the toolbar at 12:00:00"_s));
     }
 
     void ANewLayoutIsKeptAtTheExit() {

@@ -7,6 +7,7 @@
 #include "foundation/ui/BalloonWindow.h"
 #include "shell/ShellDesk.h"
 #include "shell/ui/ToolBar.h"
+#include "support/FakeSettings.h"
 
 /// A toolbar of its own, 300 pixels long.
 struct Bar {

@@ -10,6 +10,7 @@
 #include "foundation/PropertyLookup.h"
 #include "shell/ShellDesk.h"
 #include "shell/ui/ToolBar.h"
+#include "support/FakeDialogs.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,6 +5,7 @@
 
 #include "drawing/FaceContext.h"
 #include "foundation/PropertyLookup.h"
+#include "support/FakeRandom.h"
 #include "support/FakeServices.h"
 
 /// A clock's window without a window: a surface, and a record of what is asked of it.

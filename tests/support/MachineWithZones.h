@@ -4,6 +4,7 @@
 
 #include "foundation/Program.h"
 #include "foundation/SetupPaths.h"
+#include "platform/Services.h"
 #include "platform/TzZoneDatabase.h"
 #include "support/FakeServices.h"
 
@@ -27,10 +28,7 @@ public:
 
     FakeServices Machine;
     platform::TzZoneDatabase Zones{Machine.Clock, "UTC"};
-    platform::Services Services{Machine.Clock,    Zones,           Machine.Files,  Machine.User,
-                                Machine.Settings, Machine.Actions, Machine.Voices, Machine.Players,
-                                Machine.Sound,    Machine.Dialogs, Machine.Tray,   Machine.Help,
-                                Machine.Random};
+    platform::Services Services = Machine.Services.With(Zones);
     ModuleState Module;
     Forms Windows;
     Program TheProgram{Services, Module, Windows};

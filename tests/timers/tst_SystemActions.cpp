@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "support/FakeDialogs.h"
 #include "timers/ActionDesk.h"
 
 using namespace Qt::StringLiterals;

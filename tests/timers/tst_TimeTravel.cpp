@@ -19,13 +19,7 @@ struct Day {
     FakeTimerHost Host;
     mduUILib::ClockControls Controls;
     platform::TzZoneDatabase Database{Zones.Machine.Clock, "Europe/London"};
-    platform::Services Services{Zones.Machine.Clock,    Database,
-                                Zones.Machine.Files,    Zones.Machine.User,
-                                Zones.Machine.Settings, Zones.Machine.Actions,
-                                Zones.Machine.Voices,   Zones.Machine.Players,
-                                Zones.Machine.Sound,    Zones.Machine.Dialogs,
-                                Zones.Machine.Tray,     Zones.Machine.Help,
-                                Zones.Machine.Random};
+    platform::Services Services = Zones.Services.With(Database);
     TimeZoneRecord Zone;
     TimerContext Context{Host.Properties, Zone, Controls, Services, Zones.Module, Host};
     ClockMessages Messages{Context, [this](const QString&) { Runs += 1; }};

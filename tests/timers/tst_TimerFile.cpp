@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-#include "support/FakeServices.h"
+#include "support/FakeRandom.h"
 
 using namespace Qt::StringLiterals;
 using namespace timers;

@@ -2,6 +2,7 @@
 #include <QTimeZone>
 
 #include "foundation/ClockProperty.h"
+#include "platform/Services.h"
 #include "platform/TzZoneDatabase.h"
 #include "support/FakeServices.h"
 #include "timezones/ZoneArithmetic.h"
@@ -40,9 +41,7 @@ struct MachineIn {
     FakeServices Fake;
     ClockIn Clock;
     platform::TzZoneDatabase Zones;
-    platform::Services Services{Clock,        Zones,       Fake.Files,   Fake.User,  Fake.Settings,
-                                Fake.Actions, Fake.Voices, Fake.Players, Fake.Sound, Fake.Dialogs,
-                                Fake.Tray,    Fake.Help,   Fake.Random};
+    platform::Services Services = Fake.Services.With(Clock, Zones);
 };
 
 struct NamedZone {

@@ -7,6 +7,7 @@
 #include "drawing/StockPictures.h"
 #include "foundation/Dates.h"
 #include "foundation/NamedValues.h"
+#include "platform/WallClock.h"
 #include "timezones/ZoneArithmetic.h"
 
 using namespace Qt::StringLiterals;

@@ -8,6 +8,7 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/Twips.h"
+#include "platform/WallClock.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,6 +8,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/ZoneDatabase.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
 

@@ -26,6 +26,7 @@
 #include "drawing/DigitalReadOut.h"
 #include "foundation/Controls.h"
 #include "foundation/Program.h"
+#include "platform/WallClock.h"
 #include "speech/PlayerMusic.h"
 #include "speech/SpeakerVoice.h"
 #include "speech/SpokenPatterns.h"

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "platform/Files.h"
-#include "platform/Machine.h"
+#include "platform/HelpViewer.h"
 
 namespace platform {
 

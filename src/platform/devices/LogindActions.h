@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QThreadPool>
 
-#include "platform/Machine.h"
+#include "platform/SystemActions.h"
 
 namespace platform {
 

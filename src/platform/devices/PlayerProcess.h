@@ -2,7 +2,7 @@
 
 #include <QTimer>
 
-#include "platform/Machine.h"
+#include "platform/MediaPlayers.h"
 #include "platform/devices/ChildProcess.h"
 
 namespace platform {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/Machine.h"
+#include "platform/MediaPlayers.h"
+#include "platform/SoundDevices.h"
 
 namespace platform {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/Machine.h"
+#include "platform/Voices.h"
 #include "platform/devices/Utterance.h"
 #include "platform/devices/VoiceDirectory.h"
 

@@ -4,7 +4,7 @@
 #include <QMessageBox>
 #include <QPointer>
 
-#include "platform/Machine.h"
+#include "platform/Dialogs.h"
 
 namespace platform {
 

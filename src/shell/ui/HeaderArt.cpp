@@ -8,6 +8,7 @@
 #include "drawing/Surface.h"
 #include "foundation/Contrast.h"
 #include "foundation/Twips.h"
+#include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "foundation/Program.h"
+#include "platform/WallClock.h"
 #include "shell/HeaderLayout.h"
 #include "shell/HeaderLetters.h"
 

@@ -8,6 +8,8 @@
 
 #include "foundation/Program.h"
 #include "foundation/ui/CBalloonToolTip.h"
+#include "platform/Voices.h"
+#include "platform/WallClock.h"
 #include "shell/Arrangement.h"
 #include "shell/Eye.h"
 #include "shell/LastOpened.h"
@@ -129,7 +131,7 @@ private:
     void TellSaved(const QString& what);
     void SaveCentralSettings();
     void SaveWindowPlacement();
-    void SaveToolbarLayout();
+    bool SaveToolbarLayout();
 
     // What the menus show (frmMainMenus.cpp)
     void RefreshMenu(const QString& menu);

@@ -5,6 +5,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/ui/mduBalloonTipLib.h"
+#include "platform/HelpViewer.h"
 #include "shell/ToolCommands.h"
 #include "shell/ToolbarLook.h"
 #include "shell/ui/ClockArea.h"

@@ -8,6 +8,8 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/RemovalQuestion.h"
+#include "platform/Dialogs.h"
+#include "platform/ZoneDatabase.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/FileList.h"
@@ -93,8 +95,11 @@ void frmMain::HandleCentralMenus() {
     };
     handlers_[u"ToolbarCustomize"_s] = [this](int, const MenuItem&) { Customize(*toolbar_, this); };
     handlers_[u"SaveToolbarSetting"_s] = [this](int, const MenuItem&) {
-        SaveToolbarLayout();
-        TellSaved(u"the toolbar"_s);
+        if (SaveToolbarLayout()) {
+            TellSaved(u"the toolbar"_s);
+        } else {
+            ShowStatusMsg(u"The toolbar can't be written"_s);
+        }
     };
     handlers_[u"HideStatusBar"_s] = [this](int, const MenuItem& item) {
         if (item.Tag == u"Yes"_s) {

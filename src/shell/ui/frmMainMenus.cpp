@@ -3,6 +3,7 @@
 
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
+#include "platform/Files.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/FileList.h"

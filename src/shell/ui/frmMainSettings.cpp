@@ -12,6 +12,9 @@
 #include "foundation/SavedMessage.h"
 #include "foundation/SettingsFile.h"
 #include "foundation/Twips.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/SettingsStore.h"
 #include "shell/CentralSettings.h"
 #include "shell/ClockCommands.h"
 #include "shell/ToolbarLook.h"
@@ -270,9 +273,9 @@ void frmMain::SaveCentralSettings() {
 }
 
 // Which buttons the user has kept. Every start sets the bar up from the catalogue all the same.
-void frmMain::SaveToolbarLayout() {
-    program_.Services.Settings.SetValue(u"TempolarkCentralToolbar"_s,
-                                        program_.Module.Paths.UserName, toolbar_->Layout());
+bool frmMain::SaveToolbarLayout() {
+    return program_.Services.Settings.SetValue(u"TempolarkCentralToolbar"_s,
+                                               program_.Module.Paths.UserName, toolbar_->Layout());
 }
 
 void frmMain::SaveWindowPlacement() {

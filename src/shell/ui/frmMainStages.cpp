@@ -4,6 +4,7 @@
 
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
+#include "platform/Files.h"
 #include "shell/StartMessage.h"
 #include "shell/ui/ClockArea.h"
 #include "shell/ui/HeaderArt.h"

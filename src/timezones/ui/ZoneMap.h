@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "foundation/Program.h"
+#include "platform/WallClock.h"
 #include "timezones/MapBand.h"
 
 /// A zone on the map.

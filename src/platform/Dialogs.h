@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+/// Boxes that ask the user. In tests a box that was not expected fails the test, it never waits.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+
+    /// A box with the buttons and icon of @p flags (the system's message-box flags: 16 critical,
+    /// 48 exclamation, 4 Yes and No). Answers the button pressed: 1 OK, 6 Yes, 7 No.
+    virtual int MessageBox(const QString& text, int flags, const QString& title) = 0;
+
+    /// A box that tells something and waits for nobody: it is shown when the event loop runs next,
+    /// behind those that were posted before. One that stands or waits already is not posted again.
+    virtual void PostMessageBox(const QString& text, int flags, const QString& title) {
+        MessageBox(text, flags, title);
+    }
+
+    /// A picker for opening a file; an empty text when it is cancelled.
+    virtual QString OpenFile(const QString& title, const QString& folder,
+                             const QString& filter) = 0;
+
+    /// A picker for a file to be written; an empty text when it is cancelled.
+    virtual QString SaveFile(const QString& title, const QString& folder,
+                             const QString& filter) = 0;
+
+    /// A picker for a colour, red in the low byte; -1 when it is cancelled.
+    virtual int PickColour(int present) = 0;
+};
+
+}  // namespace platform
