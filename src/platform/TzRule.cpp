@@ -152,7 +152,7 @@ QByteArray TziBytes(const TzRule& rule) {
     QByteArray bytes;
     bytes.reserve(44);
     Append(bytes, rule.Bias);
-    Append(bytes, rule.StandardBias);
+    Append(bytes, std::int32_t{0});  // of standard time, beside `Bias`: none
     Append(bytes, rule.DaylightBias);
     Append(bytes, rule.StandardDate);
     Append(bytes, rule.DaylightDate);

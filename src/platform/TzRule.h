@@ -9,7 +9,6 @@ namespace platform {
 /// whatever the tz database calls it.
 struct TzRule {
     std::int32_t Bias = 0;  ///< minutes; west is positive
-    std::int32_t StandardBias = 0;
     std::int32_t DaylightBias = 0;  ///< relative to `Bias`, -60 as a rule
     SYSTEMTIME StandardDate;        ///< told on the daylight clock
     SYSTEMTIME DaylightDate;        ///< told on the standard clock

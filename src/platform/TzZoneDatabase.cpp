@@ -46,7 +46,7 @@ QString DaylightNameOf(QString standardName) {
 }
 
 QString DisplayText(const TzRule& rule, const QString& cities) {
-    const int bias = rule.Bias + rule.StandardBias;
+    const int bias = rule.Bias;
     const auto twoDigits = [](int number) {
         return QString::number(number).rightJustified(2, u'0');
     };
@@ -152,7 +152,6 @@ TimeZoneInformation TzZoneDatabase::GetTimeZoneInformation() const {
     information.Bias = rule.Bias;
     information.StandardName = LocalStandardName();
     information.StandardDate = rule.StandardDate;
-    information.StandardBias = rule.StandardBias;
     information.DaylightName = DaylightNameOf(LocalStandardName());
     information.DaylightDate = rule.DaylightDate;
     information.DaylightBias = rule.DaylightBias;

@@ -121,6 +121,12 @@ private Q_SLOTS:
         QTEST(Steps().RowFor(top, height, width).value_or(QRectF()), "row");
     }
 
+    void NoRowOfNoWidth() {
+        const SeenArea stairs(QRegion(0, 0, 10, 10) + QRegion(10, 10, 10, 10));
+        QVERIFY(stairs.RowFor(0, 10, 5));
+        QVERIFY(!stairs.RowFor(0, 15, 5));
+    }
+
     void ThroughAWindowsShape() {
         FakeFace face(200, 100);
         face.Window.Outer = QSizeF(208 * 15, 128 * 15);

@@ -16,6 +16,7 @@ class tst_TimeZoneWindow : public QObject {
 
 private Q_SLOTS:
     void OpensOnTheDatabase();
+    void ItsRowsAreFlush();
     void IsAWindowOfTheProgram();
     void ClickOnABoxMakesTheFile();
     void ClickOnABoxMakesItsRowCurrent();
@@ -49,6 +50,23 @@ private Q_SLOTS:
     void DeleteIsForZoneFilesAlone_data();
     void DeleteIsForZoneFilesAlone();
 };
+
+/// All that stands below one another begins and ends at the same places.
+void tst_TimeZoneWindow::ItsRowsAreFlush() {
+    ZoneWindowDesk desk;
+    desk.Open();
+    const auto span = [&desk](const QString& first, const QString& last) {
+        const auto edge = [&](const QString& name, const QPoint& corner) {
+            return desk.Find<QWidget>(name).mapTo(desk.Window.get(), corner).x();
+        };
+        return std::pair(edge(first, {0, 0}), edge(last, {desk.Find<QWidget>(last).width(), 0}));
+    };
+    const auto list = span(u"lsvTimeZones"_s, u"lsvTimeZones"_s);
+    QCOMPARE(list, std::pair(12, 792));
+    QCOMPARE(span(u"imgMap"_s, u"imgMap"_s), list);
+    QCOMPARE(span(u"txtSearch"_s, u"cmdView"_s), list);
+    QCOMPARE(span(u"lblCount"_s, u"cmdClose"_s), list);
+}
 
 void tst_TimeZoneWindow::OpensOnTheDatabase() {
     ZoneWindowDesk desk;
