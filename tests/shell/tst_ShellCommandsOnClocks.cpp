@@ -187,6 +187,22 @@ private Q_SLOTS:
         QTRY_VERIFY(desk.HeaderShows());
     }
 
+    /// A command that nobody handles, or a handler that no menu knows, is a slip in a name.
+    void EveryCommandHasAHandler() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        QStringList without, unknown = desk.Shell->Commands().Names();
+        for (const QString& name : shell::CommandsOfMenus()) {
+            if (!desk.Shell->Commands().Handles(name)) {
+                without += name;
+            }
+            unknown.removeAll(name);
+        }
+        without.sort();
+        QCOMPARE(without, shell::MenuCommands::ThatDoNothing());
+        QCOMPARE(unknown, QStringList());
+    }
+
     void EveryEntryAnswers() {
         Desk desk;
         QVERIFY(desk.Start());

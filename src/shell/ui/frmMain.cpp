@@ -68,9 +68,10 @@ frmMain::~frmMain() {
 
 void frmMain::MakeInnerParts() {
     const QString pictures = program_.Module.Paths.AppFolder + u"/Images"_s;
-    menus_ = new ShellMenus(this, menuState_,
-                            {[this](const QString& menu) { RefreshMenu(menu); },
-                             [this](const QString& name, int index) { ClickMenu(name, index); }});
+    menus_ =
+        new ShellMenus(this, menuState_,
+                       {[this](const QString& menu) { RefreshMenu(menu); },
+                        [this](const QString& name, int index) { commands_.Click(name, index); }});
     menus_->AddTo(*menuBar());
     menuBar()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(menuBar(), &QWidget::customContextMenuRequested, this,
@@ -78,6 +79,7 @@ void frmMain::MakeInnerParts() {
     HandleFileMenus();
     HandleCentralMenus();
     HandleClockMenus();
+    HandleWindowMenus();
     toolbar_ = new ToolBar(
         program_.Services.FileSystem, pictures,
         {[this](int index) { HandleToolButton(index); }, [this](int index) { ShowToolTip(index); },

@@ -12,7 +12,7 @@
 #include "shell/Eye.h"
 #include "shell/LastOpened.h"
 #include "shell/Launcher.h"
-#include "shell/MenuState.h"
+#include "shell/MenuCommands.h"
 #include "shell/StatusMessages.h"
 
 class ClockArea;
@@ -55,6 +55,9 @@ public:
     void ShowHelp(const QString& name = {});
 
     void ShowEye();  ///< puts the eye's first picture into the status bar
+
+    /// What the menus can do, by name.
+    const shell::MenuCommands& Commands() const { return commands_; }
 
     // IForm
     QString Name() const override { return QStringLiteral("frmMain"); }
@@ -155,10 +158,11 @@ private:
     void OpenHelp(const QString& name, int otherwise);
 
     // What the entries of the menus do (frmMainMenuCommands.cpp)
-    void ClickMenu(const QString& name, int index);
     void HandleFileMenus();
     void HandleCentralMenus();
     void HandleClockMenus();
+    void HandleWindowMenus();
+    void OpenZone(const shell::MenuItem& item);
     void OpenLast(const shell::MenuItem& item);
     void ClickRemove(const shell::MenuItem& item);
     void RunOpenedItem(int index);
@@ -177,7 +181,7 @@ private:
     shell::StatusMessages status_;
     shell::Eye eye_;
     shell::MenuState menuState_;
-    std::map<QString, std::function<void(int index, const shell::MenuItem&)>> handlers_;
+    shell::MenuCommands commands_{menuState_};
     std::unique_ptr<platform::Ticker> timerCtrl_;
     std::unique_ptr<platform::Voice> voice_;
     std::array<CBalloonToolTip, 2> balloonTips_;

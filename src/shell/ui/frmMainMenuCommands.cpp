@@ -25,99 +25,101 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The menus as `DoMenuItem` counts them.
-namespace MenuId {
-constexpr float TimeZone = 1;
-constexpr float Window = 8;
-constexpr float Main = 9;
-}  // namespace MenuId
-
 const QString IniFilter = u"Ini File (*.ini)"_s;
 
 }  // namespace
 
-void frmMain::ClickMenu(const QString& name, int index) {
-    const auto handler = handlers_.find(name);
-    if (handler != handlers_.end()) {
-        handler->second(index, menuState_[name](index));
+void frmMain::HandleFileMenus() {
+    using shell::MenuItem;
+    commands_.Handle(u"NewClock"_s, [this] { ShowCentralProperties(true); });
+    commands_.Handle(u"TimeZone"_s, [this](int, const MenuItem& item) { OpenZone(item); });
+    commands_.Handle(u"FileItem"_s, [this](int, const MenuItem& item) { OpenLast(item); });
+    commands_.Handle(u"ChooseTimeZone"_s, [this] { OpenTimeZones(); });
+    commands_.Handle(u"DeleteTimeZone"_s, [this](int, const MenuItem& item) { ClickRemove(item); });
+    commands_.Handle(u"Exit"_s, [this] { Unload(); });
+    commands_.Handle(u"SetShortcut"_s, [this] { OpenShortcuts(); });
+    commands_.Handle(u"Opened"_s, [this](int i, const MenuItem&) { RunOpenedItem(i); });
+    // What comes with the agent and with the system's settings answers until then.
+    const auto answer = [this](const QString& text) {
+        return [this, text] { ShowStatusMsg(text); };
+    };
+    commands_.Handle(u"TempolarkAgentAction"_s, answer(u"Tempolark Agent is not here yet"_s));
+    commands_.Handle(u"AutoStart"_s, answer(u"Starting with the system can't be set yet"_s));
+    for (const QString& list : {u"ScreenSaverTime"_s, u"ScreenSaverTimeMain"_s}) {
+        commands_.Handle(list, answer(u"The screen saver can't be set yet"_s));
     }
 }
 
-void frmMain::HandleFileMenus() {
+void frmMain::HandleWindowMenus() {
     using shell::MenuItem;
-    handlers_[u"NewClock"_s] = [this](int, const MenuItem&) { ShowCentralProperties(true); };
-    handlers_[u"TimeZone"_s] = [this](int i, const MenuItem&) { DoMenuItem(MenuId::TimeZone, i); };
-    handlers_[u"FileItem"_s] = [this](int, const MenuItem& item) { OpenLast(item); };
-    handlers_[u"ChooseTimeZone"_s] = [this](int, const MenuItem&) { OpenTimeZones(); };
-    handlers_[u"DeleteTimeZone"_s] = [this](int, const MenuItem& item) { ClickRemove(item); };
-    handlers_[u"Exit"_s] = [this](int, const MenuItem&) { Unload(); };
-    handlers_[u"SetShortcut"_s] = [this](int, const MenuItem&) { OpenShortcuts(); };
-    handlers_[u"Opened"_s] = [this](int i, const MenuItem&) { RunOpenedItem(i); };
-    handlers_[u"WindowItem"_s] = [this](int i, const MenuItem&) { DoMenuItem(MenuId::Window, i); };
-    handlers_[u"OpenedWindow"_s] = [this](int, const MenuItem& item) {
-        shell::ActivateWindowByHandle(program_.Windows, mduAPILib::IntegerValue(item.Tag));
+    const auto arranges = [this](shell::Arrangement code) {
+        return [this, code] { Arrange(code); };
     };
-    handlers_[u"MainItem"_s] = [this](int i, const MenuItem&) { DoMenuItem(MenuId::Main, i); };
-    // What comes with the agent and with the system's settings answers until then.
-    const auto answer = [this](const QString& text) {
-        return [this, text](int, const MenuItem&) { ShowStatusMsg(text); };
-    };
-    handlers_[u"TempolarkAgentAction"_s] = answer(u"Tempolark Agent is not here yet"_s);
-    handlers_[u"AutoStart"_s] = answer(u"Starting with the system can't be set yet"_s);
-    handlers_[u"ScreenSaverTime"_s] = answer(u"The screen saver can't be set yet"_s);
-    handlers_[u"ScreenSaverTimeMain"_s] = handlers_[u"ScreenSaverTime"_s];
+    const Forms& windows = program_.Windows;
+    commands_.Handle(u"Tile"_s, arranges(shell::Arrangement::TileRows));
+    commands_.Handle(u"Cascade"_s, arranges(shell::Arrangement::TileColumns));
+    commands_.Handle(u"ArrangeIcons"_s, arranges(shell::Arrangement::Icons));
+    commands_.Handle(u"MaximiseAll"_s,
+                     [this, &windows] { shell::MaximiseAllChildren(windows, *this); });
+    commands_.Handle(u"RestoreAll"_s, [&windows] { shell::RestoreAllChildren(windows); });
+    commands_.Handle(u"MinimiseAll"_s, [&windows] { shell::MinimiseAllChildren(windows); });
+    commands_.Handle(u"CloseAll"_s, [&windows] { shell::CloseAllChildren(windows); });
+    commands_.Handle(u"OpenedWindow"_s, [&windows](int, const MenuItem& item) {
+        shell::ActivateWindowByHandle(windows, mduAPILib::IntegerValue(item.Tag));
+    });
+    commands_.Handle(u"Help"_s, [this] { ShowHelp(); });
+    commands_.Handle(u"About"_s, [this] {
+        ShowAboutBox(this, mduTimeZones::EditionText(program_.Services.Zones.Edition()));
+    });
+    commands_.Handle(u"Properties"_s, [this] { ShowCentralProperties(false); });
 }
 
 void frmMain::HandleCentralMenus() {
     using shell::MenuItem;
-    handlers_[u"BGColour"_s] = [this](int, const MenuItem& item) {
-        SetBackgroundColour(item.Caption);
-    };
-    handlers_[u"WindowTitleBar"_s] = [this](int, const MenuItem&) {
+    commands_.Handle(u"BGColour"_s,
+                     [this](int, const MenuItem& item) { SetBackgroundColour(item.Caption); });
+    commands_.Handle(u"WindowTitleBar"_s, [this] {
         const bool shown = !(windowFlags() & Qt::FramelessWindowHint);
         ApplyTitleBar(!shown);
         WriteSetting(u"Window Title Bar"_s, mduUILib::BoolToYesNo(!shown));
-    };
-    handlers_[u"ToolBarSize"_s] = [this](int, const MenuItem& item) {
+    });
+    commands_.Handle(u"ToolBarSize"_s, [this](int, const MenuItem& item) {
         toolbar_->ApplyToolbarSize(item.Caption);
         const QString place = Setting(u"Tool Bar"_s);
         if (place != u"None"_s && place != u"Hide"_s) {
             toolbar_->show();
         }
-    };
-    handlers_[u"ToolBarPositions"_s] = [this](int, const MenuItem& item) {
-        ApplyToolbarPosition(item.Caption);
-    };
-    handlers_[u"AutoShowToolTips"_s] = [this](int, const MenuItem& item) {
+    });
+    commands_.Handle(u"ToolBarPositions"_s,
+                     [this](int, const MenuItem& item) { ApplyToolbarPosition(item.Caption); });
+    commands_.Handle(u"AutoShowToolTips"_s, [this](int, const MenuItem& item) {
         WriteSetting(u"Auto Show Balloon Tips"_s, item.Tag);
-    };
-    handlers_[u"ToolbarCustomize"_s] = [this](int, const MenuItem&) { Customize(*toolbar_, this); };
-    handlers_[u"SaveToolbarSetting"_s] = [this](int, const MenuItem&) {
+    });
+    commands_.Handle(u"ToolbarCustomize"_s, [this] { Customize(*toolbar_, this); });
+    commands_.Handle(u"SaveToolbarSetting"_s, [this] {
         SaveToolbarLayout();
         TellSaved(u"the toolbar"_s);
-    };
-    handlers_[u"HideStatusBar"_s] = [this](int, const MenuItem& item) {
+    });
+    commands_.Handle(u"HideStatusBar"_s, [this](int, const MenuItem& item) {
         if (item.Tag == u"Yes"_s) {
             ApplyStatusBarPosition(u"No"_s);
             WriteSetting(u"Status Bar"_s, u"No"_s);
         } else {
             ShowStatusBarAgain();
         }
-    };
-    handlers_[u"SaveTempolarkCentralSettings"_s] = [this](int, const MenuItem&) {
-        SaveCentralSettings();
-    };
-    handlers_[u"StatusBarAction"_s] = [this](int, const MenuItem& item) {
+    });
+    commands_.Handle(u"SaveTempolarkCentralSettings"_s, [this] { SaveCentralSettings(); });
+    commands_.Handle(u"StatusBarAction"_s, [this](int, const MenuItem& item) {
         if (item.Tag == u"Yes"_s) {
             statusBar_->hide();  // for now: the file does not hear of it
         } else {
             ShowStatusBarAgain();
         }
-    };
-    handlers_[u"ClearStatusMessage"_s] = [this](int, const MenuItem&) {
+    });
+    commands_.Handle(u"ClearStatusMessage"_s, [this] {
         status_.Clear();
         statusBar_->SetMessage({});
-    };
+    });
 }
 
 void frmMain::HandleClockMenus() {
@@ -128,10 +130,10 @@ void frmMain::HandleClockMenus() {
             shell::BroadcastToClocks(program_.Windows, kind, index, item.Tag, item.Caption);
         };
     };
-    handlers_[u"Clocks"_s] = tell(Broadcast::Clocks);
-    handlers_[u"SaveSettings"_s] = tell(Broadcast::SaveSettings);
+    commands_.Handle(u"Clocks"_s, tell(Broadcast::Clocks));
+    commands_.Handle(u"SaveSettings"_s, tell(Broadcast::SaveSettings));
     // "More" and "Custom" ask once, for all clocks.
-    handlers_[u"ClockStyles"_s] = [this, tell](int index, MenuItem item) {
+    commands_.Handle(u"ClockStyles"_s, [this, tell](int index, MenuItem item) {
         if (item.Tag.isEmpty()) {
             item.Tag = program_.Services.Dialog.OpenFile(
                 u"Clock Styles"_s, program_.Module.Paths.StylesFolder, IniFilter);
@@ -139,8 +141,8 @@ void frmMain::HandleClockMenus() {
         if (!item.Tag.isEmpty()) {
             tell(Broadcast::ClockStyles)(index, item);
         }
-    };
-    handlers_[u"ClockColours"_s] = [this, tell](int index, MenuItem item) {
+    });
+    commands_.Handle(u"ClockColours"_s, [this, tell](int index, MenuItem item) {
         if (mduUILib::IsCustomColour(item.Caption)) {
             const int picked = program_.Services.Dialog.PickColour(backColour_);
             if (picked < 0) {
@@ -149,63 +151,19 @@ void frmMain::HandleClockMenus() {
             item.Tag = QString::number(picked);
         }
         tell(Broadcast::ClockColours)(index, item);
-    };
+    });
 }
 
 void frmMain::DoMenuItem(float menuId, int index) {
-    if (menuId == MenuId::TimeZone) {
-        const shell::MenuArray& zones = menuState_[u"TimeZone"_s];
-        if (index < 1 || index > zones.Count()) {
-            return;
-        }
-        const QString tag = zones(index).Tag;
-        if (!tag.isEmpty()) {
-            LaunchTempolark(tag);
-        } else if (launcher_.LaunchFromFileDialog() != 0) {
-            SetHeaderVisible(false);
-        }
-    } else if (menuId == MenuId::Window) {
-        switch (index) {
-            case 1:
-            case 2:
-            case 3:
-                Arrange(static_cast<shell::Arrangement>(index));
-                break;
-            case 4:
-                shell::MaximiseAllChildren(program_.Windows, *this);
-                break;
-            case 5:
-                shell::RestoreAllChildren(program_.Windows);
-                break;
-            case 6:
-                shell::MinimiseAllChildren(program_.Windows);
-                break;
-            case 8:
-                shell::CloseAllChildren(program_.Windows);
-                break;
-            default:
-                break;
-        }
-    } else if (menuId == MenuId::Main) {
-        switch (index) {
-            case 3:
-                Unload();
-                break;
-            case 5:
-                ShowHelp();
-                break;
-            case 6:
-                ShowAboutBox(this, mduTimeZones::EditionText(program_.Services.Zones.Edition()));
-                break;
-            case 8:
-                SaveCentralSettings();
-                break;
-            case 9:
-                ShowCentralProperties(false);
-                break;
-            default:
-                break;
-        }
+    commands_.DoMenuItem(menuId, index);
+}
+
+// "More" has no zone of its own.
+void frmMain::OpenZone(const shell::MenuItem& item) {
+    if (!item.Tag.isEmpty()) {
+        LaunchTempolark(item.Tag);
+    } else if (launcher_.LaunchFromFileDialog() != 0) {
+        SetHeaderVisible(false);
     }
 }
 
