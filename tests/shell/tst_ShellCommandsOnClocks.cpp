@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "shell/ShellDesk.h"
+#include "shell/ToolCommands.h"
 
 /// Real clocks in the real shell, told what to do from its menus.
 class tst_ShellCommandsOnClocks : public QObject {
@@ -200,7 +201,15 @@ private Q_SLOTS:
         }
         without.sort();
         QCOMPARE(without, shell::MenuCommands::ThatDoNothing());
-        QCOMPARE(unknown, QStringList());
+        // These two have a button of the toolbar alone.
+        QCOMPARE(unknown, (QStringList{u"ActiveProperties"_s, u"LaunchDatebrook"_s}));
+        for (int i = 1; i <= shell::Tool::Count; ++i) {
+            const shell::ToolAction action = shell::ActionOfTool(i);
+            QVERIFY2(action.Command.isEmpty() || desk.Shell->Commands().Handles(action.Command),
+                     qPrintable(action.Command));
+            QVERIFY2(action.Menu.isEmpty() || desk.Menu(action.Menu) != nullptr,
+                     qPrintable(action.Menu));
+        }
     }
 
     void EveryEntryAnswers() {
