@@ -16,7 +16,6 @@
 #include "shell/ui/ShellMenus.h"
 #include "shell/ui/ShellWindows.h"
 #include "shell/ui/StatusBar.h"
-#include "shell/ui/ToolBar.h"
 #include "shell/ui/ToolBarCommands.h"
 
 using namespace Qt::StringLiterals;
