@@ -6,19 +6,25 @@
 #include <cstdlib>
 #include <numbers>
 
+#include "foundation/WordTable.h"
 #include "platform/RandomNumbers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace shell {
 
+namespace {
+
+constexpr mduUILib::WordTable<int, 5> Variations = {{{{"Rotation"_L1, -1},
+                                                      {"Random"_L1, 1},
+                                                      {"Up Down"_L1, 2},
+                                                      {"Bend Down"_L1, 3},
+                                                      {"Bend Up"_L1, 4}}}};
+
+}  // namespace
+
 int HeadingVariationCode(const QString& value) {
-    const QString name = value.trimmed();
-    if (name == u"Rotation"_s) {
-        return -1;
-    }
-    const QStringList names = {u"Random"_s, u"Up Down"_s, u"Bend Down"_s, u"Bend Up"_s};
-    return static_cast<int>(names.indexOf(name)) + 1;
+    return Variations.Find(value).value_or(0);
 }
 
 std::optional<std::vector<double>> ArrangeHeaderLetters(int mode, double amplitude, int count,

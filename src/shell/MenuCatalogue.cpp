@@ -1,28 +1,36 @@
 #include "shell/MenuCatalogue.h"
 
+#include <map>
+
 using namespace Qt::StringLiterals;
 
 namespace shell {
 
 namespace {
 
-const MenuEntry Dash = {{}, {u"-"_s}, {}};
+const MenuRow Line = {{}, u"-"_s};
+const MenuEntry Dash = {{}, {Line}, {}};
 
 MenuEntry Item(const QString& name, const QString& caption) {
-    return {name, {caption}, {}};
+    return {name, {{name, caption}}, {}};
 }
 
-MenuEntry Items(const QString& name, std::vector<QString> captions) {
-    return {name, std::move(captions), {}};
+/// Items of one command, which goes by their numbers, captions or Tags.
+MenuEntry Items(const QString& name, const QStringList& captions) {
+    MenuEntry entry{name, {}, {}};
+    for (const QString& caption : captions) {
+        entry.Rows.push_back(caption == u"-"_s ? Line : MenuRow{name, caption});
+    }
+    return entry;
 }
 
 /// A list that is filled while the program runs.
 MenuEntry List(const QString& name) {
-    return {name, {QString()}, {}};
+    return Item(name, {});
 }
 
 MenuEntry Sub(const QString& name, const QString& caption, std::vector<MenuEntry> children) {
-    return {name, {caption}, std::move(children)};
+    return {name, {{{}, caption}}, std::move(children)};
 }
 
 MenuTable FileMenu() {
@@ -41,7 +49,7 @@ MenuTable AgentMenu() {
             {Sub(u"TempolarkAgentSpeakerMenu"_s, u"Tempolark Agent Speaker"_s,
                  {Items(u"TempolarkAgentSpeakOption"_s,
                         {u"Speak Time"_s, u"Speak/Show Time"_s, u"None"_s})}),
-             {u"sp1"_s, {u"-"_s}, {}},
+             {u"sp1"_s, {Line}, {}},
              Items(u"TempolarkAgentAction"_s, {u"Remove Me From Tray"_s, u"Close Me"_s})}};
 }
 
@@ -52,15 +60,17 @@ MenuTable MainMenu() {
         {Item(u"AutoStart"_s, u"Auto Start"_s),
          Sub(u"SetScreenSaverMainMenu"_s, u"Set Screen Saver"_s, {List(u"ScreenSaverTimeMain"_s)}),
          Dash,
-         Items(u"MainItem"_s, {{},
-                               u"-"_s,
-                               u"Exit"_s,
-                               u"-"_s,
-                               u"Help"_s,
-                               u"About"_s,
-                               u"-"_s,
-                               u"Save Current Settings"_s,
-                               u"Properties"_s})}};
+         {u"MainItem"_s,
+          {{},
+           Line,
+           {u"Exit"_s, u"Exit"_s},
+           Line,
+           {u"Help"_s, u"Help"_s},
+           {u"About"_s, u"About"_s},
+           Line,
+           {u"SaveTempolarkCentralSettings"_s, u"Save Current Settings"_s},
+           {u"Properties"_s, u"Properties"_s}},
+          {}}}};
 }
 
 // The entries alone: nothing in the shell can be edited.
@@ -91,6 +101,13 @@ MenuEntry ToolBarMenu() {
                 Item(u"SaveToolbarSetting"_s, u"Save Current Toolbar Setting"_s)});
 }
 
+/// Its one item has the number 15.
+MenuEntry ToolsItems() {
+    std::vector<MenuRow> rows(15);
+    rows.back() = {u"Startup"_s, u"Startup"_s};
+    return {u"ToolsItem"_s, rows, {}};
+}
+
 // Whatever can be hidden is brought back from here, too: the menu bar itself always stays.
 MenuTable ViewMenu() {
     return {u"View"_s,
@@ -98,10 +115,8 @@ MenuTable ViewMenu() {
             {StatusBarMenu(),
              ToolBarMenu(),
              Item(u"WindowTitleBar"_s, u"Show Window Title Bar"_s),
-             {u"ViewItem"_s, {{}, {}, u"-"_s}, {}},
-             {u"ToolsItem"_s,
-              {{}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, u"Startup"_s},
-              {}}}};
+             {u"ViewItem"_s, {{}, {}, Line}, {}},
+             ToolsItems()}};
 }
 
 /// On a right click on the menu bar.
@@ -122,9 +137,17 @@ MenuTable CentralMenu() {
 MenuTable WindowMenu() {
     return {u"Window"_s,
             u"&Window"_s,
-            {Items(u"WindowItem"_s,
-                   {u"Tile"_s, u"Cascade"_s, u"Arrang Icons"_s, u"Maximise All"_s, u"Restore All"_s,
-                    u"Minimise All"_s, u"-"_s, u"Close All"_s, u"-"_s}),
+            {{u"WindowItem"_s,
+              {{u"Tile"_s, u"Tile"_s},
+               {u"Cascade"_s, u"Cascade"_s},
+               {u"ArrangeIcons"_s, u"Arrang Icons"_s},  // spelt as meant
+               {u"MaximiseAll"_s, u"Maximise All"_s},
+               {u"RestoreAll"_s, u"Restore All"_s},
+               {u"MinimiseAll"_s, u"Minimise All"_s},
+               Line,
+               {u"CloseAll"_s, u"Close All"_s},
+               Line},
+              {}},
              List(u"OpenedWindow"_s)}};
 }
 
@@ -138,6 +161,29 @@ MenuTable ClocksMenu() {
              Item(u"SaveSettings"_s, u"Save Settings"_s)}};
 }
 
+using RowsByEntry = std::map<QString, std::vector<MenuRow>>;
+
+void Collect(const std::vector<MenuEntry>& entries, RowsByEntry& rows) {
+    for (const MenuEntry& entry : entries) {
+        if (entry.Children.empty()) {
+            rows[entry.Name] = entry.Rows;
+        }
+        Collect(entry.Children, rows);
+    }
+}
+
+/// The rows of all entries that are no submenus, by their names.
+const RowsByEntry& AllRows() {
+    static const RowsByEntry rows = [] {
+        RowsByEntry all;
+        for (const MenuTable& menu : MenuCatalogue()) {
+            Collect(menu.Entries, all);
+        }
+        return all;
+    }();
+    return rows;
+}
+
 }  // namespace
 
 const std::vector<MenuTable>& MenuCatalogue() {
@@ -148,6 +194,28 @@ const std::vector<MenuTable>& MenuCatalogue() {
         CentralMenu(), WindowMenu(),
         ClocksMenu(),  BarsMenu()};
     return menus;
+}
+
+QString CommandOf(const QString& entry, int index) {
+    const auto found = AllRows().find(entry);
+    if (found == AllRows().end() || index < 1) {
+        return {};
+    }
+    const std::vector<MenuRow>& rows = found->second;
+    const auto row = static_cast<std::size_t>(index - 1);
+    return row < rows.size() ? rows[row].Command : entry;
+}
+
+QStringList CommandsOfMenus() {
+    QStringList commands;
+    for (const auto& [entry, rows] : AllRows()) {
+        for (const MenuRow& row : rows) {
+            commands += row.Command;
+        }
+    }
+    commands.removeAll(QString());
+    commands.removeDuplicates();
+    return commands;
 }
 
 }  // namespace shell

@@ -13,8 +13,8 @@ MenuState::MenuState() {
 void MenuState::Take(const MenuEntry& entry) {
     MenuArray& array = arrays_[entry.Name];
     int index = 0;
-    for (const QString& caption : entry.Captions) {
-        array.Load(++index) = {caption, {}, !caption.isEmpty(), true, false};
+    for (const MenuRow& row : entry.Rows) {
+        array.Load(++index) = {row.Caption, {}, !row.Caption.isEmpty(), true, false};
     }
     for (const MenuEntry& child : entry.Children) {
         Take(child);

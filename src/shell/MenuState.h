@@ -16,6 +16,12 @@ public:
     /// The array of that name; an empty one of one hidden item for an unknown name.
     MenuArray& operator[](const QString& name) { return arrays_[name]; }
 
+    /// The array of that name; null for an unknown name.
+    const MenuArray* Find(const QString& name) const {
+        const auto found = arrays_.find(name);
+        return found == arrays_.end() ? nullptr : &found->second;
+    }
+
 private:
     void Take(const MenuEntry& entry);
 

@@ -45,6 +45,14 @@ struct ToolButton {
 /// Size", "Large Size with Caption", ...). "Datebrook" is never visible.
 ToolButton SetupToolButton(int index, const QString& sizeName);
 
+/// What a click on a button does: it opens a menu of `MenuCatalogue` or runs a command of
+/// `MenuCommands`. Both are empty for a separator, and for a number that no button has.
+struct ToolAction {
+    QString Menu;
+    QString Command;
+};
+ToolAction ActionOfTool(int index);
+
 /// The number of a button by its Key: what stands behind the comma. 0 for a text without one.
 int ToolIndexOfKey(const QString& key);
 

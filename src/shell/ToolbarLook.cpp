@@ -1,12 +1,30 @@
 #include "shell/ToolbarLook.h"
 
-#include <map>
-
 #include "foundation/Numbers.h"
+#include "foundation/WordTable.h"
 
 using namespace Qt::StringLiterals;
 
 namespace shell {
+
+namespace {
+
+constexpr mduUILib::WordTable<ToolbarPlace, 6> ToolbarPlaces = {
+    {{{"Top"_L1, {true, Align::Top, 1}},
+      {"Bottom"_L1, {true, Align::Bottom, 1}},
+      {"Left"_L1, {true, Align::Left, 1}},
+      {"Right"_L1, {true, Align::Right, 1}},
+      {"None"_L1, {false, Align::Unsaid, 0}},
+      {"Hide"_L1, {false, Align::Unsaid, 0}}}}};
+
+constexpr mduUILib::WordTable<StatusBarPlace, 5> StatusBarPlaces = {
+    {{{"top"_L1, {true, Align::Top}},
+      {"left"_L1, {true, Align::Left}},
+      {"right"_L1, {true, Align::Right}},
+      {"no"_L1, {false, Align::Unsaid}},
+      {"none"_L1, {false, Align::Unsaid}}}}};
+
+}  // namespace
 
 int ToolbarExtent(const QString& sizeName) {
     const int plain = sizeName.contains(u"Large"_s) ? 850 : 480;
@@ -18,26 +36,16 @@ int ToolbarPictureSide(const QString& sizeName) {
 }
 
 std::optional<ToolbarPlace> ToolbarPosition(const QString& value) {
-    static const std::map<QString, ToolbarPlace> places = {
-        {u"Top"_s, {true, Align::Top, 1}},      {u"Bottom"_s, {true, Align::Bottom, 1}},
-        {u"Left"_s, {true, Align::Left, 1}},    {u"Right"_s, {true, Align::Right, 1}},
-        {u"None"_s, {false, Align::Unsaid, 0}}, {u"Hide"_s, {false, Align::Unsaid, 0}}};
-    const auto found = places.find(value.section(u':', 0, 0).trimmed());
-    if (found == places.end()) {
-        return std::nullopt;
+    std::optional<ToolbarPlace> place = ToolbarPlaces.Find(value.section(u':', 0, 0));
+    if (place && value.contains(u':')) {
+        place->Visible = false;
+        place->Border = 0;
     }
-    const bool hidden = value.contains(u':');
-    return hidden ? ToolbarPlace{false, found->second.Align, 0} : found->second;
+    return place;
 }
 
 StatusBarPlace StatusBarPosition(const QString& value) {
-    static const std::map<QString, StatusBarPlace> places = {{u"top"_s, {true, Align::Top}},
-                                                             {u"left"_s, {true, Align::Left}},
-                                                             {u"right"_s, {true, Align::Right}},
-                                                             {u"no"_s, {false, Align::Unsaid}},
-                                                             {u"none"_s, {false, Align::Unsaid}}};
-    const auto found = places.find(value.trimmed().toLower());
-    return found == places.end() ? StatusBarPlace{true, Align::Bottom} : found->second;
+    return StatusBarPlaces.Find(value.toLower()).value_or(StatusBarPlace{true, Align::Bottom});
 }
 
 }  // namespace shell

@@ -71,7 +71,9 @@ QStringList Missing(const QStringList& captions, const QString& page) {
 
 void AddCaptions(QStringList& captions, const std::vector<shell::MenuEntry>& entries) {
     for (const shell::MenuEntry& entry : entries) {
-        captions += QStringList(entry.Captions.begin(), entry.Captions.end());
+        for (const shell::MenuRow& row : entry.Rows) {
+            captions += row.Caption;
+        }
         AddCaptions(captions, entry.Children);
     }
 }

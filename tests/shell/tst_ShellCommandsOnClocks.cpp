@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "shell/ShellDesk.h"
+#include "shell/ToolCommands.h"
 #include "support/FakeDialogs.h"
 
 /// Real clocks in the real shell, told what to do from its menus.
@@ -186,6 +187,30 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(desk.Clocks().size(), 0);
         QTRY_VERIFY(desk.HeaderShows());
+    }
+
+    /// A command that nobody handles, or a handler that no menu knows, is a slip in a name.
+    void EveryCommandHasAHandler() {
+        Desk desk;
+        QVERIFY(desk.Start());
+        QStringList without, unknown = desk.Shell->Commands().Names();
+        for (const QString& name : shell::CommandsOfMenus()) {
+            if (!desk.Shell->Commands().Handles(name)) {
+                without += name;
+            }
+            unknown.removeAll(name);
+        }
+        without.sort();
+        QCOMPARE(without, shell::MenuCommands::ThatDoNothing());
+        // These two have a button of the toolbar alone.
+        QCOMPARE(unknown, (QStringList{u"ActiveProperties"_s, u"LaunchDatebrook"_s}));
+        for (int i = 1; i <= shell::Tool::Count; ++i) {
+            const shell::ToolAction action = shell::ActionOfTool(i);
+            QVERIFY2(action.Command.isEmpty() || desk.Shell->Commands().Handles(action.Command),
+                     qPrintable(action.Command));
+            QVERIFY2(action.Menu.isEmpty() || desk.Menu(action.Menu) != nullptr,
+                     qPrintable(action.Menu));
+        }
     }
 
     void EveryEntryAnswers() {

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 /// An entry as a text: its captions, a submenu's entries in brackets.
 static QString Text(const shell::MenuEntry& entry) {
     QStringList captions;
-    for (const QString& caption : entry.Captions) {
-        captions += caption;
+    for (const shell::MenuRow& row : entry.Rows) {
+        captions += row.Caption;
     }
     QString text = entry.Name + u' ' + captions.join(u'|');
     if (!entry.Children.empty()) {

@@ -1,81 +1,91 @@
-#include "ShellDesk.h"
-#include "support/FakeDevices.h"
+#include "shell/ShellStages.h"
 
-namespace {
+#include <QTest>
 
-/// A shell whose voice writes down what it says.
-struct SpeakingDesk : Desk {
-    FakeDevices Devices;
-    platform::Services Machines = Devices.On(Services);
-    Program Speaking{Machines, Module, Windows};
+#include "support/FakeServices.h"
 
-    bool StartSpeaking() {
-        Shell = std::make_unique<frmMain>(Speaking);
-        return Shell->Load();
-    }
-    StatusBar& Status() const { return *Shell->findChild<StatusBar*>(); }
-};
+using namespace Qt::StringLiterals;
 
-}  // namespace
-
-/// What the shell's timer does when.
+/// The shell's timer, without a shell. The machine's clock stands at noon.
 class tst_ShellStages : public QObject {
     Q_OBJECT
 
+private:
+    struct Desk {
+        FakeServices Machine;
+        QStringList Log;
+        shell::ShellStages Stages{Machine.Clock,
+                                  {[this] { Log += u"first"_s; }, [this] { Log += u"second"_s; },
+                                   [this](const QString& text) { Log += u"message "_s + text; },
+                                   [this](int frame) { Log += u"eye %1"_s.arg(frame); },
+                                   [this](const QString& time) { Log += u"time "_s + time; }}};
+        QStringList After(int milliseconds) {
+            Machine.Clock.Advance(milliseconds);
+            return std::exchange(Log, {});
+        }
+    };
+
 private Q_SLOTS:
-    // At noon of 15 June 2026.
-    void GreetsWithItsFirstTick() {
-        SpeakingDesk desk;
-        desk.Machine.WriteFile(
-            u"ini/TempolarkCentral.ini"_s,
-            desk.Machine.ReadFile(u"ini/TempolarkCentral.ini"_s)
-                .replace("Start Message=0", "Start Message=Good <Morning/Afternoon/Evening>"));
-        QVERIFY(desk.StartSpeaking());
-        QCOMPARE(desk.Devices.Voices.Log, QStringList());
-        desk.Machine.Clock.Advance(1);
-        QCOMPARE(desk.Devices.Voices.Log, QStringList{u"1 Good Afternoon"_s});
-        desk.Machine.Clock.Advance(60'000);
-        QCOMPARE(desk.Devices.Voices.Log.size(), 1);
-        desk.Stop();
+    // A tick that is due sooner still comes, so that the second follows the first at once.
+    void TwoTicksEndTheStart() {
+        Desk desk;
+        QCOMPARE(desk.After(60'000), QStringList());
+        desk.Stages.Start();
+        QVERIFY(!desk.Stages.HasBegun());
+        QCOMPARE(desk.After(1), (QStringList{u"first"_s, u"time 12:01"_s}));
+        QVERIFY(desk.Stages.HasBegun());
+        QCOMPARE(desk.After(1), QStringList{u"second"_s});
+        QCOMPARE(desk.After(399), QStringList());
+        QCOMPARE(desk.After(1), (QStringList{u"eye 0"_s, u"message "_s, u"time 12:01"_s}));
     }
 
-    // With nothing to tell it looks at the time each ten seconds, not more often.
-    void RestsWithAnEmptyMessageLine() {
-        SpeakingDesk desk;
-        QVERIFY(desk.StartSpeaking());
-        desk.Machine.Clock.Advance(60'000);
-        QCOMPARE(desk.Status().Message(), QString());
-        QList<int> looks;
-        for (int second = 1; second <= 40; ++second) {
-            // A mark of the test's own, which the next look at the time replaces.
-            desk.Status().SetTimeText(u"?"_s);
-            desk.Machine.Clock.Advance(1'000);
-            if (desk.Status().TimeText() != u"?"_s) {
-                looks += second;
-            }
-        }
-        QCOMPARE(looks.size(), 4);
-        for (int look = 1; look < looks.size(); ++look) {
-            QCOMPARE(looks[look] - looks[look - 1], 10);
-        }
-        desk.Stop();
+    void RestsForTenSeconds() {
+        Desk desk;
+        desk.Stages.Start();
+        desk.After(802);
+        QCOMPARE(desk.After(9'999), QStringList());
+        QCOMPARE(desk.After(1), (QStringList{u"eye 0"_s, u"message "_s, u"time 12:00"_s}));
+        QCOMPARE(desk.After(10'000).size(), 3);
     }
 
-    // The line scrolls two and a half times a second.
-    void IsBusyWithMessages() {
-        SpeakingDesk desk;
-        QVERIFY(desk.StartSpeaking());
-        desk.Machine.Clock.Advance(60'000);
-        desk.Shell->ShowStatusMsg(u"one"_s);
-        desk.Shell->ShowStatusMsg(u"two"_s);
-        const qsizetype before = desk.Status().Message().size();
-        desk.Machine.Clock.Advance(799);
-        QCOMPARE(before - desk.Status().Message().size(), 1);
-        desk.Machine.Clock.Advance(1);
-        QCOMPARE(before - desk.Status().Message().size(), 2);
-        desk.Stop();
+    void AMessageWakesIt() {
+        Desk desk;
+        desk.Stages.Start();
+        desk.After(802);
+        desk.Stages.ShowStatusMsg(u"A"_s);
+        desk.Stages.ShowStatusMsg(u"B"_s);
+        QCOMPARE(desk.After(399), (QStringList{u"message A"_s, u"message B << A"_s}));
+        QCOMPARE(desk.After(1), (QStringList{u"eye 1"_s, u"message  << A"_s, u"time 12:00"_s}));
+        QCOMPARE(desk.After(400), (QStringList{u"eye 2"_s, u"message A"_s, u"time 12:00"_s}));
+        QCOMPARE(desk.Stages.Panel(), u"A"_s);
+        desk.Stages.ClearMessages();
+        QCOMPARE(desk.Stages.Panel(), QString());
+        QCOMPARE(desk.After(400),
+                 (QStringList{u"message "_s, u"eye 0"_s, u"message "_s, u"time 12:00"_s}));
+    }
+
+    /// An empty message is none: it does not keep the timer busy.
+    void AnEmptyMessageLetsItRest() {
+        Desk desk;
+        desk.Stages.Start();
+        desk.After(802);
+        desk.Stages.ShowStatusMsg({});
+        QCOMPARE(desk.After(9'999), QStringList{u"message "_s});
+    }
+
+    /// What is told before the start does not start the timer.
+    void AMessageBeforeTheStart() {
+        Desk desk;
+        desk.Stages.ShowStatusMsg(u"early"_s);
+        QCOMPARE(desk.After(60'000), QStringList{u"message early"_s});
+        desk.Stages.Start();
+        QCOMPARE(desk.After(1), (QStringList{u"first"_s, u"time 12:01"_s}));
+        desk.Stages.ShowStatusMsg(u"next"_s);
+        QCOMPARE(desk.After(1), (QStringList{u"message next << early"_s, u"second"_s}));
+        QCOMPARE(desk.After(400),
+                 (QStringList{u"eye 1"_s, u"message ext << early"_s, u"time 12:01"_s}));
     }
 };
 
-QTEST_MAIN(tst_ShellStages)
+QTEST_GUILESS_MAIN(tst_ShellStages)
 #include "tst_ShellStages.moc"

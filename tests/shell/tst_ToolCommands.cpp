@@ -71,6 +71,19 @@ private Q_SLOTS:
         QCOMPARE(button.Caption, QString());
     }
 
+    void EveryButtonDoesOneThing() {
+        QStringList actions;
+        for (int i = 0; i <= 21; ++i) {
+            const shell::ToolAction action = shell::ActionOfTool(i);
+            actions += action.Menu + u'/' + action.Command;
+        }
+        QCOMPARE(actions.join(u' '),
+                 u"/ File/ OpenedAction/ OpenedAction/ OpenedAction/ OpenedAction/ OpenedAction/ "
+                 "OpenedAction/ OpenedAction/ /ActiveProperties /SetShortcut /ChooseTimeZone "
+                 "TempolarkAgent/ / CentralProperty/ WindowsProperty/ Window/ /LaunchDatebrook / "
+                 "/Help /Exit /"_s);
+    }
+
     void CaptionsComeWithTheSize() {
         QCOMPARE(shell::SetupToolButton(5, u"Small Size with Caption"_s).Caption, u"Maximize"_s);
         QCOMPARE(shell::SetupToolButton(5, u"Large Size with Caption"_s).Caption, u"Maximize"_s);

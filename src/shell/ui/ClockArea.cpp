@@ -1,6 +1,8 @@
 #include "shell/ui/ClockArea.h"
 
+#include <QMdiSubWindow>
 #include <QPainter>
+#include <QScrollBar>
 
 ClockArea::ClockArea(QWidget* parent) : QMdiArea(parent) {
     setObjectName(QStringLiteral("area"));
@@ -29,4 +31,38 @@ void ClockArea::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.drawPixmap((room.width() - cover.width()) / 2, (room.height() - cover.height()) / 2,
                        scaled_);
+}
+
+void ClockArea::Arrange(shell::Arrangement code) {
+    // What is arranged begins at the area's own corner.
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
+    if (code == shell::Arrangement::Cascade) {
+        cascadeSubWindows();
+        return;
+    }
+    const bool icons = code == shell::Arrangement::Icons;
+    QList<QMdiSubWindow*> children;
+    for (QMdiSubWindow* child : subWindowList()) {
+        if (child->isVisible() && child->isMinimized() == icons) {
+            children += child;
+        }
+    }
+    const int count = static_cast<int>(children.size());
+    // Not the viewport's: what is arranged needs no scroll bars any more.
+    const QSize room = contentsRect().size();
+    const std::vector<QRect> places =
+        icons ? shell::IconPlaces(count, room, children.isEmpty() ? QSize() : children[0]->size())
+              : shell::TilePlaces(count, room, code == shell::Arrangement::TileColumns);
+    for (int i = 0; i < count; ++i) {
+        if (!icons) {
+            children[i]->showNormal();
+        }
+        children[i]->setGeometry(places[static_cast<std::size_t>(i)]);
+    }
+}
+
+IForm* ClockArea::ActiveChild() const {
+    const QMdiSubWindow* active = activeSubWindow();
+    return active != nullptr ? dynamic_cast<IForm*>(active->widget()) : nullptr;
 }

@@ -3,7 +3,11 @@
 #include <QMdiArea>
 #include <QPixmap>
 
-/// Where the clocks stand: the shell's colour and, over it, its background picture.
+#include "foundation/Forms.h"
+#include "shell/Arrangement.h"
+
+/// Where the clocks stand: the shell's colour and, over it, its background picture. It arranges
+/// them and knows which window is in front.
 class ClockArea final : public QMdiArea {
     Q_OBJECT
 
@@ -12,6 +16,12 @@ public:
 
     void SetPicture(const QPixmap& picture);  ///< a null one clears it
     const QPixmap& Picture() const { return picture_; }
+
+    /// Places the child windows that can be seen: the minimised for `Icons`, else the others.
+    void Arrange(shell::Arrangement code);
+
+    /// The child window in front; null when there is none.
+    IForm* ActiveChild() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,30 +1,27 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPointer>
-#include <array>
-#include <functional>
-#include <map>
 
 #include "foundation/Program.h"
-#include "foundation/ui/CBalloonToolTip.h"
-#include "platform/Voices.h"
-#include "platform/WallClock.h"
-#include "shell/Arrangement.h"
-#include "shell/Eye.h"
-#include "shell/LastOpened.h"
 #include "shell/Launcher.h"
-#include "shell/MenuState.h"
-#include "shell/StatusMessages.h"
+#include "shell/MenuFills.h"
+#include "shell/ShellStages.h"
+#include "shell/ShellVoice.h"
+#include "shell/ZoneCommands.h"
+#include "shell/ui/ShellPlacement.h"
 
 class ClockArea;
-class HeaderArt;
 class ShellFrame;
+class ShellHeader;
+class ShellLook;
 class ShellMenus;
+class ShellWindows;
 class StatusBar;
 class ToolBar;
+class ToolBarCommands;
 
-/// The shell: a multiple-document frame that hosts the clocks, launches them and acts on them.
+/// The shell: a multiple-document frame that hosts the clocks, launches them and acts on them. The
+/// window holds its parts together and routes what happens to them; what they do is theirs.
 class frmMain final : public QMainWindow, public IForm, public IShell {
 public:
     explicit frmMain(const Program& program);
@@ -41,12 +38,12 @@ public:
     /// the command line names. As a screen saver the shell fills the screen.
     void TakeOver(const QString& commandLine);
 
-    void SaveAutoStartList();
+    void SaveAutoStartList() { lists_.SaveAutoStartList(); }
 
     /// What is to be told about the zone that a command line names; empty when nothing is.
     QString NoticeOf(const QString& commandLine) const;
 
-    QString AppEXEName() const;
+    QString AppEXEName() const { return program_.Module.Paths.AppEXEName(); }
     QString DefaultIniFile() const { return program_.Module.Paths.CentralDefaultFile(); }
     QString IniFile() const { return program_.Module.Paths.CentralFile; }
 
@@ -58,12 +55,15 @@ public:
 
     void ShowEye();  ///< puts the eye's first picture into the status bar
 
+    /// What the menus and the toolbar can do, by name.
+    const shell::MenuCommands& Commands() const { return commands_; }
+
     // IForm
     QString Name() const override { return QStringLiteral("frmMain"); }
     QString Caption() const override { return windowTitle(); }
     int hwnd() const override { return handle_; }
-    int WindowState() const override { return isMinimized() ? 1 : isMaximized() ? 2 : 0; }
-    void SetWindowState(int state) override;
+    int WindowState() const override { return placement_.WindowState(); }
+    void SetWindowState(int state) override { placement_.SetWindowState(state); }
     bool IsEnabled() const override { return isEnabled(); }
     void EnableWindow(bool enabled) override { setEnabled(enabled); }
     void Show() override { show(); }
@@ -71,16 +71,16 @@ public:
     void Unload() override { close(); }
 
     // IShell
-    void ShowStatusMsg(const QString& text) override;
+    void ShowStatusMsg(const QString& text) override { stages_.ShowStatusMsg(text); }
     int ShowMsgbox(const QString& text, int flags, const QString& title) override;
     int RefreshForm(const QString& zoneName) override;
-    void SpeakMessage(const QString& text) override;
-    void PurgeSpeech() override;
-    void DoMenuItem(float menuId, int index) override;
-    int BackColor() const override { return backColour_; }
+    void SpeakMessage(const QString& text) override { voice_.SpeakMessage(text); }
+    void PurgeSpeech() override { voice_.PurgeSpeech(); }
+    void DoMenuItem(float menuId, int index) override { commands_.DoMenuItem(menuId, index); }
+    int BackColor() const override;
     int LaunchTempolark(const QString& name) override;
-    QString Setting(const QString& name) const override;
-    QString RemoveZone(const QString& name) override;
+    QString Setting(const QString& name) const override { return settings_.Setting(name); }
+    QString RemoveZone(const QString& name) override { return zones_.RemoveZone(name); }
     void ShowClockHelp() override;
 
 protected:
@@ -89,106 +89,49 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // Start and stop (frmMain.cpp)
+    // Its parts (frmMainParts.cpp)
     void MakeInnerParts();
+    void MakeMenus();
+    void MakeBars(const QString& pictures);
     void MakeHeader();
-    bool LaunchNamedClock();
-    static bool NamesAClock(const QString& commandLine);
-    void TellUnreadableLists();
-    void TellBrokenSettings();
-    void ExitShell();
-    bool SaveOpenedForms();
+    void HandleCommands();
+    shell::ShellStages::Hooks StageHooks();
+    shell::MenuFills::Sources MenuSources();
 
-    // The run of timerCtrl, the header and the panels (frmMainStages.cpp)
-    void TimerCtrl();
-    void FirstTick();
-    void MessageTick();
-    void FillLateMenus();
-    void ShowTime();
-    void SetHeaderVisible(bool visible);
-    void ArrangeHeader();
-    void ShowHeaderWhenEmpty();
-
-    // Settings (frmMainSettings.cpp)
+    // Start and stop (frmMain.cpp)
     void ApplyCentralProperties(bool keepPlacement);
-    void ApplyPlacement();
-    void ApplyWindowBorder(const QString& border);
-    void ApplyTitleBar(bool shown);
-    void ApplyToolbarPosition(const QString& value);
-    void ApplyStatusBarPosition(const QString& value);
-    void ShowStatusBarAgain();
-    void ApplyBackgroundFile();
-    int StoredWindowState() const;
-    void LayOutHidden();
     bool IsScreenSaverRun() const;
     void ApplyScreenSaverLook();
-    void ShowAtStart();
-    void FitOnScreen();
-    void SetBackgroundColour(const QString& colourName);
-    void ApplyBackColour();
-    void WriteSetting(const QString& key, const QString& value);
-    bool WriteSettings();
-    void TellSaved(const QString& what);
-    void SaveCentralSettings();
+    void FirstTick();
+    void SecondTick();
+    void ExitShell();
     void SaveWindowPlacement();
-    bool SaveToolbarLayout();
 
-    // What the menus show (frmMainMenus.cpp)
-    void RefreshMenu(const QString& menu);
-    void FillFileMenu();
-    void FillOpenedAction();
-    void RefreshAgentMenu();
-    void RefreshBarMenus();
-    void MarkItem(const QString& list, const QString& caption);
-    void RefreshCentralMenu();
-    void RefreshMainMenu();
-    void RefreshWindowMenu();
+    void SetHeaderVisible(bool visible);
+    void ShowHeaderWhenEmpty();
     void ShowWindowMenu(const QPoint& onScreen);
-    IForm* ActiveChild() const;
-
-    // Buttons and the windows that they open (frmMainCommands.cpp)
-    void HandleToolButton(int index);
-    void ShowToolTip(int index);
-    void PopupAtButton(int index, const QString& menu);
-    void OpenProperties();
-    void OpenShortcuts();
-    void OpenTimeZones();
-    void LaunchDatebrook();
-    void OpenHelp(const QString& name, int otherwise);
-
-    // What the entries of the menus do (frmMainMenuCommands.cpp)
-    void ClickMenu(const QString& name, int index);
-    void HandleFileMenus();
-    void HandleCentralMenus();
-    void HandleClockMenus();
-    void OpenLast(const shell::MenuItem& item);
-    void ClickRemove(const shell::MenuItem& item);
-    void RunOpenedItem(int index);
-    void Arrange(shell::Arrangement code);
+    void ToggleTitleBar();
 
     Program program_;
     int handle_;
-    int shellStage_ = 2;        ///< 2 until the first tick of timerCtrl, 3 for the next, then 1
-    int backColour_ = 8411709;  ///< until a setting names one, that of the default file
-    QSize normalSize_;
-    QRect appliedPlace_;  ///< where the settings have put the window; null: not yet
-    QString newClockTag_ = QStringLiteral("False");
-    ClockProperties centralProperties_;
-    shell::LastOpened lastOpened_;
-    shell::Launcher launcher_;
-    shell::StatusMessages status_;
-    shell::Eye eye_;
     shell::MenuState menuState_;
-    std::map<QString, std::function<void(int index, const shell::MenuItem&)>> handlers_;
-    std::unique_ptr<platform::Ticker> timerCtrl_;
-    std::unique_ptr<platform::Voice> voice_;
-    std::array<CBalloonToolTip, 2> balloonTips_;
+    shell::MenuCommands commands_{menuState_};
+    shell::ShellStages stages_;
+    shell::ShellVoice voice_;
+    shell::ShellSettings settings_;
+    shell::UserLists lists_;
+    shell::Launcher launcher_;
+    shell::ZoneCommands zones_;
+    shell::MenuFills fills_;
+    ShellPlacement placement_{*this, settings_};
 
     ClockArea* area_ = nullptr;
-    HeaderArt* header_ = nullptr;
     ToolBar* toolbar_ = nullptr;
     StatusBar* statusBar_ = nullptr;
     ShellFrame* frame_ = nullptr;
     ShellMenus* menus_ = nullptr;
-    QPointer<QWidget> timeZones_;
+    std::unique_ptr<ShellHeader> header_;
+    std::unique_ptr<ShellLook> look_;
+    std::unique_ptr<ShellWindows> windows_;
+    std::unique_ptr<ToolBarCommands> buttons_;
 };

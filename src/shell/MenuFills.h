@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+
+#include "shell/CentralSettings.h"
+#include "shell/MenuState.h"
+#include "shell/ShellSettings.h"
+#include "shell/UserLists.h"
+
+namespace shell {
+
+/// Fills the menus from what holds at the moment of their opening: files, windows, settings, bars.
+class MenuFills {
+public:
+    /// What only the shell's window knows.
+    struct Sources {
+        std::function<CentralLook()> Look;
+        std::function<int()> ActiveHandle;  ///< of the child window in front; 0: there is none
+        std::function<bool()> HasMessage;   ///< whether the message line holds something
+    };
+
+    /// All but @p sources outlive this.
+    MenuFills(const Program& program, MenuState& state, ShellSettings& settings, UserLists& lists,
+              Sources sources);
+
+    /// Brings the menu of that name up to date, with all its submenus. A menu that always stays as
+    /// it is, and an unknown one, is left alone.
+    void Refresh(const QString& menu) const;
+
+private:
+    void FillFileMenu() const;
+    void FillOpenedAction() const;
+    void RefreshAgentMenu() const;
+    void RefreshBarMenus() const;
+    void RefreshCentralMenu() const;
+    void RefreshMainMenu() const;
+    void RefreshWindowMenu() const;
+    void RefreshViewMenu() const;
+    void RefreshEditMenu() const;
+    void MarkItem(const QString& list, const QString& caption) const;
+
+    Program program_;
+    MenuState& state_;
+    ShellSettings& settings_;
+    UserLists& lists_;
+    Sources sources_;
+};
+
+}  // namespace shell

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+
+#include "foundation/Program.h"
+#include "shell/LastOpened.h"
+
+namespace shell {
+
+/// The two lists that the shell keeps for its user: the clocks opened last, and those that start by
+/// themselves (`ModuleState::AutoStartList`).
+class UserLists {
+public:
+    /// @param tell is given what can't be read or written
+    UserLists(const Program& program, std::function<void(const QString&)> tell);
+
+    /// Tells each file that can't be read as a list. To be asked at the start: what is not read is
+    /// not written at the end either, when nobody sees a message.
+    void TellUnreadableLists() const;
+
+    LastOpened& Opened() { return opened_; }
+
+    void LoadOpenedForms();
+    bool SaveOpenedForms() const;  ///< @return false when the file can't be written
+    void FillLastOpenedMenu(MenuArray& fileItems) const;
+
+    void SaveAutoStartList() const;
+
+    /// A zone that is gone does not start by itself any more; its name stays in the file.
+    void ForgetAutoStart(const QString& name) const;
+
+private:
+    void TellUnwritten(const QString& file) const;
+
+    Program program_;
+    std::function<void(const QString&)> tell_;
+    LastOpened opened_;
+};
+
+}  // namespace shell
