@@ -227,23 +227,23 @@ void DigitalReadOut::Stack() {
     }
 }
 
-LabelSteps DigitalReadOut::Steps(double amplitude, int pause, int mode) const {
+LabelSteps DigitalReadOut::Steps(double amplitude, int pause, Motion motion) const {
     const double base = mduAPILib::RoundToInteger(static_cast<double>(Model().Top));
-    return AnimateLabels(Labels().Count(), base, amplitude, pause, mode, face_.Random);
+    return AnimateLabels(Labels().Count(), base, amplitude, pause, motion, face_.Random);
 }
 
 void DigitalReadOut::Animate() {
     const double travel = GetDigitalTravel();
     const ClockSpecial special = Special();
     if (special == ClockSpecial::DigitalUpDown) {
-        LabelSteps steps = Steps(travel, 80, 1);
-        const LabelSteps back = Steps(0, 3, 1);
+        LabelSteps steps = Steps(travel, 80, Motion::Arc);
+        const LabelSteps back = Steps(0, 3, Motion::Arc);
         steps.insert(steps.end(), back.begin(), back.end());
         motion_.Play(std::move(steps));
     } else if (special == ClockSpecial::DigitalUpDownWave) {
-        motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 5), 1, 3));
+        motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 5), 1, Motion::Sine));
     } else if (special == ClockSpecial::DigitalWave) {
-        motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 8), 0, 4));
+        motion_.Play(Steps(mduAPILib::RoundToInteger(travel / 8), 0, Motion::Wave));
     }
 }
 

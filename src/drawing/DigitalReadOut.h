@@ -47,7 +47,7 @@ private:
     void LineUp(bool backward);
     void Stack();
     void Animate();
-    LabelSteps Steps(double amplitude, int pause, int mode) const;
+    LabelSteps Steps(double amplitude, int pause, Motion motion) const;
 
     mduUILib::Control& Model() const { return face_.Controls.lblClock(1); }
     mduUILib::ControlArray& Labels() const { return face_.Controls.lblDigitalNumber; }

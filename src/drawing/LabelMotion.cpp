@@ -53,24 +53,23 @@ LabelSteps Wave(int count, double base, double amplitude, int pause) {
 
 }  // namespace
 
-LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, int mode,
+LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, Motion motion,
                          platform::RandomNumbers& random) {
     random.Seed();
     const int wait = std::max(pause, 1);
-    switch (mode) {
-        case 0:
+    switch (motion) {
+        case Motion::Rest:
             return {MoveAll(count, 0, [&](int) { return base; })};
-        case 1:
+        case Motion::Arc:
             return Arc(count, base, amplitude, wait);
-        case 2:
+        case Motion::Scatter:
             return {MoveAll(count, 0, [&](int) { return base + amplitude * random.Next(); })};
-        case 3:
+        case Motion::Sine:
             return OneSine(count, base, amplitude, wait);
-        case 4:
+        case Motion::Wave:
             return Wave(count, base, amplitude, wait);
-        default:
-            return {};
     }
+    return {};
 }
 
 void LabelMotion::Play(LabelSteps steps) {

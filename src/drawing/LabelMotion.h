@@ -29,19 +29,19 @@ struct LabelStep {
 
 using LabelSteps = std::vector<LabelStep>;
 
-/// The steps that move @p count labels up and down around @p base, @p pause milliseconds apart (a
-/// pause of 0 counts as 1). Seeds the random numbers.
-///
-/// | mode | motion |
-/// |---|---|
-/// | 0 | all to the base, at once |
-/// | 1 | one label a step, along an uneven arc |
-/// | 2 | each to a random place below the base, at once |
-/// | 3 | all together, one whole sine in 51 steps |
-/// | 4 | a wave travels through the row in 50 steps, of which the first comes at once |
-///
-/// Any other mode moves nothing.
-LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, int mode,
+/// How labels move up and down, by the numbers of the motions.
+enum class Motion {
+    Rest = 0,     ///< all to the base, at once
+    Arc = 1,      ///< one label a step, along an uneven arc
+    Scatter = 2,  ///< each to a random place below the base, at once
+    Sine = 3,     ///< all together, one whole sine in 51 steps
+    Wave = 4      ///< travels through the row in 50 steps, of which the first comes at once
+};
+
+/// The steps that move @p count labels up and down around @p base, by @p amplitude pixels at most,
+/// @p pause milliseconds apart (a pause of 0 counts as 1). Seeds the random numbers. A number that
+/// is no motion moves nothing.
+LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, Motion motion,
                          platform::RandomNumbers& random);
 
 /// Plays the steps of a motion by the clock, each with `ShowChanges`. Steps that are overdue are

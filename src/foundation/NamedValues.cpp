@@ -110,10 +110,6 @@ QString WindowStateName(int state) {
     return WindowStates[isKnown ? static_cast<std::size_t>(state) : 0];
 }
 
-int WindowBorderValue(const QString& text) {
-    return text == "No Border"_L1 ? 1 : text == "3D Border"_L1 ? 3 : text == "Classic"_L1 ? 7 : 0;
-}
-
 QString ToolbarPositionName(int code, bool visible) {
     const QStringList names = {u"None"_s, u"Top"_s, u"Bottom"_s, u"Left"_s, u"Right"_s};
     const QString& name = names[code >= 1 && code <= 4 ? code : 0];

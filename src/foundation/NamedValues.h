@@ -40,9 +40,6 @@ int WindowStateValue(const QString& text);  ///< 2 maximized, 1 minimized, else 
 /// "Normal" for any other number.
 QString WindowStateName(int state);
 
-/// The border style of "No Border" 1, "3D Border" 3, "Classic" 7; 0 for any other text.
-int WindowBorderValue(const QString& text);
-
 QString ToolbarPositionName(int code, bool visible);
 int ToolbarIconSize(const QString& text);  ///< 2 when the text holds "Large Size", else 1
 

@@ -7,6 +7,7 @@ using drawing::AnimateLabels;
 using drawing::LabelMotion;
 using drawing::LabelStep;
 using drawing::LabelSteps;
+using drawing::Motion;
 
 namespace {
 
@@ -63,14 +64,14 @@ private Q_SLOTS:
 
 void tst_LabelMotion::Mode0SetsTheBase() {
     FakeRandom random;
-    const LabelSteps steps = AnimateLabels(3, 7.5, 60, 80, 0, random);
+    const LabelSteps steps = AnimateLabels(3, 7.5, 60, 80, Motion::Rest, random);
     const LabelSteps expected = {{0, {{1, 7.5F}, {2, 7.5F}, {3, 7.5F}}}};
     QVERIFY(steps == expected);
 }
 
 void tst_LabelMotion::Mode1MovesOneLabelAStep() {
     FakeRandom random;
-    const LabelSteps steps = AnimateLabels(6, 100, 60, 80, 1, random);
+    const LabelSteps steps = AnimateLabels(6, 100, 60, 80, Motion::Arc, random);
     QCOMPARE(Delays(steps), std::vector<int>(6, 80));
     const std::vector<double> tops = {127.515, 97.1692, 67.5819, 46.6809, 40.0668, 49.5117};
     for (std::size_t i = 0; i < 6; ++i) {
@@ -83,19 +84,19 @@ void tst_LabelMotion::Mode1MovesOneLabelAStep() {
 void tst_LabelMotion::Mode1ReturnsToTheBase() {
     FakeRandom random;
     const LabelSteps expected = {{3, {{1, 100}}}, {3, {{2, 100}}}};
-    QVERIFY(AnimateLabels(2, 100, 0, 3, 1, random) == expected);
+    QVERIFY(AnimateLabels(2, 100, 0, 3, Motion::Arc, random) == expected);
 }
 
 void tst_LabelMotion::Mode2IsRandom() {
     FakeRandom random;
     random.Numbers = {0.5, 0.25, 0};
     const LabelSteps expected = {{0, {{1, 130}, {2, 115}, {3, 100}}}};
-    QVERIFY(AnimateLabels(3, 100, 60, 80, 2, random) == expected);
+    QVERIFY(AnimateLabels(3, 100, 60, 80, Motion::Scatter, random) == expected);
 }
 
 void tst_LabelMotion::Mode3IsOneSine() {
     FakeRandom random;
-    const LabelSteps steps = AnimateLabels(2, 100, 30, 1, 3, random);
+    const LabelSteps steps = AnimateLabels(2, 100, 30, 1, Motion::Sine, random);
     QCOMPARE(Delays(steps), std::vector<int>(51, 1));
     const std::vector<std::pair<std::size_t, double>> tops = {
         {0, 100},       {1, 96.24},     {12, 70.0592},  {13, 70.0592}, {25, 100},
@@ -107,7 +108,7 @@ void tst_LabelMotion::Mode3IsOneSine() {
 
 void tst_LabelMotion::Mode4IsAWave() {
     FakeRandom random;
-    const LabelSteps steps = AnimateLabels(6, 100, 20, 0, 4, random);
+    const LabelSteps steps = AnimateLabels(6, 100, 20, 0, Motion::Wave, random);
     QCOMPARE(steps.size(), 50U);
     QCOMPARE(steps[0].Delay, 0);
     for (std::size_t i = 1; i < steps.size(); ++i) {
@@ -121,14 +122,14 @@ void tst_LabelMotion::Mode4IsAWave() {
 
 void tst_LabelMotion::OtherModesMoveNothing() {
     FakeRandom random;
-    QVERIFY(AnimateLabels(6, 100, 20, 1, 5, random).empty());
-    QVERIFY(AnimateLabels(6, 100, 20, 1, -1, random).empty());
+    QVERIFY(AnimateLabels(6, 100, 20, 1, static_cast<Motion>(5), random).empty());
+    QVERIFY(AnimateLabels(6, 100, 20, 1, static_cast<Motion>(-1), random).empty());
 }
 
 void tst_LabelMotion::SeedsOnEntry() {
     FakeRandom random;
     for (int mode = 0; mode <= 4; ++mode) {
-        AnimateLabels(6, 100, 20, 1, mode, random);
+        AnimateLabels(6, 100, 20, 1, static_cast<Motion>(mode), random);
         QCOMPARE(random.Seeds, mode + 1);
     }
 }

@@ -23,8 +23,6 @@ private Q_SLOTS:
     void readsWindowStates_data();
     void readsWindowStates();
     void namesWindowStates();
-    void readsBorders_data();
-    void readsBorders();
     void namesToolbarPositions();
     void readsIconSizes();
     void knowsPictures_data();
@@ -159,20 +157,6 @@ void tst_NamedValues::namesWindowStates() {
     QCOMPARE(mduUILib::WindowStateName(1), u"Minimized"_s);
     QCOMPARE(mduUILib::WindowStateName(0), u"Normal"_s);
     QCOMPARE(mduUILib::WindowStateName(9), u"Normal"_s);
-}
-
-void tst_NamedValues::readsBorders_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("style");
-    QTest::newRow("none") << u"No Border"_s << 1;
-    QTest::newRow("3D") << u"3D Border"_s << 3;
-    QTest::newRow("classic") << u"Classic"_s << 7;
-    QTest::newRow("unknown") << u"Thick"_s << 0;
-}
-
-void tst_NamedValues::readsBorders() {
-    QFETCH(QString, text);
-    QTEST(mduUILib::WindowBorderValue(text), "style");
 }
 
 void tst_NamedValues::namesToolbarPositions() {

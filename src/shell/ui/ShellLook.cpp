@@ -5,6 +5,7 @@
 #include "drawing/Surface.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
+#include "foundation/WindowBorder.h"
 #include "platform/Dialogs.h"
 #include "shell/ClockCommands.h"
 #include "shell/ToolbarLook.h"
@@ -50,11 +51,11 @@ void ShellLook::ApplyCentralProperties() {
 
 // The border that a frame around the clocks has: none, sunken, or a plain line.
 void ShellLook::ApplyWindowBorder(const QString& border) {
-    switch (mduUILib::WindowBorderValue(border)) {
-        case 3:
+    switch (mduUILib::ReadWindowBorder(border)) {
+        case mduUILib::WindowBorder::Raised:
             parts_.Area.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
             break;
-        case 7:
+        case mduUILib::WindowBorder::Plain:
             parts_.Area.setFrameStyle(QFrame::Box | QFrame::Plain);
             break;
         default:
