@@ -90,6 +90,11 @@ public:
     }
     int Revision() const { return revision_; }
 
+    /// See `ClockProperties::CollectAskedNames`. The properties stay as they are.
+    void CollectAskedNames(std::shared_ptr<AskedNames> names) {
+        properties_.CollectAskedNames(std::move(names));
+    }
+
 private:
     ClockProperties properties_;
     int revision_ = 0;

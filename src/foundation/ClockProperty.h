@@ -40,11 +40,12 @@ public:
     const ClockProperty& operator[](int row) const { return rows_[static_cast<std::size_t>(row)]; }
 
     /// Collects in @p names, from now on, what values are asked for by name in this array and in
-    /// its copies: for those who check which keys a program goes by. Null collects nothing.
-    void CollectAskedNames(std::shared_ptr<AskedNames> names) { asked_ = std::move(names); }
+    /// its copies: for those who check which keys a program goes by. It goes on when the array is
+    /// given other rows.
+    void CollectAskedNames(std::shared_ptr<AskedNames> names) { asked_.Names = std::move(names); }
     void NoteAsked(const QString& name) const {
-        if (asked_) {
-            asked_->insert(name);
+        if (asked_.Names) {
+            asked_.Names->insert(name);
         }
     }
 
@@ -58,6 +59,18 @@ public:
     bool operator==(const ClockProperties& other) const { return rows_ == other.rows_; }
 
 private:
+    /// Where the names go. An array that has none leaves the other's when it is assigned.
+    struct Collection {
+        std::shared_ptr<AskedNames> Names;
+
+        Collection() = default;
+        Collection(const Collection&) = default;
+        Collection& operator=(const Collection& other) {
+            Names = other.Names ? other.Names : Names;
+            return *this;
+        }
+    };
+
     std::vector<ClockProperty> rows_;
-    std::shared_ptr<AskedNames> asked_;
+    Collection asked_;
 };

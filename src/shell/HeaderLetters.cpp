@@ -15,13 +15,18 @@ namespace shell {
 
 namespace {
 
-constexpr mduUILib::WordTable<int, 5> Variations = {{{{"Rotation"_L1, -1},
+constexpr mduUILib::WordTable<int, 6> Variations = {{{{"Rotation"_L1, -1},
                                                       {"Random"_L1, 1},
                                                       {"Up Down"_L1, 2},
                                                       {"Bend Down"_L1, 3},
-                                                      {"Bend Up"_L1, 4}}}};
+                                                      {"Bend Up"_L1, 4},
+                                                      {"None"_L1, 0}}}};
 
 }  // namespace
+
+QStringList HeadingVariationNames() {
+    return Variations.Words();
+}
 
 int HeadingVariationCode(const QString& value) {
     return Variations.Find(value).value_or(0);

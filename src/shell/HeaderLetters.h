@@ -20,6 +20,8 @@ inline const QString HeaderText = QStringLiteral("Tempolark Central");
 /// 3, "Bend Up" 4, anything else 0.
 int HeadingVariationCode(const QString& value);
 
+QStringList HeadingVariationNames();
+
 /// How far each letter stands below the line (above it where negative), in twips.
 /// @param mode 0 on one line; 1 at random and 2 in turns up and down, within the amplitude; 3 and 4
 ///   along a sine arc over the width of the word, bending down or up. Any other mode leaves the

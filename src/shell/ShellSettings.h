@@ -22,6 +22,10 @@ public:
 
     const ClockProperties& Properties() const { return properties_; }
     void Take(const ClockProperties& properties) { properties_ = properties; }
+    /// See `ClockProperties::CollectAskedNames`.
+    void CollectAskedNames(std::shared_ptr<AskedNames> names) {
+        properties_.CollectAskedNames(std::move(names));
+    }
 
     /// Says where a broken file will be kept.
     void TellBrokenSettings() const;

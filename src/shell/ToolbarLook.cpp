@@ -44,6 +44,10 @@ std::optional<ToolbarPlace> ToolbarPosition(const QString& value) {
     return place;
 }
 
+QStringList ToolbarPositionNames() {
+    return ToolbarPlaces.Words();
+}
+
 StatusBarPlace StatusBarPosition(const QString& value) {
     return StatusBarPlaces.Find(value.toLower()).value_or(StatusBarPlace{true, Align::Bottom});
 }

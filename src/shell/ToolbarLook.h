@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 /// Sizes and places of the toolbar.
@@ -31,6 +31,9 @@ struct ToolbarPlace {
 /// behind it, which keeps the place of a bar that is hidden. Nothing for any other text: the bar
 /// then stays as it is.
 std::optional<ToolbarPlace> ToolbarPosition(const QString& value);
+
+/// The words of it; "None" and "Hide" mean the same.
+QStringList ToolbarPositionNames();
 
 struct StatusBarPlace {
     bool Visible = false;

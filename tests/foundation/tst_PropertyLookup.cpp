@@ -263,6 +263,10 @@ void tst_PropertyLookup::collectsTheNamesAskedFor() {
     QCOMPARE(*names, AskedNames({u"Choices"_s, u"Current"_s, u"In A Category"_s, u"Raw"_s}));
     QCOMPARE(copy.EmptyOfItsKind().UpperBound(), 1);
     QVERIFY(ClockProperties() != array);
+    names->clear();
+    array = ClockProperties();
+    mduLib::GetProperty(u"Given Other Rows"_s, array);
+    QCOMPARE(*names, AskedNames({u"Given Other Rows"_s}));
     mduLib::GetProperty(u"Nobody Listens"_s, ClockProperties());
 }
 

@@ -265,6 +265,7 @@ void frmTempolark::Watch(const Watchers& watchers) {
     window_.WatchInterval(watchers.Interval);
     timers_.WatchFiring(watchers.Firing);
     messages_.Watch(watchers.Messages);
+    data_.CollectAskedNames(watchers.Keys);
 }
 
 void frmTempolark::FinishMotions() {

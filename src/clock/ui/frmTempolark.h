@@ -114,6 +114,7 @@ public:
         std::function<void(int milliseconds)> Interval = {};  ///< of `timClock`
         timers::ClockTimers::Watcher Firing = {};
         timers::ClockMessages::Watcher Messages = {};
+        std::shared_ptr<AskedNames> Keys = {};  ///< takes the names of the properties in use
     };
     /// From now on these watch, and nobody else.
     void Watch(const Watchers& watchers);

@@ -55,6 +55,11 @@ public:
 
     void ShowEye();  ///< puts the eye's first picture into the status bar
 
+    /// See `ClockProperties::CollectAskedNames`.
+    void CollectAskedNames(std::shared_ptr<AskedNames> names) {
+        settings_.CollectAskedNames(std::move(names));
+    }
+
     /// What the menus and the toolbar can do, by name.
     const shell::MenuCommands& Commands() const { return commands_; }
 
