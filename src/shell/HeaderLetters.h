@@ -2,7 +2,7 @@
 
 #include <QPointF>
 #include <QSizeF>
-#include <QString>
+#include <QStringList>
 #include <optional>
 #include <vector>
 

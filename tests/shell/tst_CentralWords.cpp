@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "foundation/NamedValues.h"
 #include "foundation/WindowBorder.h"
 #include "shell/HeaderLetters.h"
 #include "shell/ShellDesk.h"
