@@ -63,6 +63,7 @@ std::vector<Command> ValuesCommands();
 std::vector<Command> FilesCommands();
 std::vector<Command> ClockCommands();
 std::vector<Command> ClockRunCommands();
+std::vector<Command> MenusCommands();
 std::vector<Command> ShellCommands();
 std::vector<Command> TimersCommands();
 std::vector<Command> ZonesCommands();
