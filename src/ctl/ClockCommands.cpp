@@ -1,10 +1,10 @@
 #include <QJsonObject>
-#include <QRegularExpression>
 #include <memory>
 
 #include "clock/ui/frmTempolark.h"
 #include "ctl/Command.h"
 #include "ctl/ReadOnlyFiles.h"
+#include "ctl/SizeText.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/PropertyFile.h"
 
@@ -13,18 +13,6 @@ using namespace Qt::StringLiterals;
 namespace ctl {
 
 namespace {
-
-constexpr int LargestSide = 16000;  // pixels
-
-/// "300x200" as a size; nothing for any other text.
-std::optional<QSize> ReadSize(const QString& text) {
-    static const QRegularExpression form(u"^(\\d{1,5})x(\\d{1,5})$"_s);
-    const QRegularExpressionMatch match = form.match(text);
-    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    const bool fits = size.width() >= 1 && size.height() >= 1 && size.width() <= LargestSide &&
-                      size.height() <= LargestSide;
-    return match.hasMatch() && fits ? std::optional(size) : std::nullopt;
-}
 
 /// A clock of that size with that file, after its first tick, its redraw and some normal ticks.
 std::unique_ptr<frmTempolark> DrawnClock(const Program& program, const QString& file,

@@ -32,9 +32,10 @@ std::vector<Command> WithoutAppFolder(std::vector<Command> commands) {
 
 std::vector<Command> AllCommands() {
     std::vector<Command> commands;
-    for (const auto& group : {PropertiesCommands(), ValuesCommands(), FilesCommands(),
-                              ClockCommands(), ClockRunCommands(), ShellCommands(), ZonesCommands(),
-                              TimersCommands(), SpeechCommands()}) {
+    for (const auto& group :
+         {PropertiesCommands(), ValuesCommands(), FilesCommands(), ClockCommands(),
+          ClockPlaceCommands(), ClockRunCommands(), MenusCommands(), ShellCommands(),
+          ZonesCommands(), TimersCommands(), SpeechCommands()}) {
         commands.insert(commands.end(), group.begin(), group.end());
     }
     return commands;

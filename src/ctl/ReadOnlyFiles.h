@@ -15,6 +15,9 @@ public:
     std::optional<qint64> ModifiedSeconds(const QString& path) const override {
         return files_.ModifiedSeconds(path);
     }
+    std::optional<qint64> AccessedSeconds(const QString& path) const override {
+        return files_.AccessedSeconds(path);
+    }
     std::optional<qint64> Size(const QString& path) const override { return files_.Size(path); }
     QStringList FileNames(const QString& folder) const override { return files_.FileNames(folder); }
 

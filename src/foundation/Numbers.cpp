@@ -122,4 +122,9 @@ QString SingleText(float value) {
     return QString::fromLatin1(digits.data(), written.ptr - digits.data());
 }
 
+QString ShortSingleText(float value) {
+    constexpr int most = 7;
+    return SingleText(QString::number(static_cast<double>(value), 'g', most).toFloat());
+}
+
 }  // namespace mduAPILib

@@ -38,4 +38,7 @@ std::int16_t ToInt16(double value, std::int16_t fallback = 0);
 /// A single-precision number in text form: the shortest text that reads back as the same number.
 QString SingleText(float value);
 
+/// The same in seven digits at most: 33.333332 gives "33.33333".
+QString ShortSingleText(float value);
+
 }  // namespace mduAPILib

@@ -41,6 +41,12 @@ public:
     /// Last-modified time in whole seconds since the epoch; nothing if there is no such file.
     virtual std::optional<qint64> ModifiedSeconds(const QString& path) const = 0;
 
+    /// When the file was last read, in the same unit; the last-modified time where the file system
+    /// keeps none.
+    virtual std::optional<qint64> AccessedSeconds(const QString& path) const {
+        return ModifiedSeconds(path);
+    }
+
     /// The size of a plain file in bytes; nothing if there is none.
     virtual std::optional<qint64> Size(const QString& path) const = 0;
 

@@ -77,6 +77,11 @@ std::optional<qint64> LocalFiles::ModifiedSeconds(const QString& path) const {
     return info.lastModified().toSecsSinceEpoch();
 }
 
+std::optional<qint64> LocalFiles::AccessedSeconds(const QString& path) const {
+    const QDateTime lastRead = QFileInfo(path).lastRead();
+    return lastRead.isValid() ? std::optional(lastRead.toSecsSinceEpoch()) : ModifiedSeconds(path);
+}
+
 std::optional<qint64> LocalFiles::Size(const QString& path) const {
     const QFileInfo info(path);
     return info.isFile() ? std::optional(info.size()) : std::nullopt;

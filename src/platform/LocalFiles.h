@@ -17,6 +17,7 @@ public:
     bool Touch(const QString& path) override;
     bool SetModifiedSeconds(const QString& path, qint64 seconds) override;
     std::optional<qint64> ModifiedSeconds(const QString& path) const override;
+    std::optional<qint64> AccessedSeconds(const QString& path) const override;
     std::optional<qint64> Size(const QString& path) const override;
     QStringList FileNames(const QString& folder) const override;
 };

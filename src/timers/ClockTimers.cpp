@@ -7,6 +7,7 @@
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "platform/Files.h"
+#include "timers/DialSpot.h"
 #include "timers/TimerFile.h"
 
 using namespace Qt::StringLiterals;
@@ -14,9 +15,6 @@ using namespace Qt::StringLiterals;
 namespace timers {
 
 namespace {
-
-constexpr int SpotsOfHour = 5;  // minute spots on the dial
-constexpr int PlacesOfSpot = 12;
 
 /// Only a time that stands as "hh:mm" ever equals the present one.
 int DueMinute(const ClockTimer& timer) {
@@ -162,7 +160,6 @@ void ClockTimers::ClearTimerSlot(int slot) {
     ChangeTimer(slot, timer);
 }
 
-// A dial of twelve hours has five spots for each, and each spot twelve places.
 void ClockTimers::PlaceTimerMark(int slot, const QString& time) {
     const std::optional<QTime> parsed = TimeOfText(time, context_.ClockTime().date().year());
     if (!parsed) {
@@ -171,9 +168,8 @@ void ClockTimers::PlaceTimerMark(int slot, const QString& time) {
     ClockTimer timer = Timer(slot);
     timer.TimerTime = HourMinute(*parsed);
     ChangeTimer(slot, timer);
-    const int hour = parsed->hour() > HalfDay ? parsed->hour() - HalfDay : parsed->hour();
-    context_.Host.PlaceMark(slot, hour * SpotsOfHour + parsed->minute() / PlacesOfSpot,
-                            parsed->minute() % PlacesOfSpot + 1);
+    const DialSpot at = SpotOfTime(*parsed);
+    context_.Host.PlaceMark(slot, at.Spot, at.Place);
 }
 
 void ClockTimers::PlaceTimerMarks() {

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void fitsSixteenBits();
     void writesSingles_data();
     void writesSingles();
+    void writesSinglesInSevenDigits();
 };
 
 void tst_Numbers::readsNumbers_data() {
@@ -129,6 +130,15 @@ void tst_Numbers::writesSingles_data() {
 void tst_Numbers::writesSingles() {
     QFETCH(float, value);
     QTEST(mduAPILib::SingleText(value), "text");
+}
+
+void tst_Numbers::writesSinglesInSevenDigits() {
+    QCOMPARE(mduAPILib::ShortSingleText(27.5F), u"27.5"_s);
+    QCOMPARE(mduAPILib::ShortSingleText(0.1F), u"0.1"_s);
+    QCOMPARE(mduAPILib::ShortSingleText(33.333332F), u"33.33333"_s);
+    QCOMPARE(mduAPILib::ShortSingleText(-66.666664F), u"-66.66666"_s);
+    QCOMPARE(mduAPILib::ShortSingleText(16777216.0F), u"16777220"_s);
+    QCOMPARE(mduAPILib::ShortSingleText(std::numeric_limits<float>::infinity()), u"0"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_Numbers)

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QTime>
+
+namespace timers {
+
+/// Where a time stands on the dial of twelve hours. It has five minute spots for each hour, and
+/// each spot stands for twelve minutes.
+struct DialSpot {
+    int Spot = 0;   ///< from 0; 60 to 64 are those behind twelve o'clock
+    int Place = 1;  ///< 1 to 12: a minute of the twelve
+    bool operator==(const DialSpot&) const = default;
+};
+
+/// "3:14" stands at place 3 of spot 16, and so does "15:14"; "12:00" at place 1 of spot 60, but
+/// "0:00" of spot 0.
+DialSpot SpotOfTime(const QTime& time);
+
+}  // namespace timers
