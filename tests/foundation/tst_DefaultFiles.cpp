@@ -231,7 +231,10 @@ void tst_DefaultFiles::offerTheWordsOfTheClock_data() {
 
 void tst_DefaultFiles::offerTheWordsOfTheClock() {
     QFETCH(QString, key);
-    QTEST(mduLib::GetPropertyChoices(key, Load(u"Tempolark.ini"_s)), "choices");
+    QFETCH(QString, choices);
+    // Words of our own stand behind these.
+    const QString all = mduLib::GetPropertyChoices(key, Load(u"Tempolark.ini"_s)) + u',';
+    QVERIFY2(all.startsWith(choices + u','), qPrintable(all));
 }
 
 QTEST_GUILESS_MAIN(tst_DefaultFiles)
