@@ -24,7 +24,7 @@ packages=(
     imagemagick openbox x11-utils xdotool xvfb
 )
 testPackages=(
-    clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev
+    clang clang-format clang-tidy libbenchmark-dev libclang-rt-14-dev lld
     # A sound server, a system bus and a login service for the tests of devices.
     dbus-bin dbus-daemon libsox-fmt-mp3 pulseaudio pulseaudio-utils python3-dbusmock sox
 )
