@@ -5,6 +5,7 @@
 #include "clock/SettingsDesk.h"
 #include "clock/ui/ClockMenuHandlers.h"
 #include "drawing/StockPictures.h"
+#include "support/FakeDialogs.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockKind;

@@ -2,6 +2,7 @@
 
 #include "clock/LookDesk.h"
 #include "clock/LookDialogs.h"
+#include "support/FakeDialogs.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockState;

@@ -1,5 +1,6 @@
 #include <QPainter>
 #include <QTest>
+#include <cmath>
 
 #include "drawing/StockPictures.h"
 
@@ -33,6 +34,43 @@ int Contrast(const QImage& image) {
     }
     return most - least;
 }
+
+/// How much of a picture is covered, and by how much of red, green and blue: each 0 to 1000 for the
+/// whole square.
+struct Weight {
+    double Alpha = 0, Red = 0, Green = 0, Blue = 0;
+
+    explicit Weight(const QImage& image) {
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                const double part = qAlpha(pixel) / 255.0;
+                Alpha += part;
+                Red += part * qRed(pixel) / 255;
+                Green += part * qGreen(pixel) / 255;
+                Blue += part * qBlue(pixel) / 255;
+            }
+        }
+        const double whole = static_cast<double>(image.width()) * image.height() / 1000;
+        Alpha /= whole;
+        Red /= whole;
+        Green /= whole;
+        Blue /= whole;
+    }
+
+    QString Text() const {
+        return QStringLiteral("%1 %2 %3 %4")
+            .arg(Alpha, 0, 'f', 1)
+            .arg(Red, 0, 'f', 1)
+            .arg(Green, 0, 'f', 1)
+            .arg(Blue, 0, 'f', 1);
+    }
+    bool IsNear(double alpha, double red, double green, double blue) const {
+        constexpr double hair = 0.6;
+        return std::abs(Alpha - alpha) < hair && std::abs(Red - red) < hair &&
+               std::abs(Green - green) < hair && std::abs(Blue - blue) < hair;
+    }
+};
 
 }  // namespace
 
@@ -71,6 +109,32 @@ private Q_SLOTS:
         QVERIFY(Contrast(Shown(picture, 16, Qt::white)) > 60);
         QVERIFY(Contrast(Shown(picture, 16, QColor(128, 128, 128))) > 60);
         QVERIFY(Contrast(Shown(picture, 16, Qt::black)) > 120);
+    }
+
+    /// As they were when they were looked at and found good: a stroke that grows by a tenth shows.
+    void Weights_data() {
+        QTest::addColumn<StockPicture>("picture");
+        QTest::addColumn<QList<double>>("weight");
+        using Row = QList<double>;
+        QTest::newRow("idle") << StockPicture::SpeakerIdle << Row{0, 0, 0, 0};
+        QTest::newRow("muted") << StockPicture::SpeakerMuted << Row{0, 0, 0, 0};
+        QTest::newRow("talking") << StockPicture::SpeakerTalking << Row{0, 0, 0, 0};
+        QTest::newRow("right spot") << StockPicture::SpotRight << Row{0, 0, 0, 0};
+        QTest::newRow("left spot") << StockPicture::SpotLeft << Row{0, 0, 0, 0};
+        QTest::newRow("timer") << StockPicture::TimerMark << Row{0, 0, 0, 0};
+        QTest::newRow("action") << StockPicture::Action << Row{0, 0, 0, 0};
+        QTest::newRow("action speaking") << StockPicture::ActionSpeaking << Row{0, 0, 0, 0};
+        QTest::newRow("sun") << StockPicture::Sun << Row{0, 0, 0, 0};
+        QTest::newRow("moon") << StockPicture::Moon << Row{0, 0, 0, 0};
+        QTest::newRow("handle") << StockPicture::Handle << Row{0, 0, 0, 0};
+        QTest::newRow("clock") << StockPicture::Clock << Row{0, 0, 0, 0};
+    }
+    void Weights() {
+        QFETCH(StockPicture, picture);
+        QFETCH(QList<double>, weight);
+        const Weight found(*GetStockPicture(picture));
+        QVERIFY2(found.IsNear(weight[0], weight[1], weight[2], weight[3]),
+                 qPrintable(found.Text()));
     }
 
     void EachIsDrawnOnce() {

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "foundation/PropertyLookup.h"
+#include "support/FakeDialogs.h"
 #include "support/MachineWithZones.h"
 
 using namespace Qt::StringLiterals;

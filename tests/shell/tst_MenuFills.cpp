@@ -5,6 +5,7 @@
 #include "shell/LateMenus.h"
 #include "shell/SettingsDesk.h"
 #include "support/FakeForms.h"
+#include "support/FakeSettings.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "shell/BarsDesk.h"
+#include "support/FakeDialogs.h"
 #include "support/FakeForms.h"
 
 using namespace Qt::StringLiterals;

@@ -5,6 +5,7 @@
 
 #include "shell/BarsDesk.h"
 #include "support/FakeForms.h"
+#include "support/FakeHelp.h"
 
 using namespace Qt::StringLiterals;
 

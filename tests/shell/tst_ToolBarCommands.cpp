@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "shell/BarsDesk.h"
+#include "support/FakeSettings.h"
 
 using namespace Qt::StringLiterals;
 

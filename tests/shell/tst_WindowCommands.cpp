@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "shell/FakeShell.h"
+#include "support/FakeDialogs.h"
 #include "support/FakeForms.h"
 #include "support/MachineWithZones.h"
 

@@ -33,7 +33,7 @@ QStringList ZoneTexts(const City& city, const QDateTime& now) {
     const platform::TzRule rule = platform::MakeTzRule(year, now.toSecsSinceEpoch());
     return {city.Name,
             DateText(rule.StandardDate, today),
-            QString::number(rule.Bias + rule.StandardBias),
+            QString::number(rule.Bias),
             city.Name + u" Daylight Time"_s,
             DateText(rule.DaylightDate, today),
             QString::number(rule.Bias + rule.DaylightBias)};
