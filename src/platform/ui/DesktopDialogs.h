@@ -22,8 +22,8 @@ public:
     /// other, whatever @p flags ask for. What is posted while the owner is hidden waits until
     /// another post that finds it visible.
     void PostMessageBox(const QString& text, int flags, const QString& title) override;
-    /// Only a file that exists can be picked; a name typed without an ending gets that of @p
-    /// filter.
+    /// Only a file that exists can be picked; @p filter gives its ending to a name that is typed
+    /// without one.
     QString OpenFile(const QString& title, const QString& folder, const QString& filter) override;
     QString SaveFile(const QString& title, const QString& folder, const QString& filter) override;
     int PickColour(int present) override;
