@@ -17,6 +17,7 @@ public:
     CalendarWatch(WallClock& clock, std::function<void()> onNewMonth);
 
 private:
+    /// Compares today with the day that was seen last, once a minute.
     void Look();
 
     WallClock& clock_;
