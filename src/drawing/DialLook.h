@@ -36,8 +36,8 @@ struct DialLook {
     bool IsRandomColour() const;  ///< the colour of the numbers is "Random"
 
     /// The point of the number ring where an index stands. A shadow's ring lies 2 logical pixels to
-    /// the left and 3 down, less on small clocks. A mirrored ring lies 2 logical
-    /// pixels further to the right.
+    /// the left and 3 down, less on small clocks. A mirrored ring lies 2 logical pixels further to
+    /// the right.
     QPointF NumberPoint(int index, bool shadow) const;
 
     /// The square of a spot. Half of its size is taken off twice: spots stand up and to the left of

@@ -19,7 +19,7 @@ namespace drawing {
 /// outlives the parts; the properties and the zone are read anew at each use.
 ///
 /// Each part keeps a copy of these references, never of what they lead to. A key that is missing
-/// among the properties reads "0", so a part needs no default of its own, and draws what "0" means.
+/// among the properties reads "0", and means what that means.
 struct FaceContext {
     const ClockProperties& Properties;
     const TimeZoneRecord& Zone;

@@ -43,8 +43,8 @@ enum class Motion {
 /// @p pause milliseconds apart (a pause of 0 counts as 1). Seeds the random numbers. A number that
 /// is no motion moves nothing.
 ///
-/// Tops grow downward, so a falling label has a rising top. `Rest` and `Scatter` are one step
-/// without a delay; the sine and the wave are steps that move every label.
+/// `Rest` and `Scatter` are one step without a delay; the sine and the wave are steps that move
+/// every label.
 LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, Motion motion,
                          platform::RandomNumbers& random);
 

@@ -17,8 +17,7 @@ inline constexpr std::uint32_t Minimised = 0x20000000;
 }  // namespace WindowStyle
 
 /// A loaded window. The menus of the shell list and command windows through it. Windows add
-/// themselves to `Forms` and leave it when they are closed or, at the latest,
-/// destroyed.
+/// themselves to `Forms`; they leave it when they are closed or, at the latest, destroyed.
 class IForm {
 public:
     virtual ~IForm() = default;

@@ -10,8 +10,8 @@
 ///
 /// `main` sets `AppFolder`, and `mduMain::SetupFiles` works all others out from it and from the
 /// account. Without a user name zone files and timers lie in "TimeZones/" and "Timer/" of
-/// `AppFolder`, and the default lists are the ones in use. With the folder "/home/a/Clocks" and the
-/// user "anna" some of them are:
+/// `AppFolder`, and the default shortcuts and actions are the ones in use. With the folder
+/// "/home/a/Clocks" and the user "anna" some of them are:
 ///
 ///     DataFolder            /home/a/Clocks/anna
 ///     ZoneFileFolder        /home/a/Clocks/anna/TimeZones/

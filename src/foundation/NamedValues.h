@@ -19,8 +19,8 @@ inline constexpr int TransparentWindow = 0x1000002;  ///< a window's colour whil
 /// number; all else is black. "white" is 0xFFFFFD, since 0xFFFFFF is the transparent key. Blanks
 /// around the text and letter case don't count.
 ///
-///     ColourValue(u"Red"_s, random)         // 0x0000FF
-///     ColourValue(u"&HFF8000"_s, random)    // blue 255, green 128, red 0
+///     ColourValue(u"Red"_s, random)          // 0x0000FF
+///     ColourValue(u"&HFF8000"_s, random)     // blue 255, green 128, red 0
 ///     ColourValue(u"Transparent"_s, random)  // TransparentKey
 ///
 /// @param random is asked for "random" only: three numbers, after a fresh seed

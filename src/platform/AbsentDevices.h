@@ -12,7 +12,7 @@
 /// what needs the device stays silent.
 namespace platform {
 
-/// Refuses all and tells why, as a machine does where the desktop lets nobody end its session.
+/// Refuses all that a timer may do to a machine, and tells why.
 class NoActions final : public SystemActions {
 public:
     QString ExitWindowsEx(unsigned) override { return Reason(); }

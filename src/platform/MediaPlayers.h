@@ -20,7 +20,8 @@ public:
     /// 3 means playing: from `SetUrl` on, until the piece ends, fails, is stopped or paused. 1 is
     /// stopped and 2 paused.
     virtual int PlayState() const = 0;
-    /// Goes on after `Pause`; after `Stop`, or at its end, begins the piece anew.
+    /// Goes on after `Pause`; after `Stop`, or at its end, begins the piece anew. Nothing
+    /// happens after a failure.
     virtual void Play() = 0;
     /// Ends the piece; nothing happens where none plays.
     virtual void Stop() = 0;

@@ -9,7 +9,7 @@ class RandomNumbers {
 public:
     virtual ~RandomNumbers() = default;
     /// Starts a new sequence where the numbers come from the machine. Where a seed was chosen the
-    /// numbers may go on as they were. Called before each colour and each motion.
+    /// numbers may go on as they were. Called before each such colour and each motion.
     virtual void Seed() = 0;
     /// The next number, from 0 up to but not including 1.
     virtual double Next() = 0;

@@ -13,9 +13,9 @@ namespace platform {
 ///
 /// Intervals are measured by a clock that nobody sets; only the turn of the second is read from the
 /// wall clock. A change of the machine's time or zone is so seen at the next `Now`, and moves no
-/// other ticker. A ticker whose callback runs a nested event loop holds up itself alone: the others
-/// go on inside that loop. A ticker may be destroyed in its own callback, but must not outlive this
-/// object.
+/// shot that is under way. A ticker whose callback runs a nested event loop holds up itself alone:
+/// the others go on inside that loop. A ticker may be destroyed in its own callback, but must not
+/// outlive this object.
 class SystemClock final : public WallClock {
 public:
     SystemClock();

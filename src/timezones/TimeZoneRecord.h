@@ -35,8 +35,4 @@ struct TimeZoneRecord {
 ///     for (const TimeZoneRecord& record : records) {
 ///         if (!record.StandardName.isEmpty()) { ... }  // leaves out row 0 as well
 ///     }
-///
-///     for (const TimeZoneRecord& record : records) {
-///         if (!record.StandardName.isEmpty()) { ... }  // leaves out row 0 as well
-///     }
 using TimeZoneRecords = std::vector<TimeZoneRecord>;

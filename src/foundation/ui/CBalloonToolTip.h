@@ -97,7 +97,7 @@ public:
     /// Shows the stored text again, for a tip whose place has moved.
     void ReloadBalloonInfo(QWidget* owner, double x, double y);
 
-    /// An error in red at a point in pixels. Unlike the two above it leaves times and stand as they
+    /// An error in red at a point in pixels. Unlike the others it leaves times and stand as they
     /// are.
     void ShowBalloonError(QWidget* owner, int x, int y, const QString& title, const QString& text,
                           int backColor = Unset);

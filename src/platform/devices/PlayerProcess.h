@@ -52,8 +52,8 @@ private:
     /// Sends a line; it is dropped where no process runs.
     void Order(const QByteArray& line);
     void Read(QProcess& process);
-    /// Takes an answer: "at N MS", "ended N" or "failed N REASON". It counts only
-    /// while the piece of that number is under way.
+    /// Takes an answer: "at N MS", "ended N" or "failed N REASON". It counts only while the
+    /// piece of that number is under way.
     void Hear(const QByteArrayList& words);
     void Rest(int state);
     void Fail(const QString& reason);
