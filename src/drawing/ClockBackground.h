@@ -20,19 +20,32 @@ namespace drawing {
 /// The window's picture is `picFrame(1)`: a mat over the whole surface. A "Clock Shape" cuts the
 /// dial picture to that figure around the clock's centre; without a picture the figure is a plate
 /// in the window's colour (`ClockPlate.h`).
+///
+/// From below: the window's colour, its picture, the dial picture or the plate, and during a wipe
+/// the same with the next picture, as far as it is revealed. An opaque dial picture that covers all
+/// is painted alone. A property that has changed takes effect when one of the methods below is
+/// called that goes by it.
 class ClockBackground final : public Background {
 public:
+    /// Loads and shows nothing yet.
     explicit ClockBackground(const FaceContext& face);
     Q_DISABLE_COPY_MOVE(ClockBackground)
 
+    /// Ends a wipe without showing its picture. A missing file is no picture, and no error; one
+    /// that can't be read is told in the status bar.
     void LoadClockPicture() override;
     void LoadWindowPicture() override;
     bool HasClockPicture() const override;
     void DrawBackgroundPicture(Surface& surface) const override;
     void ApplyTransparency() override;
+    /// Does nothing while the window is minimised.
     void SetWindowShape() override;
     void SetClockShape() override;
     void ApplySurface() override;
+    /// The next one by name, letter case aside, round and round, of the folder where "Clock Image
+    /// File" lies, or of the stock's "Background" where there is no such file. Nothing happens
+    /// where there is no other picture that can be read. Nobody sees a wipe in a hidden window:
+    /// there the picture just changes.
     void ShowAutoBackground() override;
     void FinishWipe() override;
 
@@ -53,13 +66,17 @@ private:
     QString PathOf(const QString& name) const;
     /// Null for a file that is missing or can't be read; the latter is told once for each file.
     Picture LoadNamed(const QString& path);
+    /// Makes it the dial picture, or null none, and places it.
     void TakeClockPicture(const Picture& picture);
+    /// Pure white is see-through while the window is transparent or the dial has a figure.
     void UpdateColourKey();
 
+    /// Works `placing_` and the place of `imgClock(1)` out for a surface.
     void Place(const Surface& surface) const;
     /// The size that the dial picture has on a surface: its margin is what "Clock Image Size(%)"
     /// leaves of half the height. Without a picture it is all of the surface.
     QRect PictureBox(const Surface& surface) const;
+    /// Whether nothing can be seen of what lies below the dial picture.
     bool CoversAll(const Picture& picture) const;
     void PaintWipe(QPainter& painter, double devicePixelRatio) const;
     void PaintLayers(QPainter& painter, const Picture& dial, Picture& stretched,
@@ -72,6 +89,7 @@ private:
         QStringList Names;
     };
     Candidates FindCandidates() const;
+    /// Null where there is no other than the one that is shown; else takes note of it in `shown_`.
     Picture NextPicture();
     void WipeStepped();
 

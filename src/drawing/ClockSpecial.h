@@ -6,7 +6,8 @@
 
 namespace drawing {
 
-/// The effects of "Clock Special", one at a time.
+/// The effects of "Clock Special", one at a time. A name tells which kind of clock it is for; on
+/// any other kind it makes no difference.
 enum class ClockSpecial {
     None,
     AnalogueBackward,    ///< the dial is mirrored
@@ -27,11 +28,16 @@ enum class ClockSpecial {
 };
 
 /// Blanks around the text are dropped, letter case counts; any other text is `None`.
+///
+///     ReadClockSpecial(u" Digital Wave "_s)  // DigitalWave
+///     ReadClockSpecial(u"digital wave"_s)    // None
 ClockSpecial ReadClockSpecial(const QString& text);
+/// The same of the key "Clock Special"; without it `None`.
 ClockSpecial ReadClockSpecial(const ClockProperties& properties);
 
 /// The property's word for it.
 QString ClockSpecialName(ClockSpecial special);
+/// All words, "None" first.
 QStringList ClockSpecialNames();
 
 }  // namespace drawing

@@ -16,6 +16,7 @@ namespace drawing {
 
 /// One step of a motion: after a pause, some labels take new places.
 struct LabelStep {
+    /// The new top of one label, in device pixels; labels count from 1.
     struct Place {
         int Label = 1;
         float Top = 0;
@@ -41,6 +42,9 @@ enum class Motion {
 /// The steps that move @p count labels up and down around @p base, by @p amplitude pixels at most,
 /// @p pause milliseconds apart (a pause of 0 counts as 1). Seeds the random numbers. A number that
 /// is no motion moves nothing.
+///
+/// `Rest` and `Scatter` are one step without a delay; the sine and the wave are steps that move
+/// every label.
 LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, Motion motion,
                          platform::RandomNumbers& random);
 
@@ -48,6 +52,7 @@ LabelSteps AnimateLabels(int count, double base, double amplitude, int pause, Mo
 /// played together, so that a busy machine does not lag behind.
 class LabelMotion {
 public:
+    /// All that it is given outlives it. @p labels holds as many as the motions move.
     LabelMotion(mduUILib::ControlArray& labels, Canvas& window, platform::WallClock& clock)
         : labels_(labels), window_(window), clock_(clock) {}
 
@@ -61,8 +66,12 @@ public:
     bool Finish();
 
 private:
+    /// The ticker's call: plays what is due, and waits for the rest. Once nobody can see the window
+    /// any more the motion is taken to its end.
     void PlayDue();
     void PlayNext();
+    /// Lets the ticker come for the next step, at the latest after that step's own delay: the wall
+    /// clock may be set back meanwhile.
     void Wait();
 
     mduUILib::ControlArray& labels_;

@@ -10,6 +10,17 @@ namespace drawing {
 /// How much of each pixel a straight line of some width covers, by the distance of the pixel's
 /// centre from the line: full within the half-width less half a pixel, falling to nothing over the
 /// next pixel. Ends are pixel centres; a hairline ends square, a wider line round.
+///
+/// `Surface::Line` walks it row by row; what it finds it lays over the pixel in that share:
+///
+///     const LineCoverage line(10, 10, 90, 40, 3);
+///     for (int y = line.Bounds().top(); y <= line.Bounds().bottom(); ++y) {
+///         const auto [from, to] = line.Span(y);
+///         const LineCoverage::Row row(line, y);
+///         for (int x = from; x <= to; ++x) { ... row.At(x) ... }
+///     }
+///
+/// It knows nothing of a surface: the bounds may lie outside of any.
 class LineCoverage {
 public:
     /// @param width in pixels; below 1 it counts as 1. Two ends in one place give a dot.
@@ -33,7 +44,10 @@ public:
     /// Every pixel that may be covered lies in here.
     const QRect& Bounds() const { return bounds_; }
 
-    /// The first and last pixel of a row that may be covered.
+    /// The first and last pixel of a row that may be covered. They are cut to `Bounds`; the first
+    /// may lie beyond the last, where the row is not touched. A level line, and a dot, gives all of
+    /// the bounds' width.
+    /// @param y a row of `Bounds`
     std::pair<int, int> Span(int y) const {
         constexpr float nearlyLevel = 0.01F;
         if (std::abs(uy_) < nearlyLevel) {
@@ -45,7 +59,7 @@ public:
                 std::min(bounds_.right(), static_cast<int>(std::ceil(middle + half)))};
     }
 
-    /// One row of pixels.
+    /// One row of pixels. It refers to the line, which must outlive it.
     class Row {
     public:
         Row(const LineCoverage& line, int y)

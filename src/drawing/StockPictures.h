@@ -4,7 +4,8 @@
 #include <memory>
 
 /// The stored pictures of a clock, drawn once for the whole program at a size that suits a large
-/// clock on a fine screen; whoever shows one scales it down. All have a transparent background.
+/// clock on a fine screen; whoever shows one scales it down. All have a transparent background:
+/// they are squares of 256 pixels in the form ARGB32, premultiplied.
 namespace drawing {
 
 enum class StockPicture {
@@ -22,6 +23,8 @@ enum class StockPicture {
     Clock = 23    ///< the window's own icon
 };
 
+/// The picture, which all who ask share; the first call of the program draws them all.
+/// @return null for a number that is no picture
 std::shared_ptr<const QImage> GetStockPicture(StockPicture picture);
 
 }  // namespace drawing

@@ -13,13 +13,16 @@ namespace mduUILib {
 
 enum class ControlKind { Picture, TextBox, Timer, Image, Shape, Label, ImageList, Dialog, Player };
 
-/// One control. Measures are in device pixels of the surface it stands on.
+/// One control. Measures are in device pixels of the surface it stands on. A change is seen with
+/// the next pass of the face, not before. What is hidden, or holds neither a picture (images and
+/// shapes) nor a caption (labels), paints nothing.
 struct Control {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     bool Visible = false;
     bool Enabled = true;
     int ForeColor = 0;  ///< red in the low byte
     QString Caption;
+    /// A note of whoever owns the control; the dial's spots keep "True" or "False" in it.
     QString Tag;
     QString ToolTipText;
     QFont Font;
@@ -32,7 +35,10 @@ struct Control {
     }
 };
 
-/// A control array: members of one name and kind, numbered from `First`.
+/// A control array: members of one name and kind, numbered from `First`. That is 1 but for
+/// `imgSunMoon` and `imgClock`, which begin with 0.
+///
+///     controls.lblHour(60).Caption = u"12"_s;  // twelve o'clock
 struct ControlArray {
     QString Name;
     ControlKind Kind = ControlKind::Label;
@@ -48,7 +54,9 @@ struct ControlArray {
 };
 
 /// The controls of one clock window, as they stand when it is created. Only the timer slots
-/// (`txtMsg`, `imgTimer`) grow later.
+/// (`txtMsg`, `imgTimer`) grow later; they begin with 100 each. The dial has 60 numbers and 60
+/// spots, each hand 2 shapes, the read-out 6 labels, and what is not counted here is a single
+/// control.
 struct ClockControls {
     /// All arrays with their members, each hidden and without a place.
     ClockControls();

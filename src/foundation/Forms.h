@@ -16,7 +16,8 @@ inline constexpr std::uint32_t Maximised = 0x1000000;
 inline constexpr std::uint32_t Minimised = 0x20000000;
 }  // namespace WindowStyle
 
-/// A loaded window.
+/// A loaded window. The menus of the shell list and command windows through it. Windows add
+/// themselves to `Forms`; they leave it when they are closed or, at the latest, destroyed.
 class IForm {
 public:
     virtual ~IForm() = default;
@@ -42,7 +43,7 @@ public:
 
 class IShell;
 
-/// Flags of a message box, and its answers.
+/// Flags of a message box, and its answers: see `platform::Dialogs::MessageBox`.
 namespace MsgBox {
 inline constexpr int YesNoQuestion = 4 + 32;  ///< two buttons and a question mark
 inline constexpr int Yes = 6;
@@ -97,9 +98,12 @@ public:
 class Forms {
 public:
     int Count() const { return static_cast<int>(windows_.size()); }
+    /// A window from 0 to `Count` less one; there is no check.
     IForm& operator[](int index) const { return *windows_[static_cast<std::size_t>(index)]; }
 
+    /// Puts a window behind all others. The list owns none: a window must leave before it goes.
     void Add(IForm& window) { windows_.push_back(&window); }
+    /// A window that is not in the list is let be; those behind it move up by one.
     void Remove(const IForm& window) { std::erase(windows_, &window); }
 
     /// The window with this handle; null if there is none.

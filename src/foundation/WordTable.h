@@ -15,12 +15,15 @@ namespace mduUILib {
 ///     Borders.Find(u"classic")     // nothing
 template <class Meaning, std::size_t Count>
 struct WordTable {
+    /// A word as it is written, and what it stands for. Words may share a meaning.
     struct Row {
         QLatin1StringView Word;
         Meaning Value;
     };
     std::array<Row, Count> Rows;
 
+    /// The meaning of the first row with exactly this word, letter case and inner blanks included;
+    /// nothing for any other text. Callers choose what that means, mostly with `value_or`.
     std::optional<Meaning> Find(QStringView text) const {
         const QStringView word = text.trimmed();
         for (const Row& row : Rows) {
@@ -41,6 +44,7 @@ struct WordTable {
         return {};
     }
 
+    /// All words in the order of the rows, as a menu lists them.
     QStringList Words() const {
         QStringList words;
         for (const Row& row : Rows) {

@@ -12,6 +12,7 @@
 /// what needs the device stays silent.
 namespace platform {
 
+/// Refuses all that a timer may do to a machine, and tells why.
 class NoActions final : public SystemActions {
 public:
     QString ExitWindowsEx(unsigned) override { return Reason(); }
@@ -22,26 +23,31 @@ private:
     static QString Reason() { return QStringLiteral("This machine offers no system actions"); }
 };
 
+/// Speech on such a machine is no voice at all, which a clock has to cope with.
 class NoVoices final : public Voices {
 public:
     std::unique_ptr<Voice> MakeVoice() override { return nullptr; }
 };
 
+/// Sounds and music likewise: there is no player to be had.
 class NoPlayers final : public MediaPlayers {
 public:
     std::unique_ptr<MediaPlayer> MakePlayer() override { return nullptr; }
 };
 
+/// Answers 0 outputs, and at once.
 class NoSound final : public SoundDevices {
 public:
     void Count(const std::function<void(int)>& answer) override { answer(0); }
 };
 
+/// An icon that is shown nowhere.
 class NoTray final : public Tray {
 public:
     void SetIcon(bool, const QString&) override {}
 };
 
+/// Shows no page, whichever is asked for, and tells why.
 class NoHelp final : public HelpViewer {
 public:
     QString Show(const QString&, int) override {
@@ -49,7 +55,13 @@ public:
     }
 };
 
-/// A machine without any of them: that of a script, and the ground that a test builds on.
+/// A machine without any of them: that of a script, and the ground that a test builds on. A single
+/// device is added with `Services::With`:
+///
+///     AbsentDevices devices;
+///     const Services silent =
+///         devices.Beside(clock, zones, files, user, settings, dialogs, random);
+///     const Services speaking = silent.With(voices);
 struct AbsentDevices {
     NoActions Actions;
     NoVoices Speech;
@@ -58,7 +70,8 @@ struct AbsentDevices {
     NoTray TrayIcon;
     NoHelp Help;
 
-    /// The machine of these parts and no device. All of it must outlive what is given back.
+    /// The machine of these parts and no device. All of it must outlive what is given back, this
+    /// object included: the absent devices are its members.
     Services Beside(WallClock& clock, ZoneDatabase& zones, Files& files, Account& user,
                     SettingsStore& settings, Dialogs& dialogs, RandomNumbers& random) {
         return {.Clock = clock,

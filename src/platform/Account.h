@@ -8,7 +8,9 @@ namespace platform {
 class Account {
 public:
     virtual ~Account() = default;
-    virtual QString UserName() const = 0;  ///< empty when no name is known
+    /// The name as the machine has it; empty when none is known. Then there is no folder of the
+    /// user's either (`PathTable::DataFolder`). Asked for while the paths are set up.
+    virtual QString UserName() const = 0;
 };
 
 }  // namespace platform

@@ -9,7 +9,8 @@
 namespace platform {
 
 /// Tells of every new month, and so of every new year, while the program runs: within a minute of
-/// its beginning, or of the machine's waking up in it.
+/// its beginning, or of the machine's waking up in it. A clock that is set to another month counts,
+/// too, also to an earlier one.
 class CalendarWatch {
 public:
     /// @param onNewMonth is called from the event loop; it is not for the month in which the watch
@@ -17,6 +18,7 @@ public:
     CalendarWatch(WallClock& clock, std::function<void()> onNewMonth);
 
 private:
+    /// Compares today with the day that was seen last, once a minute.
     void Look();
 
     WallClock& clock_;

@@ -11,6 +11,10 @@ public:
 
     /// A box with the buttons and icon of @p flags (the system's message-box flags: 16 critical,
     /// 48 exclamation, 4 Yes and No). Answers the button pressed: 1 OK, 6 Yes, 7 No.
+    /// More flags are 32 for a question mark and 256 for the second button as the default. Without
+    /// 4 there is the one button OK:
+    ///
+    ///     MessageBox(u"Remove London?"_s, 4 + 32 + 256, u"Remove"_s)  // Enter answers 7
     virtual int MessageBox(const QString& text, int flags, const QString& title) = 0;
 
     /// A box that tells something and waits for nobody: it is shown when the event loop runs next,
@@ -20,6 +24,8 @@ public:
     }
 
     /// A picker for opening a file; an empty text when it is cancelled.
+    /// @param folder where it begins
+    /// @param filter what it offers, such as "Ini File (*.ini)"
     virtual QString OpenFile(const QString& title, const QString& folder,
                              const QString& filter) = 0;
 

@@ -4,7 +4,9 @@
 
 namespace platform {
 
-/// The settings store as a file of its own.
+/// The settings store as a file of its own, in the toolkit's "ini" format. The file is looked at
+/// with each call, so two programs see what the other keeps. A file that is missing or can't be
+/// read holds no values; removing what it does not hold is no error.
 class FileSettings final : public SettingsStore {
 public:
     /// @param path of the file, native and full; it is made when the first value is kept

@@ -16,7 +16,8 @@ public:
     virtual bool Exists(const QString& path) const = 0;        ///< a file or a folder of that name
     virtual bool FolderExists(const QString& path) const = 0;  ///< a folder of that name
 
-    /// Makes one level of a folder; the parent must exist. False if it can't.
+    /// Makes one level of a folder; the parent must exist. False if it can't, and where the folder
+    /// is there already.
     virtual bool MakeFolder(const QString& path) = 0;
 
     /// The whole content; nothing if it can't be read.
@@ -27,9 +28,11 @@ public:
     /// old file is then untouched. A file that holds the content already is left alone.
     virtual bool Write(const QString& path, const QByteArray& content) = 0;
 
-    /// Copies over the destination with the same care as `Write`. The copy's time is the present.
+    /// Copies over the destination with the same care as `Write`. The copy's time is the present,
+    /// unless the destination holds that content already. False where the source can't be read.
     virtual bool Copy(const QString& source, const QString& destination) = 0;
 
+    /// Removes a file for good. False if it can't, and where there is none.
     virtual bool Delete(const QString& path) = 0;
 
     /// Makes the present the file's last-modified time. False if it can't.

@@ -18,6 +18,7 @@ constexpr int PlacesIn(std::type_identity<std::tuple<Services&...>> /*row*/) {
     return (0 + ... + static_cast<int>(Fits<Part, Services>));
 }
 
+/// The type of a machine's `Row`, wrapped so that none has to be made.
 template <class Machine>
 using RowOf = std::type_identity<decltype(std::declval<const Machine&>().Row())>;
 
@@ -30,7 +31,11 @@ constexpr Service& ChosenPart(Service& own) {
     return own;
 }
 
-/// The first of the parts that fits, else the machine's own service.
+/// The first of the parts that fits, else the machine's own service. All is decided as it is
+/// compiled.
+///
+///     ChosenPart<Files>(own.FileSystem, dialogs, memoryFiles)  // memoryFiles
+///     ChosenPart<Files>(own.FileSystem, dialogs)               // own.FileSystem
 template <class Service, class Part, class... Parts>
 constexpr Service& ChosenPart(Service& own, Part& part, Parts&... parts) {
     if constexpr (Fits<Part, Service>) {

@@ -7,6 +7,9 @@ namespace platform {
 
 /// The settings store that stands in for the registry: the same keys and values. A key is a path
 /// of names with "/" between them; the names of its values are looked up below it.
+///
+///     store.SetValue(u"A/B"_s, u"C"_s, 7);    // kept as 7, or as the text "7"
+///     store.Value(u"A/B"_s, u"C"_s).toInt();  // 7
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

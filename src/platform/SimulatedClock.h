@@ -10,6 +10,11 @@ namespace platform {
 
 /// A clock that stands still until it is advanced by hand. It drives scripts and tests: the tickers
 /// that fall due on the way are called in order of their moments.
+///
+///     SimulatedClock clock(QDateTime(QDate(2026, 1, 5), QTime(12, 0), Qt::UTC), zone);
+///     auto ticker = clock.MakeTicker(tick);
+///     ticker->SetInterval(1000);
+///     clock.Advance(3000);  // calls `tick` at 12:00:01, 12:00:02 and 12:00:03
 class SimulatedClock final : public WallClock {
 public:
     /// @param now the local wall-clock reading to begin with (its own zone is
@@ -19,15 +24,19 @@ public:
     Q_DISABLE_COPY_MOVE(SimulatedClock)
 
     QDateTime Now() const override { return now_; }
+    /// That of the zone at the present reading; its standard offset where the zone's clock is put
+    /// forward over that reading.
     int OffsetFromGmt() const override;
     std::unique_ptr<Ticker> MakeTicker(std::function<void()> onTick) override;
 
-    /// Sets the reading without calling anyone.
+    /// Sets the reading without calling anyone. Tickers keep their moments: those that have been
+    /// jumped over are called by the next `Advance`.
     void SetNow(const QDateTime& now);
     /// Another zone of the machine; the reading stays.
     void SetZone(const QTimeZone& zone) { zone_ = zone; }
 
-    /// Lets @p milliseconds pass.
+    /// Lets @p milliseconds pass. Each callback finds the reading at the moment that it was due
+    /// for; what it sets anew may fall due within the same call.
     void Advance(qint64 milliseconds);
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The flags of `platform::Voice::Speak`, to be added up.
+/// The flags of `platform::Voice::Speak`, to be added up. The voice takes 0 for `Asynchronous`: no
+/// text ever keeps its caller waiting.
 namespace platform::SpeechFlag {
 
 inline constexpr int Asynchronous = 1;      ///< nothing is cut off

@@ -8,6 +8,8 @@ namespace platform {
 class Tray {
 public:
     virtual ~Tray() = default;
+    /// Shows the icon or takes it away.
+    /// @param tip what is told while the pointer rests on it
     virtual void SetIcon(bool show, const QString& tip) = 0;
 };
 

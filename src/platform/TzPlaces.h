@@ -12,9 +12,13 @@ namespace platform {
 
 /// A place in the form of ISO 6709, degrees and minutes with or without seconds: "+404251-0740023"
 /// is New York. Nothing for any other text and beyond the poles or the date line.
+///
+///     ParseTzPlace("+5130-00007")  // 51.5 north, 0.1167 west
+///     ParseTzPlace("+9130+00000")  // nothing
 std::optional<ZonePlace> ParseTzPlace(const QByteArray& text);
 
-/// The tz database's table of zones: where the main city of each lies, and in which country.
+/// The tz database's table of zones: where the main city of each lies, and in which country. It is
+/// read once and never follows the file.
 class TzPlaces {
 public:
     /// @p table holds lines of "countries TAB place TAB identifier", as "zone.tab" does; a line

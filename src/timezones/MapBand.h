@@ -29,6 +29,7 @@ public:
     bool MoveTo(double x, double mapWidth);
 
     /// Takes an hour as it is.
+    /// @param hours east of Greenwich, with no bounds
     void Set(double hours);
     void Clear();
 

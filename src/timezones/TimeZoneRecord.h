@@ -7,7 +7,11 @@
 #include "platform/ZoneDatabase.h"
 
 /// A time zone, identified by `StandardName`. Biases are total minutes that, added to zone time,
-/// give GMT: west is positive.
+/// give GMT: west is positive. New York has a `StandardBias` of 300 and a `DaylightBias` of 240;
+/// seen from a machine in London in January its `CurrentGMTHours` is 5 and its `HoursFromLocal` -5.
+///
+/// A record is a value, and does not follow the time by itself: whoever keeps one calls
+/// `ApplyCurrentOffset` again. An empty `StandardName` means no zone.
 struct TimeZoneRecord {
     std::int32_t Bias = 0;  ///< of the database; 0 in records from elsewhere
     QString KeyName;        ///< database subkey, or the full path of a profile
@@ -27,4 +31,8 @@ struct TimeZoneRecord {
 };
 
 /// Zones from 1; index 0 is unused. It may hold empty records; readers skip them.
+///
+///     for (const TimeZoneRecord& record : records) {
+///         if (!record.StandardName.isEmpty()) { ... }  // leaves out row 0 as well
+///     }
 using TimeZoneRecords = std::vector<TimeZoneRecord>;

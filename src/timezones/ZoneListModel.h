@@ -8,7 +8,9 @@
 namespace mduTimeZones {
 
 /// The listed rows as a table of two columns, the first with check boxes. The list is changed
-/// through `Change`, so that views follow.
+/// through `Change`, so that views follow; the list is not owned and must outlive the model.
+///
+///     model.Change([&] { list.SetSearch(u"norway"_s); });
 class ZoneListModel final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -18,7 +20,8 @@ public:
     /// Called when the user has checked or unchecked the row at a position.
     std::function<void(int)> OnChecked;
 
-    /// Runs something that changes which rows there are, or their order.
+    /// Runs something that changes which rows there are, or their order. Views forget what was
+    /// selected; whoever wants it back has to find the row again.
     template <typename Action>
     void Change(Action&& action) {
         beginResetModel();

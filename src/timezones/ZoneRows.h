@@ -23,12 +23,16 @@ enum class ShowFilter { All, Selected, Unselected };
 
 /// The names of the files of a folder, without ".ini", each with "@" around it: "@London@@UTC@".
 QString ChosenZones(const platform::Files& files, const QString& folder);
+/// Whether such a text holds a name, letter case included.
 bool IsChosen(const QString& chosenZones, const QString& name);
 
+/// One row of the list, whatever it comes from. It is a value; nothing in it follows the files by
+/// itself.
 struct ZoneRow {
     QString Name;         ///< key and text: the zone's `StandardName`
     QString DisplayName;  ///< the second column
     QString ToolTipText;  ///< the full path of the row's file; empty for a zone of the database
+    /// What the user sees and changes; it begins as `HasFile`.
     bool Checked = false;
     bool HasFile = false;  ///< as far as the list knows: files may vanish at any time
     TimeZoneRecord Record;
@@ -44,7 +48,7 @@ struct RowFilter {
     QString Chosen;              ///< `ChosenZones` of the folder of zone files
     std::optional<double> Band;  ///< hours picked on the map, see `MapBand`
 
-    /// Records without a name are never listed.
+    /// Whether a record passes choice and band. Records without a name are never listed.
     bool Lists(const TimeZoneRecord& record) const;
 };
 

@@ -27,22 +27,31 @@ public:
     explicit CBalloonToolTip(platform::WallClock& clock);
     ~CBalloonToolTip() override;
 
-    bool CloseBox() const { return closeBox_; }  ///< kept only
+    /// Kept for those who ask; no tip has such a box.
+    bool CloseBox() const { return closeBox_; }
     void SetCloseBox(bool on) { closeBox_ = on; }
     bool Shown() const { return shown_; }  ///< a tip is on the screen
     void SetShown(bool shown);  ///< false takes the tip away; true shows nothing by itself
-    int MaxLength() const { return maxLength_; }  ///< longest tip text; the rest is cut off
+    /// Longest tip text, in characters; the rest is cut off. 4096 to begin with.
+    int MaxLength() const { return maxLength_; }
     void SetMaxLength(int characters) { maxLength_ = characters; }
-    int VisibleTime() const { return visibleTime_; }  ///< milliseconds; 0 is without end
+    /// Milliseconds until a tip that is shown goes; 0 is without end. 5000 to begin with, 10000
+    /// after a `...Setup`.
+    int VisibleTime() const { return visibleTime_; }
     void SetVisibleTime(int milliseconds) { visibleTime_ = milliseconds; }
-    int DelayTime() const { return delayTime_; }  ///< milliseconds
+    /// Milliseconds that the pointer must rest. 100 to begin with, 500 after a `...Setup`.
+    int DelayTime() const { return delayTime_; }
     void SetDelayTime(int milliseconds) { delayTime_ = milliseconds; }
     int Icon() const { return icon_; }
     void SetIcon(int icon) { icon_ = icon; }
-    int ForeColor() const { return foreColor_; }  ///< red in the low byte, or `Unset`
+    /// The colour of the text, red in the low byte. `Unset` is one that can be read on `BackColor`,
+    /// or the desktop's own where that is unset, too.
+    int ForeColor() const { return foreColor_; }
     void SetForeColor(int colour) { foreColor_ = colour; }
     const QString& Title() const { return title_; }
     void SetTitle(const QString& title) { title_ = title; }
+    /// Whether the tip waits for `Show`; else it comes by itself when the pointer rests on the
+    /// owner.
     bool PopupOnDemand() const { return popupOnDemand_; }
     void SetPopupOnDemand(bool on) { popupOnDemand_ = on; }
     int BackColor() const { return backColor_; }
@@ -63,9 +72,11 @@ public:
     /// could be made.
     void CreateToolTip(QWidget* ownerWindow, bool& ok);
 
-    /// Shows the tip at a point of the owner, in pixels. With @p tool the balloon keeps clear of a
-    /// rectangle of that size whose left top is the point.
+    /// Shows the tip at a point of the owner, in pixels; nothing happens before `CreateToolTip`.
+    /// With @p tool the balloon keeps clear of a rectangle of that size whose left top is the
+    /// point.
     void Show(int x, int y, const QSize& tool = QSize(0, 0));
+    /// Takes the tip off the screen, and gives up one that was still to come. The window is kept.
     void Destroy();
 
     /// Makes the tip one on demand, and calls @p show when `DelayTime` has passed, unless the tip
@@ -86,7 +97,8 @@ public:
     /// Shows the stored text again, for a tip whose place has moved.
     void ReloadBalloonInfo(QWidget* owner, double x, double y);
 
-    /// An error in red at a point in pixels.
+    /// An error in red at a point in pixels. Unlike the others it leaves times and stand as they
+    /// are.
     void ShowBalloonError(QWidget* owner, int x, int y, const QString& title, const QString& text,
                           int backColor = Unset);
 
@@ -112,6 +124,7 @@ private:
     void ShowAtTwips(double x, double y);
     void Appear(const QRect& screenTool);
     void WatchOwner(QWidget* owner);
+    /// The pointer has moved on the owner: the tip comes `DelayTime` after its last move.
     void Rest(const QPoint& screenPoint);
     void LeaveAlone();
     void OnTicker();
@@ -134,6 +147,7 @@ private:
     bool beside_ = false;
 
     QPointer<QWidget> owner_;
+    /// The window that the owner lies in, since the tip was shown; the tip follows its moves.
     QPointer<QWidget> ownersWindow_;
     QPointer<BalloonWindow> window_;
     std::int32_t trackPosition_ = 0;

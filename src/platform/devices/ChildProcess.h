@@ -6,7 +6,8 @@
 namespace platform {
 
 /// A helper process that is never waited for while the program runs. One that still lives when this
-/// object goes is killed.
+/// object goes is killed, and waited for a second at most. What it writes to the standard error is
+/// dropped.
 class ChildProcess final : public QProcess {
 public:
     ChildProcess();

@@ -11,7 +11,17 @@
 #include <functional>
 
 /// What the helper processes have in common: orders come as lines on the standard input, answers go
-/// as lines to the standard output, and the process ends with its input.
+/// as lines to the standard output, and the process ends with its input. Texts in them (paths,
+/// reasons) travel as base64, so that neither blanks nor line breaks get in their way. A whole
+/// helper:
+///
+///     int main(int argc, char** argv) {
+///         platform::EndWithParent();
+///         QCoreApplication application(argc, argv);
+///         const platform::OrderLines orders([](const QByteArrayList& words) { ... });
+///         QCoreApplication::exec();
+///         platform::Leave();
+///     }
 namespace platform {
 
 /// Writes a line and sends it off at once. @p line holds no line break.
@@ -60,6 +70,7 @@ private:
 
     std::function<void(const QByteArrayList& words)> obey_;
     QSocketNotifier input_;
+    /// What has come of a line without its end.
     QByteArray pending_;
 };
 

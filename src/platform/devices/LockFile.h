@@ -9,10 +9,13 @@ namespace platform {
 /// ends, so that what a crash leaves behind holds up nobody.
 class LockFile {
 public:
+    /// @param path native and full, in a folder that exists; nothing is opened before `Take`
     explicit LockFile(QString path) : path_(std::move(path)) {}
+    /// Removes the file where this object holds it, and lets it go.
     ~LockFile();
     Q_DISABLE_COPY_MOVE(LockFile)
 
+    /// `Failed` is a file that can't be made, locked or written.
     enum class Outcome { Taken, HeldByAnother, Failed };
 
     /// Tries to hold the file, and then writes a note for others into it. It never waits.
@@ -22,6 +25,7 @@ public:
     QByteArray Note() const;
 
 private:
+    /// Whether the path still leads to the file that was opened.
     bool IsStillTheFile(int descriptor) const;
 
     QString path_;

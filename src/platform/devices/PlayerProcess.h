@@ -22,30 +22,42 @@ struct PlayerBounds {
 /// a fresh process where that is needed.
 class PlayerProcess final : public MediaPlayer {
 public:
+    /// @param program the path of `tempolark-player`; that it can't be started is known with the
+    /// first piece only
     explicit PlayerProcess(QString program, const PlayerBounds& bounds = {});
+    /// Ends the process, and its sound, without waiting for it.
     ~PlayerProcess() override;
     Q_DISABLE_COPY_MOVE(PlayerProcess)
 
+    /// A path that is no plain file (missing, a folder, a pipe) fails at once and starts nothing.
     void SetUrl(const QString& path) override;
+    /// 1 stopped, 2 paused, 3 playing.
     int PlayState() const override { return state_; }
     void Play() override;  ///< after a failure, not before the next `SetUrl`
     void Stop() override;
     void Pause() override;
+    /// A fresh process is given the volume that was set last; 100 before that.
     void SetVolume(int volume) override;
     QString LastError() const override { return error_; }
 
     /// Whether the present piece has begun to sound.
+    /// It stays true until the next one begins.
     bool IsHeard() const { return isHeard_; }
 
 private:
     void Start();
+    /// Starts a process unless one runs, and gives it the volume.
     void NeedProcess();
     void LetGo();
+    /// Sends a line; it is dropped where no process runs.
     void Order(const QByteArray& line);
     void Read(QProcess& process);
+    /// Takes an answer: "at N MS", "ended N" or "failed N REASON". It counts only while the
+    /// piece of that number is under way.
     void Hear(const QByteArrayList& words);
     void Rest(int state);
     void Fail(const QString& reason);
+    /// A bound is reached: a piece that is under way has failed, and the process is let go.
     void RunOut();
 
     QString program_;

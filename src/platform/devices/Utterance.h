@@ -20,6 +20,9 @@ struct VoiceCore {
 
 /// One message on its way: it waits for its turn, is handed over piece by piece, and ends by itself
 /// in any case, since each step has a bound. It lives on events.
+///
+/// The steps are the wait for its turn, then for each piece the wait until the engine speaks and
+/// the wait until it has spoken. Whichever bound runs out first ends the message with a reason.
 class Utterance : public std::enable_shared_from_this<Utterance> {
 public:
     /// @param ahead what the messages before this one may take, in milliseconds
@@ -39,13 +42,16 @@ public:
     bool HasEnded() const { return ended_; }
     bool HasBegun() const { return begun_; }
     QString Reason() const { return reason_; }
+    /// Whose message it is.
     const VoiceCore* Voice() const { return voice_.get(); }
 
+    /// Called once, when it ends for whatever reason, but not when it is destroyed.
     std::function<void()> OnEnd;
 
 private:
     void SayNext();
     void Hear(SpeechEngine::State state);
+    /// The bound of the present step is reached.
     void GiveUp();
 
     std::shared_ptr<VoiceCore> voice_;

@@ -8,7 +8,8 @@
 namespace platform {
 
 /// Which voices the machine has, as far as it has told by now. All of its voices share one; this
-/// one has none to tell.
+/// one has none to tell. It keeps no listener alive: whoever listens keeps its own, and is
+/// forgotten when that goes.
 class VoiceDirectory {
 public:
     /// Is called each time that something is news.

@@ -6,7 +6,8 @@
 namespace platform {
 
 /// A speech engine that runs as a process of its own, `tempolark-voice`. When it crashes it is in
-/// trouble and a new one is needed; destroying this object ends it, and its sound, at once.
+/// trouble and a new one is needed; destroying this object ends it, and its sound, at once. So does
+/// `Stop`, which is reported like a crash.
 class VoiceProcess final : public SpeechEngine {
 public:
     /// Starts @p program and does not wait for it: what it is asked to do meanwhile it does as soon
@@ -24,7 +25,10 @@ public:
 
 private:
     void Read();
+    /// Takes an answer: "voices NAME...", "speaking", "ready" or "error REASON"; any other is
+    /// dropped.
     void Hear(const QByteArrayList& words);
+    /// The process has ended, or can't be started. The first trouble is the one that is kept.
     void Die(const QString& reason);
     void TellVoices();
     void Tell(State state);

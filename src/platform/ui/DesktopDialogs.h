@@ -8,26 +8,35 @@
 
 namespace platform {
 
-/// Boxes and pickers of the desktop.
+/// Boxes and pickers of the desktop. All but `PostMessageBox` run an event loop of their own until
+/// they are answered, in which the clocks go on. Closing a question's window counts as No. Texts
+/// are plain: what looks like mark-up is shown as it stands.
 class DesktopDialogs final : public Dialogs {
 public:
-    /// The window that owns the boxes from now on.
+    /// The window that owns the boxes from now on; they stand in front of it. Null, or a window
+    /// that has gone, means none: boxes then stand alone, and nothing is posted.
     void SetOwner(QWidget* owner) { owner_ = owner; }
 
     int MessageBox(const QString& text, int flags, const QString& title) override;
-    /// The windows stay usable beside the box; it goes with its owner.
+    /// The windows stay usable beside the box; it goes with its owner. It has the button OK and no
+    /// other, whatever @p flags ask for. What is posted while the owner is hidden waits until
+    /// another post that finds it visible.
     void PostMessageBox(const QString& text, int flags, const QString& title) override;
+    /// Only a file that exists can be picked; @p filter gives its ending to a name that is typed
+    /// without one.
     QString OpenFile(const QString& title, const QString& folder, const QString& filter) override;
     QString SaveFile(const QString& title, const QString& folder, const QString& filter) override;
     int PickColour(int present) override;
 
 private:
+    /// What a posted box tells; two of the same content are one.
     struct Post {
         QString Text;
         int Flags = 0;
         QString Title;
         bool operator==(const Post&) const = default;
     };
+    /// Shows the first of the posts, unless a box stands already or the owner can't be seen.
     void ShowNextPost();
 
     QPointer<QWidget> owner_;

@@ -6,10 +6,12 @@
 
 #include "timezones/ZoneList.h"
 
-/// The two pop-up menus of the window of zones.
+/// The two pop-up menus of the window of zones: that of the list, with all entries but the last
+/// one, and that of the map, with `HideMap` only. They do nothing but tell which entry was chosen.
 class ZoneMenu {
 public:
     /// The entries. In the menus each is an action whose `objectName` is the same word.
+    /// `MapVisible` shows or hides the map, and says which of the two it would do.
     enum class Item {
         NameAscending,
         NameDescending,
@@ -31,7 +33,8 @@ public:
         HideMap
     };
 
-    /// What the menus show of the window.
+    /// What the menus show of the window. `DeleteSelected` can be chosen in the list of zone files
+    /// only, `ShowTimeZoneDetailsMenu` where there is a current row; all else always.
     struct State {
         mduTimeZones::SourceMode Source = mduTimeZones::SourceMode::Windows;
         mduTimeZones::ShowFilter Show = mduTimeZones::ShowFilter::All;
@@ -59,6 +62,7 @@ private:
     /// @param isChoice whether the entry can be checked
     void Add(QMenu& menu, Item item, const QString& name, const QString& caption,
              bool isChoice = false);
+    /// Two inner menus, for the two columns.
     void AddSorts();
     void AddSources();
 

@@ -99,18 +99,27 @@ private:
     // What the list does (frmTimeZonesList.cpp)
     /// Runs what lists other rows. The current zone stays current where it is still listed.
     void Refill(const std::function<void()>& action);
+    /// Brings map, counts and buttons in line with the rows.
     void ShowRows();
+    /// Lists what is found by the text, and makes the best match current.
     void Search(const QString& typed);
+    /// Makes the row's file unless it has one, and tells what stands in the way.
+    /// @return whether there is a file now
     bool MakeFileOf(int position);
     void CheckRow(int position);
+    /// Checks or unchecks all listed rows; no file is made or removed by it.
     void CheckAll(bool checked);
     void NarrowToBand();
+    /// Sorts upward by a column, or downward where it is sorted upward already.
     void SortByColumn(int column);
     void SetSort(mduTimeZones::ZoneSort sort);
+    /// The position of the row that is lit; -1 for none.
     int CurrentPosition() const;
     void MakeCurrent(int position);
     void ShowCurrent();
     QString ToolTipOfRow(int position) const;
+    /// What stands in the list when it is empty: the reason, as the search, the band or the source
+    /// gives it.
     QString EmptyText() const;
 
     // Its controls (frmTimeZonesControls.cpp)
