@@ -20,7 +20,7 @@ public:
     ClockCanvas(const WatchedState& state, ClockScreen& screen, ClockPlacement& placement)
         : state_(state), screen_(screen), placement_(placement) {}
 
-    /// The face that is told of changes from now on; it outlives the canvas.
+    /// The face that is told of changes from now on. Nothing may be drawn once it is gone.
     void SetFace(ClockFace& face) { face_ = &face; }
 
     /// A new surface of the screen's size in the background colour; the face is painted anew. For a

@@ -110,8 +110,7 @@ public:
     ///
     ///     if (revisionRead_ != data_.Revision()) {
     ///         revisionRead_ = data_.Revision();
-    ///         speed_ = mduAPILib::Val(mduLib::GetProperty(u"Message Display Speed"_s,
-    ///         data_.Properties()));
+    ///         speed_ = ReadSpeed(data_.Properties());
     ///     }
     int Revision() const { return revision_; }
 

@@ -21,8 +21,8 @@ public:
               ClockScreen& screen, ClockCanvas& canvas)
         : data_(data), controls_(controls), window_(window), screen_(screen), canvas_(canvas) {}
 
-    /// Whom texts and sounds of the timers go to; both outlive this. Without it they are not heard,
-    /// and nothing speaks.
+    /// Whom texts and sounds of the timers go to. They may go before this does, as soon as nothing
+    /// asks any more. Without them nothing is heard.
     void SetSpeech(speech::ClockVoice& voice, speech::ClockMusic& music);
 
     // What both ask for.
@@ -42,15 +42,15 @@ public:
     /// In device pixels, as wide and as high as the caption is in the label's font.
     void FitLabel(mduUILib::Control& label) override;
     /// Gives the mark its picture, its size for the present surface and its place, in device pixels
-    /// of the surface. On another clock than an analogue one the marks go by a place of their own.
+    /// of the surface. On another clock than an analogue one the marks run along the bottom edge.
     void PlaceMark(int slot, int spot, int place) override;
     int TimerInterval() const override { return window_.TimerInterval(); }
     void SetTimerInterval(int milliseconds) override { window_.SetTimerInterval(milliseconds); }
     int BackColor() const override { return canvas_.BackColor(); }
     double DevicePixelRatio() const override { return canvas_.Painted().DevicePixelRatio(); }
     int ScaleHeight() const override { return canvas_.Painted().ScaleHeight(); }
-    /// In device pixels of the surface. The outline is that of the outer window, of which the
-    /// surface sees a part.
+    /// In device pixels of the surface. The outline is that of the outer window, in which
+    /// the surface lies.
     std::optional<QRectF> RowInOutline(double top, double height, double width) const override;
 
     // For voice and music.

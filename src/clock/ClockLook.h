@@ -51,8 +51,10 @@ public:
     void SetClocks(ClockKind kind);
     /// Turns the clock backward: stores the property and draws nothing itself.
     void SetBackward();
-    /// @param caption is a colour's name; with "Custom" @p value is the colour, as a number (red in
-    /// the low byte), else it is not looked at. The change is one in memory.
+    /// Gives the window a background colour, in memory, and shows it.
+    /// @param value the colour as a number (red in the low byte), where the caption is "Custom";
+    /// else it is not looked at
+    /// @param caption the name of a colour, such as "Transparent", or "Custom"
     void SetWindowBackColour(const QString& value, const QString& caption);
     /// Lays out what depends on the size of a new surface, and draws it.
     void FitSurface();
@@ -73,8 +75,8 @@ public:
     void RefreshForm(const QString& fileName);
 
     /// Writes the look and the window's place into the clock's own file, and tells so. A file that
-    /// is no property file is left as it is. A minimised or maximised window leaves the place that
-    /// the file has.
+    /// is no property file is left as it is. Where the window has no place to store,
+    /// that of the properties is written.
     void SaveCurrentStyle();
     /// Writes the look as a style; @p chosen is what `StyleFiles::SavePath` makes a path of. The
     /// clock's own file stays as it is.

@@ -14,7 +14,7 @@
 namespace clockcore {
 
 /// The parts of one clock, all of which the clock owns. The tick keeps references and decides in
-/// which order they are asked; none of them knows the tick. A test puts parts of its own here.
+/// which order they are asked. A test puts parts of its own here.
 struct ClockParts {
     ClockWindow& Window;
     ClockPlacement& Placement;
@@ -49,9 +49,9 @@ public:
     ///
     /// - `Loading` and `Closing`: nothing.
     /// - `FirstTickDue`: makes the window ready and shows it. A wrapper paints its ground and its
-    /// numbers and stays in this state, so that each tick does so again.
+    ///   numbers and stays in this state, so that each tick does so again.
     /// - `RedrawRequested`: clears the surface, frames it anew and paints all of it, locked
-    /// meanwhile.
+    ///   meanwhile.
     /// - `Running`: the normal tick, below.
     ///
     /// A normal tick looks at the focus, fires timers, speaks the time, draws the face, sounds the

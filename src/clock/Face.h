@@ -39,7 +39,7 @@ public:
     void ReadDigitalFormat() override;
     /// Lays out what the present kind of clock has and hides what it has not: the dial, sun and
     /// moon, the label of the place, read-out and calculator lines. A calculator that is being
-    /// typed into keeps its lines as they are. To be called whenever `ClockData::Tag` has changed.
+    /// typed into keeps its lines as they are.
     void PrepareClockFace() override;
     /// Moves the hands and the digits to the present time of the zone and shows the outcome. A kind
     /// without hands or digits (`None`, the input of a calculator) shows only what else has

@@ -8,8 +8,7 @@ inline constexpr int HalfDay = 12;  ///< hours; the dial has no more
 
 /// One timer of a clock. The dial has twelve hours, so a time stands for both halves of the day.
 ///
-/// The texts are as the timer file has them. A slot that has been cleared keeps some of them: see
-/// `ClockTimers::ClearTimerSlot`.
+/// A slot that has been cleared keeps some of the fields: see `ClockTimers::ClearTimerSlot`.
 struct ClockTimer {
     /// "hh:mm", such as "03:05"; empty in a cleared slot. Any other text never comes due.
     QString TimerTime;

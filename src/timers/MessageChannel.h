@@ -9,7 +9,8 @@ class MessageChannel {
 public:
     virtual ~MessageChannel() = default;
 
-    /// Moves the message by one step and the countdown to the present time. Called at each tick.
+    /// Moves the message by one step and the countdown to the present time. Called by each
+    /// normal tick.
     /// @param left where the drawing surface begins, in device pixels
     /// @param width its width, in device pixels
     virtual void RunMessage(int /*left*/, int /*width*/) {}

@@ -26,8 +26,8 @@ public:
     HeaderArt(const Program& program, Hooks hooks, QWidget* parent);
 
     /// The opening show, of about two seconds: the letters fly in, and are then placed and coloured
-    /// by
-    /// @p headingVariation. While it runs another call only changes that; a change of size ends it.
+    /// by @p headingVariation. While it runs another call only changes that; a change of size ends
+    /// it.
     void ShowHeaderAnimation(const QString& headingVariation);
     bool IsMoving() const { return ticker_->Interval() != 0; }
 

@@ -23,9 +23,8 @@ class ToolBarCommands;
 /// The shell: a multiple-document frame that hosts the clocks, launches them and acts on them. The
 /// window holds its parts together and routes what happens to them; what they do is theirs.
 ///
-/// The settings, the lists and the menus' contents are data of their own (`shell/`), each with a
-/// test; what is drawn is in the widgets that the window owns. A message for the user goes to
-/// `ShowStatusMsg`.
+/// The settings, the lists and the menus' contents are data of their own (`shell/`); what is drawn
+/// is in the widgets that the window owns. A message for the user goes to `ShowStatusMsg`.
 class frmMain final : public QMainWindow, public IForm, public IShell {
 public:
     /// Makes all parts; no settings are read and nothing is shown before `Load`.
@@ -128,7 +127,8 @@ private:
     void ApplyCentralProperties(bool keepPlacement);
     bool IsScreenSaverRun() const;
     void ApplyScreenSaverLook();
-    /// What would hold up the window: the greeting, the background picture, the lists of styles.
+    /// What would hold up the window: the greeting, the background picture, the lists of
+    /// colours and styles.
     void FirstTick();
     /// The window is brought into the screen, now that the size of its frame is known.
     void SecondTick();
