@@ -11,21 +11,26 @@ namespace clockcore {
 
 /// The surface of a clock, and how what is drawn on it comes to the screen: with an outline, with a
 /// see-through colour, held back while it is locked.
+///
+/// Drawing goes to `Surface`, in device pixels. `Present` says which part has changed; the window
+/// is then painted from `ShownPicture` when the event loop runs next.
 class ClockCanvas final : public drawing::Canvas {
 public:
+    /// All that it is given outlives it. The surface has one pixel until `TakeSurface`.
     ClockCanvas(const WatchedState& state, ClockScreen& screen, ClockPlacement& placement)
         : state_(state), screen_(screen), placement_(placement) {}
 
-    /// The face that is told of changes from now on.
+    /// The face that is told of changes from now on. Nothing may be drawn once it is gone.
     void SetFace(ClockFace& face) { face_ = &face; }
 
-    /// A new surface of the screen's size in the background colour; the face is painted anew.
+    /// A new surface of the screen's size in the background colour; the face is painted anew. For a
+    /// window that has another size or has come to another screen.
     void TakeSurface();
     /// False when the window has come to a screen with other pixels.
     bool FitsTheScreen() const;
     /// Clears the surface to the background colour.
     void Cls();
-    /// While locked, nothing that is drawn shows; then all of it does.
+    /// While locked, nothing that is drawn shows; then all of it does, at once. Locks do not nest.
     void LockWindowUpdate(bool locked);
     /// A clock that nobody looks at lays its face out and never paints it.
     void SetLookedAt(bool lookedAt) { lookedAt_ = lookedAt; }
@@ -33,7 +38,8 @@ public:
     /// Takes note that a part of the window, in logical pixels, has been painted. @return what of
     /// it had not been changed here: it has come to light
     QRegion Exposed(const QRegion& painted);
-    /// What the window shows: white is see-through where the colour key is on and in force.
+    /// What the window shows, in device pixels: white is see-through where the colour key is on and
+    /// the clock stands alone.
     QImage ShownPicture() const;
     /// The surface as it is seen: `ShownPicture`, transparent outside the window's outline.
     QImage SeenPicture() const;

@@ -15,6 +15,8 @@ enum class ClockPart {
 };
 
 /// The part at a point, in device pixels of the surface. Where parts overlap it is the upper one.
+/// Parts that are hidden take no clicks; a point beside all parts, on the surface or off it, is the
+/// face.
 ClockPart PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
 
 /// The first visible member of an array that holds a point, in device pixels of the surface; null

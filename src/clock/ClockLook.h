@@ -43,13 +43,18 @@ public:
           styles_(styles),
           parts_(parts) {}
 
-    /// Gives the clock's properties to the property window.
+    /// Gives the clock's properties to the property window: a copy of them in
+    /// `ModuleState::CurrentProperties`.
     void SetProperty();
-    /// Makes the clock one of that kind, at once; nothing for `None` and the input state.
+    /// Makes the clock one of that kind, at once; nothing for `None` and the input state. The
+    /// property "Clocks" changes in memory; no file is written. A wrapper becomes a clock.
     void SetClocks(ClockKind kind);
     /// Turns the clock backward: stores the property and draws nothing itself.
     void SetBackward();
-    /// @p caption is a colour's name; with "Custom" @p value is the colour, as a number.
+    /// Gives the window a background colour, in memory, and shows it.
+    /// @param value the colour as a number (red in the low byte), where the caption is "Custom";
+    /// else it is not looked at
+    /// @param caption the name of a colour, such as "Transparent", or "Custom"
     void SetWindowBackColour(const QString& value, const QString& caption);
     /// Lays out what depends on the size of a new surface, and draws it.
     void FitSurface();
@@ -57,18 +62,27 @@ public:
     void ApplyEnable();
 
     /// Puts a style on the clock. Without a file of that name the clock is laid out anew as it is.
+    /// A window that is minimised or maximised comes back to its normal size first.
+    /// @param styleFile the full path; what is wrong with it is told in the status bar
     void ApplyClockStyle(const QString& styleFile);
-    /// Goes on to the next style of the folder, and from the last to the first.
+    /// Goes on to the next style of the folder, and from the last to the first. Nothing in a folder
+    /// without styles.
     void ApplyNextStyle() override;
     /// Takes `CurrentProperties` as the clock's own and applies them all. @p fileName becomes the
     /// current file, unless it is empty.
+    /// What is spoken, the zone, the window and the face all follow. Before the first tick the face
+    /// is not drawn: that tick has still to make the window.
     void RefreshForm(const QString& fileName);
 
-    /// Writes the look and the window's place into the clock's own file.
+    /// Writes the look and the window's place into the clock's own file, and tells so. A file that
+    /// is no property file is left as it is. Where the window has no place to store,
+    /// that of the properties is written.
     void SaveCurrentStyle();
-    /// Writes the look as a style; @p chosen is what `StyleFiles::SavePath` makes a path of.
+    /// Writes the look as a style; @p chosen is what `StyleFiles::SavePath` makes a path of. The
+    /// clock's own file stays as it is.
     void SaveStyle(const QString& chosen);
-    /// Tells that something has been saved just now.
+    /// Tells that something has been saved just now, with the time.
+    /// @param what such as "the style of Tokyo"
     void TellSaved(const QString& what);
 
 private:

@@ -12,16 +12,19 @@ class ClockScreen {
 public:
     virtual ~ClockScreen() = default;
 
-    /// Of the clock inside its frame, in logical pixels.
+    /// Of the clock inside its frame, in logical pixels. The surface is this times
+    /// `DevicePixelRatio`, rounded.
     virtual QSize Size() const = 0;
-    virtual double DevicePixelRatio() const = 0;  ///< device pixels to a logical one, above 0
+    /// Device pixels to a logical one, above 0. It changes when the window comes to another screen.
+    virtual double DevicePixelRatio() const = 0;
     /// Shows a part of the surface, in logical pixels, when the event loop runs next.
     virtual void Update(const QRegion& part) = 0;
 
+    /// Whether the clock stands in a shell; else its window is one of the desktop.
     virtual bool IsMDIChild() const = 0;
     /// Whether anything of the window can be seen, as far as the program can tell.
     virtual bool IsInSight() const = 0;
-    /// The shell's colour; white without a shell.
+    /// The shell's colour, red in the low byte; white without a shell.
     virtual int ShellBackColor() const = 0;
     /// A text for the shell's status bar; nothing happens without a shell.
     virtual void ShowStatus(const QString& text) = 0;

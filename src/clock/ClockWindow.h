@@ -9,10 +9,12 @@
 namespace clockcore {
 
 /// The clock's window, as its logic sees it.
+/// `FormWindow` is the real one; a test has one of its own.
 class ClockWindow {
 public:
     virtual ~ClockWindow() = default;
 
+    /// Whether the clock stands in a shell.
     virtual bool IsMDIChild() const = 0;
     virtual bool IsActiveForm() const = 0;    ///< the form that the screen reports as active
     virtual bool IsActiveWindow() const = 0;  ///< the system's active window
@@ -20,9 +22,11 @@ public:
     /// Lets the window and all that lies on it be used, or not.
     virtual void EnableWindow(bool enabled) = 0;
 
-    virtual int TimerInterval() const = 0;  ///< of `timClock`, in milliseconds
+    /// Of `timClock`, in milliseconds; 0 while it is stopped.
+    virtual int TimerInterval() const = 0;
     virtual void SetTimerInterval(int milliseconds) = 0;
 
+    /// Where the surface begins and how wide it is, in device pixels.
     virtual int ScaleLeft() const = 0;
     virtual int ScaleWidth() const = 0;
 
@@ -30,23 +34,30 @@ public:
     virtual void Cls() = 0;
     /// While locked, nothing that is drawn shows.
     virtual void LockWindowUpdate(bool locked) = 0;
+    /// Hides the controls that stand for hands: hands are painted.
     virtual void HideHandShapes() = 0;
     /// Ends the clock by itself; the tick goes on no further.
     virtual void CloseClock() = 0;
 };
 
-/// Where the window stands and how it is framed.
+/// Where the window stands and how it is framed. What is named "Apply" makes the window as the
+/// properties tell. By itself the class does nothing, so that a test overrides only what it asks
+/// for.
 class ClockPlacement {
 public:
     virtual ~ClockPlacement() = default;
 
+    /// By "Window State". A wrapper takes the whole of its container.
     virtual void ApplyWindowState() {}
     virtual void ApplyWindowRect() {}
     virtual void ApplyWindowBorder() {}
     virtual void ApplyTitleBar() {}
+    /// In a shell the name of the clock's file, by which others find the clock; the program's own
+    /// name for a clock that stands alone.
     virtual void SetClockCaption() {}
     /// Opens or closes the window, with its animation.
     virtual void ShowClockWindow(bool /*show*/) {}
+    /// Whether the window is open, be it minimised.
     virtual bool IsShown() const { return false; }
 
     virtual QString Caption() const { return {}; }

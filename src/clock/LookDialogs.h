@@ -18,11 +18,15 @@ public:
                 const drawing::Canvas& canvas, ClockLook& look)
         : clock_(clock), program_(program), state_(state), canvas_(canvas), look_(look) {}
 
-    /// Asks for a colour and makes it the window's.
+    /// Asks for a colour, with the present one to begin with, and makes it the window's. Cancelled,
+    /// nothing changes.
     void PickWindowBackColour();
-    /// Applies a style file; an empty name or "More" asks for one.
+    /// Applies a style file. An empty name or "More" asks for one; cancelled, the clock is laid out
+    /// anew as it is.
+    /// @param styleFile the full path
     void SetClockStyle(const QString& styleFile);
-    /// Asks for a name and writes the clock's look there, without its zone.
+    /// Asks for a name and writes the clock's look there, without its zone. Cancelled, nothing is
+    /// written.
     void SaveStyleAs();
 
 private:

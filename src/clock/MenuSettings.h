@@ -13,6 +13,11 @@
 namespace clockcore {
 
 /// What the menus on parts of a clock set: one property at a time, applied and saved at once.
+///
+/// Each setting writes its own key into the clock's file and leaves the others as the file has
+/// them, so that a look that was only tried out is not saved along with it. The status bar tells
+/// that the settings have been saved; what could not be saved has been told by `ClockFiles`. The
+/// timers are saved and the face is brought up to date each time.
 class MenuSettings {
 public:
     /// What the settings are applied to. All of it outlives them.
@@ -31,16 +36,22 @@ public:
 
     MenuSettings(ClockData& data, const Parts& parts) : data_(data), parts_(parts) {}
 
-    /// Gives a key of the speaker's menu one of its choices.
+    /// Gives a key of the speaker's menu one of its choices, as the menu shows it. "Speaker Volume"
+    /// and "Speak Rate" reach the voice at once; any other key makes the speaker and the patterns
+    /// be read anew.
     void SetSpeech(const QString& key, const QString& value);
-    void SetVoice(int entry);  ///< an entry of the menu of voices, from 1
-    /// Puts the speaker where it finds its place by itself.
+    /// Lets another voice speak: an entry of `SpeakerVoice::VoiceMenu`, from 1.
+    void SetVoice(int entry);
+    /// Puts the speaker where it finds its place by itself: both of its keys become -1.
     void PutSpeakerPosition();
-    /// Gives the action that counts down, and those to come, a colour by its name.
+    /// Gives the action that counts down, and those to come, a colour by its name. Without a
+    /// countdown the colour stays as it is.
     void SetActionColour(const QString& colour);
+    /// Makes a disabled clock usable again, now and at its next start.
     void Enable();
 
 private:
+    /// Tells of a save only when all the keys are in the file.
     void Save(const QStringList& keys);
 
     ClockData& data_;

@@ -5,8 +5,12 @@
 namespace ctl {
 
 /// Files that can be read and are never written: a picture of a clock leaves its file as it is.
+///
+/// "clock render" draws a clock through it. A clock may rewrite keys of its file, such as those of
+/// a zone with days of another year; here that comes to nothing.
 class ReadOnlyFiles final : public platform::Files {
 public:
+    /// @param files answers whatever is read; it outlives this one
     explicit ReadOnlyFiles(platform::Files& files) : files_(files) {}
 
     bool Exists(const QString& path) const override { return files_.Exists(path); }
@@ -21,6 +25,8 @@ public:
     std::optional<qint64> Size(const QString& path) const override { return files_.Size(path); }
     QStringList FileNames(const QString& folder) const override { return files_.FileNames(folder); }
 
+    /// What writes gives false at once, as on a medium that is protected; the files are not asked.
+    /// A caller has to take that as any other failure.
     bool MakeFolder(const QString&) override { return false; }
     bool Write(const QString&, const QByteArray&) override { return false; }
     bool Copy(const QString&, const QString&) override { return false; }

@@ -16,21 +16,32 @@
 namespace ctl {
 
 /// Boxes of a program without windows: the text goes to standard error, and the answer is the one
-/// that changes nothing.
+/// that changes nothing. Nobody is ever waited for.
 class ConsoleDialogs final : public platform::Dialogs {
 public:
+    /// Prints "title: text". @return 7 (No) where @p flags ask for Yes and No (4), else 1 (OK)
     int MessageBox(const QString& text, int flags, const QString& title) override;
+    /// The empty text, as if the user had cancelled; the same goes for `SaveFile`.
     QString OpenFile(const QString&, const QString&, const QString&) override { return {}; }
     QString SaveFile(const QString&, const QString&, const QString&) override { return {}; }
+    /// -1: no colour was chosen.
     int PickColour(int) override { return -1; }
 };
 
 /// The machine as the global options describe it: its files and zones, no devices.
+///
+/// With `Now` or `LocalZone` given, the time stands still: at `Now`, or at the present moment as
+/// that zone's clocks show it. Without either the machine's own clock runs. A user's name that is
+/// given replaces the account's, and a seed makes all random choices the same at each run. Settings
+/// are kept in "Settings.ini" of the program folder.
 class ScriptMachine {
 public:
+    /// @param options are read here and need not outlive the machine
+    /// @param appFolder the full path of the program folder, without a "/" at its end
     ScriptMachine(const GlobalOptions& options, const QString& appFolder);
     Q_DISABLE_COPY_MOVE(ScriptMachine)
 
+    /// All of it belongs to this machine and goes with it.
     const platform::Services& Services() const { return services_; }
 
 private:

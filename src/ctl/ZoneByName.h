@@ -5,7 +5,8 @@
 
 namespace ctl {
 
-/// The zone of that name. One that no zone has counts as GMT, and standard error tells so.
+/// The zone of that name. One that no zone has counts as GMT, and standard error tells so, with the
+/// nearest name that there is.
 TimeZoneRecord FindAndTell(const Context& context, const QString& name);
 
 /// Tells a notice about a zone or the zones; nothing where it is empty.

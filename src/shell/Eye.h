@@ -2,7 +2,8 @@
 
 namespace shell {
 
-/// The eye of the status bar: ten pictures that follow each other at most once in 150 ms.
+/// The eye of the status bar: ten pictures that follow each other at most once in 150 ms, round and
+/// round. `ShellStages` lets it move while the message line holds something.
 class Eye {
 public:
     static constexpr int Frames = 10;

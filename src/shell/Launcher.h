@@ -25,7 +25,9 @@ public:
     /// @return the window's handle, or 0 when it could not be launched
     int LaunchTempolark(QString name);
 
-    /// Asks for a property file and launches its zone. @return the handle, 0 when cancelled
+    /// Asks for a property file and launches the zone of its name, which is then read from the
+    /// folder of zone files, wherever the chosen file lies. @return the handle; 0 when cancelled,
+    /// and for a file that does not end in ".ini"
     int LaunchFromFileDialog();
 
 private:

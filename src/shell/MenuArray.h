@@ -4,10 +4,15 @@
 #include <vector>
 
 /// The menus of the shell as data: what they hold, before any widget shows it.
+/// A click on an item ends at its handler in `MenuCommands`, which is given a copy of it.
 namespace shell {
 
+/// One item as it stands in a menu. A separator has the caption "-".
 struct MenuItem {
+    /// What the user reads; it may also be what the item's command goes by.
     QString Caption;
+    /// What the command goes by beside the caption: a handle, a zone, "Yes" or "No". The user never
+    /// sees it.
     QString Tag;
     bool Visible = true;
     bool Enabled = true;
@@ -16,6 +21,11 @@ struct MenuItem {
 };
 
 /// A menu array: items from 1; item 1 exists from the beginning and is never unloaded.
+/// An index below 1, and one above `Count` but for `Load`, is not allowed; nothing checks it.
+///
+///     MenuArray items;
+///     items.Load(3) = {"Tokyo", "Tokyo"};  // items 2 and 3 are new; 2 is an empty one
+///     items.UnloadAbove(1);                // item 1 alone
 class MenuArray {
 public:
     MenuArray() : items_(1) {}

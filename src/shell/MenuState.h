@@ -11,6 +11,7 @@ namespace shell {
 /// catalogue begins it.
 class MenuState {
 public:
+    /// As the catalogue has it: items without a caption are hidden, all others can be clicked.
     MenuState();
 
     /// The array of that name; an empty one of one hidden item for an unknown name.

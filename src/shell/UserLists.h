@@ -20,10 +20,13 @@ public:
 
     LastOpened& Opened() { return opened_; }
 
+    /// Reads the clocks opened last; a file that is missing leaves the list as it is.
     void LoadOpenedForms();
     bool SaveOpenedForms() const;  ///< @return false when the file can't be written
+    /// See `LastOpened::FillLastOpenedMenu`.
     void FillLastOpenedMenu(MenuArray& fileItems) const;
 
+    /// A failure is told.
     void SaveAutoStartList() const;
 
     /// A zone that is gone does not start by itself any more; its name stays in the file.

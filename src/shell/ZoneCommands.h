@@ -13,6 +13,7 @@ public:
     ZoneCommands(const Program& program, MenuState& state, UserLists& lists, IShell& shell,
                  std::function<void()> launchFromFile);
 
+    /// Adds the handlers of these four; this outlives @p commands' last click.
     void AddTo(MenuCommands& commands);
 
     /// Removes a zone's file for good, and its clock, if that is open. It asks nobody.
@@ -20,10 +21,14 @@ public:
     QString RemoveZone(const QString& name) const;
 
 private:
+    /// The zone in the Tag; "More" has none and asks for a file.
     void OpenZone(const MenuItem& item) const;
+    /// One of the clocks opened last, or all that the menu lists.
     void OpenLast(const MenuItem& item) const;
+    /// What the pressed button of the toolbar does, to the clock of that item or to all.
     void RunOpenedItem(int index) const;
     void TurnAutoStart(const MenuArray& opened, int index) const;
+    /// Asks, and then removes the zone of the Tag, or all zones where it is empty.
     void ClickRemove(const MenuItem& item) const;
 
     Program program_;

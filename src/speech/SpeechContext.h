@@ -5,6 +5,7 @@
 namespace speech {
 
 /// What voice and music ask of the clock that they belong to.
+/// `clockcore::ClockHost` is the real one.
 class SpeechHost {
 public:
     virtual ~SpeechHost() = default;
@@ -17,6 +18,7 @@ public:
     virtual void ShowChanges() = 0;
     /// Tells the user, in the status bar, why something could not be heard.
     virtual void ShowStatus(const QString& text) = 0;
+    /// The clock's properties for a change in memory, such as another volume. No file is written.
     virtual ClockProperties& EditProperties() = 0;
 };
 

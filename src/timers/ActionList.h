@@ -6,7 +6,8 @@
 
 namespace timers {
 
-/// One entry of the menu of actions; the value is what a timer stores.
+/// One entry of the menu of actions. The value is what a timer stores; it is the same as the
+/// caption.
 struct ActionEntry {
     QString Caption;
     QString Value;

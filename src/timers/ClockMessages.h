@@ -30,8 +30,11 @@ public:
     /// Replaces the running message; line ends become blanks. The status bar gets it as well. An
     /// empty text shows nothing and ends the message that ran.
     void ShowMessage(const QString& text);
+    /// Of the running message, red in the low byte.
     void SetMessageColour(int colour);
     /// The message ends @p minutes behind @p clockTime; with 0 or less it runs until it is hidden.
+    /// The end is kept as "hh:mm" and also comes twelve hours before or after. One in the hour
+    /// after midnight ("00") never comes.
     void SetMessageExpiry(const QDateTime& clockTime, int minutes);
 
     void RunMessage(int left, int width) override;
@@ -43,8 +46,10 @@ public:
     /// Lets the pending action run @p minutes behind @p clockTime. @return false when there is none
     /// ("None" is none), or when one is counting down already.
     bool StartCountdown(const QDateTime& clockTime, int minutes);
-    /// Moves the deadline to @p minutes from the clock's present time; nothing without a countdown.
+    /// Moves the deadline to @p minutes from the clock's present time, 0 or less to the next tick;
+    /// nothing without a countdown.
     void PostponeAction(int minutes);
+    /// Forgets the pending action and hides its marks. The message runs on.
     void CancelAction();
     /// Gives the text of the action that counts down a colour, by its name, and the action that
     /// colour from now on; nothing without a countdown.

@@ -2,12 +2,15 @@
 
 namespace timers {
 
-/// The sounds of the hour and of each second.
+/// The sounds of the hour and of each second. The tick asks for them; by itself the class is
+/// silent.
 class ClockSounds {
 public:
     virtual ~ClockSounds() = default;
 
-    virtual bool PlayHourSound() { return false; }  ///< whether the hour sound is still busy
+    /// Whether the hour sound has begun or is still busy; the sound of the second then waits.
+    virtual bool PlayHourSound() { return false; }
+    /// At most once in a second, however often it is called.
     virtual void PlaySecondSound() {}
 };
 

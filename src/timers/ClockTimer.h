@@ -7,18 +7,29 @@ namespace timers {
 inline constexpr int HalfDay = 12;  ///< hours; the dial has no more
 
 /// One timer of a clock. The dial has twelve hours, so a time stands for both halves of the day.
+///
+/// A slot that has been cleared keeps some of the fields: see `ClockTimers::ClearTimerSlot`.
 struct ClockTimer {
-    QString TimerTime;       ///< "hh:mm", such as "03:05"; empty in a cleared slot
-    QString Permanent;       ///< "P" for a permanent timer, else empty
-    bool OnDial = false;     ///< the mark is visible; a live timer is on the dial
-    QString DisplayMinutes;  ///< how long the message stays; 0 or less: until it is hidden
+    /// "hh:mm", such as "03:05"; empty in a cleared slot. Any other text never comes due.
+    QString TimerTime;
+    /// "P" for a permanent timer, else empty. Permanent means kept in the file, not repeating.
+    QString Permanent;
+    bool OnDial = false;  ///< the mark is visible; a live timer is on the dial
+    /// How long the message stays, in minutes, and how long an action counts down; 0 or less: the
+    /// message stays until it is hidden.
+    QString DisplayMinutes;
+    /// What is shown and spoken; empty for a timer that only sounds or acts.
     QString Message;
     int MessageColour = 0;  ///< red in the low byte
     QString SoundFile;      ///< as stored, "\" and a leading ".\" included; empty for none
-    QString TimerAction;    ///< "None", an entry of the action menu, or a program's path
-    QString MusicVolume;    ///< a number above 0 becomes "Music Volume" when the timer fires
+    /// "None", an entry of the action menu, or a program's path. Empty as well means no action.
+    QString TimerAction;
+    /// A number above 0, in percent, becomes "Music Volume" when the timer fires; any other text
+    /// leaves it.
+    QString MusicVolume;
 
     bool IsPermanent() const { return Permanent == QLatin1StringView("P"); }
+    /// Whether a new timer may take the slot.
     bool IsFree() const { return !OnDial && !IsPermanent(); }
 
     bool operator==(const ClockTimer&) const = default;

@@ -18,10 +18,13 @@ namespace timers {
 /// A timer fires in the minute that its time names, in either half of the day, and is then cleared,
 /// unless an action counts down for it. Permanent does not mean repeating: a permanent timer is
 /// kept across runs until it has fired.
+///
+/// A slot's number that is asked for lies between 1 and `SlotCount`; nothing checks it.
 class ClockTimers final : public TimerSlots {
 public:
     using Watcher = std::function<void(int slot, const ClockTimer& timer)>;
 
+    /// @param messages shows what fires; it outlives the timers
     ClockTimers(const TimerContext& context, ClockMessages& messages);
 
     void SetTemplate() override;
@@ -42,14 +45,18 @@ public:
 
     int SlotCount() const { return static_cast<int>(timers_.size()); }
     const ClockTimer& Timer(int slot) const { return timers_[Index(slot)]; }
+    /// Replaces the record and brings the two controls up to it. A timer that is given another time
+    /// may fire again in the same minute.
     void ChangeTimer(int slot, const ClockTimer& timer);
 
-    int GetFreeTimerSlot();  ///< the first free slot; a new one when none is
+    /// The first free slot; a new one when none is. The slot stays free until it is changed.
+    int GetFreeTimerSlot();
     /// Empties a slot. `Permanent`, `MessageColour` and `MusicVolume` stay as they are.
     void ClearTimerSlot(int slot);
     /// Gives a slot the time, as "hh:mm", and moves its mark; nothing for a text that is no time.
     void PlaceTimerMark(int slot, const QString& time);
-    /// Makes a timer with the defaults of the properties. @return its slot
+    /// Makes a timer on the dial with the defaults of the properties; a text that is no time makes
+    /// one that never comes due. @return its slot
     int SetNewTimer(const QString& time);
 
     /// Lines of the file that belong to another half-day. They are written back at each save.

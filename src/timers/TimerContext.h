@@ -8,14 +8,17 @@
 
 namespace timers {
 
-/// What timers, messages and actions ask of the clock that they belong to.
+/// What timers, messages and actions ask of the clock that they belong to. `clockcore::ClockHost`
+/// is the real one; all places and sizes are device pixels of the drawing surface.
 class TimerHost {
 public:
     virtual ~TimerHost() = default;
 
+    /// @param flags those of `SpeechFlags.h`, added up
     virtual void SpeakMessage(const QString& text, int flags, Urgency urgency) = 0;
     virtual void PurgeSpeech(Urgency urgency) = 0;
     virtual bool IsSpeaking() const { return false; }  ///< whether a text is under way
+    /// @param path the full path of a file that is there
     virtual void PlaySound(const QString& path) = 0;
     virtual void StopMusic() = 0;
 
@@ -35,6 +38,7 @@ public:
 
     virtual int TimerInterval() const = 0;  ///< of `timClock`, in milliseconds
     virtual void SetTimerInterval(int milliseconds) = 0;
+    /// Of the clock, red in the low byte.
     virtual int BackColor() const = 0;
     virtual double DevicePixelRatio() const = 0;
     virtual int ScaleHeight() const = 0;  ///< of the drawing surface, in device pixels
@@ -44,6 +48,8 @@ public:
                                                double /*width*/) const {
         return std::nullopt;
     }
+    /// The clock's properties for a change in memory; whoever keeps values of them reads these
+    /// again.
     virtual ClockProperties& EditProperties() = 0;
 };
 

@@ -4,7 +4,7 @@
 
 namespace timers {
 
-/// The timers of one clock: their slots, their file and their firing.
+/// The timers of one clock: their slots, their file and their firing, as the tick sees them.
 class TimerSlots {
 public:
     virtual ~TimerSlots() = default;
@@ -12,7 +12,9 @@ public:
     /// Gives slot 1 the colour of "Message Colour" and the sound of "Timer Sound File", as the
     /// template of new timers.
     virtual void SetTemplate() {}
+    /// @param path the full path of the timer file; a missing one has no timers
     virtual void LoadTimers(const QString& /*path*/) {}
+    /// @param path the same; an empty one saves nothing
     virtual void SaveTimer(const QString& /*path*/) {}
     /// Places all marks on the dial anew.
     virtual void PlaceTimerMarks() {}

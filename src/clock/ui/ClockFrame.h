@@ -13,7 +13,7 @@ namespace clockcore {
 
 using mduUILib::WindowBorder;
 
-/// What frames a clock's window.
+/// What frames a clock's window, as the properties want it; a minimised clock shows another.
 struct FrameLook {
     WindowBorder Border = WindowBorder::Raised;
     bool TitleBar = true;
@@ -27,12 +27,17 @@ class ClockFrame final : public QMdiSubWindow {
     Q_OBJECT
 
 public:
+    /// @param area where the frame will stand. The caller adds it there and sets the clock as its
+    /// widget.
     explicit ClockFrame(QMdiArea* area);
 
     const FrameLook& Look() const { return look_; }
+    /// Shows another look at once; the same look again costs nothing.
     void SetLook(const FrameLook& look);
 
+    /// The figure of the window and how much of it is revealed.
     WindowOutline& Outline() { return outline_; }
+    /// Where the frame stands while it is neither minimised nor maximised.
     FramePlace& Place() { return place_; }
     const FramePlace& Place() const { return place_; }
 
@@ -51,8 +56,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Keeps the place from before a clock is minimised or maximised, and brings it back.
     void ChangeState(QWindowStateChangeEvent* event);
+    /// A minimised clock has other buttons.
     void ApplyFlags();
+    /// Lets the toolkit make the mask of a frame that has no figure.
     void RestoreMask();
 
     FrameLook look_;

@@ -24,12 +24,14 @@ public:
                drawing::CalculatorClock& calculator, ClockClicks& clicks)
         : form_(form), data_(data), controls_(controls), calculator_(calculator), clicks_(clicks) {}
 
-    /// Tab on a calculator begins the typing of a time; from then on keys edit its lines.
+    /// Tab on a calculator begins the typing of a time; from then on keys edit its lines, until one
+    /// ends it (Esc). A key with Ctrl, Alt or Meta is left to the window.
     bool PressKey(const QKeyEvent& event);
     /// Tab belongs to the calculator; elsewhere it moves the focus.
     bool TakesTab() const { return data_.IsCalculator(); }
 
-    /// Over an hour number the mouse shows the number's own mark.
+    /// Over an hour number the mouse shows the number's own mark, 16 logical pixels large;
+    /// elsewhere, and over a number without a mark, its arrow.
     void MoveMouse(const QMouseEvent& event);
     /// The left button on the speaker or on an action. With Ctrl held a press on the speaker is
     /// left to those who drag it.
@@ -40,7 +42,9 @@ public:
     bool ShowToolTip(const QHelpEvent& event);
 
 private:
+    /// From logical pixels of the form to device pixels of the surface.
     QPointF SurfacePoint(const QPoint& position) const;
+    /// Of the speaker mark or of a minute spot; empty for none.
     QString ToolTipAt(const QPoint& position) const;
 
     QWidget& form_;

@@ -41,24 +41,34 @@ public:
     ClockMenuHandlers(const ClockData& data, const Program& program, const Parts& parts)
         : data_(data), program_(program), parts_(parts) {}
 
+    /// Builds the list of actions with the programs that the user added. Called by the first tick.
     void FillMenuArrays() override { parts_.Actions.FillActionMenu(); }
 
     void ClickSpeaker() override { parts_.Voice.ClickSpeaker(parts_.Spoken); }
-    /// Speaks the action that counts down; its mark shows that.
+    /// Speaks the action that counts down; its mark shows that for as long as the voice speaks.
     void ClickAction() override;
     QString SpeakerHint() const override { return parts_.Voice.HintText(); }
+    /// Opens the menu of that part. Each kind of menu has an object name for those who look from
+    /// outside: "FormPopup", "MessageMenu", and so on.
     void ShowMenu(ClockPart part, const QPoint& globalPosition) override;
+    /// A single entry, "Enable Clock".
     void ShowDisabledMenu(const QPoint& globalPosition) override;
 
 private:
+    /// An empty menu of the form, which deletes itself when it closes.
     QMenu* NewMenu(const QString& name);
+    /// Of the look. The clock's file becomes the current one first.
     void ShowFormMenu(const QPoint& globalPosition);
     void ShowSpeakerMenu(const QPoint& globalPosition);
     void ShowActionMenu(const QPoint& globalPosition);
     void ShowMessageMenu(const QPoint& globalPosition);
+    /// Whole minutes until the action runs, below 0 when it is late; 0 without a deadline.
     int MinutesLeft() const;
+    /// A name of `StyleFiles::Names`, or "More", which asks for a file.
     void ChooseStyle(const QString& name);
+    /// A colour's name, or "Custom", which asks for a colour.
     void ChooseColour(const QString& name);
+    /// Nothing without a shell.
     void ShowHelp();
 
     const ClockData& data_;

@@ -20,14 +20,18 @@ namespace clockcore {
 /// A window that has a figure ("Window Shape") or is a wrapper has neither border nor title bar.
 class MdiPlacement final : public ClockPlacement {
 public:
+    /// @param clock the clock's form
+    /// @param area the shell's frame for its children; null for a clock that stands alone
     /// @param time runs the animation of opening and closing; without it there is none
     MdiPlacement(QWidget& clock, QMdiArea* area, ClockData& data,
                  platform::WallClock* time = nullptr);
 
-    /// Makes the frame around the clock; invisible and, until the first tick, of no size.
+    /// Makes the frame around the clock; invisible and, until the first tick, of no size. Nothing
+    /// for a clock that stands alone, whose form is its window.
     void MakeFrame();
 
     /// A quarter of the shell's size, in the middle of its inner area; or where the file says.
+    /// Nothing for a clock that stands alone.
     void PlaceInTheMiddle();
 
     /// A wrapper goes to its whole container, without a frame, and is shown.
@@ -35,6 +39,7 @@ public:
     /// What the file leaves open is found by itself: a child in the shell takes a free place, a
     /// window of the screen the middle. A minimised or maximised child takes the place later.
     void ApplyWindowRect() override;
+    /// By "Window Border"; an unknown word leaves the border as it was.
     void ApplyWindowBorder() override;
     void ApplyTitleBar() override;
     void SetClockCaption() override;
@@ -62,10 +67,13 @@ public:
     /// In twips of the whole area: the place that the window has while it is normal. Nothing for a
     /// minimised or maximised one that still has the place of its file.
     std::optional<QRectF> PlaceToStore() const override;
+    /// Rounded to logical pixels.
     void SetOuterRect(const QRectF& twips);
     void SetOuterSize(const QSizeF& twips);
 
+    /// Null for a clock that stands alone, and once the toolkit has deleted the frame.
     ClockFrame* Frame() const { return frame_; }
+    /// The frame, or the form of a clock that stands alone or has no frame yet.
     QWidget& Outer() const;
 
 private:
@@ -75,6 +83,7 @@ private:
     void StandInShell(const StoredPlace& stored);
     void StandOnScreen(const StoredPlace& stored);
     WindowOutline& Outline();
+    /// "Window Open/Close Animation Rate" within its bounds; 0 for no animation.
     int AnimationRate() const;
     void Open();
     void MaximiseWrapper();
@@ -90,6 +99,7 @@ private:
     WindowOutline ownOutline_;  ///< of a clock that stands alone
     std::optional<WindowReveal> opening_;
     FrameLook look_;  ///< as the properties have it
+    /// "Window State", as it was read last; taken when the window opens.
     int stateWhenShown_ = 0;
 };
 

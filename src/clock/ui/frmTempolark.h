@@ -39,6 +39,10 @@
 /// One world clock: a window that shows a zone's time, driven by one property file. It is built in
 /// two halves: `ShowMeMDIChild` reads the file and fills the zone, and the first tick finishes the
 /// window. It owns its parts and routes the tick to them; it decides nothing itself.
+///
+/// A clock in the shell has its own file, named after its zone, in the folder of zone files. It
+/// ends by `Unload`, by its menu, by "Stay Time" or with the shell; it then stores its place and
+/// its timers, and leaves the list of windows at once.
 class frmTempolark final : public QWidget, public IClock {
 public:
     /// @param shell the shell, or null for a clock that stands alone
@@ -47,29 +51,39 @@ public:
     ~frmTempolark() override;
 
     // The ways in.
+    /// The usual way in, also for a clock without a shell: brings the zone's file into being or up
+    /// to date, reads it, and makes the window. Nothing is seen before the first tick, 10 ms later.
+    /// @return false for a name that no file can have; the status bar tells why
     bool ShowMeMDIChild(const QString& zoneName) override;
     /// How the stand-alone way in departs from the usual.
     struct ShowOptions {
         bool RefreshZone = false;  ///< the file's zone keys are made anew first
         bool AsWrapper = false;    ///< a plain, undrawn window
     };
-    /// The stand-alone way in: shows `CurrentPropertyFile` as it stands.
+    /// The stand-alone way in: shows `PathTable::CurrentPropertyFile` as it stands, without a
+    /// merge.
+    /// @param zoneName the zone to show; the zone keys of the file go over it
     void ShowMe(const QString& zoneName, const ShowOptions& options);
     /// Opens another clock, sized like this one and with its parent; one that is open comes to the
-    /// front.
+    /// front. An empty name means the machine's own zone; for a name that no file can have nothing
+    /// opens.
     void LaunchMDITempolark(QString zoneName);
 
     // What the shell calls.
     QString Name() const override { return ClockWindowName; }
     QString Caption() const override { return placement_.Caption(); }
+    /// Given by `Forms::NewHandle` when the clock is made.
     int hwnd() const override { return handle_; }
     int WindowState() const override { return placement_.WindowState(); }
+    /// Nothing before the first tick is over; the same goes for `Show` and `SetFocus`.
     void SetWindowState(int state) override;
     bool IsEnabled() const override { return window_.IsEnabled(); }
     void EnableWindow(bool enabled) override { window_.EnableWindow(enabled); }
     void Show() override;
     void SetFocus() override;
+    /// The window takes its leave at once; in a shell it is deleted later.
     void Unload() override { window_.CloseClock(); }
+    /// Any other number does nothing.
     void SetClocks(int mode) override;
     /// Applies a style file; an empty name or "More" asks for one.
     void SetClockStyle(const QString& styleFile) override { dialogs_.SetClockStyle(styleFile); }
@@ -82,16 +96,25 @@ public:
     /// Gives the clock's properties to the property window.
     void SetProperty() { look_.SetProperty(); }
     void RefreshForm(const QString& fileName) override { look_.RefreshForm(fileName); }
+    /// Paints the face anew, background and all.
     void Refresh() override;
+    /// At the next tick, and only for a clock that is running.
     void LayOutAgain() override;
+    /// 1 while the window's background colour is "Transparent".
     int DrawStyle() const override { return canvas_.IsTransparent() ? 1 : 0; }
     void SetBackColor(int colour) override { canvas_.SetBackColor(colour); }
 
+    /// Null takes the shell away: status texts then go nowhere.
     void SetParentForm(IShell* shell) { screen_.SetShell(shell); }
+    /// The full path of the clock's own file.
     QString IniFile() const { return data_.PropertyFileName; }
+    /// The full path of the file that every new clock's file is a copy of.
     QString DefaultIniFile() const { return program_.Module.Paths.ZoneDefaultFile(); }
     QString AppEXEName() const;
+    /// What the label of the place says, be it shown or not.
     QString GetLocation() const;
+    /// Makes the zone keys of the clock's file anew from the present rules of the zone of that
+    /// name.
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);
     /// Turns the clock backward: stores the property and draws nothing itself.
     void SetBackward() { look_.SetBackward(); }
@@ -105,8 +128,10 @@ public:
     QImage SeenPicture() const { return canvas_.SeenPicture(); }
     /// A clock that nobody looks at lays its face out and never paints it.
     void SetLookedAt(bool lookedAt) { canvas_.SetLookedAt(lookedAt); }
-    /// Takes motions and wipes that are under way to their end.
+    /// Takes motions and wipes that are under way to their end, for a picture that has to stand
+    /// still.
     void FinishMotions();
+    /// The whole text of the message that runs; empty when none does.
     const QString& PendingMessage() const { return messages_.PendingMessage(); }
     /// Those who watch a clock from outside, such as a script that tells its events.
     struct Watchers {
@@ -116,14 +141,15 @@ public:
         timers::ClockMessages::Watcher Messages = {};
         std::shared_ptr<AskedNames> Keys = {};  ///< takes the names of the properties in use
     };
-    /// From now on these watch, and nobody else.
+    /// From now on these watch, and nobody else; what is left empty watches no more.
     void Watch(const Watchers& watchers);
-    /// One event of `timClock`, now.
+    /// One event of `timClock`, now. What messages and actions have moved is then painted.
     void Tick();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// Hints, and the right click on a disabled clock.
     bool event(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -134,9 +160,13 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// Both ways in: the file has been read. Makes the frame and starts `timClock`.
     void Load();
+    /// The zone has been filled: the title, the label of the place, the patterns.
     void FinishLoading();
+    /// The clock that comes to the front makes its file and its properties the current ones.
     void Activate();
+    /// For another size, and for another screen.
     void TakeSurface();
     /// What timers and speech, each with its own kind of host, share.
     template <class Host>
@@ -144,9 +174,12 @@ private:
         return {data_.Properties(), data_.Zone,      controls_,
                 program_.Services,  program_.Module, host_};
     }
+    /// What the parts of the face share. The parts hold references to fields that are made before
+    /// them: so the order of the fields below matters.
     drawing::FaceContext Context();
 
     Program program_;
+    /// Null for a clock that stands alone.
     QMdiArea* area_;
     int handle_;
 

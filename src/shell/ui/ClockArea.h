@@ -14,7 +14,8 @@ class ClockArea final : public QMdiArea {
 public:
     explicit ClockArea(QWidget* parent);
 
-    void SetPicture(const QPixmap& picture);  ///< a null one clears it
+    /// Covers the area with a picture, scaled and cut at the edges; a null one clears it.
+    void SetPicture(const QPixmap& picture);
     const QPixmap& Picture() const { return picture_; }
 
     /// Places the child windows that can be seen: the minimised for `Icons`, else the others.

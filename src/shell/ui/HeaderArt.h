@@ -16,6 +16,7 @@ class HeaderArt final : public QWidget {
     Q_OBJECT
 
 public:
+    /// What the user does here; all three must be there.
     struct Hooks {
         std::function<void()> Invited;  ///< the invitation was clicked
         std::function<void(const QPoint& onScreen)> Menu;
@@ -24,7 +25,9 @@ public:
 
     HeaderArt(const Program& program, Hooks hooks, QWidget* parent);
 
-    /// The opening show; the letters are then placed and coloured by @p headingVariation.
+    /// The opening show, of about two seconds: the letters fly in, and are then placed and coloured
+    /// by @p headingVariation. While it runs another call only changes that; a change of size ends
+    /// it.
     void ShowHeaderAnimation(const QString& headingVariation);
     bool IsMoving() const { return ticker_->Interval() != 0; }
 
@@ -41,11 +44,14 @@ public:
     /// Whether a picture covers that colour; texts then bring it along as their ground.
     void SetOverPicture(bool over);
     bool IsOverPicture() const { return overPicture_; }
+    /// The line at the foot, at the left. It is not shown where the area is too low for it.
     void SetVersionLocation(const QString& text);
 
-    /// The letters as they are drawn at this moment, and their colours.
+    /// The letters as they are drawn at this moment, and their colours (red in the low byte).
+    /// During the show the first of them is a word.
     const std::vector<QString>& Letters() const { return letters_; }
     const std::vector<int>& Colours() const { return colours_; }
+    /// Where each letter begins on its base line, in logical pixels.
     std::vector<QPointF> Places() const;
 
 protected:
@@ -58,12 +64,15 @@ private:
     void EndShow();
     void PlaceInvitation();
     shell::HeaderLayout Layout() const;
+    /// Of the letters at full scale, in logical pixels: a 17th of the width, between 14 and 64.
     int LetterSize() const;
     QFont LetterFont(double scale) const;
     void PaintLetters(QPainter& painter, const QFont& letterFont) const;
     void PaintFoot(QPainter& painter) const;
     void PaintLine(QPainter& painter, int left, const QString& text) const;
+    /// Gives the button the colours that can be read on the ground.
     void DressInvitation();
+    /// What can be read on the back colour.
     QColor Ink() const;
 
     Program program_;

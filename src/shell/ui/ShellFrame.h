@@ -10,9 +10,12 @@ class ShellFrame final : public QWidget {
     Q_OBJECT
 
 public:
+    /// All three become children of this one. The toolbar begins at the top, the status bar at the
+    /// bottom.
     ShellFrame(QWidget* area, QWidget* toolbar, QWidget* statusBar, QWidget* parent);
 
-    void PlaceToolbar(int align);    ///< `shell::Align`
+    /// @param align a side of `shell::Align`; any other number means the top
+    void PlaceToolbar(int align);
     void PlaceStatusBar(int align);  ///< the same
 
 private:

@@ -29,6 +29,7 @@ public:
 
     /// Applies the settings, but for the picture, which comes late, and for the window itself.
     void ApplyCentralProperties();
+    /// "Window Background File"; without one, and where it can't be read, the colour is seen alone.
     void ApplyBackgroundFile();
 
     /// By a name or a number; "Custom" asks for a colour, "Transparent" leaves the shell's as it

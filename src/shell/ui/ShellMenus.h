@@ -19,6 +19,8 @@ public:
         std::function<void(const QString& name, int index)> Click;
     };
 
+    /// @param owner the parent of this and of all menus
+    /// @param state what the menus show; it outlives this
     ShellMenus(QWidget* owner, shell::MenuState& state, Hooks hooks);
 
     /// The menu or submenu of that name; null if there is none. Submenus carry their entry's name.
@@ -27,7 +29,8 @@ public:
     /// The size that the menu will have when it opens now.
     QSize SizeNow(const QString& name);
 
-    /// Refreshes the menu and pops it up there, on the screen.
+    /// Refreshes the menu and pops it up there, on the screen. It is not waited for. The name must
+    /// be that of a menu of the catalogue.
     void Popup(const QString& name, const QPoint& place);
 
     /// Closes whatever menu is open.

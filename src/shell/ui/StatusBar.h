@@ -20,14 +20,17 @@ public:
     void SetAlign(int align);  ///< `shell::Align`
     int AlignCode() const { return align_; }
 
-    void SetEye(int frame);  ///< panel 1: from 1; 0 clears it
+    /// Panel 1: the picture of that number, from 1; 0, and any number without a picture, clears it.
+    void SetEye(int frame);
     int EyeFrame() const { return eye_; }
 
     const QString& Message() const { return message_; }
-    void SetMessage(const QString& text);  ///< panel 2
+    /// Panel 2, which is also what the bar tells to those who can't see it.
+    void SetMessage(const QString& text);
 
     const QString& TimeText() const { return time_; }
-    void SetTimeText(const QString& text);  ///< panel 7
+    /// Panel 7, at the right end, such as "14:05".
+    void SetTimeText(const QString& text);
 
     QSize sizeHint() const override;
 

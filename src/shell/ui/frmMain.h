@@ -22,9 +22,15 @@ class ToolBarCommands;
 
 /// The shell: a multiple-document frame that hosts the clocks, launches them and acts on them. The
 /// window holds its parts together and routes what happens to them; what they do is theirs.
+///
+/// The settings, the lists and the menus' contents are data of their own (`shell/`); what is drawn
+/// is in the widgets that the window owns. A message for the user goes to `ShowStatusMsg`.
 class frmMain final : public QMainWindow, public IForm, public IShell {
 public:
+    /// Makes all parts; no settings are read and nothing is shown before `Load`.
+    /// @param program outlives the shell, which is the first of its `Windows`
     explicit frmMain(const Program& program);
+    /// Takes the clocks along.
     ~frmMain() override;
 
     /// Start-up, up to the moment where the program waits for events.
@@ -35,16 +41,20 @@ public:
     bool ConfigSetup();
 
     /// What a later start of the program has asked for: comes to the front, and opens the zone that
-    /// the command line names. As a screen saver the shell fills the screen.
+    /// the command line names. With "/s", as a screen saver, the shell is maximised; its bars stay.
+    /// A name that no file can have is told in the status bar.
     void TakeOver(const QString& commandLine);
 
+    /// Writes the clocks that start by themselves, `ModuleState::AutoStartList`, into their file.
     void SaveAutoStartList() { lists_.SaveAutoStartList(); }
 
     /// What is to be told about the zone that a command line names; empty when nothing is.
     QString NoticeOf(const QString& commandLine) const;
 
     QString AppEXEName() const { return program_.Module.Paths.AppEXEName(); }
+    /// The file that new settings of the shell are a copy of.
     QString DefaultIniFile() const { return program_.Module.Paths.CentralDefaultFile(); }
+    /// The file of the shell's own settings.
     QString IniFile() const { return program_.Module.Paths.CentralFile; }
 
     /// Opens the shell's own settings, or the defaults of a new clock.
@@ -53,14 +63,15 @@ public:
     /// The help of the shell, or of the file @p name; the window in front tells the page.
     void ShowHelp(const QString& name = {});
 
-    void ShowEye();  ///< puts the eye's first picture into the status bar
+    /// Puts the eye's first picture into the status bar.
+    void ShowEye();
 
     /// See `ClockProperties::CollectAskedNames`.
     void CollectAskedNames(std::shared_ptr<AskedNames> names) {
         settings_.CollectAskedNames(std::move(names));
     }
 
-    /// What the menus and the toolbar can do, by name.
+    /// What the menus and the toolbar can do, by name: a test calls them here.
     const shell::MenuCommands& Commands() const { return commands_; }
 
     // IForm
@@ -77,20 +88,28 @@ public:
 
     // IShell
     void ShowStatusMsg(const QString& text) override { stages_.ShowStatusMsg(text); }
+    /// Asks the machine's dialogs, and waits for the answer.
     int ShowMsgbox(const QString& text, int flags, const QString& title) override;
+    /// Takes `ModuleState::CurrentProperties` as the shell's settings and shows them; the window
+    /// stays where it is. @p zoneName is not looked at. @return always 0: the property window
+    /// itself opens a new clock
     int RefreshForm(const QString& zoneName) override;
     void SpeakMessage(const QString& text) override { voice_.SpeakMessage(text); }
     void PurgeSpeech() override { voice_.PurgeSpeech(); }
     void DoMenuItem(float menuId, int index) override { commands_.DoMenuItem(menuId, index); }
     int BackColor() const override;
+    /// Hides the header when there is a clock to be seen.
     int LaunchTempolark(const QString& name) override;
     QString Setting(const QString& name) const override { return settings_.Setting(name); }
     QString RemoveZone(const QString& name) override { return zones_.RemoveZone(name); }
     void ShowClockHelp() override;
 
 protected:
+    /// Closes all clocks, then saves the lists, the settings and the place of the window.
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    /// Of the area's inside: the header follows its size, and a right click opens the menu of
+    /// windows.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -104,15 +123,20 @@ private:
     shell::MenuFills::Sources MenuSources();
 
     // Start and stop (frmMain.cpp)
+    /// Shows the settings; with @p keepPlacement the window stays where it is.
     void ApplyCentralProperties(bool keepPlacement);
     bool IsScreenSaverRun() const;
     void ApplyScreenSaverLook();
+    /// What would hold up the window: the greeting, the background picture, the lists of
+    /// colours and styles.
     void FirstTick();
+    /// The window is brought into the screen, now that the size of its frame is known.
     void SecondTick();
     void ExitShell();
     void SaveWindowPlacement();
 
     void SetHeaderVisible(bool visible);
+    /// Nothing before the first tick.
     void ShowHeaderWhenEmpty();
     void ShowWindowMenu(const QPoint& onScreen);
     void ToggleTitleBar();
