@@ -53,6 +53,8 @@ struct Desk {
 
     explicit Desk(ClockKind kind = ClockKind::Analogue) {
         Data.Tag.Kind = kind;
+        Set(u"Clock CentralX(%)"_s, u"-1"_s);
+        Set(u"Clock CentralY(%)"_s, u"-1"_s);
         Set(u"Digital Clock Format"_s, u"hh:mm,hh:mm:ss"_s);
         Set(u"Second Hand Style"_s, u"Line"_s);
         Set(u"Second Hand Length(%)"_s, u"80"_s);

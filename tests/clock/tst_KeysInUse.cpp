@@ -65,7 +65,7 @@ private Q_SLOTS:
                 unread += key;
             }
         }
-        QCOMPARE(unread, QStringList());
+        QCOMPARE(unread.join(u", "_s), QString());
     }
 
     void AKeyThatNobodyReadsIsFound() {

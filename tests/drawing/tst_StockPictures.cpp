@@ -116,18 +116,19 @@ private Q_SLOTS:
         QTest::addColumn<StockPicture>("picture");
         QTest::addColumn<QList<double>>("weight");
         using Row = QList<double>;
-        QTest::newRow("idle") << StockPicture::SpeakerIdle << Row{0, 0, 0, 0};
-        QTest::newRow("muted") << StockPicture::SpeakerMuted << Row{0, 0, 0, 0};
-        QTest::newRow("talking") << StockPicture::SpeakerTalking << Row{0, 0, 0, 0};
-        QTest::newRow("right spot") << StockPicture::SpotRight << Row{0, 0, 0, 0};
-        QTest::newRow("left spot") << StockPicture::SpotLeft << Row{0, 0, 0, 0};
-        QTest::newRow("timer") << StockPicture::TimerMark << Row{0, 0, 0, 0};
-        QTest::newRow("action") << StockPicture::Action << Row{0, 0, 0, 0};
-        QTest::newRow("action speaking") << StockPicture::ActionSpeaking << Row{0, 0, 0, 0};
-        QTest::newRow("sun") << StockPicture::Sun << Row{0, 0, 0, 0};
-        QTest::newRow("moon") << StockPicture::Moon << Row{0, 0, 0, 0};
-        QTest::newRow("handle") << StockPicture::Handle << Row{0, 0, 0, 0};
-        QTest::newRow("clock") << StockPicture::Clock << Row{0, 0, 0, 0};
+        QTest::newRow("idle") << StockPicture::SpeakerIdle << Row{368.7, 181.7, 199.7, 227.8};
+        QTest::newRow("muted") << StockPicture::SpeakerMuted << Row{360.4, 205.9, 175.2, 189.3};
+        QTest::newRow("talking") << StockPicture::SpeakerTalking << Row{486.9, 226.9, 291.3, 355.2};
+        QTest::newRow("right spot") << StockPicture::SpotRight << Row{715.4, 236.2, 271.6, 327.9};
+        QTest::newRow("left spot") << StockPicture::SpotLeft << Row{715.4, 297.9, 326.3, 361.5};
+        QTest::newRow("timer") << StockPicture::TimerMark << Row{546.6, 443.9, 333.1, 144.9};
+        QTest::newRow("action") << StockPicture::Action << Row{655.9, 488.9, 248.9, 225.9};
+        QTest::newRow("action speaking")
+            << StockPicture::ActionSpeaking << Row{519.0, 333.6, 250.3, 274.1};
+        QTest::newRow("sun") << StockPicture::Sun << Row{286.1, 230.1, 165.7, 46.6};
+        QTest::newRow("moon") << StockPicture::Moon << Row{291.7, 191.0, 177.3, 136.8};
+        QTest::newRow("handle") << StockPicture::Handle << Row{433.2, 187.3, 207.3, 239.3};
+        QTest::newRow("clock") << StockPicture::Clock << Row{745.2, 497.8, 509.8, 538.6};
     }
     void Weights() {
         QFETCH(StockPicture, picture);

@@ -97,7 +97,8 @@ private Q_SLOTS:
 
     void NoUnknownToken() {
         const QDateTime noon(QDate(2026, 6, 15), QTime(12, 0), Qt::UTC);
-        for (const QString& pattern : Choices()[u"Start Message"_s]) {
+        const QStringList patterns = Choices()[u"Start Message"_s];
+        for (const QString& pattern : patterns) {
             QVERIFY2(!shell::StartMessage(pattern, noon).contains(u'<'), qPrintable(pattern));
         }
     }
@@ -111,7 +112,8 @@ private Q_SLOTS:
         desk.Machine.Clock.Advance(5000);
         desk.Shell->Setting(u"Nobody's Key"_s);
         QStringList unread;
-        for (const auto& [key, choices] : Choices()) {
+        const auto all = Choices();
+        for (const auto& [key, choices] : all) {
             unread += asked->contains(key) ? QStringList() : QStringList(key);
         }
         // The window of zones asks for it.

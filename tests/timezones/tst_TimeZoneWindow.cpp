@@ -65,7 +65,7 @@ void tst_TimeZoneWindow::ItsRowsAreFlush() {
     QCOMPARE(list, std::pair(12, 792));
     QCOMPARE(span(u"imgMap"_s, u"imgMap"_s), list);
     QCOMPARE(span(u"txtSearch"_s, u"cmdView"_s), list);
-    QCOMPARE(span(u"lblCount"_s, u"cmdClose"_s), list);
+    QCOMPARE(span(u"lblCount"_s, u"cmdButton0"_s), list);
 }
 
 void tst_TimeZoneWindow::OpensOnTheDatabase() {
