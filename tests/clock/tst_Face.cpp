@@ -33,6 +33,7 @@ struct NotingParts final : drawing::Dial,
         Log += texts == drawing::CalculatorTexts::PresentTime ? u"calculator"_s : u"blank"_s;
     }
     void HideCalculatorClock() override { Log += u"no calculator"_s; }
+    void DrawBackgroundPicture(drawing::Surface& surface) const override { surface.Cls(0xFFFFFF); }
     void ApplyTransparency() override { Log += u"transparency"_s; }
     void SetSunMoon() override { Log += u"sun"_s; }
     void SetLocationLabel() override { Log += u"name"_s; }
