@@ -147,8 +147,7 @@ QImage DecodePicture(const QByteArray& content) {
     if (kind == "png" && !PngIsWhole(content)) {
         return {};
     }
-    const QSize size =
-        kind == "gif" ? reader.size().expandedTo(GifScreen(content)) : reader.size();
+    const QSize size = kind == "gif" ? reader.size().expandedTo(GifScreen(content)) : reader.size();
     if (IsTooLarge(size, isJpeg && !JpegHasManyPasses(content))) {
         return {};
     }

@@ -8,7 +8,7 @@ namespace platform {
 /// A zone in the terms of its 44-byte value. Daylight time is the half with the later clock,
 /// whatever the tz database calls it.
 struct TzRule {
-    std::int32_t Bias = 0;  ///< minutes; west is positive
+    std::int32_t Bias = 0;          ///< minutes; west is positive
     std::int32_t DaylightBias = 0;  ///< relative to `Bias`, -60 as a rule
     SYSTEMTIME StandardDate;        ///< told on the daylight clock
     SYSTEMTIME DaylightDate;        ///< told on the standard clock
