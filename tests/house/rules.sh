@@ -91,8 +91,8 @@ for file in Timers Canvas Styles; do
     Check "refuses a question in the clock's window, where a tick comes: $file" Refused "$asks" \
         "src/clock/ui/frmTempolark$file.cpp" 'program_.Services.Dialog.OpenFile(a, b, c);'
 done
-Check "lets a clock's menu ask" \
-    Accepted src/clock/ui/frmTempolarkAsking.cpp 'services.Dialog.OpenFile(a, b, c);'
+Check "lets the questions of a look be asked" \
+    Accepted src/clock/LookDialogs.cpp 'services.Dialog.OpenFile(a, b, c);'
 Check "lets a window ask" Accepted src/shell/ui/Good.cpp 'services.Dialog.OpenFile(a, b, c);'
 Check "lets a tick post" Accepted src/timers/Good.cpp 'services.Dialog.PostMessageBox(a, 1, b);'
 
