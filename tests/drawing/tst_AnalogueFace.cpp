@@ -133,7 +133,7 @@ private Q_SLOTS:
     void DifferenceHoldsEveryChangedPixel_data() {
         QTest::addColumn<QString>("style");
         QTest::addColumn<double>("ratio");
-        for (const QString& style : {u"Line"_s, u"Frame"_s, u"3D Metal Simple"_s, u"3D Gold"_s}) {
+        for (const QString& style : drawing::HandStyleNames()) {
             QTest::newRow(qPrintable(style)) << style << 1.0;
             QTest::newRow(qPrintable(style + u" fine"_s)) << style << 2.0;
         }

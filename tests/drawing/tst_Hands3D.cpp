@@ -244,7 +244,7 @@ private Q_SLOTS:
         QTest::newRow("3D of colour 1 is metal") << 7 << 1 << qRgb(202, 201, 201);
         QTest::newRow("3D of colour 2 is gold") << 7 << 2 << qRgb(255, 255, 0);
         QTest::newRow("unknown") << 0 << 0 << WhitePixel;
-        QTest::newRow("out of range") << 8 << 0 << WhitePixel;
+        QTest::newRow("out of range") << 99 << 0 << WhitePixel;
     }
 
     void StylesPassTheirTone() {

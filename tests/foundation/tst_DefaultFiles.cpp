@@ -10,47 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList ClockKeys() {
-    return QStringLiteral(
-               "Clocks|Enable|Stay Time|Window Top|Window Left|Window Width|Window Height|"
-               "Window State|Window Border|Window Title Bar|Window Shape|Window Background Colour|"
-               "Window Background File|Window Open/Close Animation Rate|Clock Shape|Clock Special|"
-               "Clock Image File|Clock Image Size(%)|Clock Image Brightness(%)|"
-               "Auto Background Display|Clock CentralX(%)|Clock CentralY(%)|"
-               "Digital Clock CentralX(%)|Digital Clock CentralY(%)|Transparent Icon Left|"
-               "Transparent Icon Top|Hour Hand Style|Minute Hand Style|Second Hand Style|"
-               "Hour Hand Colour|Minute Hand Colour|Second Hand Colour|Hand Head Colour|"
-               "Hour Hand Length(%)|Minute Hand Length(%)|Second Hand Length(%)|"
-               "Hour Hand Line Width|Minute Hand Line Width|Second Hand Line Width|"
-               "Hour Number Style|Hour Number Font|Hour Number Size|Hour Number Colour|"
-               "Hour Number Position(%)|Minute Spot Style|Minute Spot Position(%)|"
-               "Minute Spot Size|Minute Spot Image File|Sun Moon Size|Digital Clock Format|"
-               "Digital Clock Font|Digital Font Size|Digital Clock Colour|"
-               "Calculator Local Time Font|Calculator Local Time Font Size|"
-               "Calculator Local Time Font Colour|Calculator Time Font|"
-               "Calculator Time Font Size|Calculator Time Font Colour|Time Zone Colour|"
-               "Time Zone Label Size|Time Zone Name Left|Time Zone Name Top|Flag File|"
-               "Flag Position|Hour Sound File|Second Sound File|Timer Sound File|Music File|"
-               "Music Volume|Message Colour|Message Action Colour|Message Display Speed|"
-               "Message Display Time|Speaker|Speaker Voice|Speaker Volume|Speak Rate|"
-               "Speaker Image Left|Speaker Image Top|Speak Timer Message|Speak Action Message|"
-               "Speech Day Pattern|Speech Hour Pattern|Speech Minute Pattern|"
-               "Speech Second Pattern|Speak Time Zone Details|Time Zone Standard Name|"
-               "Time Zone Standard Start Time|Time Zone Standard GMT (Minutes)|"
-               "Time Zone Daylight Name|Time Zone Daylight Start Time|"
-               "Time Zone Daylight GMT (Minutes)")
-        .split(u'|');
-}
-
-QStringList CentralKeys() {
-    return QStringLiteral(
-               "Window Top|Window Left|Window Width|Window Height|Window State|"
-               "Window Background Colour|Window Background File|Window Border|Window Title Bar|"
-               "Toolbar Size|Tool Bar|Status Bar|Auto Show Balloon Tips|Heading Variation|"
-               "Start Message|Speak Time Zone Details")
-        .split(u'|');
-}
-
 QStringList CommandNames() {
     return QStringLiteral(
                "Property Window|TimeZones Window|Shortcut Window|Clocks|Window Normal|"
@@ -103,8 +62,6 @@ private Q_SLOTS:
 void tst_DefaultFiles::haveEveryKeyOnce_data() {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("keys");
-    QTest::newRow("clock") << u"Tempolark.ini"_s << ClockKeys();
-    QTest::newRow("shell") << u"TempolarkCentral.ini"_s << CentralKeys();
     QTest::newRow("shortcuts") << u"Shortcuts.txt"_s << CommandNames();
 }
 

@@ -85,6 +85,7 @@ private Q_SLOTS:
                            u"Good <Morning/Afternoon/Evening>. Today is <date>"_s};
         QTest::newRow("Speak Time Zone Details") << yesNo_;
         QCOMPARE(Choices().size(), 16U);
+        QCOMPARE(file_.count("\r\n"), 16);
     }
 
     void Words() {

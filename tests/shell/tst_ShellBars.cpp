@@ -98,9 +98,9 @@ private Q_SLOTS:
         QVERIFY(desk.Start());
         QMenu* view = desk.Menu(u"View"_s);
         Q_EMIT view->aboutToShow();
-        QCOMPARE(Desk::Texts(view),
-                 (QStringList{u"Status Bar"_s, u"Tool Bar"_s, u"Hide Title Bar"_s, u"-"_s,
-                              u"Setup Auto Start"_s}));
+        QCOMPARE(Desk::Texts(view).mid(0, 3),
+                 (QStringList{u"Status Bar"_s, u"Tool Bar"_s, u"Hide Title Bar"_s}));
+        QCOMPARE(Desk::Texts(view).last(), u"Setup Auto Start"_s);
         QCOMPARE(Desk::Texts(desk.Menu(u"ToolBarMenu"_s)),
                  (QStringList{u"ToolBar Size"_s, u"Tool Bar Position"_s, u"Hind Tool Tips"_s,
                               u"Customize Toolbar"_s, u"Save Current Toolbar Setting"_s}));
