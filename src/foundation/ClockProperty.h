@@ -66,7 +66,9 @@ private:
         Collection() = default;
         Collection(const Collection&) = default;
         Collection& operator=(const Collection& other) {
-            Names = other.Names ? other.Names : Names;
+            if (this != &other && other.Names) {
+                Names = other.Names;
+            }
             return *this;
         }
     };
