@@ -61,14 +61,8 @@ qsizetype SkipExponent(QStringView text, qsizetype position) {
 ScannedNumber ScanDecimal(QStringView text) {
     const qsizetype start = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0;
     qsizetype end = SkipDigits(text, start);
-    qsizetype digits = end - start;
     if (end < text.size() && text[end] == u'.') {
-        const qsizetype behindPoint = SkipDigits(text, end + 1);
-        digits += behindPoint - end - 1;
-        end = behindPoint;
-    }
-    if (digits == 0) {
-        return {};
+        end = SkipDigits(text, end + 1);
     }
     end = SkipExponent(text, end);
     bool ok = false;

@@ -9,6 +9,8 @@ private Q_SLOTS:
     void answersQuestions();
     void refusesWrongArguments_data();
     void refusesWrongArguments();
+    void refusesAWordTooManyOrTooFew_data();
+    void refusesAWordTooManyOrTooFew();
     void takesOptionsInBothForms();
     void takesNothingForAnOptionBehindTwoDashes();
     void printsOneDocument();
@@ -67,6 +69,63 @@ void tst_CommandLine::refusesWrongArguments() {
     QCOMPARE(answer.Status, 2);
     QCOMPARE(answer.Output, QByteArray());
     QVERIFY(answer.Messages.contains("tempolarkctl [options]"));
+}
+
+void tst_CommandLine::refusesAWordTooManyOrTooFew_data() {
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<int>("words");
+    const auto row = [](const char* command, int words) {
+        QTest::newRow(command) << QString::fromLatin1(command) << words;
+    };
+    row("properties read", 1);
+    row("properties write", 2);
+    row("properties get", 2);
+    row("properties raw", 2);
+    row("properties choices", 2);
+    row("properties put", 3);
+    row("properties merge", 3);
+    row("properties sort", 3);
+    row("values colour", 1);
+    row("values colour-name", 1);
+    row("values yes-no", 1);
+    row("values wrap", 2);
+    row("clock render", 2);
+    row("clock drop", 3);
+    row("clock mark", 2);
+    row("clock run", 1);
+    row("menus files", 1);
+    row("menus times", 1);
+    row("menus minutes", 1);
+    row("shell push-opened", 2);
+    row("zones list", 0);
+    row("zones local", 0);
+    row("zones show", 1);
+    row("zones describe", 1);
+    row("zones name-at", 2);
+    row("zones convert", 2);
+    row("zones rule", 3);
+    row("timers load", 1);
+    row("timers save", 2);
+    row("speech expand", 1);
+}
+
+void tst_CommandLine::refusesAWordTooManyOrTooFew() {
+    QFETCH(QString, command);
+    QFETCH(int, words);
+    const Companion companion;
+    const auto run = [&](int count) {
+        QStringList arguments = command.split(u' ');
+        for (int i = 0; i < count; ++i) {
+            arguments += u"x"_s;
+        }
+        return companion.Run(arguments);
+    };
+    for (const int count : {words + 1, words - 1}) {
+        const CompanionAnswer answer = count < 0 ? run(words + 1) : run(count);
+        QCOMPARE(answer.Status, 2);
+        QVERIFY(answer.Messages.contains("Usage: tempolarkctl"));
+        QCOMPARE(answer.Output, QByteArray());
+    }
 }
 
 void tst_CommandLine::takesOptionsInBothForms() {

@@ -125,6 +125,8 @@ private Q_SLOTS:
         const SeenArea stairs(QRegion(0, 0, 10, 10) + QRegion(10, 10, 10, 10));
         QVERIFY(stairs.RowFor(0, 10, 5));
         QVERIFY(!stairs.RowFor(0, 15, 5));
+        const SeenArea column(QRegion(7, 0, 1, 10));
+        QCOMPARE(column.RowFor(0, 5, 3).value_or(QRectF()), QRectF(7, 0, 1, 5));
     }
 
     void ThroughAWindowsShape() {

@@ -112,6 +112,8 @@ private Q_SLOTS:
     }
 
     /// As they were when they were looked at and found good: a stroke that grows by a tenth shows.
+    /// Which file draws which: StockPicturesSky the sun and the moon, StockPicturesSpeaker the
+    /// speaker, StockPicturesTimers the bell and the action, StockPicturesMarks all else.
     void Weights_data() {
         QTest::addColumn<StockPicture>("picture");
         QTest::addColumn<QList<double>>("weight");

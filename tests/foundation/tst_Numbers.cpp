@@ -38,6 +38,8 @@ void tst_Numbers::readsNumbers_data() {
     QTest::newRow("no digit before the point") << u".5"_s << 0.5 << true;
     QTest::newRow("no digit behind the point") << u"5."_s << 5.0 << true;
     QTest::newRow("a point alone") << u"."_s << 0.0 << false;
+    QTest::newRow("a sign and a point") << u"+."_s << 0.0 << false;
+    QTest::newRow("an exponent alone") << u"e5"_s << 0.0 << false;
     QTest::newRow("a sign alone") << u"-"_s << 0.0 << false;
     QTest::newRow("plus") << u"+7"_s << 7.0 << true;
     QTest::newRow("two signs") << u"--7"_s << 0.0 << false;

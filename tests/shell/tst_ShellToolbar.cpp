@@ -237,6 +237,9 @@ private Q_SLOTS:
         bar.Tools.resize(95, 40);
         Enter(bar.Tools.Button(2));
         QCOMPARE(bar.Hovered.last(), 2);
+        QTest::mousePress(&bar.Tools, Qt::RightButton, {}, QPoint(90, 2));
+        QCOMPARE(bar.Hovered.last(), 0);
+        Enter(bar.Tools.Button(2));
         const auto turn = [&bar](const QPointF& at, int delta) {
             QWheelEvent event(at, bar.Tools.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, {},
                               Qt::NoScrollPhase, false);
