@@ -131,22 +131,6 @@ private Q_SLOTS:
         QCOMPARE(menu(3).Caption, u"All"_s);
     }
 
-    /// One name less than the list has rows: the last file stays out even where all are there.
-    void MenuOffersOneLessThanTheListHolds() {
-        FakeServices machine;
-        for (const QString& name : {u"A"_s, u"B"_s, u"C"_s, u"D"_s}) {
-            machine.WriteFile(u"TimeZones/"_s + name + u".ini"_s, "x=1\r\n");
-        }
-        PathTable paths;
-        paths.ZoneFileFolder = machine.AppFolder() + u"/TimeZones/"_s;
-        const shell::LastOpened list = Pushed({u"D"_s, u"C"_s, u"B"_s, u"A"_s});
-        shell::MenuArray menu;
-        list.FillLastOpenedMenu(menu, machine.Files, paths);
-        QCOMPARE(menu(1).Caption, u"A"_s);
-        QCOMPARE(menu(menu.Count()).Caption, u"All"_s);
-        QCOMPARE(menu.Count(), 4);
-    }
-
     /// A zone was removed since the menu was filled last.
     void MenuKeepsNothingOfALongerOne() {
         FakeServices machine;
