@@ -40,6 +40,25 @@ private Q_SLOTS:
         QTEST(answer.Output, "output");
     }
 
+    void Sizes_data() {
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<int>("status");
+        QTest::newRow("least") << u"1x1"_s << 0;
+        QTest::newRow("most") << u"16000x16000"_s << 0;
+        QTest::newRow("no width") << u"0x1"_s << 2;
+        QTest::newRow("no height") << u"1x0"_s << 2;
+        QTest::newRow("too wide") << u"16001x1"_s << 2;
+        QTest::newRow("too high") << u"1x16001"_s << 2;
+        QTest::newRow("three") << u"1x1x1"_s << 2;
+    }
+
+    void Sizes() {
+        QFETCH(QString, size);
+        const CompanionAnswer answer =
+            Companion().Run({u"clock"_s, u"drop"_s, u"1"_s, u"0"_s, u"0"_s, u"--size"_s, size});
+        QTEST(answer.Status, "status");
+    }
+
     void WrongDrops_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::newRow("what") << QStringList{u"3"_s, u"0"_s, u"0"_s, u"--size=400x400"_s};

@@ -57,6 +57,14 @@ private Q_SLOTS:
         QCOMPARE(QPointF(path.elementAt(0)), QPointF(path.elementAt(path.elementCount() - 1)));
     }
 
+    /// A diamond at twelve o'clock, the others at three.
+    void FirstCorners() {
+        QCOMPARE(QPointF(drawing::ShapePath(Shape::Diamond, Box).elementAt(0)), QPointF(100, 1));
+        for (const Shape shape : {Shape::Pentagon, Shape::Hexagon, Shape::Octagon}) {
+            QCOMPARE(QPointF(drawing::ShapePath(shape, Box).elementAt(0)), QPointF(198, 50));
+        }
+    }
+
     void DiamondRegion_data() {
         QTest::addColumn<QPoint>("at");
         QTest::addColumn<bool>("inside");
