@@ -1,7 +1,5 @@
 #include "platform/devices/VoiceProcess.h"
 
-#include <QPointer>
-
 using namespace Qt::StringLiterals;
 
 namespace platform {
@@ -53,9 +51,9 @@ void VoiceProcess::Say(const QString& text) {
 }
 
 void VoiceProcess::Read() {
-    const QPointer<QProcess> alive = process_.get();
-    while (alive && alive->canReadLine()) {
-        Hear(alive->readLine().trimmed().split(' '));  // it may end this object's life
+    const std::weak_ptr<bool> life = life_;
+    while (!life.expired() && process_->canReadLine()) {
+        Hear(process_->readLine().trimmed().split(' '));  // it may end this object's life
     }
 }
 
@@ -78,9 +76,9 @@ void VoiceProcess::Hear(const QByteArrayList& words) {
 
 void VoiceProcess::Die(const QString& reason) {
     trouble_ = trouble_.isEmpty() ? reason : trouble_;
-    const QPointer<QProcess> alive = process_.get();
+    const std::weak_ptr<bool> life = life_;
     TellVoices();
-    if (alive) {
+    if (!life.expired()) {
         Tell(State::Error);
     }
 }

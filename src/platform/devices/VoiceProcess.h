@@ -24,6 +24,7 @@ public:
     QString Trouble() const override { return trouble_; }
 
 private:
+    /// Hears each line, until one of them has ended this object's life: the process may outlive it.
     void Read();
     /// Takes an answer: "voices NAME...", "speaking", "ready" or "error REASON"; any other is
     /// dropped.
@@ -36,6 +37,7 @@ private:
     std::unique_ptr<ChildProcess> process_ = std::make_unique<ChildProcess>();
     QStringList voices_;
     QString trouble_;
+    std::shared_ptr<bool> life_ = std::make_shared<bool>(true);
 };
 
 }  // namespace platform
