@@ -22,7 +22,7 @@ public:
 
     /// A right click on a part, at a point of the screen. The menu opens there; this does not wait
     /// for it.
-    virtual void ShowMenu(ClockPart part, const QPoint& globalPosition) = 0;
+    virtual void ShowMenu(const ClockHit& hit, const QPoint& globalPosition) = 0;
     /// A right click on a clock that is disabled.
     virtual void ShowDisabledMenu(const QPoint& globalPosition) = 0;
 };

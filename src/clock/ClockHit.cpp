@@ -13,17 +13,26 @@ constexpr struct {
     {&mduUILib::ClockControls::imgAction, ClockPart::Action},
     {&mduUILib::ClockControls::lblActionMsg, ClockPart::Action},
     {&mduUILib::ClockControls::lblMsg, ClockPart::Message},
+    {&mduUILib::ClockControls::imgTimer, ClockPart::TimerMark},
+    {&mduUILib::ClockControls::lblLocation, ClockPart::Location},
+    {&mduUILib::ClockControls::imgFlag, ClockPart::Flag},
+    {&mduUILib::ClockControls::lblTimeOutput, ClockPart::Output},
+    {&mduUILib::ClockControls::lblTimeInput, ClockPart::Input},
+    {&mduUILib::ClockControls::lblDigitalNumber, ClockPart::Digits},
+    {&mduUILib::ClockControls::lblHour, ClockPart::HourNumber},
+    {&mduUILib::ClockControls::imgClockNumber, ClockPart::Spot},
 };
 
 }  // namespace
 
-ClockPart PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
+ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
     for (const auto& layer : Layers) {
-        if (ControlAt(controls.*layer.Array, point) != nullptr) {
-            return layer.Part;
+        const mduUILib::ControlArray& array = controls.*layer.Array;
+        if (const mduUILib::Control* control = ControlAt(array, point)) {
+            return {layer.Part, array.First + static_cast<int>(control - array.Members.data())};
         }
     }
-    return ClockPart::Face;
+    return {};
 }
 
 const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array, const QPointF& point) {

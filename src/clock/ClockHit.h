@@ -11,13 +11,28 @@ enum class ClockPart {
     Face,  ///< all that is nothing else
     Speaker,
     Action,  ///< the mark or the text of an action that counts down
-    Message
+    Message,
+    TimerMark,  ///< of the slot that is the index
+    Location,
+    Flag,
+    Output,  ///< the calculated time of a calculator
+    Input,   ///< its local time
+    Digits,
+    HourNumber,  ///< 1 to 60: twelve stands at 60, one at 5
+    Spot         ///< 1 to 60, likewise
+};
+
+/// What lies at a point: a part, and its number where it is one of an array.
+struct ClockHit {
+    ClockPart Part = ClockPart::Face;
+    int Index = 1;  ///< in the control array; 1 for a part that there is one of
+    bool operator==(const ClockHit&) const = default;
 };
 
 /// The part at a point, in device pixels of the surface. Where parts overlap it is the upper one.
 /// Parts that are hidden take no clicks; a point beside all parts, on the surface or off it, is the
 /// face.
-ClockPart PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
+ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
 
 /// The first visible member of an array that holds a point, in device pixels of the surface; null
 /// where there is none.

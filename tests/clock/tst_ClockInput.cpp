@@ -26,8 +26,8 @@ struct WritingClicks final : clockcore::ClockClicks {
     void ClickSpeaker() override { Log += u"speaker"_s; }
     void ClickAction() override { Log += u"action"_s; }
     QString SpeakerHint() const override { return u"Ann"_s; }
-    void ShowMenu(ClockPart part, const QPoint& at) override {
-        Log += u"menu %1 at %2,%3"_s.arg(static_cast<int>(part)).arg(at.x()).arg(at.y());
+    void ShowMenu(const clockcore::ClockHit& hit, const QPoint& at) override {
+        Log += u"menu %1 at %2,%3"_s.arg(static_cast<int>(hit.Part)).arg(at.x()).arg(at.y());
     }
     void ShowDisabledMenu(const QPoint& at) override {
         Log += u"disabled at %1,%2"_s.arg(at.x()).arg(at.y());

@@ -32,7 +32,7 @@ struct MenuDesk : SettingsDesk {
     }
     static QMenu* Open() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
     QString OpenName(ClockPart part) {
-        Menus.ShowMenu(part, {10, 10});
+        Menus.ShowMenu({part, 1}, {10, 10});
         const QMenu* menu = Open();
         return menu != nullptr ? menu->objectName() : QString();
     }

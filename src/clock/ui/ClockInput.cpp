@@ -118,10 +118,10 @@ void ClockInput::ShowMenu(const QContextMenuEvent& event) {
         clicks_.ShowDisabledMenu(event.globalPos());
         return;
     }
-    const ClockPart part = PartAt(controls_, SurfacePoint(event.pos()));
+    const ClockHit hit = PartAt(controls_, SurfacePoint(event.pos()));
     const bool withControl = (event.modifiers() & Qt::ControlModifier) != 0;
-    if (part != ClockPart::Speaker || !withControl) {
-        clicks_.ShowMenu(part, event.globalPos());
+    if (hit.Part != ClockPart::Speaker || !withControl) {
+        clicks_.ShowMenu(hit, event.globalPos());
     }
 }
 

@@ -14,19 +14,19 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
-void ClockMenuHandlers::ShowMenu(ClockPart part, const QPoint& globalPosition) {
+void ClockMenuHandlers::ShowMenu(const ClockHit& hit, const QPoint& globalPosition) {
     constexpr struct {
         ClockPart Part;
         void (ClockMenuHandlers::*Show)(const QPoint&);
-    } menus[] = {{ClockPart::Face, &ClockMenuHandlers::ShowFormMenu},
-                 {ClockPart::Speaker, &ClockMenuHandlers::ShowSpeakerMenu},
+    } menus[] = {{ClockPart::Speaker, &ClockMenuHandlers::ShowSpeakerMenu},
                  {ClockPart::Action, &ClockMenuHandlers::ShowActionMenu},
                  {ClockPart::Message, &ClockMenuHandlers::ShowMessageMenu}};
     for (const auto& menu : menus) {
-        if (menu.Part == part) {
-            (this->*menu.Show)(globalPosition);
+        if (menu.Part == hit.Part) {
+            return (this->*menu.Show)(globalPosition);
         }
     }
+    ShowFormMenu(globalPosition);
 }
 
 void ClockMenuHandlers::ClickAction() {

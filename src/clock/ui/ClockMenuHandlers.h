@@ -48,9 +48,9 @@ public:
     /// Speaks the action that counts down; its mark shows that for as long as the voice speaks.
     void ClickAction() override;
     QString SpeakerHint() const override { return parts_.Voice.HintText(); }
-    /// Opens the menu of that part. Each kind of menu has an object name for those who look from
+    /// Opens the menu of that part, or that of the clock for a part without one. Each kind of menu has an object name for those who look from
     /// outside: "FormPopup", "MessageMenu", and so on.
-    void ShowMenu(ClockPart part, const QPoint& globalPosition) override;
+    void ShowMenu(const ClockHit& hit, const QPoint& globalPosition) override;
     /// A single entry, "Enable Clock".
     void ShowDisabledMenu(const QPoint& globalPosition) override;
 
