@@ -141,6 +141,15 @@ private Q_SLOTS:
         QCOMPARE(bar.Clicked, (QList<int>{5, 9}));
     }
 
+    void CaptionsGrowWithTheButtons() {
+        Bar bar;
+        QCOMPARE(bar.Tools.Button(1)->font().pixelSize(), 10);
+        bar.Tools.ApplyToolbarSize(u"Large Size with Caption"_s);
+        QCOMPARE(bar.Tools.Button(1)->font().pixelSize(), 12);
+        bar.Tools.ApplyToolbarSize(u"Small Size with Caption"_s);
+        QCOMPARE(bar.Tools.Button(1)->font().pixelSize(), 10);
+    }
+
     void ButtonsAreCustomised() {
         Bar bar;
         bar.Tools.Offer(1, false);
