@@ -47,6 +47,22 @@ struct Desk {
     void Key(Qt::Key key) { QTest::keyClick(&Map, key); }
     QColor Pixel(const QPoint& at) { return Map.grab().toImage().pixelColor(at); }
 
+    /// The dots that have pixels of the highlight's colour around them.
+    QList<int> Ringed() {
+        const QImage map = Map.grab().toImage();
+        QList<int> ringed;
+        for (int dot = 0; dot < 3; ++dot) {
+            const QImage around = map.copy(QRect(At(dot) - QPoint(9, 9), QSize(19, 19)));
+            for (int i = 0; i < 19 * 19; ++i) {
+                if (around.pixelColor(i % 19, i / 19) == Map.palette().color(QPalette::Highlight)) {
+                    ringed += dot;
+                    break;
+                }
+            }
+        }
+        return ringed;
+    }
+
     QString TipAt(const QPoint& at) {
         QHelpEvent help(QEvent::ToolTip, at, Map.mapToGlobal(at));
         QCoreApplication::sendEvent(&Map, &help);
@@ -191,6 +207,13 @@ private Q_SLOTS:
         QCOMPARE(desk.TipAt(desk.At(0)), u"Zone 4\nZone 1\nZone 2\nZone 3"_s);
     }
 
+    void ATipGoesWhereThereIsNoDot() {
+        Desk desk;
+        QCOMPARE(desk.TipAt(desk.At(2)), u"Far South"_s);
+        desk.TipAt({390, 350});
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
     void ThePointerTellsADot() {
         Desk desk;
         desk.Move(desk.At(1), Qt::NoButton);
@@ -217,6 +240,17 @@ private Q_SLOTS:
         Desk desk;
         QCOMPARE(desk.Pixel(desk.At(0)).name(), u"#f4f7fa"_s);
         QCOMPARE(desk.Pixel(desk.At(1)).name(), u"#ffb300"_s);
+    }
+
+    void TheCurrentDotHasARing() {
+        Desk desk;
+        QCOMPARE(desk.Ringed(), QList<int>());
+        desk.Map.SetCurrentDot(0);
+        QCOMPARE(desk.Ringed(), QList<int>{0});
+        desk.Map.SetCurrentDot(2);
+        QCOMPARE(desk.Ringed(), QList<int>{2});
+        desk.Map.SetCurrentDot(-1);
+        QCOMPARE(desk.Ringed(), QList<int>());
     }
 
     /// In June at noon, Greenwich time, it is night on the other side; twelve hours later it is
