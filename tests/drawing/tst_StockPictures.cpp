@@ -66,7 +66,7 @@ struct Weight {
             .arg(Blue, 0, 'f', 1);
     }
     bool IsNear(double alpha, double red, double green, double blue) const {
-        constexpr double hair = 0.6;
+        constexpr double hair = 0.25;
         return std::abs(Alpha - alpha) < hair && std::abs(Red - red) < hair &&
                std::abs(Green - green) < hair && std::abs(Blue - blue) < hair;
     }
