@@ -72,6 +72,7 @@ struct Desk {
 
 }  // namespace
 
+/// The map's mouse and keys (ZoneMap), and what it paints (ZoneMapPaint).
 class tst_ZoneMap : public QObject {
     Q_OBJECT
 
@@ -240,6 +241,22 @@ private Q_SLOTS:
         Desk desk;
         QCOMPARE(desk.Pixel(desk.At(0)).name(), u"#f4f7fa"_s);
         QCOMPARE(desk.Pixel(desk.At(1)).name(), u"#ffb300"_s);
+    }
+
+    /// Drawn eight times as large: a rim of a pixel lies on the circle of the dot's radius, 3.2.
+    void DotsHaveADarkRim() {
+        Desk desk;
+        const QPoint corner = desk.At(0) - QPoint(10, 10);
+        QImage large(160, 160, QImage::Format_RGB32);
+        large.setDevicePixelRatio(8);
+        desk.Map.render(&large, {}, QRect(corner, QSize(20, 20)));
+        const auto colourAt = [&](double distance) {
+            const QPointF place = desk.Map.PointOfDot(0) + QPointF(distance, 0) - corner;
+            return large.pixelColor((place * 8).toPoint()).name();
+        };
+        QCOMPARE(colourAt(2.2), u"#f4f7fa"_s);
+        QCOMPARE(colourAt(3.2), u"#101c2c"_s);
+        QVERIFY(colourAt(4.2) != u"#101c2c"_s);
     }
 
     void TheCurrentDotHasARing() {
