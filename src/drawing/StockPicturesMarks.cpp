@@ -96,7 +96,6 @@ void DrawClock(QPainter& painter) {
     DrawHand(painter, 305, 21, 9, Slate);
     DrawHand(painter, 60, 30, 7, Slate);
     DrawHand(painter, 195, 30, 4, Red);
-    painter.setPen(Qt::NoPen);
     painter.setBrush(Red);
     painter.drawEllipse(QPointF(0, 0), 4, 4);
 }

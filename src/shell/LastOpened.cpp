@@ -60,8 +60,8 @@ void LastOpened::PushLastOpened(const QString& fullName) {
 void LastOpened::FillLastOpenedMenu(MenuArray& fileItems, const platform::Files& files,
                                     const PathTable& paths) const {
     int shown = 0;
-    const int limit = openedList_.UpperBound() - 1;
-    for (int i = 1; i <= MenuLimit && i <= openedList_.UpperBound() && shown < limit; ++i) {
+    static_assert(MenuLimit < ListUpperBound);  // the list has as many rows, and never shrinks
+    for (int i = 1; i <= MenuLimit; ++i) {
         const QString& name = openedList_[i].Name;
         if (name.isEmpty() ||
             !mduLib::FileExists(files, paths.ZoneFileFolder + mduLib::AddIniExtension(name))) {

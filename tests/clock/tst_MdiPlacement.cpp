@@ -515,6 +515,25 @@ private Q_SLOTS:
         QCOMPARE(alone.Clock.geometry(), QRect(10, 300, 100, 200));
     }
 
+    /// Shown maximised it stays so; its place is for when it is shown normal.
+    void AloneAndMaximised() {
+        Alone alone;
+        alone.Set(u"Window State"_s, u"Maximized"_s);
+        alone.Place.ApplyWindowState();
+        QCOMPARE(alone.Place.WindowState(), 2);
+        alone.Place.ApplyWindowRect();
+        QCOMPARE(alone.Clock.geometry(), QRect(300, 300, 200, 200));
+        alone.Place.SetWindowState(2);
+        QTRY_VERIFY(alone.Clock.width() > 200);
+        const QRect whole = alone.Clock.geometry();
+        alone.Place.ApplyWindowRect();
+        QCOMPARE(alone.Clock.geometry(), whole);
+        alone.Place.SetWindowState(0);
+        alone.Set(u"Window Left"_s, u"150"_s);
+        alone.Place.ApplyWindowRect();
+        QCOMPARE(alone.Clock.geometry(), QRect(10, 300, 200, 200));
+    }
+
     void FrameAlone() {
         Alone alone;
         alone.Place.ApplyWindowRect();

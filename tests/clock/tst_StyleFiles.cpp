@@ -109,6 +109,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Machine.ReadFile(u"Styles/No.ini"_s), content);
     }
 
+    void AStyleOfOneLine_data() {
+        QTest::addColumn<QByteArray>("line");
+        QTest::newRow("kind") << "Clocks=Digital\r\n"_ba;
+        QTest::newRow("hand") << "Hour Hand Style=Line\r\n"_ba;
+        QTest::newRow("ground") << "Window Background Colour=Red\r\n"_ba;
+    }
+
+    void AStyleOfOneLine() {
+        QFETCH(QByteArray, line);
+        StyleDesk desk;
+        QVERIFY(desk.Read(desk.Machine.WriteFile(u"Styles/One.ini"_s, line), {}));
+        QCOMPARE(desk.Problem, QString());
+    }
+
     void MissingStyle() {
         StyleDesk desk;
         QVERIFY(!desk.Read(desk.Machine.AppFolder() + u"/Styles/none.ini"_s, {}));

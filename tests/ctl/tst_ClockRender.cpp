@@ -2,11 +2,13 @@
 
 using namespace Qt::StringLiterals;
 
+/// What `clock render` refuses (ClockCommands); tst_RenderCommand tells what it draws.
 class tst_ClockRender : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void tellsOfAFileThatCantBeRead();
+    void tellsOfAPictureThatCantBeWritten();
     void refusesASize_data();
     void refusesASize();
 };
@@ -20,6 +22,17 @@ void tst_ClockRender::tellsOfAFileThatCantBeRead() {
     QCOMPARE(answer.Output, "{\"height\":200,\"mode\":\"0\",\"width\":300}\n"_ba);
     QVERIFY(answer.Messages.contains("missing.ini can't be read as a property file"));
     QVERIFY(!QFileInfo::exists(companion.Folder.filePath(u"out.png"_s)));
+}
+
+void tst_ClockRender::tellsOfAPictureThatCantBeWritten() {
+    const Companion companion;
+    companion.Write(u"UTC.ini"_s, "Clocks=Analogue\r\n");
+    const CompanionAnswer answer =
+        companion.Run({u"--app-folder"_s, u"app"_s, u"clock"_s, u"render"_s, u"UTC.ini"_s,
+                       u"none/out.png"_s, u"--size"_s, u"30x20"_s});
+    QCOMPARE(answer.Status, 1);
+    QVERIFY2(answer.Messages.contains("none/out.png can't be written\n"),
+             answer.Messages.constData());
 }
 
 void tst_ClockRender::refusesASize_data() {

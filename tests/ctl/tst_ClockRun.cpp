@@ -4,6 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
+/// What `clock run` tells (ClockRunCommand).
 class tst_ClockRun : public QObject {
     Q_OBJECT
 

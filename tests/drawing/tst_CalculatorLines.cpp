@@ -100,6 +100,7 @@ private Q_SLOTS:
     void AutomaticLinesMakeRoomForTheHint_data();
     void AutomaticLinesMakeRoomForTheHint();
     void LinesMoveUpForTheHint();
+    void AHintThatJustFits();
     void EnterTellsOfEscAgain();
     void TellsOfEscInTheStatusBarWithoutRoom();
     void SurvivesBadInput_data();
@@ -515,6 +516,26 @@ void tst_CalculatorLines::LinesMoveUpForTheHint() {
     QVERIFY(!hint.Visible);
     const float below = 60 - lines.Zone().Top - lines.Zone().Height;
     QVERIFY(qAbs(lines.Local().Top - below) <= 1);
+}
+
+/// Two lines of 40 pixels with 16 between them, 9 below them and the hint of 18 are 123 high.
+void tst_CalculatorLines::AHintThatJustFits() {
+    Lines lines;
+    const mduUILib::Control& hint = lines.Face.Controls.lblClock(1);
+    lines.Face.Set(u"Calculator Local Time Font Size"_s, u"26"_s);
+    lines.Face.Set(u"Calculator Time Font Size"_s, u"26"_s);
+    lines.Face.Window.Resize(600, 123);
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
+    lines.Calculator.BeginInput();
+    QVERIFY(hint.Visible);
+    QCOMPARE(lines.Local().Top, 0.0F);
+    QCOMPARE(lines.Local().Height, 40.0F);
+    QCOMPARE(lines.Zone().Top, 56.0F);
+    QCOMPARE(hint.Rect().top(), 105.0);
+    QCOMPARE(hint.Rect().bottom(), 123.0);
+    lines.Face.Window.Resize(600, 122);
+    lines.Calculator.SetCalculatorLayout();
+    QVERIFY(!hint.Visible);
 }
 
 void tst_CalculatorLines::EnterTellsOfEscAgain() {

@@ -122,6 +122,16 @@ private Q_SLOTS:
         QCOMPARE(stage.Compose({1, 2, 3}), QRegion(0, 0, 120, 100));
     }
 
+    /// Whoever draws on the surface next may do so anywhere.
+    void LeavesNoClipBehind() {
+        Stage stage;
+        mduUILib::Control& label = stage.Label(u"11"_s, 40, 60);
+        stage.Composer.Compose(std::nullopt);
+        label.Caption = u"12"_s;
+        QVERIFY(!stage.Composer.Compose(std::nullopt).contains(QPoint(110, 5)));
+        QCOMPARE(stage.Face.Window.Drawn.Clip(), QRect(0, 0, 120, 100));
+    }
+
     void HandsComeAndGo() {
         Stage stage;
         stage.Compose({0, 0, 0});

@@ -103,6 +103,15 @@ private Q_SLOTS:
         QCOMPARE(letter.top(), 30 + 24);
     }
 
+    // A pixel for each unit of the font's own design: its ascent is 1705, its descent 615; this
+    // letter stands from 162 to 1066 and is 1349 high.
+    void LargeLettersAreExact() {
+        Surface surface(1300, 2400, 1);
+        surface.Cls(0xFFFFFF);
+        DrawFontText(surface, u"H"_s, 0, 0, {.Height = 2320, .FaceName = u"Courier New"_s}, 0);
+        QCOMPARE(Inked(surface), QRect(162, 1705 - 1349, 1066 - 162, 1349));
+    }
+
     void WidthIsTheFontsOwn() {
         const LogFont font{.Height = 111, .StrikeOut = true, .FaceName = u"Times New Roman"_s};
         QCOMPARE(Print(u"    "_s, 20, 20, font).width(), 100);

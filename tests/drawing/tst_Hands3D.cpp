@@ -332,6 +332,30 @@ private Q_SLOTS:
         }
     }
 
+    void BoundsOfHalfPixels_data() {
+        QTest::addColumn<double>("angle");
+        QTest::addColumn<QRect>("bounds");
+        QTest::newRow("down") << 0.0 << QRect(QPoint(94, 74), QPoint(106, 186));
+        QTest::newRow("right") << Pi / 2 << QRect(QPoint(74, 94), QPoint(186, 106));
+        QTest::newRow("up") << Pi << QRect(QPoint(94, 14), QPoint(106, 126));
+        QTest::newRow("left") << 3 * Pi / 2 << QRect(QPoint(14, 94), QPoint(126, 106));
+    }
+
+    /// The sides of such a bar lie at 94.5 and 105.5, which may be rounded either way, its ends at
+    /// 80 + 5.5 and at 0.3 of that from the middle.
+    void BoundsOfHalfPixels() {
+        QFETCH(double, angle);
+        QFETCH(QRect, bounds);
+        QCOMPARE(drawing::BarBounds(100, 100, angle, 80, 0.3F, 5.5), bounds);
+        Surface surface = BarOf(1, 5.5, angle);
+        for (int y = 0; y < 201; ++y) {
+            for (int x = 0; x < 201; ++x) {
+                const QRgb pixel = PixelAt(surface, x, y);
+                QVERIFY(pixel == WhitePixel || pixel == ShadowPixel || bounds.contains(x, y));
+            }
+        }
+    }
+
     void NoBoundsWhereNothingIsDrawn() {
         QCOMPARE(drawing::HandBounds(HandStyle::Metal, 50, 50, 1, 0, 6), QRect());
         QCOMPARE(drawing::HandBounds(HandStyle::Unknown, 50, 50, 1, 40, 6), QRect());

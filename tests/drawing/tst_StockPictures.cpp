@@ -66,9 +66,53 @@ struct Weight {
             .arg(Blue, 0, 'f', 1);
     }
     bool IsNear(double alpha, double red, double green, double blue) const {
-        constexpr double hair = 0.6;
+        constexpr double hair = 0.25;
         return std::abs(Alpha - alpha) < hair && std::abs(Red - red) < hair &&
                std::abs(Green - green) < hair && std::abs(Blue - blue) < hair;
+    }
+};
+
+/// Where the middle of all that is covered lies, and those of red, green and blue.
+struct Balance {
+    QPointF Alpha, Red, Green, Blue;
+
+    explicit Balance(const QImage& image) {
+        Alpha = Middle(image, [](QRgb pixel) { return qAlpha(pixel); });
+        Red = Middle(image, [](QRgb pixel) { return qRed(pixel) * qAlpha(pixel); });
+        Green = Middle(image, [](QRgb pixel) { return qGreen(pixel) * qAlpha(pixel); });
+        Blue = Middle(image, [](QRgb pixel) { return qBlue(pixel) * qAlpha(pixel); });
+    }
+
+    template <typename WeightOf>
+    static QPointF Middle(const QImage& image, WeightOf weightOf) {
+        QPointF sum;
+        double whole = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const double weight = weightOf(image.pixel(x, y));
+                sum += QPointF(x, y) * weight;
+                whole += weight;
+            }
+        }
+        return sum / whole;
+    }
+
+    QString Text() const {
+        QStringList texts;
+        for (const QPointF& middle : {Alpha, Red, Green, Blue}) {
+            texts +=
+                QStringLiteral("{%1, %2}").arg(middle.x(), 0, 'f', 2).arg(middle.y(), 0, 'f', 2);
+        }
+        return texts.join(QStringLiteral(", "));
+    }
+    bool IsNear(const QList<QPointF>& middles) const {
+        constexpr double hair = 0.1;  // pixels
+        const QList<QPointF> own = {Alpha, Red, Green, Blue};
+        return std::equal(own.begin(), own.end(), middles.begin(), middles.end(),
+                          [](const QPointF& a, const QPointF& b) {
+                              return std::abs(a.x() - b.x()) < hair &&
+                                     std::abs(a.y() - b.y()) < hair;
+                          });
     }
 };
 
@@ -138,6 +182,73 @@ private Q_SLOTS:
         const Weight found(*GetStockPicture(picture));
         QVERIFY2(found.IsNear(weight[0], weight[1], weight[2], weight[3]),
                  qPrintable(found.Text()));
+    }
+
+    void Balances_data() {
+        QTest::addColumn<StockPicture>("picture");
+        QTest::addColumn<QList<QPointF>>("centres");
+        using Row = QList<QPointF>;
+        QTest::newRow("idle") << StockPicture::SpeakerIdle
+                              << Row{{107.39, 127.50},
+                                     {117.73, 127.14},
+                                     {116.52, 127.12},
+                                     {114.69, 127.11}};
+        QTest::newRow("muted") << StockPicture::SpeakerMuted
+                               << Row{{114.12, 127.50},
+                                      {135.37, 127.19},
+                                      {118.74, 127.07},
+                                      {112.16, 127.03}};
+        QTest::newRow("talking") << StockPicture::SpeakerTalking
+                                 << Row{{133.34, 127.50},
+                                        {139.64, 127.22},
+                                        {145.91, 127.24},
+                                        {147.39, 127.25}};
+        QTest::newRow("right spot")
+            << StockPicture::SpotRight
+            << Row{{127.50, 127.50}, {121.77, 121.03}, {122.41, 121.76}, {123.28, 122.74}};
+        QTest::newRow("left spot")
+            << StockPicture::SpotLeft
+            << Row{{127.50, 127.50}, {122.97, 122.39}, {123.42, 122.90}, {123.92, 123.47}};
+        QTest::newRow("timer") << StockPicture::TimerMark
+                               << Row{{127.52, 132.03},
+                                      {126.15, 130.34},
+                                      {124.34, 129.08},
+                                      {120.69, 127.55}};
+        QTest::newRow("action") << StockPicture::Action
+                                << Row{{127.50, 127.50},
+                                       {126.37, 126.29},
+                                       {126.02, 125.40},
+                                       {126.16, 125.44}};
+        QTest::newRow("action speaking")
+            << StockPicture::ActionSpeaking
+            << Row{{127.50, 127.50}, {126.88, 126.82}, {126.95, 126.64}, {127.08, 126.79}};
+        QTest::newRow("sun") << StockPicture::Sun
+                             << Row{{127.50, 127.50},
+                                    {127.44, 127.43},
+                                    {126.99, 126.92},
+                                    {124.47, 124.03}};
+        QTest::newRow("moon") << StockPicture::Moon
+                              << Row{{101.44, 144.52},
+                                     {91.54, 148.80},
+                                     {90.94, 147.82},
+                                     {89.27, 144.38}};
+        QTest::newRow("handle") << StockPicture::Handle
+                                << Row{{127.50, 127.50},
+                                       {127.50, 127.49},
+                                       {127.50, 127.49},
+                                       {127.50, 127.49}};
+        QTest::newRow("clock") << StockPicture::Clock
+                               << Row{{127.50, 127.50},
+                                      {126.82, 128.46},
+                                      {127.04, 127.82},
+                                      {127.17, 127.57}};
+    }
+    /// As they were when they were looked at and found good: a part that is moved by a unit shows.
+    void Balances() {
+        QFETCH(StockPicture, picture);
+        QFETCH(QList<QPointF>, centres);
+        const Balance found(*GetStockPicture(picture));
+        QVERIFY2(found.IsNear(centres), qPrintable(found.Text()));
     }
 
     void EachIsDrawnOnce() {

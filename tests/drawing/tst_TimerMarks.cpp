@@ -45,6 +45,21 @@ private Q_SLOTS:
         QVERIFY(qAbs(at.y() + 14 - corner.y()) < 0.001);
     }
 
+    /// A face is as large as its shorter side lets it be, in the middle of the longer one.
+    void OnTheRingOfAFaceThatIsNotSquare_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QPointF>("corner");
+        QTest::newRow("wide") << QSize(300, 200) << QPointF(234, 100);
+        QTest::newRow("high") << QSize(200, 300) << QPointF(184, 150);
+    }
+
+    void OnTheRingOfAFaceThatIsNotSquare() {
+        QFETCH(QSize, size);
+        const Surface surface(size.width(), size.height(), 1);
+        QTEST(drawing::TimerMarkPlace(surface, Look(), true, 15, 0, {16, 14}) + QPointF(16, 14),
+              "corner");
+    }
+
     void AlongTheBottom_data() {
         QTest::addColumn<int>("spot");
         QTest::addColumn<QPointF>("place");

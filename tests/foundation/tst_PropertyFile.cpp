@@ -28,6 +28,7 @@ private Q_SLOTS:
     void comesBackUnchanged();
     void keepsAMarkThatBelongsToAName();
     void leavesTheOldFileWholeWhenWritingFails();
+    void writesAnewWhatItHasReadWhole();
 
 private:
     FakeServices machine_;
@@ -250,6 +251,25 @@ void tst_PropertyFile::leavesTheOldFileWholeWhenWritingFails() {
     QVERIFY(!mduLib::WritePropertyFile(machine.Files, array, machine.AppFolder()));
     QVERIFY(!mduLib::WritePropertyFile(machine.Files, array,
                                        machine.AppFolder() + u"/missing/a.ini"_s));
+}
+
+void tst_PropertyFile::writesAnewWhatItHasReadWhole() {
+    FakeServices machine;
+    const QString path = machine.WriteFile(u"a.ini"_s, "old=1\r\n");
+    ClockProperties array;
+    array[1] = {QString(), u"new"_s, u"2"_s};
+    QVERIFY(mduLib::RewritePropertyFile(machine.Files, array, path));
+    QCOMPARE(machine.ReadFile(u"a.ini"_s), "new=2\r\n"_ba);
+    QVERIFY(mduLib::RewritePropertyFile(machine.Files, array, machine.AppFolder() + u"/b.ini"_s));
+    QCOMPARE(machine.ReadFile(u"b.ini"_s), "new=2\r\n"_ba);
+    const QByteArray picture("GIF\0\0\0", 6);
+    machine.WriteFile(u"a.ini"_s, picture);
+    QVERIFY(!mduLib::RewritePropertyFile(machine.Files, array, path));
+    QCOMPARE(machine.ReadFile(u"a.ini"_s), picture);
+    machine.WriteFile(u"a.ini"_s, "old=1\r\n");
+    machine.Files.Unwritable = {path};
+    QVERIFY(!mduLib::RewritePropertyFile(machine.Files, array, path));
+    QCOMPARE(machine.ReadFile(u"a.ini"_s), "old=1\r\n"_ba);
 }
 
 QTEST_GUILESS_MAIN(tst_PropertyFile)

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void leavesAFolderThatIsInUse();
     void goesOnWhereFillingBrokeOff();
     void leavesNothingOfAFillingThatFailed();
+    void leavesTheFolderItselfWhereFillingFailed();
     void refusesWhatCantBeAFolder();
     void refusesAFolderThatCantBeWritten();
     void tellsOtherFilesFromItsOwn();
@@ -252,6 +253,21 @@ void tst_AppFolder::leavesNothingOfAFillingThatFailed() {
     QVERIFY(QFile::remove(folder + u"/ini"_s));
     QCOMPARE(Make(folder), QString());
     QCOMPARE(FilesIn(folder).size(), 2);
+}
+
+/// Files come in the order of the disk: one of these long names stands behind a short one.
+void tst_AppFolder::leavesTheFolderItselfWhereFillingFailed() {
+    for (const QChar letter : u"abcdefgh"_s) {
+        const QString source = folder_->filePath(u"source "_s + letter);
+        const QString name = u"/Help/"_s + QString(254, letter);  // there is no room for ".new"
+        Write(source + u"/Help/short.htm"_s, "<p>", 1000000000);
+        Write(source + name, "<p>", 1000000000);
+        const QString folder = folder_->filePath(u"clocks "_s + letter);
+        QVERIFY(QDir().mkpath(folder));
+        QCOMPARE(platform::CopyStockData(source, folder), folder + name);
+        QCOMPARE(FilesIn(folder), QStringList());
+        QVERIFY(QFileInfo(folder).isDir());
+    }
 }
 
 void tst_AppFolder::refusesWhatCantBeAFolder() {

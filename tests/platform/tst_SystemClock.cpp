@@ -1,5 +1,6 @@
 #include <QElapsedTimer>
 #include <QTest>
+#include <ctime>
 
 #include "platform/SystemClock.h"
 
@@ -8,6 +9,7 @@ class tst_SystemClock : public QObject {
 
 private Q_SLOTS:
     void carriesNoZone();
+    void showsTheMachinesZone();
     void firesBehindTheTurnOfTheSecond();
     void stops();
     void isNotReentered();
@@ -22,6 +24,19 @@ void tst_SystemClock::carriesNoZone() {
     const qint64 gmt =
         clock_.Now().toSecsSinceEpoch() - static_cast<qint64>(clock_.OffsetFromGmt());
     QVERIFY(qAbs(gmt - QDateTime::currentSecsSinceEpoch()) <= 1);
+}
+
+// In a zone that is 5 hours and a half ahead all year.
+void tst_SystemClock::showsTheMachinesZone() {
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", "IST-5:30");
+    tzset();
+    const int offset = clock_.OffsetFromGmt();
+    const qint64 ahead = clock_.Now().toSecsSinceEpoch() - QDateTime::currentSecsSinceEpoch();
+    before.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", before);
+    tzset();
+    QCOMPARE(offset, 19'800);
+    QVERIFY2(qAbs(ahead - 19'800) <= 1, qPrintable(QString::number(ahead)));
 }
 
 // A laden machine may come late, but never before the turn.

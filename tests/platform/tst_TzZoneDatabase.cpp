@@ -122,6 +122,7 @@ private Q_SLOTS:
     void NamelessLocalZone();
     void NamelessZoneFollowsTheClock();
     void MachineUnderAWrongName();
+    void MachineUnderAWrongNameWithDaylightTime();
 };
 
 void tst_TzZoneDatabase::HoldsEveryNamedZone() {
@@ -556,6 +557,20 @@ void tst_TzZoneDatabase::MachineUnderAWrongName() {
     clock.Offset = 3600;
     QCOMPARE(zones.LocalStandardName(), u"Local time"_s);
     QCOMPARE(zones.GetTimeZoneInformation().Bias, -60);
+}
+
+// A zone with daylight time has two offsets in a year, and no other.
+void tst_TzZoneDatabase::MachineUnderAWrongNameWithDaylightTime() {
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", "America/New_York");
+    OffsetClock clock(-18000);
+    const TzZoneDatabase zones(clock);
+    before.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", before);
+    QCOMPARE(zones.LocalStandardName(), u"Eastern Standard Time"_s);
+    clock.Offset = -14400;
+    QCOMPARE(zones.LocalStandardName(), u"Eastern Standard Time"_s);
+    clock.Offset = -10800;
+    QCOMPARE(zones.LocalStandardName(), u"Local time"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_TzZoneDatabase)

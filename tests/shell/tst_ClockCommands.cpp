@@ -151,6 +151,9 @@ private Q_SLOTS:
         shell::ApplyStyleToClocks(desk.Windows, u"/styles/"_s, styles, -1);
         shell::ApplyStyleToClocks(desk.Windows, u"/styles/"_s, {}, 0);
         QCOMPARE(desk.Log.size(), 3);
+        shell::ApplyStyleToClocks(desk.Windows, u"/styles/"_s, styles, 0);
+        QCOMPARE(desk.Log.size(), 6);
+        QCOMPARE(desk.Log.last(), u"C: style /styles/Gold.ini"_s);
     }
 
     void ShellColourGoesToTransparentClocks() {

@@ -122,6 +122,8 @@ private Q_SLOTS:
         QCOMPARE(art.Header.findChild<QPushButton*>()->font().pixelSize(), 14);
         art.Header.resize(190, 60);
         QVERIFY(art.Header.rect().contains(art.Invitation()));
+        art.Header.resize(20, 60);  // it has no room at all
+        QCOMPARE(art.Header.findChild<QPushButton*>()->font().pixelSize(), 9);
         art.Header.resize(700, 400);
         QCOMPARE(art.Header.findChild<QPushButton*>()->font().pixelSize(), 17);
     }

@@ -141,6 +141,15 @@ private Q_SLOTS:
         QCOMPARE(bar.Clicked, (QList<int>{5, 9}));
     }
 
+    void CaptionsGrowWithTheButtons() {
+        Bar bar;
+        QCOMPARE(bar.Tools.Button(1)->font().pixelSize(), 10);
+        bar.Tools.ApplyToolbarSize(u"Large Size with Caption"_s);
+        QCOMPARE(bar.Tools.Button(1)->font().pixelSize(), 12);
+        bar.Tools.ApplyToolbarSize(u"Small Size with Caption"_s);
+        QCOMPARE(bar.Tools.Button(1)->font().pixelSize(), 10);
+    }
+
     void ButtonsAreCustomised() {
         Bar bar;
         bar.Tools.Offer(1, false);
@@ -257,6 +266,25 @@ private Q_SLOTS:
         turn({45, 20}, 120);  // there is nothing more in front
         QCOMPARE(bar.Seen(), u"1 2 3"_s);
         QCOMPARE(bar.Hovered, (QList<int>{0, 2}));
+    }
+
+    void AfterScrollingToTheEndTheBalloonIsThatOfTheLastButton() {
+        Bar bar;
+        bar.Tools.resize(95, 40);
+        const auto turn = [&bar](const QPointF& at, int delta) {
+            QWheelEvent event(at, bar.Tools.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, {},
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&bar.Tools, &event);
+        };
+        for (int i = 0; i < 20; ++i) {
+            turn({45, 20}, -120);
+        }
+        QVERIFY(bar.Seen().endsWith(u" 20"_s));
+        const QPointF last = bar.Tools.Button(20)->geometry().center();
+        turn(last, 120);
+        QVERIFY(!bar.Seen().contains(u"20"_s));
+        turn(last, -120);
+        QCOMPARE(bar.Hovered.last(), 20);
     }
 
     void ButtonsThatMoveTakeTheBalloonAway() {

@@ -58,7 +58,9 @@ private Q_SLOTS:
         desk.Open(u"Launch"_s);
         QCOMPARE(desk.Menu(u"Open"_s)->actions().size(), 16);
         desk.Machine.Dialogs.FileAnswers = {u"/somewhere/Zone 25.ini"_s};
+        QVERIFY(desk.HeaderShows());
         Desk::Item(desk.Menu(u"Open"_s), u"More"_s)->trigger();
+        QVERIFY(!desk.HeaderShows());
         desk.Settle();
         QCOMPARE(desk.Clocks(), QStringList{u"Zone 25"_s});
     }

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void IsOffByThreeValues();
     void FindsThePattern_data();
     void FindsThePattern();
+    void FindsThePatternInTheFirstRow();
     void IsDueByKind_data();
     void IsDueByKind();
     void IsDueAtAllMomentsOfADay();
@@ -162,6 +163,16 @@ void tst_SpeechPatterns::FindsThePattern() {
     const SpeechPattern pattern = PatternOfKind(MinutePattern, properties);
     QTEST(pattern.Text, "text");
     QTEST(pattern.Period, "period");
+}
+
+void tst_SpeechPatterns::FindsThePatternInTheFirstRow() {
+    ClockProperties properties;
+    properties.Resize(2);
+    properties[1] = {u"Speech"_s, u"Speech Minute Pattern"_s, u"now"_s};
+    properties[2] = {u"Clock"_s, u"Clocks"_s, u"Digital"_s};
+    QCOMPARE(PatternOfKind(MinutePattern, properties).Text, u"now"_s);
+    std::swap(properties[1], properties[2]);
+    QCOMPARE(PatternOfKind(MinutePattern, properties).Text, u"now"_s);
 }
 
 void tst_SpeechPatterns::IsDueByKind_data() {

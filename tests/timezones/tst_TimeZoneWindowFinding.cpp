@@ -33,6 +33,7 @@ private Q_SLOTS:
     void EscapeEmptiesTheField();
     void ShowsDots();
     void ClickOnADotPicksItsZone();
+    void DotsFollowTheirRows();
     void DragPicksABand();
     void BandNeedsToLeaveTheHalves();
     void BandGoesWithItsButton();
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void HidesAndShowsTheMap();
     void SplitterFollowsTheMouse();
     void SplitterFollowsKeys();
+    void SplitterMovedInALowWindow();
     void LaunchesACheckedRow();
     void DoubleClickLaunches();
     void EnterLaunches();
@@ -161,6 +163,19 @@ void tst_TimeZoneWindowFinding::ClickOnADotPicksItsZone() {
     QCOMPARE(desk.Listed().size(), 3);
     QTest::mouseClick(&desk.Map(), Qt::LeftButton, {}, QPoint(390, 250));  // the open sea
     QCOMPARE(desk.View().currentIndex().row(), 1);
+}
+
+void tst_TimeZoneWindowFinding::DotsFollowTheirRows() {
+    ZoneWindowDesk desk;
+    desk.Open();
+    desk.Run(u"NameAscending"_s);
+    QCOMPARE(desk.Listed(), (QStringList{Eastern, Tokyo, Utc}));
+    QTest::mouseClick(&desk.Map(), Qt::LeftButton, {}, desk.Map().PointOfDot(1).toPoint());
+    QCOMPARE(desk.View().currentIndex().row(), 1);
+    desk.Run(u"NameDescending"_s);
+    QCOMPARE(desk.Listed(), (QStringList{Utc, Tokyo, Eastern}));
+    QTest::mouseClick(&desk.Map(), Qt::LeftButton, {}, desk.Map().PointOfDot(1).toPoint());
+    QCOMPARE(desk.View().currentIndex().row(), 2);
 }
 
 void tst_TimeZoneWindowFinding::DragPicksABand() {
@@ -316,6 +331,17 @@ void tst_TimeZoneWindowFinding::SplitterFollowsKeys() {
     for (int step = 0; step < 60; ++step) {
         QTest::keyClick(&splitter, Qt::Key_Up);
     }
+    QCOMPARE(desk.Map().height(), 80);
+}
+
+/// The map has no room there at all; moved up so, it is as low as can be in a higher window.
+void tst_TimeZoneWindowFinding::SplitterMovedInALowWindow() {
+    ZoneWindowDesk desk;
+    desk.Open();
+    desk.Window->resize(804, 150);
+    auto& splitter = desk.Find<QWidget>(u"imgSplitter"_s);
+    QTest::keyClick(&splitter, Qt::Key_Up);
+    desk.Window->resize(804, 640);
     QCOMPARE(desk.Map().height(), 80);
 }
 

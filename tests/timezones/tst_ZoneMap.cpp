@@ -47,6 +47,22 @@ struct Desk {
     void Key(Qt::Key key) { QTest::keyClick(&Map, key); }
     QColor Pixel(const QPoint& at) { return Map.grab().toImage().pixelColor(at); }
 
+    /// The dots that have pixels of the highlight's colour around them.
+    QList<int> Ringed() {
+        const QImage map = Map.grab().toImage();
+        QList<int> ringed;
+        for (int dot = 0; dot < 3; ++dot) {
+            const QImage around = map.copy(QRect(At(dot) - QPoint(9, 9), QSize(19, 19)));
+            for (int i = 0; i < 19 * 19; ++i) {
+                if (around.pixelColor(i % 19, i / 19) == Map.palette().color(QPalette::Highlight)) {
+                    ringed += dot;
+                    break;
+                }
+            }
+        }
+        return ringed;
+    }
+
     QString TipAt(const QPoint& at) {
         QHelpEvent help(QEvent::ToolTip, at, Map.mapToGlobal(at));
         QCoreApplication::sendEvent(&Map, &help);
@@ -56,6 +72,7 @@ struct Desk {
 
 }  // namespace
 
+/// The map's mouse and keys (ZoneMap), and what it paints (ZoneMapPaint).
 class tst_ZoneMap : public QObject {
     Q_OBJECT
 
@@ -191,6 +208,13 @@ private Q_SLOTS:
         QCOMPARE(desk.TipAt(desk.At(0)), u"Zone 4\nZone 1\nZone 2\nZone 3"_s);
     }
 
+    void ATipGoesWhereThereIsNoDot() {
+        Desk desk;
+        QCOMPARE(desk.TipAt(desk.At(2)), u"Far South"_s);
+        desk.TipAt({390, 350});
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
     void ThePointerTellsADot() {
         Desk desk;
         desk.Move(desk.At(1), Qt::NoButton);
@@ -217,6 +241,33 @@ private Q_SLOTS:
         Desk desk;
         QCOMPARE(desk.Pixel(desk.At(0)).name(), u"#f4f7fa"_s);
         QCOMPARE(desk.Pixel(desk.At(1)).name(), u"#ffb300"_s);
+    }
+
+    /// Drawn eight times as large: a rim of a pixel lies on the circle of the dot's radius, 3.2.
+    void DotsHaveADarkRim() {
+        Desk desk;
+        const QPoint corner = desk.At(0) - QPoint(10, 10);
+        QImage large(160, 160, QImage::Format_RGB32);
+        large.setDevicePixelRatio(8);
+        desk.Map.render(&large, {}, QRect(corner, QSize(20, 20)));
+        const auto colourAt = [&](double distance) {
+            const QPointF place = desk.Map.PointOfDot(0) + QPointF(distance, 0) - corner;
+            return large.pixelColor((place * 8).toPoint()).name();
+        };
+        QCOMPARE(colourAt(2.2), u"#f4f7fa"_s);
+        QCOMPARE(colourAt(3.2), u"#101c2c"_s);
+        QVERIFY(colourAt(4.2) != u"#101c2c"_s);
+    }
+
+    void TheCurrentDotHasARing() {
+        Desk desk;
+        QCOMPARE(desk.Ringed(), QList<int>());
+        desk.Map.SetCurrentDot(0);
+        QCOMPARE(desk.Ringed(), QList<int>{0});
+        desk.Map.SetCurrentDot(2);
+        QCOMPARE(desk.Ringed(), QList<int>{2});
+        desk.Map.SetCurrentDot(-1);
+        QCOMPARE(desk.Ringed(), QList<int>());
     }
 
     /// In June at noon, Greenwich time, it is night on the other side; twelve hours later it is

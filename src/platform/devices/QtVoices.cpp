@@ -66,8 +66,8 @@ private:
     QString engine_;
     std::unique_ptr<SpeechEngine> spare_;  ///< goes to the voice that first needs one
     QStringList descriptions_;
-    QDeadlineTimer askAgain_{0};
-    QTimer bound_;  ///< runs while an engine is still to tell its voices
+    QDeadlineTimer askAgain_;  ///< over at first
+    QTimer bound_;             ///< runs while an engine is still to tell its voices
     std::shared_ptr<bool> life_ = std::make_shared<bool>(true);
 };
 
