@@ -20,6 +20,11 @@ public:
     /// The hint for a pointer that rests on the speaker mark; empty for none.
     virtual QString SpeakerHint() const = 0;
 
+    /// A double click with the left button where there is no part.
+    virtual void DoubleClickGround() {}
+    /// A key that the calculator does not take: see `ClockKeys`. @return whether it meant something
+    virtual bool PressKey(int /*code*/, int /*shift*/) { return false; }
+
     /// A right click on a part, at a point of the screen. The menu opens there; this does not wait
     /// for it.
     virtual void ShowMenu(const ClockHit& hit, const QPoint& globalPosition) = 0;

@@ -59,6 +59,8 @@ private:
 /// Working values of the face and the tick.
 struct DialState {
     int StyleIndex = 0;
+    /// The name of the style that was put on the clock last, without its extension; empty for none.
+    QString LastStyle = {};
 };
 
 /// The fields of one clock, which its parts share by reference. The clock's window owns them; they
@@ -74,6 +76,9 @@ public:
     QString ClockFormat;
     /// The full path of the clock's own file.
     QString PropertyFileName;
+    /// The base name of another zone's file, whose zone has been put on the clock until it is
+    /// loaded anew; empty while the clock shows its own.
+    QString TakenZone;
     QString TimerFile;  ///< of this clock; the path table's is that of the clock created last
     ClockTag Tag;       ///< what the clock is
     /// While it is set, a clock in front keeps the interval that it has, and lays its dial out at

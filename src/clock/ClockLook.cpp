@@ -2,8 +2,10 @@
 
 #include "drawing/ClockSpecial.h"
 #include "drawing/TimerMarks.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
+#include "foundation/SystemSettings.h"
 
 using namespace Qt::StringLiterals;
 
@@ -85,6 +87,7 @@ void ClockLook::ApplyClockStyle(const QString& styleFile) {
     // Without a style the steps below apply what the clock has.
     if (style) {
         data_.EditProperties() = *style;
+        data_.Dial.LastStyle = mduLib::FileBaseName(styleFile, false);
     }
     SetProperty();
     if (parts_.Placement.IsShown() && data_.State.HasBegun()) {
@@ -106,6 +109,10 @@ void ClockLook::ApplyNextStyle() {
     int& index = data_.Dial.StyleIndex;
     index = index + 1 >= names.size() ? 0 : index + 1;
     ApplyClockStyle(program_.Module.Paths.StylesFolder + names[index]);
+}
+
+void ClockLook::RecordProgramFolder() {
+    mduLib::RecordProgramFolder(program_.Services.Settings, program_.Module.Paths.AppFolder);
 }
 
 void ClockLook::RefreshForm(const QString& fileName) {
@@ -142,6 +149,22 @@ void ClockLook::ApplyToWindow() {
 }
 
 void ClockLook::ApplyToFace() {
+    ApplyKindAndShapes();
+    ApplyEnable();
+    ApplyFlagAndOverlays();
+}
+
+void ClockLook::ApplyFace() {
+    controls_.lblLocation(1).Caption = data_.Zone.CurrentName;
+    parts_.Placement.ApplyWindowBorder();
+    parts_.Placement.ApplyTitleBar();
+    ApplyKindAndShapes();
+    ApplyFlagAndOverlays();
+    parts_.Dial.ApplyClockSpecial();
+    RequestRedrawNow();
+}
+
+void ClockLook::ApplyKindAndShapes() {
     data_.Tag = {GetClockType(data_.Properties()), false};
     parts_.Face.PrepareClockFace();
     if (data_.IsDigital()) {
@@ -152,7 +175,9 @@ void ClockLook::ApplyToFace() {
     parts_.Background.LoadWindowPicture();
     parts_.Background.SetWindowShape();
     parts_.Background.SetClockShape();
-    ApplyEnable();
+}
+
+void ClockLook::ApplyFlagAndOverlays() {
     parts_.Overlays.LoadFlag();
     parts_.Overlays.LayOutOverlays();
 }

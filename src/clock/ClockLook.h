@@ -58,6 +58,10 @@ public:
     void SetWindowBackColour(const QString& value, const QString& caption);
     /// Lays out what depends on the size of a new surface, and draws it.
     void FitSurface();
+    /// Shows what the properties tell of the face, of its shapes and of the window's border and
+    /// title bar, at once. Place, size, state and switch of the window stay, and so does what is
+    /// spoken.
+    void ApplyFace();
     /// Enables the window or disables it, as the property "Enable" tells.
     void ApplyEnable();
 
@@ -68,6 +72,7 @@ public:
     /// Goes on to the next style of the folder, and from the last to the first. Nothing in a folder
     /// without styles.
     void ApplyNextStyle() override;
+    void RecordProgramFolder() override;
     /// Takes `CurrentProperties` as the clock's own and applies them all. @p fileName becomes the
     /// current file, unless it is empty.
     /// What is spoken, the zone, the window and the face all follow. Before the first tick the face
@@ -91,6 +96,8 @@ private:
     void ReadWhatIsSpoken();
     void ApplyToWindow();
     void ApplyToFace();
+    void ApplyKindAndShapes();
+    void ApplyFlagAndOverlays();
 
     ClockData& data_;
     mduUILib::ClockControls& controls_;

@@ -4,6 +4,8 @@
 #include <QSize>
 #include <QString>
 
+class IShell;
+
 namespace clockcore {
 
 /// What a clock's surface is shown on: a window of the desktop or of the shell, as the drawing sees
@@ -26,6 +28,9 @@ public:
     virtual bool IsInSight() const = 0;
     /// The shell's colour, red in the low byte; white without a shell.
     virtual int ShellBackColor() const = 0;
+    /// Null for a clock without a shell. One can have a shell and yet stand alone, as the clock of
+    /// a script does.
+    virtual IShell* Shell() const { return nullptr; }
     /// A text for the shell's status bar; nothing happens without a shell.
     virtual void ShowStatus(const QString& text) = 0;
 };

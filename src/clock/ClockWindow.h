@@ -63,6 +63,10 @@ public:
     virtual QString Caption() const { return {}; }
     virtual int WindowState() const { return 0; }  ///< 0 normal, 1 minimised, 2 maximised
     virtual void SetWindowState(int /*state*/) {}
+    /// An entry of the position menu: each word of its caption acts by itself.
+    virtual void MoveTo(const QString& /*caption*/) {}
+    /// In twips: the position stays.
+    virtual void SetOuterSize(const QSizeF& /*twips*/) {}
     virtual QRectF OuterRect() const { return {}; }  ///< in twips, at this moment
     /// What a file is to remember, in twips; nothing where that keeps what it has.
     virtual std::optional<QRectF> PlaceToStore() const { return std::nullopt; }

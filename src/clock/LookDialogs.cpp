@@ -34,6 +34,12 @@ void LookDialogs::SetClockStyle(const QString& styleFile) {
     look_.ApplyClockStyle(name);
 }
 
+bool LookDialogs::Confirms(const QString& question, const QString& title) {
+    const QPointer<const QObject> clock = &clock_;
+    const int answer = program_.Services.Dialog.MessageBox(question, MsgBox::YesNoQuestion, title);
+    return clock && state_ != ClockState::Closing && answer == MsgBox::Yes;
+}
+
 void LookDialogs::SaveStyleAs() {
     const QPointer<const QObject> clock = &clock_;
     const QString chosen = program_.Services.Dialog.SaveFile(

@@ -25,6 +25,9 @@ public:
     /// anew as it is.
     /// @param styleFile the full path
     void SetClockStyle(const QString& styleFile);
+    /// Asks a question with a Yes and a No. @return whether it was answered with Yes, and the clock
+    /// is still there
+    bool Confirms(const QString& question, const QString& title);
     /// Asks for a name and writes the clock's look there, without its zone. Cancelled, nothing is
     /// written.
     void SaveStyleAs();

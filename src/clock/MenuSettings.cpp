@@ -42,9 +42,9 @@ void MenuSettings::SetActionColour(const QString& colour) {
     Save({u"Message Action Colour"_s});
 }
 
-void MenuSettings::Enable() {
-    mduLib::PutProperty(u"Enable"_s, mduUILib::BoolToYesNo(true), data_.EditProperties());
-    parts_.Window.EnableWindow(true);
+void MenuSettings::SetEnabled(bool enabled) {
+    mduLib::PutProperty(u"Enable"_s, mduUILib::BoolToYesNo(enabled), data_.EditProperties());
+    parts_.Window.EnableWindow(enabled);
     Save({u"Enable"_s});
 }
 

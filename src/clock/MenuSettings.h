@@ -47,8 +47,8 @@ public:
     /// Gives the action that counts down, and those to come, a colour by its name. Without a
     /// countdown the colour stays as it is.
     void SetActionColour(const QString& colour);
-    /// Makes a disabled clock usable again, now and at its next start.
-    void Enable();
+    /// Makes a disabled clock usable again, or disables it, now and at its next start.
+    void SetEnabled(bool enabled);
 
 private:
     /// Tells of a save only when all the keys are in the file.

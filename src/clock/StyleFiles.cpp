@@ -29,11 +29,10 @@ const ClockProperties& WhicheverHas(const QString& key, const ClockProperties& f
 
 }  // namespace
 
-std::optional<ClockProperties> StyleFiles::Read(const QString& styleFile, const QString& clockFile,
-                                                const ClockProperties& present,
-                                                QString& problem) const {
-    platform::Files& files = program_.Services.FileSystem;
+std::optional<ClockProperties> StyleFiles::Peek(const QString& styleFile, QString& problem) const {
+    const platform::Files& files = program_.Services.FileSystem;
     if (!mduLib::FileExists(files, styleFile)) {
+        problem = styleFile + u" is not there any more"_s;
         return std::nullopt;
     }
     ClockProperties style;
@@ -42,16 +41,30 @@ std::optional<ClockProperties> StyleFiles::Read(const QString& styleFile, const 
         problem = styleFile + u" is no clock style"_s;
         return std::nullopt;
     }
+    return style;
+}
+
+std::optional<ClockProperties> StyleFiles::Read(const QString& styleFile, const QString& clockFile,
+                                                const ClockProperties& present,
+                                                QString& problem) const {
+    platform::Files& files = program_.Services.FileSystem;
+    if (!mduLib::FileExists(files, styleFile)) {
+        return std::nullopt;
+    }
+    std::optional<ClockProperties> style = Peek(styleFile, problem);
+    if (!style) {
+        return std::nullopt;
+    }
     const QString defaults = program_.Module.Paths.ZoneDefaultFile();
     if (mduLib::IsOlderThan(files, styleFile, defaults) &&
         mduLib::MergePropertyFile(files, styleFile, defaults, styleFile)) {
-        style.Reset();
-        mduLib::ReadPropertyFile(files, styleFile, style);
+        style->Reset();
+        mduLib::ReadPropertyFile(files, styleFile, *style);
     }
     ClockProperties own;
     mduLib::ReadPropertyFile(files, clockFile, own);
     for (const QString& key : mduTimeZones::ZoneKeys()) {
-        mduLib::PutProperty(key, mduLib::GetProperty(key, WhicheverHas(key, own, present)), style);
+        mduLib::PutProperty(key, mduLib::GetProperty(key, WhicheverHas(key, own, present)), *style);
     }
     return style;
 }

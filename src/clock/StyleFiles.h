@@ -21,6 +21,10 @@ public:
     std::optional<ClockProperties> Read(const QString& styleFile, const QString& clockFile,
                                         const ClockProperties& present, QString& problem) const;
 
+    /// A style as its file stands, for those who only look: without the clock's zone keys, and
+    /// without a merge. Nothing when the file is missing or is no style; @p problem tells why.
+    std::optional<ClockProperties> Peek(const QString& styleFile, QString& problem) const;
+
     /// Where a style is written that the user named @p chosen: a name without a stem becomes
     /// "unknown.ini", one without ".ini" gains it.
     static QString SavePath(const QString& chosen);

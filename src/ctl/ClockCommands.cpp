@@ -4,6 +4,7 @@
 #include "clock/ui/frmTempolark.h"
 #include "ctl/Command.h"
 #include "ctl/ReadOnlyFiles.h"
+#include "ctl/ReadOnlySettings.h"
 #include "ctl/SizeText.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/PropertyFile.h"
@@ -52,7 +53,8 @@ int Render(Context& context) {
     }
     Forms windows;
     ReadOnlyFiles files(context.Services.FileSystem);
-    const platform::Services services = context.Services.With(files);
+    ReadOnlySettings settings(context.Services.Settings);
+    const platform::Services services = context.Services.With(files, settings);
     const Program program{services, context.State, windows};
     const std::unique_ptr<frmTempolark> clock = DrawnClock(program, file, *size, ticks);
     const QImage image = clock->SeenPicture();

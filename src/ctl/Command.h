@@ -77,6 +77,8 @@ std::vector<Command> ClockCommands();
 std::vector<Command> ClockPlaceCommands();
 std::vector<Command> ClockRunCommands();
 std::vector<Command> MenusCommands();
+/// "menus clock", the one of its group that reads the program folder.
+Command ClockMenuCommand();
 std::vector<Command> ShellCommands();
 std::vector<Command> TimersCommands();
 std::vector<Command> ZonesCommands();

@@ -50,7 +50,7 @@ int Minutes(Context& context) {
 
 std::vector<Command> MenusCommands() {
     const QString group = u"menus"_s;
-    return WithoutAppFolder({
+    std::vector<Command> commands = WithoutAppFolder({
         {group,
          u"files"_s,
          u"FOLDER [--filter TEXT] [--current NAME] [--limit N]"_s,
@@ -61,6 +61,8 @@ std::vector<Command> MenusCommands() {
         {group, u"times"_s, u"TEXT"_s, 1, 1, {}, Times},
         {group, u"minutes"_s, u"START"_s, 1, 1, {}, Minutes},
     });
+    commands.push_back(ClockMenuCommand());
+    return commands;
 }
 
 }  // namespace ctl

@@ -119,6 +119,8 @@ public:
     QString Setting(const QString&) const override { return {}; }
     QString RemoveZone(const QString&) override { return {}; }
     void ShowClockHelp() override {}
+    void OpenWindow(ShellWindow) override {}
+    void SetAutoStart(const QString&, bool) override {}
 
 private:
     TellEvent tell_;

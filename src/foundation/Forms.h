@@ -70,6 +70,14 @@ public:
     virtual void SetBackColor(int colour) = 0;
 };
 
+/// The windows that the shell opens beside the clocks, for a clock that asks for one.
+enum class ShellWindow {
+    Properties,  ///< of the clock in front
+    TimeZones,
+    Shortcuts,
+    About
+};
+
 /// The shell, as a clock and the other windows see it.
 class IShell {
 public:
@@ -92,6 +100,11 @@ public:
     /// @return why that failed; empty when it is done
     virtual QString RemoveZone(const QString& name) = 0;
     virtual void ShowClockHelp() = 0;
+    /// Opens a window, or brings it to the front; one that can't be opened is told.
+    virtual void OpenWindow(ShellWindow window) = 0;
+    /// Lets the clock of a zone open by itself at the shell's next start, or not, and saves that.
+    /// @param name of the zone's file, without its extension
+    virtual void SetAutoStart(const QString& name, bool on) = 0;
 };
 
 /// The loaded windows in the order of their creation, counted from 0. The shell is the first.

@@ -4,6 +4,7 @@
 
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
+#include "foundation/SystemSettings.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
 #include "shell/FileList.h"
@@ -157,9 +158,10 @@ void MenuFills::RefreshWindowMenu() const {
 void MenuFills::RefreshViewMenu() const {
     RefreshBarMenus();
     MenuItem& startup = state_[u"ToolsItem"_s](15);
-    startup.Caption = IsInRunKey(program_.Services.Settings, program_.Module.Paths.AppEXEName())
-                          ? u"Remove Auto Start"_s
-                          : u"Setup Auto Start"_s;
+    startup.Caption =
+        mduLib::IsInRunKey(program_.Services.Settings, program_.Module.Paths.AppEXEName())
+            ? u"Remove Auto Start"_s
+            : u"Setup Auto Start"_s;
     startup.Enabled = false;  // tells how things are; it does nothing
 }
 

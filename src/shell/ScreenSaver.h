@@ -10,15 +10,9 @@ class SettingsStore;
 /// settings store says of it.
 namespace shell {
 
-/// The path of the present screen saver; empty for none.
-QString CurrentScreenSaver(const platform::SettingsStore& settings);
-
 /// Twelve times from 10 to 120 minutes, or "Disabled" alone where this program is the screen saver.
 void FillScreenSaverMenu(MenuArray& menu, const platform::SettingsStore& settings,
                          const QString& appPath);
-
-/// Whether a program of that value name starts with the logon.
-bool IsInRunKey(const platform::SettingsStore& settings, const QString& name);
 
 /// Turns the caption to "Disable Auto Start" (Tag "1") where the program starts with the logon, and
 /// to "Enable Auto Start" (Tag "0") else.

@@ -45,6 +45,12 @@ void UserLists::SaveAutoStartList() const {
     }
 }
 
+// Raw: a comma in a name begins no list of choices.
+void UserLists::SetAutoStart(const QString& name, bool on) const {
+    mduLib::PutPropertyRaw(name, on ? name : QString(), program_.Module.AutoStartList);
+    SaveAutoStartList();
+}
+
 void UserLists::ForgetAutoStart(const QString& name) const {
     if (!mduLib::GetPropertyRaw(name, program_.Module.AutoStartList).isEmpty()) {
         SetAutoStartEntry(program_.Module.AutoStartList, {}, name, true);

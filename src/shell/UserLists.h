@@ -29,6 +29,9 @@ public:
     /// A failure is told.
     void SaveAutoStartList() const;
 
+    /// Lets the clock of a zone open by itself at the next start, or not, and saves that.
+    void SetAutoStart(const QString& name, bool on) const;
+
     /// A zone that is gone does not start by itself any more; its name stays in the file.
     void ForgetAutoStart(const QString& name) const;
 

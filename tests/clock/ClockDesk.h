@@ -15,6 +15,8 @@ struct FakeShell final : IShell {
     QStringList Boxes;  ///< each as "title: text"
     int Colour = 0x804020;
     int Helps = 0;
+    std::vector<ShellWindow> Opened;
+    QStringList AutoStarts;  ///< each as "zone on" or "zone off"
     void ShowStatusMsg(const QString& text) override { Messages += text; }
     int ShowMsgbox(const QString& text, int, const QString& title) override {
         Boxes += title + u": "_s + text;
@@ -29,6 +31,10 @@ struct FakeShell final : IShell {
     QString Setting(const QString&) const override { return {}; }
     QString RemoveZone(const QString&) override { return {}; }
     void ShowClockHelp() override { ++Helps; }
+    void OpenWindow(ShellWindow window) override { Opened.push_back(window); }
+    void SetAutoStart(const QString& name, bool on) override {
+        AutoStarts += name + (on ? u" on"_s : u" off"_s);
+    }
 };
 
 /// A frame of the shell with nothing in it.

@@ -38,4 +38,10 @@ struct FakeShell final : IShell {
     QString Setting(const QString&) const override { return {}; }
     QString RemoveZone(const QString&) override { return {}; }
     void ShowClockHelp() override { Log += QStringLiteral("clock help"); }
+    void OpenWindow(ShellWindow window) override {
+        Log += QStringLiteral("open window %1").arg(static_cast<int>(window));
+    }
+    void SetAutoStart(const QString& name, bool on) override {
+        Log += QStringLiteral("auto start %1 %2").arg(name).arg(on);
+    }
 };

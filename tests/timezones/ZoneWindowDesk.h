@@ -47,6 +47,8 @@ struct ZoneShell final : IShell {
         return Remove ? Remove(name) : QString();
     }
     void ShowClockHelp() override {}
+    void OpenWindow(ShellWindow) override {}
+    void SetAutoStart(const QString&, bool) override {}
 
     QStringList Removed;
     std::function<QString(const QString& name)> Remove;

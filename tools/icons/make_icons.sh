@@ -1,5 +1,6 @@
 #!/bin/bash
-# Draws the pictures of the shell as SVG: the buttons of the toolbar and the frames of the eye.
+# Draws the pictures of the shell as SVG: the buttons of the toolbar, those of them that the menu of
+# a clock has of its own, and the frames of the eye.
 #
 #   tools/icons/make_icons.sh [FOLDER]
 #
@@ -9,7 +10,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 folder=${1:-data/Images}
-mkdir -p "$folder/Toolbar" "$folder/Shell"
+mkdir -p "$folder/Toolbar" "$folder/Menu" "$folder/Shell"
 
 # Of middling lightness, so that they stand out from a light desktop and from a dark one.
 ink='#3f74be' paper='#eef4fc' amber='#de8000' green='#2b9c56' red='#d9453b'
@@ -30,6 +31,13 @@ Button() {
     local tag=$1
     shift
     printf '%s\n' "$@" | Frame "$folder/Toolbar/$tag.svg" 48 48 4
+}
+
+# Entry NAME SHAPE...: for the menu of a clock, which takes its other pictures from the toolbar's.
+Entry() {
+    local name=$1
+    shift
+    printf '%s\n' "$@" | Frame "$folder/Menu/$name.svg" 48 48 4
 }
 
 # Stroke COLOUR PATH, Fill COLOUR PATH, Box FILL STROKE X Y WIDTH HEIGHT
@@ -105,6 +113,29 @@ Button Help "$(Disc "$ink" "$ink" 24 24 18)" \
     "$(Stroke '#ffffff' 'M17 19A7 7 0 1 1 27.5 25C25 26.5 24 27.5 24 29.5M24 36h.1')"
 Button Exit "$(Stroke "$ink" 'M26 6H8V42H26')" \
     "$(Stroke "$red" 'M20 24H42M34 15L43 24L34 33')"
+
+Entry Clocks "$(Disc "$paper" "$ink" 24 24 18)" "$(Stroke "$ink" 'M24 14V24')" \
+    "$(Stroke "$amber" 'M24 24L33 29')"
+Entry Style "$(Fill "$paper" 'M20 28L28 34L18 44H6Q12 40 12 34Q14 28 20 28Z')" \
+    "$(Stroke "$ink" 'M20 28L40 6L44 10L28 34')" \
+    "$(Stroke "$amber" 'M20 28Q14 28 12 34Q12 40 6 44H18L28 34Z')"
+Entry Window "$(Window 4 8 40 32 "$ink")"
+Entry Position "$(Window 14 16 20 18 "$ink")" \
+    "$(Stroke "$amber" 'M4 14V4H14M34 4H44V14M44 34V44H34M14 44H4V34')"
+Entry Colour "$(Disc "$paper" "$ink" 24 24 18)" "$(Disc "$red" "$red" 17 19 3)" \
+    "$(Disc "$green" "$green" 30 17 3)" "$(Disc "$amber" "$amber" 32 29 3)"
+Entry Country "$(Fill "$amber" 'M12 8H42L34 18L42 28H12Z')" \
+    "$(Stroke "$amber" 'M12 8H42L34 18L42 28H12')" "$(Stroke "$ink" 'M10 4V44')"
+Entry Details "$(Box "$paper" "$ink" 8 4 32 40)" "$(Stroke "$ink" 'M16 14H32M16 24H32')" \
+    "$(Stroke "$amber" 'M16 34H26')"
+Entry "Screen Saver" "$(Box "$paper" "$ink" 4 6 40 28)" "$(Stroke "$ink" 'M24 34V42M14 42H34')" \
+    "$(Fill "$amber" 'M27 12A8 8 0 1 0 32 25A9 9 0 0 1 27 12Z')"
+Entry About "$(Disc "$paper" "$ink" 24 24 18)" "$(Stroke "$amber" 'M24 23V33')" \
+    "$(Stroke "$amber" 'M24 15h.1')"
+Entry Save "$(Box "$paper" "$ink" 6 6 36 36)" "$(Fill "$ink" 'M14 6H32V18H14Z')" \
+    "$(Stroke "$amber" 'M15 31H33')"
+Entry "Save As" "$(Box "$paper" "$ink" 6 6 36 36)" "$(Fill "$ink" 'M14 6H32V18H14Z')" \
+    "$(Sign "$green" 'M24 26V38M18 32H30')"
 
 # The eye looks to the left, to the right, and blinks.
 Eye() { Frame "$folder/Shell/eye-$1.svg" 24 16 1.8; }

@@ -3,6 +3,7 @@
 #include <qdrawutil.h>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
@@ -117,6 +118,10 @@ Qt::WindowFlags FlagsOf(const ClockFrame& frame) {
 ClockFrame::ClockFrame(QMdiArea* area) : ground_(area->viewport()), place_(*this, *area) {
     setStyle(StyleOf(area));
     setWindowFlags(FlagsOf(*this));
+    // Ctrl+W is a key of the clock.
+    for (QAction* action : systemMenu()->actions()) {
+        action->setShortcuts(QList<QKeySequence>());
+    }
     ground_->installEventFilter(this);
 }
 

@@ -7,7 +7,9 @@
 #include <QPixmap>
 #include <QToolTip>
 
+#include "clock/ClockKeys.h"
 #include "drawing/TitleEdit.h"
+#include "foundation/Shortcuts.h"
 
 namespace clockcore {
 
@@ -58,6 +60,25 @@ bool IsPlain(const QKeyEvent& event) {
     return others == Qt::NoModifier || others == Qt::ShiftModifier;
 }
 
+/// The menu key, and Shift+F10 in its place.
+bool IsMenuKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Menu ||
+           (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
+
+/// The modifiers as the list of shortcuts counts them.
+int ShiftState(const QKeyEvent& event) {
+    constexpr std::pair<Qt::KeyboardModifier, int> bits[] = {
+        {Qt::ShiftModifier, mduUILib::KeyShift::Shift},
+        {Qt::ControlModifier, mduUILib::KeyShift::Ctrl},
+        {Qt::AltModifier, mduUILib::KeyShift::Alt}};
+    int state = 0;
+    for (const auto& [modifier, bit] : bits) {
+        state |= event.modifiers().testFlag(modifier) ? bit : 0;
+    }
+    return state;
+}
+
 }  // namespace
 
 bool ClockInput::PressKey(const QKeyEvent& event) {
@@ -73,7 +94,11 @@ bool ClockInput::PressKey(const QKeyEvent& event) {
         calculator_.BeginInput();
         return true;
     }
-    return false;
+    if (IsMenuKey(event)) {
+        clicks_.ShowMenu({}, form_.mapToGlobal(form_.rect().center()));
+        return true;
+    }
+    return clicks_.PressKey(KeyCodeOf(event.key()), ShiftState(event));
 }
 
 QPointF ClockInput::SurfacePoint(const QPoint& position) const {
@@ -111,6 +136,16 @@ bool ClockInput::PressMouse(const QMouseEvent& event) {
         return true;
     }
     return false;
+}
+
+bool ClockInput::DoubleClickMouse(const QMouseEvent& event) {
+    const bool onGround =
+        PartAt(controls_, SurfacePoint(event.position().toPoint())).Part == ClockPart::Face;
+    if (event.button() != Qt::LeftButton || !onGround || !form_.isEnabled()) {
+        return false;
+    }
+    clicks_.DoubleClickGround();
+    return true;
 }
 
 void ClockInput::ShowMenu(const QContextMenuEvent& event) {

@@ -25,7 +25,8 @@ public:
         : form_(form), data_(data), controls_(controls), calculator_(calculator), clicks_(clicks) {}
 
     /// Tab on a calculator begins the typing of a time; from then on keys edit its lines, until one
-    /// ends it (Esc). A key with Ctrl, Alt or Meta is left to the window.
+    /// ends it (Esc). The menu key and Shift+F10 open the menu of the clock; all other keys are
+    /// those of `ClockKeys`.
     bool PressKey(const QKeyEvent& event);
     /// Tab belongs to the calculator; elsewhere it moves the focus.
     bool TakesTab() const { return data_.IsCalculator(); }
@@ -36,6 +37,8 @@ public:
     /// The left button on the speaker or on an action. With Ctrl held a press on the speaker is
     /// left to those who drag it.
     bool PressMouse(const QMouseEvent& event);
+    /// The left button on nothing but the ground toggles between maximised and normal.
+    bool DoubleClickMouse(const QMouseEvent& event);
     /// Shows the menu of the part that was clicked, or that of a disabled clock.
     void ShowMenu(const QContextMenuEvent& event);
     /// Shows the hint of what lies above at that point. @return false where there is none

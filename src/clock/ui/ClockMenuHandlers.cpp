@@ -1,7 +1,6 @@
 #include "clock/ui/ClockMenuHandlers.h"
 
 #include "clock/ui/ActionMenu.h"
-#include "clock/ui/LookMenu.h"
 #include "clock/ui/MenuEntries.h"
 #include "clock/ui/SpeakerMenu.h"
 #include "drawing/StockPictures.h"
@@ -26,7 +25,7 @@ void ClockMenuHandlers::ShowMenu(const ClockHit& hit, const QPoint& globalPositi
             return (this->*menu.Show)(globalPosition);
         }
     }
-    ShowFormMenu(globalPosition);
+    parts_.Popup.FormRightClick(globalPosition);
 }
 
 void ClockMenuHandlers::ClickAction() {
@@ -56,7 +55,7 @@ void ClockMenuHandlers::ShowMessageMenu(const QPoint& globalPosition) {
 
 void ClockMenuHandlers::ShowDisabledMenu(const QPoint& globalPosition) {
     QMenu* menu = NewMenu(u"DisabledMenu"_s);
-    AddEntry(*menu, u"Enable Clock"_s, [this] { parts_.Settings.Enable(); });
+    AddEntry(*menu, u"Enable Clock"_s, [this] { parts_.Settings.SetEnabled(true); });
     menu->popup(globalPosition);
 }
 
@@ -88,37 +87,6 @@ void ClockMenuHandlers::ShowSpeakerMenu(const QPoint& globalPosition) {
                      [this](int entry) { parts_.Settings.SetVoice(entry); },
                      [this] { parts_.Settings.PutSpeakerPosition(); }})
         ->popup(globalPosition);
-}
-
-void ClockMenuHandlers::ShowFormMenu(const QPoint& globalPosition) {
-    parts_.Files.MakeCurrent();
-    MakeLookMenu(
-        &parts_.Form, GetClockType(data_.Properties()), parts_.Styles.Names(),
-        {[this](ClockKind kind) { parts_.Look.SetClocks(kind); },
-         [this](const QString& name) { ChooseStyle(name); },
-         [this](const QString& name) { ChooseColour(name); },
-         [this] { parts_.Look.SaveCurrentStyle(); }, [this] { parts_.Dialogs.SaveStyleAs(); },
-         [this] { ShowHelp(); }, [this] { parts_.Window.CloseClock(); }})
-        ->popup(globalPosition);
-}
-
-void ClockMenuHandlers::ChooseStyle(const QString& name) {
-    parts_.Dialogs.SetClockStyle(name == u"More"_s ? name
-                                                   : program_.Module.Paths.StylesFolder + name);
-}
-
-void ClockMenuHandlers::ChooseColour(const QString& name) {
-    if (mduUILib::IsCustomColour(name)) {
-        parts_.Dialogs.PickWindowBackColour();
-    } else {
-        parts_.Look.SetWindowBackColour({}, name);
-    }
-}
-
-void ClockMenuHandlers::ShowHelp() {
-    if (parts_.Screen.Shell() != nullptr) {
-        parts_.Screen.Shell()->ShowClockHelp();
-    }
 }
 
 }  // namespace clockcore

@@ -3,10 +3,9 @@
 #include <QWidget>
 
 #include "clock/ClockClicks.h"
-#include "clock/LookDialogs.h"
+#include "clock/ClockKeys.h"
 #include "clock/MenuSettings.h"
-#include "clock/StyleFiles.h"
-#include "clock/ui/WidgetScreen.h"
+#include "clock/ui/FormPopup.h"
 #include "foundation/Program.h"
 #include "timers/ActionList.h"
 
@@ -14,28 +13,25 @@ class QMenu;
 
 namespace clockcore {
 
-/// The pop-up menus on the parts of a clock: each is made at the moment of opening, and its entries
-/// go to `MenuSettings` (one property), `ClockLook` (the look as a whole), `LookDialogs` (with a
-/// question first) or to the part itself. A further menu needs a part in `ClockHit`, a row in
+/// What comes of clicks and keys on a clock. The pop-up menus on its parts are each made at the
+/// moment of opening, and their entries go to `MenuSettings` (one property) or to the part itself;
+/// that of the clock is `FormPopup`. A further menu needs a part in `ClockHit`, a row in
 /// `ShowMenu`, and a function that shows it.
 class ClockMenuHandlers final : public ClockMenus, public ClockClicks {
 public:
     /// What the menus show and command. All of it outlives the menus.
     struct Parts {
         QWidget& Form;  ///< the parent of the menus
-        WidgetScreen& Screen;
-        ClockWindow& Window;
         mduUILib::ClockControls& Controls;
         drawing::Canvas& Canvas;
-        ClockFiles& Files;
-        const StyleFiles& Styles;
-        ClockLook& Look;
-        LookDialogs& Dialogs;
         MenuSettings& Settings;
         timers::ClockMessages& Messages;
         timers::ActionList& Actions;
         speech::SpeakerVoice& Voice;
         speech::SpokenTime& Spoken;
+        FormPopup& Popup;
+        FormCommands& Commands;
+        ClockKeys& Keys;
     };
 
     ClockMenuHandlers(const ClockData& data, const Program& program, const Parts& parts)
@@ -48,8 +44,10 @@ public:
     /// Speaks the action that counts down; its mark shows that for as long as the voice speaks.
     void ClickAction() override;
     QString SpeakerHint() const override { return parts_.Voice.HintText(); }
-    /// Opens the menu of that part, or that of the clock for a part without one. Each kind of menu has an object name for those who look from
-    /// outside: "FormPopup", "MessageMenu", and so on.
+    void DoubleClickGround() override { parts_.Commands.ToggleMaximised(); }
+    bool PressKey(int code, int shift) override { return parts_.Keys.ClockKeyDown(code, shift); }
+    /// Opens the menu of that part, or that of the clock for a part without one. Each kind of menu
+    /// has an object name for those who look from outside: "FormPopup", "MessageMenu", and so on.
     void ShowMenu(const ClockHit& hit, const QPoint& globalPosition) override;
     /// A single entry, "Enable Clock".
     void ShowDisabledMenu(const QPoint& globalPosition) override;
@@ -57,19 +55,11 @@ public:
 private:
     /// An empty menu of the form, which deletes itself when it closes.
     QMenu* NewMenu(const QString& name);
-    /// Of the look. The clock's file becomes the current one first.
-    void ShowFormMenu(const QPoint& globalPosition);
     void ShowSpeakerMenu(const QPoint& globalPosition);
     void ShowActionMenu(const QPoint& globalPosition);
     void ShowMessageMenu(const QPoint& globalPosition);
     /// Whole minutes until the action runs, below 0 when it is late; 0 without a deadline.
     int MinutesLeft() const;
-    /// A name of `StyleFiles::Names`, or "More", which asks for a file.
-    void ChooseStyle(const QString& name);
-    /// A colour's name, or "Custom", which asks for a colour.
-    void ChooseColour(const QString& name);
-    /// Nothing without a shell.
-    void ShowHelp();
 
     const ClockData& data_;
     Program program_;

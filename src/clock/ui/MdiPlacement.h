@@ -49,7 +49,7 @@ public:
 
     /// An entry of the position menu: each word of its caption acts by itself. "Centre" and
     /// "Auto Size" store -1 in the clock's properties.
-    void MoveTo(const QString& caption);
+    void MoveTo(const QString& caption) override;
 
     void SetWindowRgn(const QRegion& outline) override;
     QPoint SurfaceOffset() const override;
@@ -69,7 +69,7 @@ public:
     std::optional<QRectF> PlaceToStore() const override;
     /// Rounded to logical pixels.
     void SetOuterRect(const QRectF& twips);
-    void SetOuterSize(const QSizeF& twips);
+    void SetOuterSize(const QSizeF& twips) override;
 
     /// Null for a clock that stands alone, and once the toolkit has deleted the frame.
     ClockFrame* Frame() const { return frame_; }

@@ -20,9 +20,7 @@ public:
         : widget_(widget), area_(area), shell_(shell) {}
 
     void SetShell(IShell* shell) { shell_ = shell; }
-    /// Null for a clock without a shell. One can have a shell and yet stand alone, as the clock of
-    /// a script does.
-    IShell* Shell() const { return shell_; }
+    IShell* Shell() const override { return shell_; }
 
     QSize Size() const override { return widget_.size(); }
     double DevicePixelRatio() const override { return widget_.devicePixelRatioF(); }

@@ -16,6 +16,7 @@
 #include "clock/StyleFiles.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
+#include "clock/ui/FormPopup.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
 #include "clock/ui/WidgetScreen.h"
@@ -119,6 +120,11 @@ public:
     /// Turns the clock backward: stores the property and draws nothing itself.
     void SetBackward() { look_.SetBackward(); }
 
+    /// Fills `FormPopup` and opens it at the mouse.
+    void FormRightClick() { popup_.FormRightClick(QCursor::pos()); }
+    /// Shows the text of `lblClock` where the point, in device pixels of the surface, lies on it.
+    void RightClick(double x, double y) { popup_.RightClick({x, y}); }
+
     /// Gives the zone's record, the state and the controls to those who look from outside.
     const clockcore::ClockData& Data() const { return data_; }
     const mduUILib::ClockControls& Controls() const { return controls_; }
@@ -149,11 +155,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    /// Hints, and the right click on a disabled clock.
+    /// Hints, keys, the double click, and the right click on a disabled clock.
     bool event(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     /// Tab belongs to the calculator.
     bool focusNextPrevChild(bool next) override;
@@ -209,6 +214,10 @@ private:
     clockcore::ClockLook look_;
     clockcore::LookDialogs dialogs_;
     clockcore::MenuSettings settings_;
+    clockcore::ZoneOnClock zones_;
+    clockcore::FormCommands commands_;
+    clockcore::FormPopup popup_;
+    clockcore::ClockKeys keys_;
     clockcore::ClockMenuHandlers menus_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;

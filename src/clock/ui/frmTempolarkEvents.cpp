@@ -48,6 +48,15 @@ bool frmTempolark::event(QEvent* event) {
         event->accept();
         return true;
     }
+    // A disabled clock's come from the shell.
+    if (event->type() == QEvent::KeyPress && input_.PressKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonDblClick &&
+        input_.DoubleClickMouse(*static_cast<QMouseEvent*>(event))) {
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         if (!input_.ShowToolTip(*static_cast<QHelpEvent*>(event))) {
             event->ignore();
@@ -55,12 +64,6 @@ bool frmTempolark::event(QEvent* event) {
         return true;
     }
     return QWidget::event(event);
-}
-
-void frmTempolark::keyPressEvent(QKeyEvent* event) {
-    if (!input_.PressKey(*event)) {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 void frmTempolark::mouseMoveEvent(QMouseEvent* event) {

@@ -1,5 +1,6 @@
 #include "shell/ui/ClockArea.h"
 
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QScrollBar>
@@ -16,6 +17,13 @@ void ClockArea::SetPicture(const QPixmap& picture) {
     picture_ = picture;
     scaled_ = {};
     viewport()->update();
+}
+
+// By its own handler alone: what it leaves would come back here from its parents.
+bool ClockArea::GiveKeyToDisabled(QKeyEvent* event) {
+    const QMdiSubWindow* front = activeSubWindow();
+    QObject* clock = front != nullptr && !front->isEnabled() ? front->widget() : nullptr;
+    return clock != nullptr && clock->event(event);
 }
 
 void ClockArea::paintEvent(QPaintEvent* event) {

@@ -23,6 +23,9 @@ public:
 
     /// The child window in front; null when there is none.
     IForm* ActiveChild() const;
+    /// Gives a key to the child in front, where that is disabled and so can't have the focus.
+    /// @return whether the key meant something to it
+    bool GiveKeyToDisabled(QKeyEvent* event);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

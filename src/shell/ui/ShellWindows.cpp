@@ -35,9 +35,24 @@ void ShellWindows::AddTo(shell::MenuCommands& commands) {
     commands.Handle(u"Properties"_s, [this] { ShowCentralProperties(false); });
     commands.Handle(u"ActiveProperties"_s, [this] { OpenProperties(); });
     commands.Handle(u"Help"_s, [this] { ShowHelp(); });
-    commands.Handle(u"About"_s, [this] {
-        ShowAboutBox(&owner_.Window, mduTimeZones::EditionText(program_.Services.Zones.Edition()));
-    });
+    commands.Handle(u"About"_s, [this] { ShowAbout(); });
+}
+
+void ShellWindows::Open(ShellWindow window) {
+    switch (window) {
+        case ShellWindow::Properties:
+            return OpenProperties();
+        case ShellWindow::TimeZones:
+            return OpenTimeZones();
+        case ShellWindow::Shortcuts:
+            return OpenShortcuts();
+        case ShellWindow::About:
+            return ShowAbout();
+    }
+}
+
+void ShellWindows::ShowAbout() {
+    ShowAboutBox(&owner_.Window, mduTimeZones::EditionText(program_.Services.Zones.Edition()));
 }
 
 // The property window comes later; what it will read is laid out for it.

@@ -40,9 +40,11 @@ public:
     /// The help of the shell, or of the file @p name; the window in front tells the page.
     void ShowHelp(const QString& name = {});
     void ShowClockHelp();
+    void Open(ShellWindow window);  ///< one of them, for a clock that asks for it
 
 private:
     void OpenHelp(const QString& name, int otherwise);
+    void ShowAbout();
     bool ShowOpenTimeZones();
 
     Program program_;

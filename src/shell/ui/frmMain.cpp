@@ -161,6 +161,10 @@ void frmMain::ShowClockHelp() {
     windows_->ShowClockHelp();
 }
 
+void frmMain::OpenWindow(ShellWindow window) {
+    windows_->Open(window);
+}
+
 int frmMain::ShowMsgbox(const QString& text, int flags, const QString& title) {
     return program_.Services.Dialog.MessageBox(text, flags, title);
 }
@@ -210,6 +214,12 @@ void frmMain::SaveWindowPlacement() {
     }
     settings_.WriteSettings();
     buttons_->SaveToolbarLayout();
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    if (!area_->GiveKeyToDisabled(event)) {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void frmMain::changeEvent(QEvent* event) {

@@ -103,11 +103,15 @@ public:
     QString Setting(const QString& name) const override { return settings_.Setting(name); }
     QString RemoveZone(const QString& name) override { return zones_.RemoveZone(name); }
     void ShowClockHelp() override;
+    void OpenWindow(ShellWindow window) override;
+    void SetAutoStart(const QString& name, bool on) override { lists_.SetAutoStart(name, on); }
 
 protected:
     /// Closes all clocks, then saves the lists, the settings and the place of the window.
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    /// A key that nobody has taken belongs to a disabled clock in front.
+    void keyPressEvent(QKeyEvent* event) override;
     /// Of the area's inside: the header follows its size, and a right click opens the menu of
     /// windows.
     bool eventFilter(QObject* watched, QEvent* event) override;

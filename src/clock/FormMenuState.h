@@ -1,0 +1,25 @@
+#pragma once
+
+#include "clock/ClockData.h"
+#include "clock/FormMenu.h"
+#include "foundation/Program.h"
+
+namespace clockcore {
+
+/// What only the window of a clock knows.
+struct FormWindowFacts {
+    bool IsMDIChild = false;
+    bool IsEnabled = true;
+    int WindowState = 0;  ///< 0 normal, 1 minimised, 2 maximised
+};
+
+/// The name under which a clock that stands alone starts with the user's logon.
+QString RunName(const ClockData& data);
+
+/// Looks up what `FormPopup` shows: the clock's properties, the files of the folders of zones and
+/// styles, those used last first and ten at most, the lists and the settings. Nothing is kept, so
+/// that the menu is right at each opening.
+FormMenuState ReadFormMenuState(const Program& program, const ClockData& data,
+                                const FormWindowFacts& window);
+
+}  // namespace clockcore

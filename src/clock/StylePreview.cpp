@@ -1,0 +1,84 @@
+#include "clock/StylePreview.h"
+
+#include <algorithm>
+
+#include "foundation/PropertyLookup.h"
+#include "foundation/TextHelpers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+namespace {
+
+/// How the names of the keys begin that are not of the face.
+constexpr QLatin1StringView Others[] = {
+    "Enable"_L1,          "Stay Time"_L1,    "Auto Background"_L1, "Clock Name"_L1,
+    "Window Top"_L1,      "Window Left"_L1,  "Window Width"_L1,    "Window Height"_L1,
+    "Window State"_L1,    "Window Open"_L1,  "Time Zone S"_L1,     "Time Zone Daylight"_L1,
+    "Time Zone Rules"_L1, "Time Zone Id"_L1, "Hour Sound"_L1,      "Second Sound"_L1,
+    "Timer"_L1,           "Late Timers"_L1,  "Music"_L1,           "Message"_L1,
+    "Speak"_L1,           "Speech"_L1,
+};
+
+/// The keys of the frame: to change them a window of the desktop is made anew, from under the menu.
+constexpr QLatin1StringView Frame[] = {"Window Border"_L1, "Window Title Bar"_L1,
+                                       "Window Shape"_L1};
+
+template <class Names>
+bool BeginsAsOneOf(const QString& name, const Names& names) {
+    return std::any_of(std::begin(names), std::end(names), [&name](QLatin1StringView each) {
+        return name.startsWith(each, Qt::CaseInsensitive);
+    });
+}
+
+}  // namespace
+
+void StylePreview::Show(const QString& style) {
+    QString problem;
+    const std::optional<ClockProperties> look =
+        styles_.Peek(program_.Module.Paths.StylesFolder + style + u".ini"_s, problem);
+    if (!look) {
+        screen_.ShowStatus(problem);
+        End();
+        return;
+    }
+    TakeBack();
+    Try(*look);
+    look_.ApplyFace();
+}
+
+void StylePreview::End() {
+    if (!tried_.empty() && data_.State != ClockState::Closing) {
+        TakeBack();
+        look_.ApplyFace();
+    }
+}
+
+void StylePreview::Try(const ClockProperties& style) {
+    for (int row = 1; row <= style.UpperBound(); ++row) {
+        const QString name = style[row].Name.trimmed();
+        const bool known = mduLib::FindPropertyRow(name, data_.Properties()) > 0;
+        if (name.isEmpty() || !known || !MayTry(name)) {
+            continue;
+        }
+        const QString own = mduLib::GetPropertyRaw(name, data_.Properties());
+        mduLib::PutProperty(name, mduLib::RowFirstField(row, style), data_.EditProperties());
+        tried_.push_back({name, own, mduLib::GetPropertyRaw(name, data_.Properties())});
+    }
+}
+
+void StylePreview::TakeBack() {
+    for (auto each = tried_.rbegin(); each != tried_.rend(); ++each) {
+        if (mduLib::GetPropertyRaw(each->Name, data_.Properties()) == each->Shown) {
+            mduLib::PutPropertyRaw(each->Name, each->Own, data_.EditProperties());
+        }
+    }
+    tried_.clear();
+}
+
+bool StylePreview::MayTry(const QString& name) const {
+    return !BeginsAsOneOf(name, Others) && (screen_.IsMDIChild() || !BeginsAsOneOf(name, Frame));
+}
+
+}  // namespace clockcore

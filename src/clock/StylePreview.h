@@ -1,0 +1,52 @@
+#pragma once
+
+#include <vector>
+
+#include "clock/ClockData.h"
+#include "clock/ClockLook.h"
+#include "clock/StyleFiles.h"
+#include "foundation/Program.h"
+
+namespace clockcore {
+
+/// Shows a style on a clock for as long as its name is highlighted in the menu. It changes the
+/// properties in memory, and only those of the face: nothing is written, and zone, place and size,
+/// timers, messages, voice and music stay as they are.
+///
+///     preview.Show(u"Oak"_s);
+///     preview.Show(u"Elm"_s);  // in the place of the first
+///     preview.End();           // the clock looks as it did before
+class StylePreview {
+public:
+    StylePreview(ClockData& data, const Program& program, const StyleFiles& styles,
+                 ClockScreen& screen, ClockLook& look)
+        : data_(data), program_(program), styles_(styles), screen_(screen), look_(look) {}
+
+    /// Shows the style of that name in the folder of styles, in the place of one that is shown
+    /// already. A file that is gone or is no style is told in the status bar; the clock then has
+    /// its own look.
+    void Show(const QString& style);
+    /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
+    /// else has changed meanwhile stays.
+    void End();
+
+private:
+    /// A key that has another value for now; both are raw values, with their choices.
+    struct Tried {
+        QString Name;
+        QString Own;
+        QString Shown;
+    };
+    void TakeBack();
+    void Try(const ClockProperties& style);
+    bool MayTry(const QString& name) const;
+
+    ClockData& data_;
+    Program program_;
+    const StyleFiles& styles_;
+    ClockScreen& screen_;
+    ClockLook& look_;
+    std::vector<Tried> tried_;
+};
+
+}  // namespace clockcore

@@ -1,0 +1,39 @@
+#include "clock/ui/FormPopup.h"
+
+#include "clock/FormMenuState.h"
+#include "clock/MenuIcons.h"
+#include "clock/ui/MenuView.h"
+#include "platform/Dialogs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+MenuNode FormPopup::Fill() {
+    const FormMenuState state = ReadFormMenuState(program_, data_,
+                                                  {.IsMDIChild = parts_.Window.IsMDIChild(),
+                                                   .IsEnabled = parts_.Window.IsEnabled(),
+                                                   .WindowState = parts_.Placement.WindowState()});
+    MenuNode menu =
+        MakeFormMenu(state, {[this](const FormEntry& entry) { parts_.Commands.Run(entry); },
+                             [this](const QString& style) { preview_.Show(style); },
+                             [this] { preview_.End(); }});
+    SetMenuIcon(menu, program_);
+    return menu;
+}
+
+void FormPopup::FormRightClick(const QPoint& globalPosition) {
+    parts_.Files.MakeCurrent();
+    menu_ = MakeMenu(&form_, Fill());
+    menu_->popup(globalPosition);
+}
+
+void FormPopup::RightClick(const QPointF& point) const {
+    constexpr int icon = 1;
+    const mduUILib::Control& label = controls_.lblClock(1);
+    if (label.Rect().contains(point)) {
+        program_.Services.Dialog.PostMessageBox(label.Tag, icon, u"Right Click"_s);
+    }
+}
+
+}  // namespace clockcore
