@@ -1,5 +1,10 @@
 #include "clock/ClockHit.h"
 
+#include <cmath>
+
+#include "drawing/AnalogueFace.h"
+#include "drawing/DialNumbers.h"
+
 namespace clockcore {
 
 namespace {
@@ -23,16 +28,50 @@ constexpr struct {
     {&mduUILib::ClockControls::imgClockNumber, ClockPart::Spot},
 };
 
+constexpr double HubReach = 20;  // device pixels
+
+/// The label behind a painted number is smaller than the number.
+QRectF ClickArea(const mduUILib::Control& control) {
+    if (!drawing::IsBehindPaintedNumber(control)) {
+        return control.Visible ? control.Rect() : QRectF();
+    }
+    const double around = static_cast<double>(control.Height) / 2;
+    return control.Rect().adjusted(-around, -around, around, around);
+}
+
+/// The number of the first member that takes clicks at a point; nothing where there is none.
+std::optional<int> MemberAt(const mduUILib::ControlArray& array, const QPointF& point) {
+    int number = array.First;
+    for (const mduUILib::Control& control : array.Members) {
+        if (ClickArea(control).contains(point)) {
+            return number;
+        }
+        ++number;
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
     for (const auto& layer : Layers) {
-        const mduUILib::ControlArray& array = controls.*layer.Array;
-        if (const mduUILib::Control* control = ControlAt(array, point)) {
-            return {layer.Part, array.First + static_cast<int>(control - array.Members.data())};
+        if (const auto number = MemberAt(controls.*layer.Array, point)) {
+            return {layer.Part, *number};
         }
     }
     return {};
+}
+
+ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,
+               const QPointF& point) {
+    const ClockHit hit = PartAt(controls, point);
+    if (hit.Part != ClockPart::Face || !data.IsAnalogue() || data.Tag.IsWrapper) {
+        return hit;
+    }
+    const QPointF away =
+        point - drawing::ClockCentre(data.Properties(), scale.width(), scale.height());
+    const bool meet = std::abs(away.x()) <= HubReach && std::abs(away.y()) <= HubReach;
+    return meet ? ClockHit{ClockPart::Hands} : hit;
 }
 
 const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array, const QPointF& point) {

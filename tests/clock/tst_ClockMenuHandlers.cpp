@@ -20,11 +20,15 @@ struct MenuDesk : SettingsDesk {
     clockcore::LookDialogs Dialogs{Form, TheProgram, Data.State, Canvas, Look};
     timers::ActionList Actions{
         {Data.Properties(), Data.Zone, Controls, Speaking, Module, TimerHost}};
+    clockcore::PartMenus OnParts{Data,
+                                 TheProgram,
+                                 {Controls, Parts.TheWindow, Parts.ThePlacement, Canvas, Settings,
+                                  Dialogs, Messages, Voice, Parts.TheSpoken}};
     clockcore::ClockMenuHandlers Menus{
         Data,
         TheProgram,
         {Form, FormScreen, Parts.TheWindow, Controls, Canvas, Files, Styles, Look, Dialogs,
-         Settings, Messages, Actions, Voice, Parts.TheSpoken}};
+         Settings, Messages, Actions, Voice, Parts.TheSpoken, OnParts}};
 
     MenuDesk() {
         Form.resize(200, 150);

@@ -5,6 +5,7 @@
 #include "clock/ClockClicks.h"
 #include "clock/LookDialogs.h"
 #include "clock/MenuSettings.h"
+#include "clock/PartMenus.h"
 #include "clock/StyleFiles.h"
 #include "clock/ui/WidgetScreen.h"
 #include "foundation/Program.h"
@@ -14,10 +15,9 @@ class QMenu;
 
 namespace clockcore {
 
-/// The pop-up menus on the parts of a clock: each is made at the moment of opening, and its entries
-/// go to `MenuSettings` (one property), `ClockLook` (the look as a whole), `LookDialogs` (with a
-/// question first) or to the part itself. A further menu needs a part in `ClockHit`, a row in
-/// `ShowMenu`, and a function that shows it.
+/// What comes of clicks on a clock, and the pop-up menus that show there. The menus of the parts
+/// are those of `PartMenus`; the one of the whole clock goes to `ClockLook` or, with a question
+/// first, to `LookDialogs`.
 class ClockMenuHandlers final : public ClockMenus, public ClockClicks {
 public:
     /// What the menus show and command. All of it outlives the menus.
@@ -36,6 +36,7 @@ public:
         timers::ActionList& Actions;
         speech::SpeakerVoice& Voice;
         speech::SpokenTime& Spoken;
+        const PartMenus& Menus;
     };
 
     ClockMenuHandlers(const ClockData& data, const Program& program, const Parts& parts)
@@ -48,8 +49,8 @@ public:
     /// Speaks the action that counts down; its mark shows that for as long as the voice speaks.
     void ClickAction() override;
     QString SpeakerHint() const override { return parts_.Voice.HintText(); }
-    /// Opens the menu of that part, or that of the clock for a part without one. Each kind of menu has an object name for those who look from
-    /// outside: "FormPopup", "MessageMenu", and so on.
+    /// Opens the menu of that part, or that of the clock for a part without one. Each kind of menu
+    /// has an object name for those who look from outside: "FormPopup", "MessageMenu", and so on.
     void ShowMenu(const ClockHit& hit, const QPoint& globalPosition) override;
     /// A single entry, "Enable Clock".
     void ShowDisabledMenu(const QPoint& globalPosition) override;
@@ -59,11 +60,6 @@ private:
     QMenu* NewMenu(const QString& name);
     /// Of the look. The clock's file becomes the current one first.
     void ShowFormMenu(const QPoint& globalPosition);
-    void ShowSpeakerMenu(const QPoint& globalPosition);
-    void ShowActionMenu(const QPoint& globalPosition);
-    void ShowMessageMenu(const QPoint& globalPosition);
-    /// Whole minutes until the action runs, below 0 when it is late; 0 without a deadline.
-    int MinutesLeft() const;
     /// A name of `StyleFiles::Names`, or "More", which asks for a file.
     void ChooseStyle(const QString& name);
     /// A colour's name, or "Custom", which asks for a colour.

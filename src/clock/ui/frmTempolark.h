@@ -13,6 +13,8 @@
 #include "clock/Face.h"
 #include "clock/LookDialogs.h"
 #include "clock/MenuSettings.h"
+#include "clock/PartMenus.h"
+#include "clock/PropertyRedraw.h"
 #include "clock/StyleFiles.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
@@ -208,7 +210,9 @@ private:
     clockcore::Face face_;
     clockcore::ClockLook look_;
     clockcore::LookDialogs dialogs_;
+    clockcore::PropertyRedraw redraws_;
     clockcore::MenuSettings settings_;
+    clockcore::PartMenus partMenus_;
     clockcore::ClockMenuHandlers menus_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
