@@ -127,7 +127,7 @@ constexpr PartMenuRow Speaker[] = {
 };
 
 constexpr PartMenuRow Flag[] = {
-    {Choices, u"FlagPos", u"Flag Position", u"Flag Position", Redraw::Flag},
+    {.Source = Choices, .Name = u"FlagPos", .Key = u"Flag Position", .Redraws = Redraw::Flag},
 };
 
 // Nothing opens it as long as no clock has an icon in the tray.

@@ -48,6 +48,7 @@ enum class Redraw {
 struct PartMenuRow {
     MenuSource Source = MenuSource::Separator;
     QStringView Name = {};  ///< by which tests and scripts find it: "HourHandColours"
+    /// Of the row; without one the entries of a sub-menu stand in the menu itself.
     QStringView Caption = {};
     QStringView Key = {};  ///< of the property; empty for a group and a command
     Redraw Redraws = Redraw::Nothing;

@@ -45,7 +45,11 @@ std::optional<MenuNode> PartMenus::MenuOf(const ClockHit& hit) const {
         return maker->second(hit);
     }
     const PartMenu* menu = FindPartMenu(hit.Part);
-    return menu != nullptr && IsOffered(hit.Part) ? std::optional(Make(*menu, hit)) : std::nullopt;
+    if (menu == nullptr || !IsOffered(hit.Part)) {
+        return std::nullopt;
+    }
+    MenuNode made = Make(*menu, hit);
+    return made.Children.empty() ? std::nullopt : std::optional(std::move(made));
 }
 
 bool PartMenus::IsOffered(ClockPart part) const {
@@ -74,7 +78,9 @@ MenuNode PartMenus::Make(const PartMenu& menu, const ClockHit& hit) const {
 PartMenus::Nodes PartMenus::MakeRows(std::span<const PartMenuRow> rows, const ClockHit& hit) const {
     Nodes nodes;
     for (const PartMenuRow& row : rows) {
-        if (auto node = MakeRow(row, hit)) {
+        if (row.Source == MenuSource::Choices && row.Caption.isEmpty()) {
+            std::ranges::move(Entries(row), std::back_inserter(nodes));
+        } else if (auto node = MakeRow(row, hit)) {
             nodes.push_back(std::move(*node));
         }
     }

@@ -45,8 +45,8 @@ public:
     /// Until it is set, no menu offers a timer.
     void SetTimeMenu(TimeMenu make) { timeMenu_ = std::move(make); }
 
-    /// The menu of that part; nothing for a part without one, for the local time on a world map,
-    /// and for a calculated time that is no date and time.
+    /// The menu of that part; nothing for a part without one or with nothing to choose, for the
+    /// local time on a world map, and for a calculated time that is no date and time.
     std::optional<MenuNode> MenuOf(const ClockHit& hit) const;
     /// The menu of the clock's icon in the tray.
     MenuNode SystemTrayMenu() const;

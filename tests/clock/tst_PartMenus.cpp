@@ -101,10 +101,6 @@ private Q_SLOTS:
                            u"12"_s, u"14"_s, u"16"_s, u"18"_s, u"20"_s, u"24"_s,
                            u"28"_s, u"32"_s, u"36"_s, u"48"_s, u"60"_s, u"72"_s}
             << QStringList{u"-1"_s};
-        QTest::newRow("FlagPos") << ClockPart::Flag << u"FlagPos"_s
-                                 << QStringList{u"Top right"_s, u"Top left"_s, u"Bottom right"_s,
-                                                u"Bottom left"_s, u"Icon"_s}
-                                 << QStringList{u"Top right"_s};
         QTest::newRow("VoiceMenu") << ClockPart::Speaker << u"VoiceMenu"_s
                                    << QStringList{u"Ann"_s, u"Bob"_s} << QStringList();
     }
@@ -118,6 +114,19 @@ private Q_SLOTS:
         QVERIFY(list != nullptr);
         QTEST(MenuDesk::Captions(list), "captions");
         QTEST(MenuDesk::Ticked(list), "ticked");
+    }
+
+    // They are the whole menu.
+    void TheCornersOfAFlag() {
+        MenuDesk desk;
+        const MenuNode menu = desk.Menu(ClockPart::Flag);
+        QCOMPARE(MenuDesk::Captions(&menu),
+                 QStringList({u"Top right"_s, u"Top left"_s, u"Bottom right"_s, u"Bottom left"_s,
+                              u"Icon"_s}));
+        QCOMPARE(MenuDesk::Ticked(&menu), QStringList{u"Top right"_s});
+        QCOMPARE(menu.Children.front().Name, u"FlagPos"_s);
+        mduLib::PutPropertyRaw(u"Flag Position"_s, QString(), desk.Data.EditProperties());
+        QVERIFY(!desk.Menus.MenuOf({ClockPart::Flag, 1}));
     }
 
     void AnyColourMayBeChosen_data() {

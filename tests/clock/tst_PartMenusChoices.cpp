@@ -89,7 +89,9 @@ private Q_SLOTS:
         if (row.Source == MenuSource::Switch) {
             chosen = u"No"_s;
         }
-        if (node->Children.empty()) {
+        if (row.Caption.isEmpty()) {
+            chosen = WholeDesk::ChooseAnother(menu);
+        } else if (node->Children.empty()) {
             node->Choose();
         } else {
             chosen = WholeDesk::ChooseAnother(*node);

@@ -23,7 +23,10 @@ struct WalkedRow {
 void AddRows(std::vector<WalkedRow>& walk, ClockPart part, std::span<const PartMenuRow> rows,
              const QStringList& above) {
     for (const PartMenuRow& row : rows) {
-        const QStringList path = above + QStringList(row.Caption.toString());
+        QStringList path = above;
+        if (!row.Caption.isEmpty()) {
+            path += row.Caption.toString();
+        }
         AddRows(walk, part, row.Rows, path);
         if (!row.Key.isEmpty()) {
             walk.push_back({part, row, path});
@@ -247,7 +250,8 @@ void tst_PartMenusOnAClock::EveryRowIsSeen() {
     QStringList path = walked.Path;
     QString chosen = walked.Row.Value.toString();
     if (walked.Row.Source != MenuSource::Value) {
-        const auto* list = menu->findChild<QMenu*>(walked.Row.Name.toString());
+        const QMenu* inner = menu->findChild<QMenu*>(walked.Row.Name.toString());
+        const QMenu* list = walked.Row.Caption.isEmpty() ? menu : inner;
         QVERIFY(list != nullptr);
         const auto entries = list->actions();
         const auto other = std::find_if(entries.begin(), entries.end(),
