@@ -16,7 +16,7 @@ enum class ClockKind {
     Digital = 2,
     Calculator = 3,
     AnalogueAndDigital = 4,
-    CalculatorInput = 5,  ///< a calculator while a time is typed into it; no property asks for it
+    CalculatorInput = 5,   ///< a calculator while a time is typed into it; no property asks for it
     CalculatorMessage = 6  ///< a calculator while a timer's message is typed; its lines stand still
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QTime>
 
 namespace timers {
@@ -22,5 +23,8 @@ DialSpot SpotOfTime(const QTime& time);
 ///
 /// A quarter turn and one place further, 181 / 720, is 3:00: the first place of a spot is 1.
 QTime TimeAtTurn(double turn);
+
+/// A time as a dial reads it, "3:05". There is no hour 0: what follows "12:48" is "1:00".
+QString DialText(const QTime& time);
 
 }  // namespace timers

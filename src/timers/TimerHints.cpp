@@ -4,6 +4,7 @@
 
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
+#include "timers/DialSpot.h"
 #include "timers/SystemActions.h"
 #include "timers/TimerFile.h"
 
@@ -17,12 +18,6 @@ constexpr int MinutesOfSpot = 12;
 constexpr int SecondsOfMinute = 60;
 constexpr int AnyYear = 2000;           // a time alone has none
 constexpr qsizetype MostLetters = 200;  // of a message; a hint is no window
-
-// The dial has no hour 0: what follows 12:48 is 1:00.
-QString DialText(const QTime& time) {
-    const int hour = time.hour() % HalfDay;
-    return u"%1:%2"_s.arg(hour == 0 ? HalfDay : hour).arg(time.minute(), 2, 10, QChar(u'0'));
-}
 
 QString OrNone(const QString& text) {
     return text.isEmpty() ? QString(ActionText::None) : text;

@@ -48,6 +48,13 @@ private Q_SLOTS:
         QTEST(timers::TimeAtTurn(places / 720), "time");
     }
 
+    void TimesAsADialReadsThem() {
+        QCOMPARE(timers::DialText({0, 48}), QStringLiteral("12:48"));
+        QCOMPARE(timers::DialText({12, 0}), QStringLiteral("12:00"));
+        QCOMPARE(timers::DialText({13, 5}), QStringLiteral("1:05"));
+        QCOMPARE(timers::DialText({11, 59}), QStringLiteral("11:59"));
+    }
+
     void EachMinuteComesBack() {
         for (int minute = 0; minute < 720; ++minute) {
             const QTime time(minute / 60, minute % 60);

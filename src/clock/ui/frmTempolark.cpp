@@ -70,6 +70,8 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       partMenus_(data_, program,
                  {controls_, window_, placement_, canvas_, settings_, dialogs_, messages_, voice_,
                   spoken_}),
+      timersOnDial_(data_, program,
+                    {*this, controls_, canvas_, host_, calculator_, timers_, actions_, partMenus_}),
       menus_(data_, program,
              {*this, screen_, window_, controls_, canvas_, files_, styles_, look_, dialogs_,
               settings_, messages_, actions_, voice_, spoken_, partMenus_}),
@@ -189,6 +191,7 @@ void frmTempolark::Tick() {
     tick_.Tick();
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
+        timersOnDial_.Follow();
     }
 }
 
@@ -200,6 +203,7 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
         return;
     }
     window_.StopTimer();
+    timersOnDial_.FinishMessage();
     voice_.FallSilent();
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;

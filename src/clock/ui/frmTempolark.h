@@ -20,6 +20,7 @@
 #include "clock/ui/ClockMenuHandlers.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
+#include "clock/ui/TimersOnDial.h"
 #include "clock/ui/WidgetScreen.h"
 #include "drawing/CalculatorLines.h"
 #include "drawing/ClockBackground.h"
@@ -213,6 +214,7 @@ private:
     clockcore::PropertyRedraw redraws_;
     clockcore::MenuSettings settings_;
     clockcore::PartMenus partMenus_;
+    clockcore::TimersOnDial timersOnDial_;
     clockcore::ClockMenuHandlers menus_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
