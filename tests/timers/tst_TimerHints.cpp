@@ -13,6 +13,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("time");
         QTest::addColumn<QString>("text");
         QTest::newRow("over one o'clock") << u"12:48"_s << u"Set timer for 12:48 to 1:00"_s;
+        QTest::newRow("behind midnight") << u"0:12"_s << u"Set timer for 0:12 to 0:24"_s;
         QTest::newRow("within an hour") << u"3:12"_s << u"Set timer for 3:12 to 3:24"_s;
         QTest::newRow("to twelve") << u"11:48"_s << u"Set timer for 11:48 to 12:00"_s;
         QTest::newRow("two digits") << u"9:00"_s << u"Set timer for 9:00 to 9:12"_s;
