@@ -1,6 +1,9 @@
 #include "clock/ClockHit.h"
 
+#include <QLineF>
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "drawing/AnalogueFace.h"
 #include "drawing/DialNumbers.h"
@@ -9,7 +12,7 @@ namespace clockcore {
 
 namespace {
 
-/// The arrays of each part, the upper ones first.
+/// The arrays of each part, the upper ones first. Below them all lie the spots.
 constexpr struct {
     mduUILib::ControlArray mduUILib::ClockControls::*Array;
     ClockPart Part;
@@ -25,7 +28,6 @@ constexpr struct {
     {&mduUILib::ClockControls::lblTimeInput, ClockPart::Input},
     {&mduUILib::ClockControls::lblDigitalNumber, ClockPart::Digits},
     {&mduUILib::ClockControls::lblHour, ClockPart::HourNumber},
-    {&mduUILib::ClockControls::imgClockNumber, ClockPart::Spot},
 };
 
 constexpr double HubReach = 20;  // device pixels
@@ -51,6 +53,30 @@ std::optional<int> MemberAt(const mduUILib::ControlArray& array, const QPointF& 
     return std::nullopt;
 }
 
+/// A spot is small, and a hand trembles: what lies beside it as far as half its side, or this far,
+/// is meant for it.
+constexpr float LeastBeside = 4;  // device pixels
+
+QRectF Reach(const mduUILib::Control& spot) {
+    const qreal beside = std::max(LeastBeside, std::max(spot.Width, spot.Height) / 2);
+    return spot.Rect().adjusted(-beside, -beside, beside, beside);
+}
+
+/// The visible spot that a point is meant for: the nearest that it reaches.
+std::optional<int> SpotAt(const mduUILib::ControlArray& spots, const QPointF& point) {
+    std::optional<int> found;
+    qreal distance = 0;
+    for (int index = spots.First; index < spots.First + spots.Count(); ++index) {
+        const mduUILib::Control& spot = spots(index);
+        const qreal away = QLineF(spot.Rect().center(), point).length();
+        if (spot.Visible && Reach(spot).contains(point) && (!found || away < distance)) {
+            found = index;
+            distance = away;
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
@@ -59,7 +85,8 @@ ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
             return {layer.Part, *number};
         }
     }
-    return {};
+    const std::optional<int> spot = SpotAt(controls.imgClockNumber, point);
+    return spot ? ClockHit{ClockPart::Spot, *spot} : ClockHit{};
 }
 
 ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,

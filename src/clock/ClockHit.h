@@ -33,7 +33,8 @@ struct ClockHit {
 
 /// The part at a point, in device pixels of the surface. Where parts overlap it is the upper one.
 /// Parts that are hidden take no clicks, save the labels behind painted hour numbers, which take
-/// them for these; a point beside all parts, on the surface or off it, is the face.
+/// them for these; a spot takes those a little beside it, too. A point beside all parts, on the
+/// surface or off it, is the face.
 ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
 
 /// The same on a clock that may have hands: what would be its face is that of the hands within 20

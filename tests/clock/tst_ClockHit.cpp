@@ -113,6 +113,34 @@ private Q_SLOTS:
         QCOMPARE(clockcore::PartAt(controls, {85, 5}), (ClockHit{ClockPart::Face, 1}));
     }
 
+    // Two spots of 10 by 10, 4 apart, and a tiny one.
+    void ASpotIsHitALittleBesideIt_data() {
+        QTest::addColumn<QPointF>("point");
+        QTest::addColumn<ClockHit>("hit");
+        QTest::newRow("half its side") << QPointF(15.5, 25) << ClockHit{ClockPart::Spot, 1};
+        QTest::newRow("further") << QPointF(14.5, 25) << ClockHit{};
+        QTest::newRow("below") << QPointF(25, 34.5) << ClockHit{ClockPart::Spot, 1};
+        QTest::newRow("further below") << QPointF(25, 35.5) << ClockHit{};
+        QTest::newRow("nearer to the first") << QPointF(31.5, 25) << ClockHit{ClockPart::Spot, 1};
+        QTest::newRow("nearer to the second") << QPointF(32.5, 25) << ClockHit{ClockPart::Spot, 2};
+        QTest::newRow("tiny") << QPointF(105.5, 101) << ClockHit{ClockPart::Spot, 3};
+        QTest::newRow("beside a tiny one") << QPointF(106.5, 101) << ClockHit{};
+        QTest::newRow("hidden") << QPointF(151, 151) << ClockHit{};
+        QTest::newRow("over another part") << QPointF(17, 17) << ClockHit{ClockPart::Flag, 1};
+    }
+
+    void ASpotIsHitALittleBesideIt() {
+        QFETCH(QPointF, point);
+        mduUILib::ClockControls controls;
+        Put(controls.imgClockNumber(1), 20, 20, 10, 10);
+        Put(controls.imgClockNumber(2), 34, 20, 10, 10);
+        Put(controls.imgClockNumber(3), 100, 100, 2, 2);
+        Put(controls.imgClockNumber(4), 150, 150, 2, 2);
+        controls.imgClockNumber(4).Visible = false;
+        Put(controls.imgFlag(1), 10, 10, 8, 8);
+        QTEST(clockcore::PartAt(controls, point), "hit");
+    }
+
     // As they are painted, the lowest first.
     void EachPartCoversThoseBelow() {
         mduUILib::ClockControls controls;
