@@ -17,6 +17,7 @@ namespace {
 // In logical pixels.
 constexpr double BesideTheBox = 100;  // of the face's width
 constexpr double LeastWidth = 140;
+constexpr double LeastRow = 70;  // of an outline; a narrower one is looked for further up
 constexpr double BoxHeight = 26;
 constexpr double BelowTheBox = 4;
 
@@ -151,7 +152,10 @@ QRectF MessageTyping::Place(int slot) const {
     QRectF place(left, top, width, height);
     place.moveLeft(std::clamp(left, 0.0, face - width));
     place.moveTop(std::clamp(top, 0.0, surface.ScaleHeight() - height));
-    const auto row = parts_.Host.RowInOutline(place.top(), height, width);
+    auto row = parts_.Host.RowInOutline(place.top(), height, width);
+    if (row && row->width() < LeastRow * ratio) {
+        row = parts_.Host.RowInOutline(0, height, LeastRow * ratio);
+    }
     if (row) {
         place.setWidth(std::min(width, row->width()));
         place.moveTop(row->top());

@@ -303,6 +303,25 @@ private Q_SLOTS:
         QCOMPARE(desk.Typing.Place(1), QRectF(110, 96, 80, 26));
     }
 
+    // In the lower corner of a diamond nobody could type.
+    void NotInACornerOfTheOutline_data() {
+        QTest::addColumn<double>("corner");
+        QTest::addColumn<double>("width");
+        QTest::newRow("wide enough") << 70.0 << 70.0;
+        QTest::newRow("too narrow") << 69.0 << 90.0;
+    }
+
+    void NotInACornerOfTheOutline() {
+        QFETCH(double, corner);
+        DialDesk desk;
+        desk.Data.Tag = {ClockKind::Digital, false};
+        desk.Add(u"03:05"_s);
+        desk.Host.Outline = [corner](double top, double height, double) {
+            return top > 0 ? QRectF(100, 150, corner, height) : QRectF(90, 40, 90, height);
+        };
+        QTEST(desk.Typing.Place(1).width(), "width");
+    }
+
     void FollowsItsMark() {
         DialDesk desk;
         desk.Data.Tag = {ClockKind::Analogue, false};

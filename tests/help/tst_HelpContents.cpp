@@ -2,7 +2,9 @@
 #include <QProcess>
 #include <QTest>
 
+#include "clock/DialDesk.h"
 #include "clock/PartMenuCatalogue.h"
+#include "clock/TimerMenus.h"
 #include "clock/ui/LookMenu.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void tellsOfTheClocksMenu();
     void tellsOfTheMenusOfParts_data();
     void tellsOfTheMenusOfParts();
+    void tellsOfTheMenuOfATimer();
     void tellsOfTheZonesMenus();
     void tellsOfEveryProperty_data();
     void tellsOfEveryProperty();
@@ -174,6 +177,23 @@ void tst_HelpContents::tellsOfTheMenusOfParts() {
     AddCaptions(captions, clockcore::PartMenuCatalogue()[static_cast<std::size_t>(number)].Rows);
     QVERIFY(!captions.isEmpty());
     QCOMPARE(Missing(captions, page), QStringList());
+}
+
+void tst_HelpContents::tellsOfTheMenuOfATimer() {
+    DialDesk desk;
+    desk.Add(u"03:05"_s);
+    timers::ActionList actions(desk.Context);
+    QObject clock;
+    clockcore::TimerDialogs dialogs(clock, desk.TheProgram, desk.Dial, actions);
+    clockcore::TimerMenus menus(desk.Data, desk.TheProgram, {desk.Dial, dialogs, actions});
+    const clockcore::MenuNode menu = menus.ImgTimerMenu(1);
+    QStringList captions = {u"Custom"_s, u"None"_s, u"More"_s, u"Remove Permanent Timer"_s};
+    for (clockcore::MenuNode entry : menu.Children) {
+        captions += entry.Caption.remove(u" 03:05"_s);
+    }
+    QCOMPARE(captions.size(), 12);  // this machine has no sound device
+    captions += u"Set Timer Sound"_s;
+    QCOMPARE(Missing(captions, u"common/timers.html"_s), QStringList());
 }
 
 void tst_HelpContents::tellsOfTheZonesMenus() {
