@@ -55,7 +55,7 @@ NeverWaits() {
 asks='\bShowMsgbox\(|\bDialog\.(MessageBox|OpenFile|SaveFile|PickColour)\('
 AsksNobodyInATick() {
     mapfile -t files < <(Sources src | grep -E '^src/(drawing|timers|speech|clock)/' |
-        grep -Ev '^src/clock/LookDialogs\.cpp$')
+        grep -Ev '^src/clock/(Look|Timer)Dialogs\.cpp$')
     Refuse "$asks" "${files[@]}"
 }
 

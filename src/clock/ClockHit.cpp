@@ -1,10 +1,18 @@
 #include "clock/ClockHit.h"
 
+#include <QLineF>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "drawing/AnalogueFace.h"
+#include "drawing/DialNumbers.h"
+
 namespace clockcore {
 
 namespace {
 
-/// The arrays of each part, the upper ones first.
+/// The arrays of each part, the upper ones first. Below them all lie the spots.
 constexpr struct {
     mduUILib::ControlArray mduUILib::ClockControls::*Array;
     ClockPart Part;
@@ -20,19 +28,77 @@ constexpr struct {
     {&mduUILib::ClockControls::lblTimeInput, ClockPart::Input},
     {&mduUILib::ClockControls::lblDigitalNumber, ClockPart::Digits},
     {&mduUILib::ClockControls::lblHour, ClockPart::HourNumber},
-    {&mduUILib::ClockControls::imgClockNumber, ClockPart::Spot},
 };
+
+constexpr double HubReach = 20;  // device pixels
+
+/// The label behind a painted number is smaller than the number.
+QRectF ClickArea(const mduUILib::Control& control) {
+    if (!drawing::IsBehindPaintedNumber(control)) {
+        return control.Visible ? control.Rect() : QRectF();
+    }
+    const double around = static_cast<double>(control.Height) / 2;
+    return control.Rect().adjusted(-around, -around, around, around);
+}
+
+/// The number of the first member that takes clicks at a point; nothing where there is none.
+std::optional<int> MemberAt(const mduUILib::ControlArray& array, const QPointF& point) {
+    int number = array.First;
+    for (const mduUILib::Control& control : array.Members) {
+        if (ClickArea(control).contains(point)) {
+            return number;
+        }
+        ++number;
+    }
+    return std::nullopt;
+}
+
+/// A spot is small, and a hand trembles: what lies beside it as far as half its side, or this far,
+/// is meant for it.
+constexpr float LeastBeside = 4;  // device pixels
+
+QRectF Reach(const mduUILib::Control& spot) {
+    const qreal beside = std::max(LeastBeside, std::max(spot.Width, spot.Height) / 2);
+    return spot.Rect().adjusted(-beside, -beside, beside, beside);
+}
+
+/// The visible spot that a point is meant for: the nearest that it reaches.
+std::optional<int> SpotAt(const mduUILib::ControlArray& spots, const QPointF& point) {
+    std::optional<int> found;
+    qreal distance = 0;
+    for (int index = spots.First; index < spots.First + spots.Count(); ++index) {
+        const mduUILib::Control& spot = spots(index);
+        const qreal away = QLineF(spot.Rect().center(), point).length();
+        if (spot.Visible && Reach(spot).contains(point) && (!found || away < distance)) {
+            found = index;
+            distance = away;
+        }
+    }
+    return found;
+}
 
 }  // namespace
 
 ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
     for (const auto& layer : Layers) {
-        const mduUILib::ControlArray& array = controls.*layer.Array;
-        if (const mduUILib::Control* control = ControlAt(array, point)) {
-            return {layer.Part, array.First + static_cast<int>(control - array.Members.data())};
+        if (const auto number = MemberAt(controls.*layer.Array, point)) {
+            return {layer.Part, *number};
         }
     }
-    return {};
+    const std::optional<int> spot = SpotAt(controls.imgClockNumber, point);
+    return spot ? ClockHit{ClockPart::Spot, *spot} : ClockHit{};
+}
+
+ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,
+               const QPointF& point) {
+    const ClockHit hit = PartAt(controls, point);
+    if (hit.Part != ClockPart::Face || !data.IsAnalogue() || data.Tag.IsWrapper) {
+        return hit;
+    }
+    const QPointF away =
+        point - drawing::ClockCentre(data.Properties(), scale.width(), scale.height());
+    const bool meet = std::abs(away.x()) <= HubReach && std::abs(away.y()) <= HubReach;
+    return meet ? ClockHit{ClockPart::Hands} : hit;
 }
 
 const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array, const QPointF& point) {

@@ -2,6 +2,7 @@
 
 #include <QPointF>
 
+#include "clock/ClockData.h"
 #include "foundation/Controls.h"
 
 namespace clockcore {
@@ -19,7 +20,8 @@ enum class ClockPart {
     Input,   ///< its local time
     Digits,
     HourNumber,  ///< 1 to 60: twelve stands at 60, one at 5
-    Spot         ///< 1 to 60, likewise
+    Spot,        ///< 1 to 60, likewise
+    Hands        ///< where they meet
 };
 
 /// What lies at a point: a part, and its number where it is one of an array.
@@ -30,9 +32,16 @@ struct ClockHit {
 };
 
 /// The part at a point, in device pixels of the surface. Where parts overlap it is the upper one.
-/// Parts that are hidden take no clicks; a point beside all parts, on the surface or off it, is the
-/// face.
+/// Parts that are hidden take no clicks, save the labels behind painted hour numbers, which take
+/// them for these; a spot takes those a little beside it, too. A point beside all parts, on the
+/// surface or off it, is the face.
 ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
+
+/// The same on a clock that may have hands: what would be its face is that of the hands within 20
+/// device pixels of the dial's centre, across and down, the bounds included.
+/// @param scale the size of the surface in device pixels
+ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,
+               const QPointF& point);
 
 /// The first visible member of an array that holds a point, in device pixels of the surface; null
 /// where there is none.

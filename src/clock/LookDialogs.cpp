@@ -13,11 +13,16 @@ const QString IniFilter = u"Ini File (*.ini)"_s;
 
 }  // namespace
 
-void LookDialogs::PickWindowBackColour() {
+std::optional<int> LookDialogs::PickColour(int present) {
     const QPointer<const QObject> clock = &clock_;
-    const int colour = program_.Services.Dialog.PickColour(canvas_.BackColor());
-    if (clock && state_ != ClockState::Closing && colour >= 0) {
-        look_.SetWindowBackColour(QString::number(colour), u"Custom"_s);
+    const int colour = program_.Services.Dialog.PickColour(present);
+    const bool counts = clock && state_ != ClockState::Closing && colour >= 0;
+    return counts ? std::optional(colour) : std::nullopt;
+}
+
+void LookDialogs::PickWindowBackColour() {
+    if (const auto colour = PickColour(canvas_.BackColor())) {
+        look_.SetWindowBackColour(QString::number(*colour), u"Custom"_s);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <optional>
 
 #include "clock/ClockData.h"
 #include "clock/ClockLook.h"
@@ -18,6 +19,9 @@ public:
                 const drawing::Canvas& canvas, ClockLook& look)
         : clock_(clock), program_(program), state_(state), canvas_(canvas), look_(look) {}
 
+    /// Asks for a colour, with @p present to begin with: red in the low byte. Nothing when it was
+    /// cancelled, or when the clock has gone meanwhile, and with it whoever asked.
+    std::optional<int> PickColour(int present);
     /// Asks for a colour, with the present one to begin with, and makes it the window's. Cancelled,
     /// nothing changes.
     void PickWindowBackColour();

@@ -9,32 +9,30 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
-// The voice hears of its volume and its rate here and nowhere else.
-void MenuSettings::SetSpeech(const QString& key, const QString& value) {
-    if (key == u"Speaker Volume"_s) {
-        parts_.Voice.SetVolumeByMenu(value);
-    } else if (key == u"Speak Rate"_s) {
-        parts_.Voice.SetRateByMenu(value);
+namespace {
+
+// A row that begins with a comma has choices and no value; they are kept, for the menu lists them.
+void PutValue(const QString& key, const QString& value, ClockProperties& properties) {
+    if (mduLib::GetPropertyRaw(key, properties).startsWith(u',')) {
+        mduLib::PutPropertyKeepChoices(key, value, properties);
     } else {
-        mduLib::PutProperty(key, value, data_.EditProperties());
-        parts_.Voice.PrepareSpeaker();
-        parts_.Spoken.ReadPatterns();
+        mduLib::PutProperty(key, value, properties);
     }
-    Save({key});
+}
+
+}  // namespace
+
+void MenuSettings::Put(const QStringList& keys, const QString& value, Redraw what) {
+    for (const QString& key : keys) {
+        PutValue(key, value, data_.EditProperties());
+    }
+    parts_.Redraws.Apply(what, value);
+    Save(keys);
 }
 
 void MenuSettings::SetVoice(int entry) {
     parts_.Voice.SetVoiceByMenu(entry);
     Save({u"Speaker Voice"_s});
-}
-
-void MenuSettings::PutSpeakerPosition() {
-    const QStringList keys = {u"Speaker Image Left"_s, u"Speaker Image Top"_s};
-    for (const QString& key : keys) {
-        mduLib::PutProperty(key, u"-1"_s, data_.EditProperties());
-    }
-    parts_.Overlays.SetSpeakerPosition();
-    Save(keys);
 }
 
 void MenuSettings::SetActionColour(const QString& colour) {

@@ -4,8 +4,8 @@
 #include "clock/ClockFiles.h"
 #include "clock/ClockLook.h"
 #include "clock/ClockWindow.h"
+#include "clock/PropertyRedraw.h"
 #include "drawing/Canvas.h"
-#include "drawing/FaceParts.h"
 #include "speech/SpeakerVoice.h"
 #include "timers/ClockMessages.h"
 #include "timers/TimerSlots.h"
@@ -27,23 +27,19 @@ public:
         ClockWindow& Window;
         const ClockPlacement& Placement;
         drawing::Canvas& Canvas;
-        drawing::Overlays& Overlays;
         timers::ClockMessages& Messages;
         timers::TimerSlots& Timers;
         speech::SpeakerVoice& Voice;
-        speech::SpokenTime& Spoken;
+        PropertyRedraw& Redraws;
     };
 
     MenuSettings(ClockData& data, const Parts& parts) : data_(data), parts_(parts) {}
 
-    /// Gives a key of the speaker's menu one of its choices, as the menu shows it. "Speaker Volume"
-    /// and "Speak Rate" reach the voice at once; any other key makes the speaker and the patterns
-    /// be read anew.
-    void SetSpeech(const QString& key, const QString& value);
+    /// Gives one or several keys a value, the same for all, and brings up to date what goes by
+    /// them. A value such as "Red" or "-1", as a menu shows it or as a picker answers.
+    void Put(const QStringList& keys, const QString& value, Redraw what);
     /// Lets another voice speak: an entry of `SpeakerVoice::VoiceMenu`, from 1.
     void SetVoice(int entry);
-    /// Puts the speaker where it finds its place by itself: both of its keys become -1.
-    void PutSpeakerPosition();
     /// Gives the action that counts down, and those to come, a colour by its name. Without a
     /// countdown the colour stays as it is.
     void SetActionColour(const QString& colour);

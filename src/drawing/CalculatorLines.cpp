@@ -33,11 +33,17 @@ void CalculatorLines::SetCalculatorClock(CalculatorTexts texts) {
         ShowText(Side::Zone, {});
     }
     for (const Side side : {Side::Local, Side::Zone}) {
-        Line(side).ForeColor = mduUILib::ColourValue(Value(side, u"Font Colour"_s), face_.Random);
         Line(side).Visible = true;
     }
     for (Control& label : face_.Controls.lblDigitalNumber.Members) {
         label.Visible = false;
+    }
+    ApplyCalculatorLook();
+}
+
+void CalculatorLines::ApplyCalculatorLook() {
+    for (const Side side : {Side::Local, Side::Zone}) {
+        Line(side).ForeColor = mduUILib::ColourValue(Value(side, u"Font Colour"_s), face_.Random);
     }
     SetCalculatorLayout();
 }

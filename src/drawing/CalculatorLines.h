@@ -25,6 +25,7 @@ public:
     /// Fonts and places of the lines: one above the other in the middle of the surface. A size of
     /// -1 lets the longest line fill the width.
     void SetCalculatorLayout() override;
+    void ApplyCalculatorLook() override;
 
     void HideCalculatorClock() override;
     void BeginInput() override;

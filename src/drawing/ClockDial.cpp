@@ -68,6 +68,9 @@ void ClockDial::HideNumbers() {
     isPainted_ = isRandom_ = false;
     for (Control& label : face_.Controls.lblHour.Members) {
         label.Visible = false;
+        if (IsBehindPaintedNumber(label)) {
+            label.Caption.clear();
+        }
     }
 }
 

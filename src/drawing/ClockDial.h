@@ -15,7 +15,7 @@ namespace drawing {
 ///
 /// The labels and spots are click targets, too. A visible label without a caption is a mere target;
 /// its picture is the mouse cursor over it. Behind painted numbers the labels are hidden, save that
-/// of twelve o'clock.
+/// of twelve o'clock; their captions are two blanks.
 class ClockDial final : public Dial {
 public:
     explicit ClockDial(const FaceContext& face) : face_(face) {}

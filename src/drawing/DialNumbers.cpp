@@ -98,6 +98,10 @@ QPoint NumberPlacing::Base(QPointF at) const {
     return {ToPoint(at.x() - width_ / 1.1), ToPoint(at.y() - height_ / 2.0)};
 }
 
+bool IsBehindPaintedNumber(const mduUILib::Control& label) {
+    return label.Caption == "  "_L1;
+}
+
 QRectF NumberPlacing::ClickArea(QPointF at) const {
     const QPoint base = Base(at);
     const double labelHeight = height_ / 1.3;

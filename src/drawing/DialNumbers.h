@@ -7,6 +7,7 @@
 #include "drawing/ClockSpecial.h"
 #include "drawing/DialStyles.h"
 #include "drawing/FontText.h"
+#include "foundation/Controls.h"
 
 /// Where everything on a dial stands, worked out from plain values. Indexes (1 to 60) and hours
 /// (1 to 12) count as in `DialStyles.h`.
@@ -35,6 +36,10 @@ struct PaintedNumber {
     LogFont Font;
     int Colour = 0;
 };
+
+/// Whether a label of the dial stands behind a painted number, be it shown or hidden: its caption
+/// is two blanks.
+bool IsBehindPaintedNumber(const mduUILib::Control& label);
 
 /// Places painted numbers. Their size follows the window's outer height, not the properties.
 class NumberPlacing {

@@ -72,6 +72,8 @@ public:
     /// Shows both lines.
     virtual void SetCalculatorClock(CalculatorTexts /*texts*/) {}
     virtual void SetCalculatorLayout() {}
+    /// Fonts, places and colours by the properties; the texts stay, also one that is typed.
+    virtual void ApplyCalculatorLook() {}
     virtual void HideCalculatorClock() {}
     /// Begins the input state: the caret stands in the line of the local time.
     virtual void BeginInput() {}

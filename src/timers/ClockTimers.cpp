@@ -182,7 +182,7 @@ void ClockTimers::PlaceTimerMarks() {
 
 int ClockTimers::SetNewTimer(const QString& time) {
     const int slot = GetFreeTimerSlot();
-    ClockTimer timer = Timer(slot);
+    ClockTimer timer;
     timer.SoundFile = Property(u"Timer Sound File"_s);
     timer.MessageColour =
         mduUILib::ColourValue(Property(u"Message Colour"_s), context_.Services.Random);
@@ -193,6 +193,11 @@ int ClockTimers::SetNewTimer(const QString& time) {
     ChangeTimer(slot, timer);
     PlaceTimerMark(slot, time);
     return slot;
+}
+
+void ClockTimers::DeferTimer(int slot, const QDate& date) {
+    deferredTimerLines_ += DeferredLineText(Timer(slot), date);
+    ClearTimerSlot(slot);
 }
 
 QString ClockTimers::Property(const QString& name) const {

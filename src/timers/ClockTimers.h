@@ -56,8 +56,11 @@ public:
     /// Gives a slot the time, as "hh:mm", and moves its mark; nothing for a text that is no time.
     void PlaceTimerMark(int slot, const QString& time);
     /// Makes a timer on the dial with the defaults of the properties; a text that is no time makes
-    /// one that never comes due. @return its slot
+    /// one that never comes due. Nothing stays of the timer that had the slot before. @return its
+    /// slot
     int SetNewTimer(const QString& time);
+    /// Takes a timer off the dial and keeps it for its day, with its time and its message alone.
+    void DeferTimer(int slot, const QDate& date);
 
     /// Lines of the file that belong to another half-day. They are written back at each save.
     const QStringList& DeferredTimerLines() const { return deferredTimerLines_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QTime>
 
 namespace timers {
@@ -15,5 +16,15 @@ struct DialSpot {
 /// "3:14" stands at place 3 of spot 16, and so does "15:14"; "12:00" at place 1 of spot 60, but
 /// "0:00" of spot 0.
 DialSpot SpotOfTime(const QTime& time);
+
+/// The time at a turn of the dial from twelve o'clock, to the nearest minute: the inverse of
+/// `SpotOfTime` on a ring that has 720 places. It lies between 0:00 and 11:59.
+/// @param turn in whole turns clockwise; any number
+///
+/// A quarter turn and one place further, 181 / 720, is 3:00: the first place of a spot is 1.
+QTime TimeAtTurn(double turn);
+
+/// A time as a dial reads it, "3:05": "12:48" is followed by "1:00", and so is "0:48".
+QString DialText(const QTime& time);
 
 }  // namespace timers

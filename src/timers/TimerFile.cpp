@@ -1,5 +1,7 @@
 #include "timers/TimerFile.h"
 
+#include <algorithm>
+
 #include "foundation/Dates.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
@@ -138,6 +140,26 @@ QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime) {
         line += timer.IsPermanent() ? PermanentWhen(*time) : OneShotWhen(*time, clockTime);
     }
     return OnOneLine(line + (timer.IsPermanent() ? u'@' : u'=') + timer.Message.trimmed());
+}
+
+QString DeferredLineText(const ClockTimer& timer, const QDate& date) {
+    return OnOneLine(mduAPILib::ShortDate(date) + u' ' + timer.TimerTime + u'=' +
+                     timer.Message.trimmed());
+}
+
+QString WhatIsLost(const ClockTimer& timer, const QString& line, int presentYear) {
+    const std::optional<TimerLine> read = ParseTimerLine(line, presentYear);
+    if (!read) {
+        return u"A timer at %1 is kept no longer than its clock is open"_s.arg(timer.TimerTime);
+    }
+    return read->Message == OnOneLine(timer.Message.trimmed())
+               ? QString()
+               : u"When the clock is closed, the message is cut at \"%1\""_s.arg(
+                     QChar(read->OneShot ? u'=' : u'@'));
+}
+
+bool CanBeKept(const QString& meta) {
+    return std::none_of(meta.begin(), meta.end(), [](QChar c) { return u",#@="_s.contains(c); });
 }
 
 std::optional<QTime> TimeOfText(const QString& text, int presentYear) {

@@ -56,6 +56,17 @@ void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTime
 /// ends. A permanent "12:30" becomes hour 24 and does not come back either.
 QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime);
 
+/// The line that keeps a timer for a later day: it has the time and the message alone.
+QString DeferredLineText(const ClockTimer& timer, const QDate& date);
+
+/// What of a timer does not come back from its line, in words for the user: an hour of twelve that
+/// no reader takes, a message that ends at its mark. Empty where all of it comes back.
+/// @param line from `TimerLineText` or `DeferredLineText`
+QString WhatIsLost(const ClockTimer& timer, const QString& line, int presentYear);
+
+/// Whether a path or an action can stand in a line without breaking it: it has none of , # @ =.
+bool CanBeKept(const QString& meta);
+
 /// The time of a text that is a time, or a date and time; a date alone is midnight.
 std::optional<QTime> TimeOfText(const QString& text, int presentYear);
 

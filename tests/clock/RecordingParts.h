@@ -117,6 +117,7 @@ class RecordingParts {
     struct Calculator final : drawing::CalculatorClock {
         Calls* Log = nullptr;
         RECORD(SetCalculatorLayout)
+        RECORD(ApplyCalculatorLook)
     };
 
     struct Background final : drawing::Background {
@@ -181,6 +182,7 @@ class RecordingParts {
         Calls* Log = nullptr;
         RECORD(CheckSpokenTime)
         RECORD(ReadPatterns)
+        RECORD(SpeakTimeNow)
     };
 
     struct Music final : speech::ClockMusic {

@@ -18,10 +18,13 @@ struct SettingsDesk : LookDesk {
     timers::ClockMessages Messages{
         {Data.Properties(), Data.Zone, Controls, Speaking, Module, TimerHost},
         [](const QString&) {}};
-    clockcore::MenuSettings Settings{
+    clockcore::PropertyRedraw Redraws{
         Data,
-        {Files, Look, Parts.TheWindow, Parts.ThePlacement, Canvas, Parts.TheOverlays, Messages,
-         Parts.TheTimers, Voice, Parts.TheSpoken}};
+        {Parts.TheFace, Parts.TheDial, Parts.TheDigital, Parts.TheCalculator, Parts.TheOverlays,
+         Messages, Voice, Parts.TheSpoken, Machine.Random}};
+    clockcore::MenuSettings Settings{Data,
+                                     {Files, Look, Parts.TheWindow, Parts.ThePlacement, Canvas,
+                                      Messages, Parts.TheTimers, Voice, Redraws}};
 
     SettingsDesk() {
         Voice.PrepareSpeaker();

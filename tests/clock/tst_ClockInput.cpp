@@ -154,6 +154,22 @@ private Q_SLOTS:
                                                u"menu 3 at 145,105"_s, u"menu 0 at 180,180"_s}));
     }
 
+    // Without the keys of its place the dial's centre is at 0,0.
+    void WhereTheHandsMeetIsTheirMenu() {
+        InputDesk desk;
+        desk.Menu({15, 15});
+        desk.Menu({15, 21});
+        QCOMPARE(desk.Clicks.Log,
+                 (QStringList{u"menu %1 at 115,115"_s.arg(static_cast<int>(ClockPart::Hands)),
+                              u"menu 0 at 115,121"_s}));
+    }
+
+    void AKeyOpensTheMenuOfTheClock() {
+        InputDesk desk;
+        desk.Input.ShowMenu(QContextMenuEvent(QContextMenuEvent::Keyboard, {45, 5}, {145, 105}));
+        QCOMPARE(desk.Clicks.Log, QStringList{u"menu 0 at 145,105"_s});
+    }
+
     void WithCtrlTheSpeakerHasNoMenu() {
         InputDesk desk;
         desk.Menu({5, 5}, Qt::ControlModifier);

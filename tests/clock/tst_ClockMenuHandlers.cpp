@@ -4,6 +4,7 @@
 
 #include "clock/SettingsDesk.h"
 #include "clock/ui/ClockMenuHandlers.h"
+#include "clock/ui/TimersOnDial.h"
 #include "drawing/StockPictures.h"
 #include "support/FakeDialogs.h"
 
@@ -20,19 +21,30 @@ struct MenuDesk : SettingsDesk {
     clockcore::LookDialogs Dialogs{Form, TheProgram, Data.State, Canvas, Look};
     timers::ActionList Actions{
         {Data.Properties(), Data.Zone, Controls, Speaking, Module, TimerHost}};
+    clockcore::PartMenus OnParts{Data,
+                                 TheProgram,
+                                 {Controls, Parts.TheWindow, Parts.ThePlacement, Canvas, Settings,
+                                  Dialogs, Messages, Voice, Parts.TheSpoken}};
+    timers::ClockTimers Timers{
+        {Data.Properties(), Data.Zone, Controls, Speaking, Module, TimerHost}, Messages};
+    drawing::CalculatorClock Calculator;
+    clockcore::TimersOnDial Dial{
+        Data,
+        TheProgram,
+        {Form, Controls, Canvas, TimerHost, Calculator, Timers, Actions, OnParts}};
     clockcore::ClockMenuHandlers Menus{
         Data,
         TheProgram,
         {Form, FormScreen, Parts.TheWindow, Controls, Canvas, Files, Styles, Look, Dialogs,
-         Settings, Messages, Actions, Voice, Parts.TheSpoken}};
+         Settings, Messages, Actions, Voice, Parts.TheSpoken, OnParts}};
 
     MenuDesk() {
         Form.resize(200, 150);
         Form.show();
     }
     static QMenu* Open() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
-    QString OpenName(ClockPart part) {
-        Menus.ShowMenu({part, 1}, {10, 10});
+    QString OpenName(ClockPart part, int index = 1) {
+        Menus.ShowMenu({part, index}, {10, 10});
         const QMenu* menu = Open();
         return menu != nullptr ? menu->objectName() : QString();
     }
@@ -63,12 +75,30 @@ private Q_SLOTS:
         QTest::newRow("speaker") << ClockPart::Speaker << u"SpeakerMenu"_s;
         QTest::newRow("action") << ClockPart::Action << u"ActionMenu"_s;
         QTest::newRow("message") << ClockPart::Message << u"MessageMenu"_s;
+        QTest::newRow("spot") << ClockPart::Spot << u"SetTimer"_s;
+        QTest::newRow("a slot without a timer") << ClockPart::TimerMark << u"FormPopup"_s;
     }
 
     void EachPartOpensItsMenu() {
         QFETCH(ClockPart, part);
         MenuDesk desk;
         QTEST(desk.OpenName(part), "name");
+    }
+
+    void ATimersMarkOpensItsMenu() {
+        MenuDesk desk;
+        QCOMPARE(desk.Timers.SetNewTimer(u"03:05"_s), 1);
+        QCOMPARE(desk.OpenName(ClockPart::TimerMark), u"ImgTimerMenu"_s);
+        QVERIFY(MenuDesk::Choose(u"Set Permanent Timer"_s));
+        QVERIFY(desk.Timers.Timer(1).IsPermanent());
+    }
+
+    void ASpotMakesATimer() {
+        MenuDesk desk;
+        desk.OpenName(ClockPart::Spot, 16);
+        QVERIFY(MenuDesk::Choose(u"03:14"_s));
+        QCOMPARE(desk.Timers.Timer(1).TimerTime, u"03:14"_s);
+        QVERIFY(desk.Form.findChild<QWidget*>(u"txtMsg"_s) != nullptr);
     }
 
     void TheFormMenuMakesItsClockCurrent() {

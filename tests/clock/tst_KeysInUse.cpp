@@ -39,7 +39,16 @@ struct BusyDesk : ClickedDesk {
         if (QMenu* menu = OpenMenu()) {
             menu->close();
         }
+        SetATimer(*clock);
         Base.Close(clock);
+    }
+
+    /// A timer a little behind three, from the spot there; on a dial that nothing covers.
+    void SetATimer(const frmTempolark& clock) {
+        if (clock.Data().Is(clockcore::ClockKind::Analogue)) {
+            Click(clock, clock.Controls().imgClockNumber(16), Qt::RightButton);
+            Choose({QStringLiteral("03:12")});
+        }
     }
 
     void RunAlone() {
@@ -72,9 +81,8 @@ private Q_SLOTS:
                 unread += key;
             }
         }
-        // Both belong to menus of the clock that are still to come: timers that are set on the
-        // dial, and the details of its zone.
-        QCOMPARE(unread.join(u", "_s), u"Message Display Time, Speak Time Zone Details"_s);
+        // It belongs to a menu of the clock that is still to come: the details of its zone.
+        QCOMPARE(unread.join(u", "_s), u"Speak Time Zone Details"_s);
     }
 
     void AKeyThatNobodyReadsIsFound() {

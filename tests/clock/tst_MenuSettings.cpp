@@ -3,6 +3,7 @@
 #include "clock/SettingsDesk.h"
 
 using namespace Qt::StringLiterals;
+using clockcore::Redraw;
 
 namespace {
 
@@ -16,11 +17,11 @@ class tst_MenuSettings : public QObject {
 private Q_SLOTS:
     void VolumeAndRateGoToTheVoice() {
         SettingsDesk desk;
-        desk.Settings.SetSpeech(u"Speaker Volume"_s, u"3"_s);
+        desk.Settings.Put({u"Speaker Volume"_s}, u"3"_s, Redraw::SpeakerVolume);
         QCOMPARE(desk.InFile(u"Speaker Volume"_s), u"3"_s);
         QCOMPARE(desk.Screen.Status, Saved);
         QCOMPARE(desk.Controls.imgSpeaker(1).Tag, u"3"_s);
-        desk.Settings.SetSpeech(u"Speak Rate"_s, u"-4"_s);
+        desk.Settings.Put({u"Speak Rate"_s}, u"-4"_s, Redraw::SpeakRate);
         QCOMPARE(desk.InFile(u"Speak Rate"_s), u"-4"_s);
         QCOMPARE(desk.Calls(), u"SaveTimer UTCTimer.txt|SaveTimer UTCTimer.txt"_s);
         QCOMPARE(desk.Canvas.Shows, 2);
@@ -28,9 +29,26 @@ private Q_SLOTS:
 
     void APatternIsReadAnew() {
         SettingsDesk desk;
-        desk.Settings.SetSpeech(u"Speech Hour Pattern"_s, u"It is <Hour>"_s);
+        desk.Settings.Put({u"Speech Hour Pattern"_s}, u"It is <Hour>"_s, Redraw::Speech);
         QCOMPARE(desk.InFile(u"Speech Hour Pattern"_s), u"It is <Hour>"_s);
         QCOMPARE(desk.Calls(), u"ReadPatterns|SaveTimer UTCTimer.txt"_s);
+    }
+
+    // What a menu lists stays there for the next time.
+    void ChoicesWithoutAValueAreKept() {
+        SettingsDesk desk;
+        mduLib::PutPropertyRaw(u"Speech Day Pattern"_s, u",None,<LongDate>"_s,
+                               desk.Data.EditProperties());
+        desk.Settings.Put({u"Speech Day Pattern"_s}, u"<LongDate>"_s, Redraw::Speech);
+        QCOMPARE(mduLib::GetPropertyRaw(u"Speech Day Pattern"_s, desk.Data.Properties()),
+                 u"<LongDate>,None,<LongDate>"_s);
+    }
+
+    void AKeyThatIsMissingIsAdded() {
+        SettingsDesk desk;
+        desk.Settings.Put({u"Sundial Colour"_s}, u" Red "_s, Redraw::Nothing);
+        QCOMPARE(desk.Value(u"Sundial Colour"_s), u"Red"_s);
+        QCOMPARE(desk.InFile(u"Sundial Colour"_s), u"Red"_s);
     }
 
     void AVoiceIsKept() {
@@ -47,7 +65,8 @@ private Q_SLOTS:
         desk.Look.SaveCurrentStyle();
         QCOMPARE(desk.InFile(u"Speaker Image Top"_s), u"40"_s);
         desk.Calls();
-        desk.Settings.PutSpeakerPosition();
+        desk.Settings.Put({u"Speaker Image Left"_s, u"Speaker Image Top"_s}, u"-1"_s,
+                          Redraw::SpeakerPlace);
         QCOMPARE(desk.InFile(u"Speaker Image Left"_s), u"-1"_s);
         QCOMPARE(desk.InFile(u"Speaker Image Top"_s), u"-1"_s);
         QCOMPARE(desk.Calls(), u"SetSpeakerPosition|SaveTimer UTCTimer.txt"_s);

@@ -34,7 +34,7 @@ Shows() { [[ "$(Pixel $(ClockPoint 20 60))" == "$1" ]]; }
 
 # Choose KEYS...: opens the clock's menu and goes through it with the keyboard.
 Choose() {
-    xdotool mousemove $(ClockPoint 60 150) sleep 0.1 click 3
+    xdotool mousemove $(ClockPoint 100 122) sleep 0.1 click 3
     WaitFor 5 HasPopups 1 && sleep 0.2
     local key
     for key in "$@"; do

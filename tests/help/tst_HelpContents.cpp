@@ -2,9 +2,8 @@
 #include <QProcess>
 #include <QTest>
 
-#include "clock/ui/ActionMenu.h"
-#include "clock/ui/LookMenu.h"
-#include "clock/ui/SpeakerMenu.h"
+#include "clock/FormMenu.h"
+#include "clock/PartMenuCatalogue.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "help/HelpPages.h"
@@ -25,8 +24,8 @@ private Q_SLOTS:
     void tellsOfTheShellsMenus();
     void tellsOfTheToolbar();
     void tellsOfTheClocksMenu();
-    void tellsOfTheSpeakersMenu();
-    void tellsOfTheMenuOfAnAction();
+    void tellsOfTheMenusOfParts_data();
+    void tellsOfTheMenusOfParts();
     void tellsOfTheZonesMenus();
     void tellsOfEveryProperty_data();
     void tellsOfEveryProperty();
@@ -76,6 +75,23 @@ void AddCaptions(QStringList& captions, const std::vector<shell::MenuEntry>& ent
         }
         AddCaptions(captions, entry.Children);
     }
+}
+
+void AddCaptions(QStringList& captions, std::span<const clockcore::PartMenuRow> rows) {
+    for (const clockcore::PartMenuRow& row : rows) {
+        captions += row.Caption.toString();
+        AddCaptions(captions, row.Rows);
+    }
+}
+
+/// The captions of a menu and of its sub-menus.
+QStringList CaptionsIn(const clockcore::MenuNode& menu) {
+    QStringList captions;
+    for (const clockcore::MenuNode& child : menu.Children) {
+        captions += child.Caption;
+        captions += CaptionsIn(child);
+    }
+    return captions;
 }
 
 /// The captions of a menu itself; its lists come from files.
@@ -136,31 +152,35 @@ void tst_HelpContents::tellsOfTheToolbar() {
 }
 
 void tst_HelpContents::tellsOfTheClocksMenu() {
-    const std::unique_ptr<QMenu> menu(
-        clockcore::MakeLookMenu(nullptr, clockcore::ClockKind::Analogue, {}, {}));
-    QStringList captions = Captions(*menu);
-    QCOMPARE(captions.size(), 9);  // two of them are separators
-    captions += SubCaptions(*menu, u"ClockStyles"_s);
-    captions += SubCaptions(*menu, u"ClockColourMenu"_s);
-    captions += SubCaptions(*menu, u"ClocksMenu"_s);
-    QCOMPARE(captions.size(), 25);
+    const clockcore::MenuNode menu = clockcore::MakeFormMenu(
+        {.ScreenSaverTimes = {u"Disabled"_s}}, {.Run = [](const clockcore::FormEntry&) {}});
+    const QStringList captions = CaptionsIn(menu);
+    QVERIFY(captions.contains(u"Centre Auto Size"_s));
+    QVERIFY(captions.size() >= 40);
     QCOMPARE(Missing(captions, ClockPage), QStringList());
 }
 
-void tst_HelpContents::tellsOfTheSpeakersMenu() {
-    const std::unique_ptr<QMenu> menu(
-        clockcore::MakeSpeakerMenu(nullptr, DefaultFile(u"Tempolark.ini"_s), {}, {}));
-    const QStringList captions = Captions(*menu);
-    QCOMPARE(captions.size(), 12);
-    QCOMPARE(Missing(captions, u"common/speech.html"_s), QStringList());
+void tst_HelpContents::tellsOfTheMenusOfParts_data() {
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("page");
+    const auto menus = clockcore::PartMenuCatalogue();
+    QCOMPARE(menus.size(), std::size_t{11});
+    for (int number = 0; number < 10; ++number) {  // the last is the tray's, which nothing opens
+        const QString name = menus[static_cast<std::size_t>(number)].Name.toString();
+        const QString page = name == "SpeakerMenu"_L1  ? u"common/speech.html"_s
+                             : name == "ActionMenu"_L1 ? u"common/timers.html"_s
+                                                       : ClockPage;
+        QTest::newRow(qPrintable(name)) << number << page;
+    }
 }
 
-void tst_HelpContents::tellsOfTheMenuOfAnAction() {
-    const std::unique_ptr<QMenu> menu(clockcore::MakeActionMenu(nullptr, {1, 2}, {}, {}));
-    const QStringList captions = Captions(*menu);
-    QCOMPARE(captions.size(), 3);
-    QCOMPARE(Missing(captions, u"common/timers.html"_s), QStringList());
-    QCOMPARE(Missing({u"Hide Message"_s}, ClockPage), QStringList());
+void tst_HelpContents::tellsOfTheMenusOfParts() {
+    QFETCH(const int, number);
+    QFETCH(const QString, page);
+    QStringList captions;
+    AddCaptions(captions, clockcore::PartMenuCatalogue()[static_cast<std::size_t>(number)].Rows);
+    QVERIFY(!captions.isEmpty());
+    QCOMPARE(Missing(captions, page), QStringList());
 }
 
 void tst_HelpContents::tellsOfTheZonesMenus() {

@@ -62,6 +62,8 @@ private Q_SLOTS:
     void ClearsASlot();
     void SetsTheTemplate();
     void SetsANewTimer();
+    void ANewTimerHasNothingOfTheOldOne();
+    void DefersATimer();
     void TakesFiveThousandLines();
     void TakesALongMessage();
 };
@@ -324,6 +326,30 @@ void tst_ClockTimers::SetsANewTimer() {
     QVERIFY(desk.Controls.imgTimer(2).Visible);
     QCOMPARE(desk.Controls.imgTimer(2).Picture.get(), desk.Controls.imgTimer(1).Picture.get());
     QCOMPARE(desk.Host.Marks.back(), (Mark{2, 20, 11}));
+}
+
+void tst_ClockTimers::ANewTimerHasNothingOfTheOldOne() {
+    Loaded desk("5,Red,,Log Off,40#15:5@a\r\n");
+    ClockTimer old = desk.Timers.Timer(1);
+    old.Permanent.clear();
+    old.OnDial = false;  // off the dial, but not cleared
+    desk.Timers.ChangeTimer(1, old);
+    QCOMPARE(desk.Timers.SetNewTimer(u"04:10"_s), 1);
+    QCOMPARE(desk.Timers.Timer(1).Message, QString());
+    QCOMPARE(desk.Timers.Timer(1).TimerAction, QString());
+    QCOMPARE(desk.Timers.Timer(1).MusicVolume, QString());
+    QCOMPARE(desk.Controls.txtMsg(1).Caption, QString());
+}
+
+void tst_ClockTimers::DefersATimer() {
+    Loaded desk("");
+    desk.Timers.ChangeTimer(
+        1, {u"09:30"_s, {}, true, u"5"_s, u" Call\r\nhome "_s, 255, u"bell.wav"_s, {}, {}});
+    desk.Timers.DeferTimer(1, QDate(2026, 11, 19));
+    QVERIFY(desk.Timers.Timer(1).IsFree());
+    QVERIFY(!desk.Controls.imgTimer(1).Visible);
+    QCOMPARE(desk.Timers.DeferredTimerLines(), QStringList{u"19/11/2026 09:30=Call home"_s});
+    QCOMPARE(desk.Saved(), QByteArray("19/11/2026 09:30=Call home\r\n"));
 }
 
 void tst_ClockTimers::TakesFiveThousandLines() {

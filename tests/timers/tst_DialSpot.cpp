@@ -28,6 +28,40 @@ private Q_SLOTS:
         QTEST(at.Spot, "spot");
         QTEST(at.Place, "place");
     }
+
+    void TheTimeAtATurn_data() {
+        QTest::addColumn<double>("places");
+        QTest::addColumn<QTime>("time");
+        QTest::newRow("the first place") << 1.0 << QTime(0, 0);
+        QTest::newRow("twelve o'clock itself") << 0.0 << QTime(11, 59);
+        QTest::newRow("a turn and twelve o'clock") << 720.0 << QTime(11, 59);
+        QTest::newRow("three") << 181.0 << QTime(3, 0);
+        QTest::newRow("nearer to the next") << 181.6 << QTime(3, 1);
+        QTest::newRow("nearer to this") << 181.4 << QTime(3, 0);
+        QTest::newRow("nearly round") << 719.6 << QTime(11, 59);
+        QTest::newRow("backwards") << -539.0 << QTime(3, 0);
+        QTest::newRow("twice round") << 1621.0 << QTime(3, 0);
+    }
+
+    void TheTimeAtATurn() {
+        QFETCH(double, places);
+        QTEST(timers::TimeAtTurn(places / 720), "time");
+    }
+
+    void TimesAsADialReadsThem() {
+        QCOMPARE(timers::DialText({0, 48}), QStringLiteral("0:48"));
+        QCOMPARE(timers::DialText({12, 0}), QStringLiteral("12:00"));
+        QCOMPARE(timers::DialText({13, 5}), QStringLiteral("1:05"));
+        QCOMPARE(timers::DialText({11, 59}), QStringLiteral("11:59"));
+    }
+
+    void EachMinuteComesBack() {
+        for (int minute = 0; minute < 720; ++minute) {
+            const QTime time(minute / 60, minute % 60);
+            const DialSpot at = timers::SpotOfTime(time);
+            QCOMPARE(timers::TimeAtTurn((at.Place / 12.0 + at.Spot) / 60), time);
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_DialSpot)

@@ -47,6 +47,10 @@ private Q_SLOTS:
     void WritesNoTimeThatCannotBeRead();
     void WritesOneLine();
     void ReadsWhatItWrites();
+    void TellsWhatIsLost_data();
+    void TellsWhatIsLost();
+    void TellsWhatBreaksALine();
+    void WritesALineForALaterDay();
 };
 
 void tst_TimerFile::ReadsLines_data() {
@@ -279,6 +283,59 @@ void tst_TimerFile::ReadsWhatItWrites() {
     QCOMPARE(UseOf(parsed, leap), (TimerLineUse{true, false}));
     QCOMPARE(UseOf(parsed, leap.addSecs(24 * 3600)), (TimerLineUse{false, true}));
     QCOMPARE(UseOf(parsed, leap.addSecs(20 * 3600)), (TimerLineUse{true, false}));
+}
+
+void tst_TimerFile::TellsWhatIsLost_data() {
+    QTest::addColumn<QString>("time");
+    QTest::addColumn<QString>("permanent");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("hour");
+    QTest::addColumn<QString>("lost");
+    const QString atEquals = u"When the clock is closed, the message is cut at \"=\""_s;
+    const QString atAt = u"When the clock is closed, the message is cut at \"@\""_s;
+    const QString noon = u"A timer at 12:30 is kept no longer than its clock is open"_s;
+    QTest::newRow("nothing") << u"03:05"_s << QString() << u" me@home #1, soon "_s << 9
+                             << QString();
+    QTest::newRow("nothing of a permanent one")
+        << u"03:05"_s << u"P"_s << u"#1"_s << 9 << QString();
+    QTest::newRow("line ends") << u"03:05"_s << QString() << u"a\r\nb"_s << 9 << QString();
+    QTest::newRow("no message") << u"03:05"_s << QString() << QString() << 9 << QString();
+    QTest::newRow("=") << u"03:05"_s << QString() << u"a=b"_s << 9 << atEquals;
+    QTest::newRow("= alone") << u"03:05"_s << QString() << u"="_s << 9 << atEquals;
+    QTest::newRow("= of a permanent one") << u"03:05"_s << u"P"_s << u"a=b"_s << 9 << atEquals;
+    QTest::newRow("@ of a permanent one") << u"03:05"_s << u"P"_s << u"me@home"_s << 9 << atAt;
+    QTest::newRow("twelve in the morning") << u"12:30"_s << QString() << u"a"_s << 9 << noon;
+    QTest::newRow("twelve in the afternoon")
+        << u"12:30"_s << QString() << u"a"_s << 13 << QString();
+    QTest::newRow("permanent at twelve") << u"12:30"_s << u"P"_s << u"a"_s << 13 << noon;
+}
+
+void tst_TimerFile::TellsWhatIsLost() {
+    QFETCH(QString, time);
+    QFETCH(QString, permanent);
+    QFETCH(QString, message);
+    QFETCH(int, hour);
+    ClockTimer timer = Timer(time, permanent);
+    timer.Message = message;
+    QTEST(WhatIsLost(timer, TimerLineText(timer, At(16, hour)), 2026), "lost");
+}
+
+void tst_TimerFile::TellsWhatBreaksALine() {
+    QVERIFY(CanBeKept(QString()));
+    QVERIFY(CanBeKept(u".\\SoundFiles\\Clock Tick.wav"_s));
+    for (const QChar mark : u",#@="_s) {
+        QVERIFY2(!CanBeKept(u"/sounds/a"_s + mark + u"b.wav"_s), qPrintable(QString(mark)));
+    }
+}
+
+void tst_TimerFile::WritesALineForALaterDay() {
+    ClockTimer timer = Timer(u"09:30"_s);
+    timer.Message = u" Call\nhome "_s;
+    const QString line = DeferredLineText(timer, QDate(2026, 11, 19));
+    QCOMPARE(line, u"19/11/2026 09:30=Call home"_s);
+    const TimerLine parsed = ParseTimerLine(line, 2026).value();
+    QCOMPARE(UseOf(parsed, At(19, 9)), (TimerLineUse{true, false}));
+    QCOMPARE(UseOf(parsed, At(17, 9)), (TimerLineUse{false, true}));
 }
 
 QTEST_APPLESS_MAIN(tst_TimerFile)

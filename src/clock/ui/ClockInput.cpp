@@ -153,7 +153,11 @@ void ClockInput::ShowMenu(const QContextMenuEvent& event) {
         clicks_.ShowDisabledMenu(event.globalPos());
         return;
     }
-    const ClockHit hit = PartAt(controls_, SurfacePoint(event.pos()));
+    // A key means the clock as a whole, wherever it is said to have been pressed.
+    const QSize scale = (QSizeF(form_.size()) * form_.devicePixelRatioF()).toSize();
+    const ClockHit hit = event.reason() == QContextMenuEvent::Keyboard
+                             ? ClockHit()
+                             : HitAt(data_, controls_, scale, SurfacePoint(event.pos()));
     const bool withControl = (event.modifiers() & Qt::ControlModifier) != 0;
     if (hit.Part != ClockPart::Speaker || !withControl) {
         clicks_.ShowMenu(hit, event.globalPos());

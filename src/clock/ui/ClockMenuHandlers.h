@@ -5,18 +5,14 @@
 #include "clock/ClockClicks.h"
 #include "clock/ClockKeys.h"
 #include "clock/MenuSettings.h"
+#include "clock/PartMenus.h"
 #include "clock/ui/FormPopup.h"
-#include "foundation/Program.h"
 #include "timers/ActionList.h"
-
-class QMenu;
 
 namespace clockcore {
 
-/// What comes of clicks and keys on a clock. The pop-up menus on its parts are each made at the
-/// moment of opening, and their entries go to `MenuSettings` (one property) or to the part itself;
-/// that of the clock is `FormPopup`. A further menu needs a part in `ClockHit`, a row in
-/// `ShowMenu`, and a function that shows it.
+/// What comes of clicks and keys on a clock, and the pop-up menus that show there. The menus of the
+/// parts are those of `PartMenus`; that of the whole clock is `FormPopup`.
 class ClockMenuHandlers final : public ClockMenus, public ClockClicks {
 public:
     /// What the menus show and command. All of it outlives the menus.
@@ -32,10 +28,10 @@ public:
         FormPopup& Popup;
         FormCommands& Commands;
         ClockKeys& Keys;
+        const PartMenus& Menus;
     };
 
-    ClockMenuHandlers(const ClockData& data, const Program& program, const Parts& parts)
-        : data_(data), program_(program), parts_(parts) {}
+    explicit ClockMenuHandlers(const Parts& parts) : parts_(parts) {}
 
     /// Builds the list of actions with the programs that the user added. Called by the first tick.
     void FillMenuArrays() override { parts_.Actions.FillActionMenu(); }
@@ -53,16 +49,6 @@ public:
     void ShowDisabledMenu(const QPoint& globalPosition) override;
 
 private:
-    /// An empty menu of the form, which deletes itself when it closes.
-    QMenu* NewMenu(const QString& name);
-    void ShowSpeakerMenu(const QPoint& globalPosition);
-    void ShowActionMenu(const QPoint& globalPosition);
-    void ShowMessageMenu(const QPoint& globalPosition);
-    /// Whole minutes until the action runs, below 0 when it is late; 0 without a deadline.
-    int MinutesLeft() const;
-
-    const ClockData& data_;
-    Program program_;
     Parts parts_;
 };
 

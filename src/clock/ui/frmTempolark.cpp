@@ -5,6 +5,7 @@
 
 #include "clock/ClockMode.h"
 #include "drawing/StockPictures.h"
+#include "drawing/TimerMarks.h"
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
 #include "foundation/PropertyLookup.h"
@@ -17,13 +18,12 @@ using clockcore::ClockState;
 
 namespace {
 
-constexpr int FirstShot = 10;         // milliseconds until the first tick
-constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
+constexpr int FirstShot = 10;  // milliseconds until the first tick
 
 void LayOutTimerMarks(mduUILib::ControlArray& marks) {
     marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
-    marks(1).Left = FirstTimerMark;
-    marks(1).Top = FirstTimerMark;
+    marks(1).Left = static_cast<float>(drawing::UnplacedMark.x());
+    marks(1).Top = static_cast<float>(drawing::UnplacedMark.y());
     for (int i = 2; i <= marks.Count(); ++i) {
         marks(i) = marks(i - 1);
     }
@@ -63,17 +63,23 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
             {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_, overlays_,
              voice_, spoken_, tick_}),
       dialogs_(*this, program, data_.State, canvas_, look_),
-      settings_(data_, {files_, look_, window_, placement_, canvas_, overlays_, messages_, timers_,
-                        voice_, spoken_}),
+      redraws_(data_, {face_, dial_, digital_, calculator_, overlays_, messages_, voice_, spoken_,
+                       program.Services.Random}),
+      settings_(data_, {files_, look_, window_, placement_, canvas_, messages_, timers_, voice_,
+                        redraws_}),
       zones_(data_, program, screen_, look_),
       commands_(data_, program,
                 {screen_, window_, placement_, files_, look_, dialogs_, settings_, zones_, voice_}),
       popup_(*this, data_, controls_, program,
              {screen_, window_, placement_, files_, styles_, look_, commands_}),
       keys_(data_, controls_, program, {window_, placement_, look_, commands_, zones_}),
-      menus_(data_, program,
-             {*this, controls_, canvas_, settings_, messages_, actions_, voice_, spoken_, popup_,
-              commands_, keys_}),
+      partMenus_(data_, program,
+                 {controls_, window_, placement_, canvas_, settings_, dialogs_, messages_, voice_,
+                  spoken_}),
+      timersOnDial_(data_, program,
+                    {*this, controls_, canvas_, host_, calculator_, timers_, actions_, partMenus_}),
+      menus_({*this, controls_, canvas_, settings_, messages_, actions_, voice_, spoken_, popup_,
+              commands_, keys_, partMenus_}),
       input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
             {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
@@ -190,6 +196,7 @@ void frmTempolark::Tick() {
     tick_.Tick();
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
+        timersOnDial_.Follow();
     }
 }
 
@@ -201,6 +208,7 @@ void frmTempolark::closeEvent(QCloseEvent* event) {
         return;
     }
     window_.StopTimer();
+    timersOnDial_.FinishMessage();
     voice_.FallSilent();
     messages_.HideMessage();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;

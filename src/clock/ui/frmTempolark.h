@@ -13,12 +13,15 @@
 #include "clock/Face.h"
 #include "clock/LookDialogs.h"
 #include "clock/MenuSettings.h"
+#include "clock/PartMenus.h"
+#include "clock/PropertyRedraw.h"
 #include "clock/StyleFiles.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
 #include "clock/ui/FormPopup.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
+#include "clock/ui/TimersOnDial.h"
 #include "clock/ui/WidgetScreen.h"
 #include "drawing/CalculatorLines.h"
 #include "drawing/ClockBackground.h"
@@ -213,11 +216,14 @@ private:
     clockcore::Face face_;
     clockcore::ClockLook look_;
     clockcore::LookDialogs dialogs_;
+    clockcore::PropertyRedraw redraws_;
     clockcore::MenuSettings settings_;
     clockcore::ZoneOnClock zones_;
     clockcore::FormCommands commands_;
     clockcore::FormPopup popup_;
     clockcore::ClockKeys keys_;
+    clockcore::PartMenus partMenus_;
+    clockcore::TimersOnDial timersOnDial_;
     clockcore::ClockMenuHandlers menus_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;

@@ -18,6 +18,7 @@ void frmTempolark::resizeEvent(QResizeEvent*) {
 void frmTempolark::TakeSurface() {
     canvas_.TakeSurface();
     look_.FitSurface();
+    timersOnDial_.Follow();
 }
 
 // The surface holds the whole picture. A part that we did not change ourselves has come to light:

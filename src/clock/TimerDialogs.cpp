@@ -1,0 +1,45 @@
+#include "clock/TimerDialogs.h"
+
+#include <QPointer>
+
+#include "foundation/FileHelpers.h"
+#include "platform/Dialogs.h"
+#include "timers/TimerFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace clockcore {
+
+void TimerDialogs::PickColour(const ChosenTimer& chosen) {
+    const QPointer<const QObject> clock = &clock_;
+    const int colour = program_.Services.Dialog.PickColour(chosen.Timer.MessageColour);
+    if (clock && colour >= 0) {
+        timers_.Change(chosen,
+                       [colour](timers::ClockTimer& timer) { timer.MessageColour = colour; });
+    }
+}
+
+void TimerDialogs::PickSound(const ChosenTimer& chosen) {
+    const QPointer<const QObject> clock = &clock_;
+    const QString file = program_.Services.Dialog.OpenFile(
+        u"Timer Sound"_s, program_.Module.Paths.SoundFilesFolder,
+        u"Sound Files (*.wav *.mp3 *.ogg *.flac);;All Files (*)"_s);
+    if (clock && !file.isEmpty()) {
+        timers_.ChangeText(chosen, &timers::ClockTimer::SoundFile, mduLib::ToStoredPath(file));
+    }
+}
+
+void TimerDialogs::PickProgram(const ChosenTimer& chosen) {
+    const QPointer<const QObject> clock = &clock_;
+    const QString file = program_.Services.Dialog.OpenFile(
+        u"Timer Action"_s, program_.Module.Paths.AppFolder, u"All Files (*)"_s);
+    if (!clock || file.isEmpty() || !timers_.IsThere(chosen)) {
+        return;
+    }
+    timers_.ChangeText(chosen, &timers::ClockTimer::TimerAction, file);
+    if (timers::CanBeKept(file) && mduLib::FileExists(program_.Services.FileSystem, file)) {
+        actions_.AddActionProgram(file);
+    }
+}
+
+}  // namespace clockcore

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+
+#include "clock/DialTimers.h"
+#include "clock/MenuNode.h"
+#include "clock/TimerDialogs.h"
+#include "timers/ActionList.h"
+
+namespace clockcore {
+
+/// The menus that make timers and change them, filled at the moment of opening. What is chosen in
+/// them goes to `DialTimers`, or through `TimerDialogs` where something is asked first.
+class TimerMenus {
+public:
+    /// What the menus show and command. All of it outlives them.
+    struct Parts {
+        DialTimers& Timers;
+        TimerDialogs& Dialogs;
+        const timers::ActionList& Actions;
+    };
+
+    TimerMenus(const ClockData& data, const Program& program, const Parts& parts)
+        : data_(data), program_(program), parts_(parts) {}
+
+    /// `SetTimer`: twelve times, each of which makes a timer. Without entries for a text that is no
+    /// time; see `timers::FillTimeMenu`.
+    MenuNode SetTimerMenu(const QString& time) const;
+    /// `ImgTimerMenu`: all that can be changed of a slot's timer. Without entries for a slot that
+    /// has no timer on the dial. The sounds are left out on a machine that is known to have no
+    /// device for them; it is asked each time, and may answer later.
+    MenuNode ImgTimerMenu(int slot);
+
+private:
+    MenuNode Colours(const ChosenTimer& chosen) const;
+    MenuNode DisplayTimes(const ChosenTimer& chosen) const;
+    MenuNode Sounds(const ChosenTimer& chosen) const;
+    MenuNode SoundEntry(const ChosenTimer& chosen, const QString& caption,
+                        const QString& stored) const;
+    MenuNode ActionMenu(const ChosenTimer& chosen) const;
+    MenuNode MusicVolumes(const ChosenTimer& chosen) const;
+    MenuNode OtherTimes(const ChosenTimer& chosen) const;
+    MenuNode PermanentEntry(const ChosenTimer& chosen) const;
+    void CountSoundDevices();
+
+    const ClockData& data_;
+    Program program_;
+    Parts parts_;
+    /// As the machine told last; unknown at first. It may answer when the clock has gone.
+    std::shared_ptr<std::optional<int>> devices_ = std::make_shared<std::optional<int>>();
+};
+
+}  // namespace clockcore

@@ -1,0 +1,138 @@
+#include "clock/ui/TimerMouse.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QToolTip>
+#include <utility>
+
+namespace clockcore {
+
+namespace {
+
+int Threshold() {
+    return QGuiApplication::styleHints()->startDragDistance();
+}
+
+/// Events that take the window away from under a drag.
+bool EndsDrags(QEvent::Type type) {
+    switch (type) {
+        case QEvent::Resize:
+        case QEvent::Hide:
+        case QEvent::Close:
+        case QEvent::EnabledChange:
+        case QEvent::WindowDeactivate:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
+                       const mduUILib::ClockControls& controls, MarkDrag& marks, Commands commands)
+    : form_(form), data_(data), controls_(controls), marks_(marks), commands_(std::move(commands)) {
+    form.installEventFilter(this);
+}
+
+bool TimerMouse::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            return Press(static_cast<QMouseEvent&>(*event));
+        case QEvent::MouseMove:
+            return Move(static_cast<QMouseEvent&>(*event));
+        case QEvent::MouseButtonRelease:
+            return Release(static_cast<QMouseEvent&>(*event));
+        case QEvent::MouseButtonDblClick:
+            return DoubleClick(static_cast<QMouseEvent&>(*event));
+        case QEvent::KeyPress:
+            return static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape && TakeBack();
+        default:
+            if (EndsDrags(event->type())) {
+                TakeBack();
+            }
+            return false;
+    }
+}
+
+bool TimerMouse::Press(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        return marks_.IsDragging();
+    }
+    const ClockHit hit = HitAt(event);
+    spotPressedAt_.reset();
+    holdsMark_ = hit.Part == ClockPart::TimerMark;
+    if (holdsMark_) {
+        QToolTip::hideText();
+        marks_.Press(hit.Index, SurfacePoint(event));
+    } else if (hit.Part == ClockPart::Spot) {
+        spotPressedAt_ = event.position();
+    }
+    return holdsMark_;
+}
+
+bool TimerMouse::Move(const QMouseEvent& event) {
+    if (!holdsMark_) {
+        return false;
+    }
+    if ((event.buttons() & Qt::LeftButton) == 0) {
+        TakeBack();  // the button was let go where nobody saw it
+        return false;
+    }
+    const double threshold = Threshold() * form_.devicePixelRatioF();
+    if (const auto time = marks_.Move(SurfacePoint(event), threshold)) {
+        QToolTip::showText(event.globalPosition().toPoint(), *time, &form_);
+    }
+    return true;
+}
+
+bool TimerMouse::Release(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) {
+        return marks_.IsDragging();
+    }
+    if (std::exchange(holdsMark_, false)) {
+        if (marks_.Drop()) {
+            QToolTip::hideText();
+        }
+        return true;
+    }
+    const std::optional<QPointF> pressedAt = std::exchange(spotPressedAt_, std::nullopt);
+    const ClockHit hit = HitAt(event);
+    const bool isClick = pressedAt && hit.Part == ClockPart::Spot &&
+                         (event.position() - *pressedAt).manhattanLength() < Threshold();
+    if (isClick) {
+        commands_.ShowMenu(hit, event.globalPosition().toPoint());
+    }
+    return false;
+}
+
+bool TimerMouse::DoubleClick(const QMouseEvent& event) {
+    const ClockHit hit = HitAt(event);
+    if (event.button() != Qt::LeftButton || hit.Part != ClockPart::TimerMark) {
+        return false;
+    }
+    commands_.OpenMessageBox(hit.Index);
+    return true;
+}
+
+bool TimerMouse::TakeBack() {
+    holdsMark_ = false;
+    spotPressedAt_.reset();
+    if (!marks_.Cancel()) {
+        return false;
+    }
+    QToolTip::hideText();
+    return true;
+}
+
+QPointF TimerMouse::SurfacePoint(const QMouseEvent& event) const {
+    return event.position() * form_.devicePixelRatioF();
+}
+
+ClockHit TimerMouse::HitAt(const QMouseEvent& event) const {
+    return data_.State.IsDrawn() ? PartAt(controls_, SurfacePoint(event)) : ClockHit{};
+}
+
+}  // namespace clockcore
