@@ -67,9 +67,6 @@ struct InputDesk {
         Input.ShowMenu(
             QContextMenuEvent(QContextMenuEvent::Mouse, at, at + QPoint(100, 100), with));
     }
-    void MoveTo(const QPoint& at) {
-        Input.MoveMouse(QMouseEvent(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {}));
-    }
 };
 
 }  // namespace
@@ -167,19 +164,6 @@ private Q_SLOTS:
         desk.Form.setEnabled(false);
         desk.Menu({5, 5});
         QCOMPARE(desk.Clicks.Log, QStringList{u"disabled at 105,105"_s});
-    }
-
-    void AnHourNumberHasItsCursor() {
-        InputDesk desk;
-        QImage mark(32, 16, QImage::Format_RGB32);
-        mark.fill(Qt::red);
-        desk.Put(desk.Controls.lblHour(5), 60);
-        desk.Controls.lblHour(5).Picture = std::make_shared<const QImage>(mark);
-        desk.MoveTo({65, 5});
-        QCOMPARE(desk.Form.cursor().shape(), Qt::BitmapCursor);
-        QCOMPARE(desk.Form.cursor().pixmap().size(), QSize(16, 8));
-        desk.MoveTo({80, 5});
-        QCOMPARE(desk.Form.cursor().shape(), Qt::ArrowCursor);
     }
 
     void HintsOfSpeakerAndSpots() {

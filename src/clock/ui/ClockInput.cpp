@@ -4,7 +4,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QToolTip>
 
 #include "drawing/TitleEdit.h"
@@ -46,8 +45,6 @@ int CalculatorKey(const QKeyEvent& event) {
     return text.isEmpty() || !text[0].isPrint() ? 0 : drawing::TypedKey(text[0]);
 }
 
-constexpr int CursorSide = 16;  // logical pixels
-
 bool IsOnAction(const mduUILib::ClockControls& controls, const QPointF& point) {
     return ControlAt(controls.imgAction, point) != nullptr ||
            ControlAt(controls.lblActionMsg, point) != nullptr;
@@ -78,22 +75,6 @@ bool ClockInput::PressKey(const QKeyEvent& event) {
 
 QPointF ClockInput::SurfacePoint(const QPoint& position) const {
     return QPointF(position) * form_.devicePixelRatioF();
-}
-
-void ClockInput::MoveMouse(const QMouseEvent& event) {
-    const mduUILib::Control* label =
-        ControlAt(controls_.lblHour, SurfacePoint(event.position().toPoint()));
-    const std::shared_ptr<const QImage> picture = label != nullptr ? label->Picture : nullptr;
-    if (picture == mouseIcon_) {
-        return;
-    }
-    mouseIcon_ = picture;
-    if (picture && !picture->isNull()) {
-        form_.setCursor(QCursor(QPixmap::fromImage(picture->scaled(
-            CursorSide, CursorSide, Qt::KeepAspectRatio, Qt::SmoothTransformation))));
-    } else {
-        form_.unsetCursor();
-    }
 }
 
 bool ClockInput::PressMouse(const QMouseEvent& event) {

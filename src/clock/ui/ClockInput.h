@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
 
 #include "clock/ClockClicks.h"
 #include "clock/ClockData.h"
@@ -16,7 +15,8 @@ class QMouseEvent;
 namespace clockcore {
 
 /// What keys and the mouse mean to a clock. Each handler tells whether the event was the clock's;
-/// what was not is the window's own. (Dragging of parts comes here, too.)
+/// what was not is the window's own.  Drags are
+/// `DragInput`'s.
 class ClockInput {
 public:
     /// @param form the window that the events come from, which shows cursors and hints
@@ -30,9 +30,6 @@ public:
     /// Tab belongs to the calculator; elsewhere it moves the focus.
     bool TakesTab() const { return data_.IsCalculator(); }
 
-    /// Over an hour number the mouse shows the number's own mark, 16 logical pixels large;
-    /// elsewhere, and over a number without a mark, its arrow.
-    void MoveMouse(const QMouseEvent& event);
     /// The left button on the speaker or on an action. With Ctrl held a press on the speaker is
     /// left to those who drag it.
     bool PressMouse(const QMouseEvent& event);
@@ -52,7 +49,6 @@ private:
     const mduUILib::ClockControls& controls_;
     drawing::CalculatorClock& calculator_;
     ClockClicks& clicks_;
-    std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
 };
 
 }  // namespace clockcore

@@ -18,6 +18,7 @@
 #include "clock/StyleFiles.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
+#include "clock/ui/DragInput.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
 #include "clock/ui/WidgetScreen.h"
@@ -121,6 +122,11 @@ public:
     /// Turns the clock backward: stores the property and draws nothing itself.
     void SetBackward() { look_.SetBackward(); }
 
+    /// See `DragInput::MouseMoveObj`.
+    void MouseMoveObj(const mduUILib::Control& object, int button, int shift, double x, double y) {
+        drag_.MouseMoveObj(object, button, shift, x, y);
+    }
+
     /// Gives the zone's record, the state and the controls to those who look from outside.
     const clockcore::ClockData& Data() const { return data_; }
     const mduUILib::ClockControls& Controls() const { return controls_; }
@@ -153,7 +159,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     /// Hints, and the right click on a disabled clock.
     bool event(QEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -214,6 +219,8 @@ private:
     clockcore::MenuSettings settings_;
     clockcore::PartMenus partMenus_;
     clockcore::ClockMenuHandlers menus_;
+    clockcore::PartDrag partDrag_;
+    clockcore::DragInput drag_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
 };

@@ -63,11 +63,6 @@ void frmTempolark::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
-    input_.MoveMouse(*event);
-    QWidget::mouseMoveEvent(event);
-}
-
 void frmTempolark::mousePressEvent(QMouseEvent* event) {
     if (!input_.PressMouse(*event)) {
         QWidget::mousePressEvent(event);
