@@ -10,23 +10,23 @@ using mduUILib::Control;
 /// is that of the machine's style, so values that hang on it are worked out from its size.
 struct MouseDesk : ClickedDesk {
     frmTempolark* Clock = nullptr;
+    QPoint Origin;  ///< of the clock in the shell, as the last press found it
 
-    explicit MouseDesk(const std::vector<std::pair<QByteArray, QByteArray>>& changes = {}) {
-        QByteArray file = Base.Machine.ReadFile(u"ini/Tempolark.ini"_s);
-        for (const auto& [line, other] : changes) {
-            file.replace(line, other);
-        }
+    /// @param line of the default file, which reads @p other in the clock's
+    explicit MouseDesk(const QByteArray& line = "=", const QByteArray& other = "=") {
+        const QByteArray file = Base.Machine.ReadFile(u"ini/Tempolark.ini"_s).replace(line, other);
         Base.Machine.WriteFile(u"tester/TimeZones/UTC.ini"_s, file);
         Clock = Running(u"UTC"_s);
         Frame()->setGeometry(QRect(QPoint(200, 150), QSize(300, 200) + FrameSize()));
         Base.Machine.Clock.Advance(2000);
         Base.Shell.Messages.clear();
+        Origin = Clock->mapTo(&Base.Area, QPoint(0, 0));
     }
     QWidget* Frame() const { return Clock->parentWidget(); }
     QSize FrameSize() const { return Frame()->size() - Clock->size(); }
 
     void Mouse(QEvent::Type type, const QPoint& at, Qt::KeyboardModifiers keys = {}) {
-        const QPoint place = Clock->mapTo(&Base.Area, at);
+        const QPoint place = Origin + at;
         QWindow* window = Base.Area.windowHandle();
         if (type == QEvent::MouseButtonPress) {
             QTest::mousePress(window, Qt::LeftButton, keys, place);
@@ -38,6 +38,7 @@ struct MouseDesk : ClickedDesk {
         }
     }
     void Press(const QPoint& at, Qt::KeyboardModifiers keys = {}) {
+        Origin = Clock->mapTo(&Base.Area, QPoint(0, 0));
         Mouse(QEvent::MouseMove, at);
         Mouse(QEvent::MouseButtonPress, at, keys);
     }
@@ -131,7 +132,7 @@ private Q_SLOTS:
     }
 
     void TheDigits() {
-        MouseDesk desk({{"Clocks=Analogue", "Clocks=Digital"}});
+        MouseDesk desk("Clocks=Analogue", "Clocks=Digital");
         const QPoint from = MouseDesk::MiddleOf(desk.Clock->Controls().lblDigitalNumber(3));
         desk.Drag(from, {100, 120});
         QVERIFY(IsNear(desk.InFile(u"Digital Clock CentralX(%)"_s), desk.Across(105)));
@@ -189,7 +190,7 @@ private Q_SLOTS:
     }
 
     void AClockWithoutATitleBarByItsGround() {
-        MouseDesk desk({{"Window Title Bar=Yes", "Window Title Bar=No"}});
+        MouseDesk desk("Window Title Bar=Yes", "Window Title Bar=No");
         desk.Drag({170, 60}, {200, 90});
         QCOMPARE(desk.Frame()->pos(), QPoint(230, 180));
         QCOMPARE(desk.Value(DialX), u"-1"_s);
@@ -202,13 +203,13 @@ private Q_SLOTS:
     }
 
     void AFigureByItsGround() {
-        MouseDesk desk({{"Window Shape=Normal", "Window Shape=Circle"}});
+        MouseDesk desk("Window Shape=Normal", "Window Shape=Circle");
         desk.Drag({170, 60}, {200, 90});
         QCOMPARE(desk.Frame()->pos(), QPoint(230, 180));
     }
 
     void AWindowKeepsThePointerInTheShell() {
-        MouseDesk desk({{"Window Title Bar=Yes", "Window Title Bar=No"}});
+        MouseDesk desk("Window Title Bar=Yes", "Window Title Bar=No");
         desk.Press({170, 60});
         desk.MoveTo({180, 60});
         desk.MoveTo({170 - 5000, 60 + 5000});
@@ -220,7 +221,7 @@ private Q_SLOTS:
     }
 
     void AMaximisedWindowStays() {
-        MouseDesk desk({{"Window Title Bar=Yes", "Window Title Bar=No"}});
+        MouseDesk desk("Window Title Bar=Yes", "Window Title Bar=No");
         desk.Clock->SetWindowState(2);
         const QPoint before = desk.Frame()->pos();
         desk.Drag({170, 60}, {200, 90});
