@@ -93,7 +93,8 @@ public:
     bool IsDigital() const { return Is(ClockKind::Digital) || Is(ClockKind::AnalogueAndDigital); }
     /// Whether it is a calculator, typed into or not.
     bool IsCalculator() const {
-        return Is(ClockKind::Calculator) || Is(ClockKind::CalculatorInput);
+        return Is(ClockKind::Calculator) || Is(ClockKind::CalculatorInput) ||
+               Is(ClockKind::CalculatorMessage);
     }
 
     /// To be read only. The reference stays valid as long as the clock; what is in it changes.

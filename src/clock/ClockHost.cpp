@@ -1,5 +1,7 @@
 #include "clock/ClockHost.h"
 
+#include <algorithm>
+
 #include "drawing/LabelText.h"
 #include "drawing/SeenArea.h"
 #include "drawing/StockPictures.h"
@@ -52,8 +54,14 @@ void ClockHost::PlaceMark(int slot, int spot, int place) {
         surface, data_.Properties(), data_.Is(ClockKind::Analogue), spot, place, {side, side});
     mark.Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
     mark.Width = mark.Height = static_cast<float>(side);
-    mark.Left = static_cast<float>(at.x());
-    mark.Top = static_cast<float>(at.y());
+    if (data_.Tag.IsWrapper || data_.Is(ClockKind::None)) {
+        return;
+    }
+    // A mark that nobody can reach could not be changed any more.
+    const double right = std::max(0.0, surface.ScaleWidth() - side);
+    const double bottom = std::max(0.0, surface.ScaleHeight() - side);
+    mark.Left = static_cast<float>(std::clamp(at.x(), 0.0, right));
+    mark.Top = static_cast<float>(std::clamp(at.y(), 0.0, bottom));
 }
 
 std::optional<QRectF> ClockHost::RowInOutline(double top, double height, double width) const {

@@ -42,7 +42,9 @@ public:
     /// In device pixels, as wide and as high as the caption is in the label's font.
     void FitLabel(mduUILib::Control& label) override;
     /// Gives the mark its picture, its size for the present surface and its place, in device pixels
-    /// of the surface. On another clock than an analogue one the marks run along the bottom edge.
+    /// of the surface. On another clock than an analogue one the marks run along the bottom edge. On
+    /// one that shows nothing, and in a wrapper, the mark stays where it is. A place beside the
+    /// surface comes back onto it.
     void PlaceMark(int slot, int spot, int place) override;
     int TimerInterval() const override { return window_.TimerInterval(); }
     void SetTimerInterval(int milliseconds) override { window_.SetTimerInterval(milliseconds); }

@@ -16,7 +16,8 @@ enum class ClockKind {
     Digital = 2,
     Calculator = 3,
     AnalogueAndDigital = 4,
-    CalculatorInput = 5  ///< a calculator while a time is typed into it; no property asks for it
+    CalculatorInput = 5,  ///< a calculator while a time is typed into it; no property asks for it
+    CalculatorMessage = 6  ///< a calculator while a timer's message is typed; its lines stand still
 };
 
 /// The kind of the property "Clocks"; `None` for any other text.
@@ -25,7 +26,7 @@ ClockKind GetClockType(const ClockProperties& properties);
 /// The kind with that number in the menus, from 1 on; `None` for any other number.
 ClockKind NumberedClockKind(int number);
 
-/// The property's word; empty for `None` and for the input state, which have none.
+/// The property's word; empty for `None` and for a calculator that is typed into.
 QString ClockKindName(ClockKind kind);
 
 /// The words of the property in the order of the menus: the first is that of number 1.

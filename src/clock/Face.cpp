@@ -67,7 +67,7 @@ void Face::PrepareReadOuts() {
     }
     if (data_.Is(ClockKind::Calculator)) {
         parts_.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
-    } else if (!data_.Is(ClockKind::CalculatorInput)) {
+    } else if (!data_.IsCalculator()) {
         parts_.Calculator.HideCalculatorClock();
     }
 }

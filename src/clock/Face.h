@@ -42,7 +42,7 @@ public:
     /// typed into keeps its lines as they are.
     void PrepareClockFace() override;
     /// Moves the hands and the digits to the present time of the zone and shows the outcome. A kind
-    /// without hands or digits (`None`, the input of a calculator) shows only what else has
+    /// without hands or digits (`None`, a calculator that is typed into) shows only what else has
     /// changed.
     void DrawClockFace() override;
     /// A face that nobody can see is not painted; the next one that is seen is then painted whole.

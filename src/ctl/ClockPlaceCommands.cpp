@@ -37,6 +37,17 @@ int Drop(Context& context) {
     return Done;
 }
 
+// On a clock that shows nothing a mark is not moved.
+QPointF PlaceOf(const drawing::Surface& surface, const ClockProperties& properties,
+                const timers::DialSpot& at, double side) {
+    const clockcore::ClockKind kind = clockcore::GetClockType(properties);
+    return kind == clockcore::ClockKind::None
+               ? drawing::UnplacedMark
+               : drawing::TimerMarkPlace(surface, properties,
+                                         kind == clockcore::ClockKind::Analogue, at.Spot, at.Place,
+                                         {side, side});
+}
+
 int Mark(Context& context) {
     const std::optional<QSize> size = ReadSize(context.Option(u"--size"_s));
     if (!size) {
@@ -58,9 +69,7 @@ int Mark(Context& context) {
     const drawing::Surface surface(size->width(), size->height(), 1);
     const timers::DialSpot at = timers::SpotOfTime(*time);
     const double side = drawing::TimerMarkSide(surface);
-    const bool isDial = clockcore::GetClockType(properties) == clockcore::ClockKind::Analogue;
-    const QPointF place =
-        drawing::TimerMarkPlace(surface, properties, isDial, at.Spot, at.Place, QSizeF(side, side));
+    const QPointF place = PlaceOf(surface, properties, at, side);
     PrintJson(QJsonDocument(QJsonObject{{u"spot"_s, at.Spot},
                                         {u"place"_s, at.Place},
                                         {u"left"_s, place.x()},

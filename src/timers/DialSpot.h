@@ -16,4 +16,11 @@ struct DialSpot {
 /// "0:00" of spot 0.
 DialSpot SpotOfTime(const QTime& time);
 
+/// The time at a turn of the dial from twelve o'clock, to the nearest minute: the inverse of
+/// `SpotOfTime` on a ring that has 720 places. It lies between 0:00 and 11:59.
+/// @param turn in whole turns clockwise; any number
+///
+/// A quarter turn and one place further, 181 / 720, is 3:00: the first place of a spot is 1.
+QTime TimeAtTurn(double turn);
+
 }  // namespace timers

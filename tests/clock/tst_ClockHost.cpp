@@ -183,6 +183,46 @@ private Q_SLOTS:
         QVERIFY(desk.Shows(mark, StockPicture::TimerMark));
     }
 
+    void OnlyAKindThatShowsSomethingMovesItsMarks_data() {
+        QTest::addColumn<ClockKind>("kind");
+        QTest::addColumn<bool>("isWrapper");
+        QTest::addColumn<float>("top");
+        QTest::newRow("both") << ClockKind::AnalogueAndDigital << false << 186.0F;
+        QTest::newRow("calculator") << ClockKind::Calculator << false << 186.0F;
+        QTest::newRow("typed into") << ClockKind::CalculatorInput << false << 186.0F;
+        QTest::newRow("message") << ClockKind::CalculatorMessage << false << 186.0F;
+        QTest::newRow("none") << ClockKind::None << false << 50.0F;
+        QTest::newRow("wrapper") << ClockKind::Digital << true << 50.0F;
+    }
+
+    void OnlyAKindThatShowsSomethingMovesItsMarks() {
+        QFETCH(ClockKind, kind);
+        QFETCH(bool, isWrapper);
+        HostDesk desk;
+        desk.Data.Tag = {kind, isWrapper};
+        desk.Controls.imgTimer(1).Top = 50;
+        desk.Host.PlaceMark(1, 30, 1);
+        QTEST(desk.Controls.imgTimer(1).Top, "top");
+        QCOMPARE(desk.Controls.imgTimer(1).Width, 14.0F);
+    }
+
+    // A quarter past one, at 30 pixels less four marks of 14, would not be seen; nor would twelve
+    // o'clock on a ring of twice the dial.
+    void EveryMarkCanBeReached() {
+        HostDesk desk;
+        desk.Data.Tag = {ClockKind::Digital, false};
+        desk.Host.PlaceMark(1, 6, 3);
+        QCOMPARE(desk.Controls.imgTimer(1).Left, 0.0F);
+        desk.Data.Tag = {ClockKind::Analogue, false};
+        mduLib::PutProperty(u"Minute Spot Position(%)"_s, u"200"_s, desk.Data.EditProperties());
+        mduLib::PutProperty(u"Clock CentralX(%)"_s, u"50"_s, desk.Data.EditProperties());
+        mduLib::PutProperty(u"Clock CentralY(%)"_s, u"50"_s, desk.Data.EditProperties());
+        desk.Host.PlaceMark(1, 60, 0);
+        QCOMPARE(desk.Controls.imgTimer(1).Top, 0.0F);
+        desk.Host.PlaceMark(1, 30, 0);
+        QCOMPARE(desk.Controls.imgTimer(1).Top, 186.0F);
+    }
+
     void ADialsMarksLieOnItsRing() {
         HostDesk desk;
         mduLib::PutProperty(u"Minute Spot Position(%)"_s, u"100"_s, desk.Data.EditProperties());

@@ -40,6 +40,7 @@ private Q_SLOTS:
         QCOMPARE(clockcore::ClockKindName(ClockKind::AnalogueAndDigital),
                  u"Analogue and Digital"_s);
         QCOMPARE(clockcore::ClockKindName(ClockKind::CalculatorInput), QString());
+        QCOMPARE(clockcore::ClockKindName(ClockKind::CalculatorMessage), QString());
         QCOMPARE(clockcore::ClockKindName(ClockKind::None), QString());
         QCOMPARE(
             clockcore::ClockKindNames(),
@@ -75,6 +76,7 @@ private Q_SLOTS:
         QTest::newRow("calculator") << ClockKind::Calculator << false << u"3"_s << QList{3};
         QTest::newRow("both") << ClockKind::AnalogueAndDigital << false << u"4"_s << QList{4};
         QTest::newRow("input") << ClockKind::CalculatorInput << false << u"5"_s << QList{5};
+        QTest::newRow("message") << ClockKind::CalculatorMessage << false << u"6"_s << QList{6};
         QTest::newRow("wrapper of none") << ClockKind::None << true << u"7"_s << QList{0};
         QTest::newRow("wrapped analogue") << ClockKind::Analogue << true << u"8"_s << QList{1};
         QTest::newRow("wrapped calculator") << ClockKind::Calculator << true << u"10"_s << QList{3};
@@ -109,6 +111,7 @@ private Q_SLOTS:
         QTest::newRow("calculator") << ClockKind::Calculator << u"lines "_s;
         QTest::newRow("both") << ClockKind::AnalogueAndDigital << u"dial digits "_s;
         QTest::newRow("input") << ClockKind::CalculatorInput << u"lines "_s;
+        QTest::newRow("message") << ClockKind::CalculatorMessage << u"lines "_s;
     }
 
     void PartsOfAKind() {

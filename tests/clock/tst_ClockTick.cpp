@@ -275,6 +275,8 @@ private Q_SLOTS:
                               << u"SetSunMoon|SetDigitalLayout|PlaceTimerMarks"_s;
         QTest::newRow("input") << ClockKind::CalculatorInput
                                << u"SetCalculatorLayout|PlaceTimerMarks"_s;
+        QTest::newRow("message") << ClockKind::CalculatorMessage
+                                 << u"SetCalculatorLayout|PlaceTimerMarks"_s;
     }
 
     void RedrawRequestByMode() {

@@ -90,6 +90,7 @@ private Q_SLOTS:
         row("both", ClockKind::AnalogueAndDigital,
             u"dial, no name, digital layout, no calculator"_s);
         row("typed into", ClockKind::CalculatorInput, u"no dial, no sun, no name, no digits"_s);
+        row("message", ClockKind::CalculatorMessage, u"no dial, no sun, no name, no digits"_s);
         row("none", ClockKind::None, u"no dial, no sun, no name, no digits, no calculator"_s);
     }
 
@@ -111,6 +112,7 @@ private Q_SLOTS:
         row("calculator", ClockKind::Calculator, u"lines"_s);
         row("both", ClockKind::AnalogueAndDigital, u"sun, digits hh:mm"_s);
         row("typed into", ClockKind::CalculatorInput, {});
+        row("message", ClockKind::CalculatorMessage, {});
         row("none", ClockKind::None, {});
     }
 

@@ -96,6 +96,13 @@ private Q_SLOTS:
         QVERIFY(IsNear(mark[u"top"_s], 279));
     }
 
+    void AMarkOnAClockThatShowsNothing() {
+        const QJsonObject mark = Mark("Sundial", u"3:00"_s).Object();
+        QCOMPARE(mark[u"spot"_s].toInt(), 15);
+        QVERIFY(IsNear(mark[u"left"_s], 13));
+        QVERIFY(IsNear(mark[u"top"_s], 13));
+    }
+
     void NoMark() {
         const CompanionAnswer noTime = Mark("Analogue", u"noon"_s);
         QCOMPARE(noTime.Status, 1);

@@ -45,6 +45,38 @@ private Q_SLOTS:
         QVERIFY(qAbs(at.y() + 14 - corner.y()) < 0.001);
     }
 
+    void TheTurnOfAPoint_data() {
+        QTest::addColumn<QString>("special");
+        QTest::addColumn<QPointF>("corner");
+        QTest::addColumn<double>("turn");
+        QTest::newRow("twelve") << u"None"_s << QPointF(100, 16) << 0.0;
+        QTest::newRow("three, off the ring") << u"None"_s << QPointF(110, 100) << 0.25;
+        QTest::newRow("six, beside the window") << u"None"_s << QPointF(100, 900) << 0.5;
+        QTest::newRow("nine") << u"None"_s << QPointF(16, 100) << 0.75;
+        QTest::newRow("half past ten") << u"None"_s << QPointF(50, 50) << 0.875;
+        QTest::newRow("three, backward") << u"Analogue Backward"_s << QPointF(16, 100) << 0.25;
+        QTest::newRow("the centre") << u"None"_s << QPointF(100, 100) << 0.0;
+    }
+
+    void TheTurnOfAPoint() {
+        QFETCH(QString, special);
+        QFETCH(QPointF, corner);
+        QFETCH(double, turn);
+        const double found = drawing::TurnOnTheRing(Surface(200, 200, 1), Look(special), corner);
+        QVERIFY2(qAbs(found - turn) < 1e-9, qPrintable(QString::number(found)));
+    }
+
+    // The middle of the dial stands elsewhere, as its keys tell.
+    void TheRingHasTheCentreOfTheDial() {
+        ClockProperties look = Look();
+        mduLib::PutProperty(u"Clock CentralX(%)"_s, u"25"_s, look);
+        mduLib::PutProperty(u"Clock CentralY(%)"_s, u"75"_s, look);
+        const Surface surface(200, 200, 1);
+        QVERIFY(qAbs(drawing::TurnOnTheRing(surface, look, {100, 150}) - 0.25) < 1e-9);
+        const QPointF six = drawing::TimerMarkPlace(surface, look, true, 30, 0, {16, 14});
+        QVERIFY(qAbs(six.x() + 16 - 50) < 0.001 && qAbs(six.y() + 14 - 234) < 0.001);
+    }
+
     void AlongTheBottom_data() {
         QTest::addColumn<int>("spot");
         QTest::addColumn<QPointF>("place");

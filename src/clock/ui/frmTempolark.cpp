@@ -5,6 +5,7 @@
 
 #include "clock/ClockMode.h"
 #include "drawing/StockPictures.h"
+#include "drawing/TimerMarks.h"
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
 #include "foundation/PropertyLookup.h"
@@ -17,13 +18,12 @@ using clockcore::ClockState;
 
 namespace {
 
-constexpr int FirstShot = 10;         // milliseconds until the first tick
-constexpr float FirstTimerMark = 13;  // left and top of the first timer's mark
+constexpr int FirstShot = 10;  // milliseconds until the first tick
 
 void LayOutTimerMarks(mduUILib::ControlArray& marks) {
     marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
-    marks(1).Left = FirstTimerMark;
-    marks(1).Top = FirstTimerMark;
+    marks(1).Left = static_cast<float>(drawing::UnplacedMark.x());
+    marks(1).Top = static_cast<float>(drawing::UnplacedMark.y());
     for (int i = 2; i <= marks.Count(); ++i) {
         marks(i) = marks(i - 1);
     }
