@@ -1,5 +1,4 @@
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTest>
@@ -164,20 +163,6 @@ private Q_SLOTS:
         desk.Form.setEnabled(false);
         desk.Menu({5, 5});
         QCOMPARE(desk.Clicks.Log, QStringList{u"disabled at 105,105"_s});
-    }
-
-    void HintsOfSpeakerAndSpots() {
-        InputDesk desk;
-        desk.Put(desk.Controls.imgClockNumber(3), 60);
-        desk.Put(desk.Controls.imgClockNumber(4), 80);
-        desk.Controls.imgClockNumber(3).ToolTipText = u"3:00"_s;
-        const auto hintAt = [&](const QPoint& at) {
-            return desk.Input.ShowToolTip(QHelpEvent(QEvent::ToolTip, at, at));
-        };
-        QVERIFY(hintAt({5, 5}));
-        QVERIFY(hintAt({65, 5}));
-        QVERIFY(!hintAt({85, 5}));  // a spot without a text
-        QVERIFY(!hintAt({99, 99}));
     }
 };
 

@@ -1,10 +1,8 @@
 #include "clock/ui/ClockInput.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QToolTip>
 
 #include "drawing/TitleEdit.h"
 
@@ -105,26 +103,6 @@ void ClockInput::ShowMenu(const QContextMenuEvent& event) {
     if (hit.Part != ClockPart::Speaker || !withControl) {
         clicks_.ShowMenu(hit, event.globalPos());
     }
-}
-
-QString ClockInput::ToolTipAt(const QPoint& position) const {
-    const QPointF point = SurfacePoint(position);
-    if (ControlAt(controls_.imgSpeaker, point) != nullptr) {
-        return clicks_.SpeakerHint();
-    }
-    const mduUILib::Control* spot = ControlAt(controls_.imgClockNumber, point);
-    return spot != nullptr ? spot->ToolTipText : QString();
-}
-
-bool ClockInput::ShowToolTip(const QHelpEvent& event) {
-    const QString text = ToolTipAt(event.pos());
-    if (text.isEmpty()) {
-        QToolTip::hideText();
-        return false;
-    }
-    QToolTip::showText(event.globalPos(), text, &form_,
-                       QRect(event.pos() - QPoint(2, 2), QSize(5, 5)));
-    return true;
 }
 
 }  // namespace clockcore

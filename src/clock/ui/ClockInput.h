@@ -8,13 +8,12 @@
 #include "foundation/Controls.h"
 
 class QContextMenuEvent;
-class QHelpEvent;
 class QKeyEvent;
 class QMouseEvent;
 
 namespace clockcore {
 
-/// What keys and the mouse mean to a clock. Each handler tells whether the event was the clock's;
+/// What keys and clicks mean to a clock. Each handler tells whether the event was the clock's;
 /// what was not is the window's own.  Drags are
 /// `DragInput`'s.
 class ClockInput {
@@ -35,14 +34,10 @@ public:
     bool PressMouse(const QMouseEvent& event);
     /// Shows the menu of the part that was clicked, or that of a disabled clock.
     void ShowMenu(const QContextMenuEvent& event);
-    /// Shows the hint of what lies above at that point. @return false where there is none
-    bool ShowToolTip(const QHelpEvent& event);
 
 private:
     /// From logical pixels of the form to device pixels of the surface.
     QPointF SurfacePoint(const QPoint& position) const;
-    /// Of the speaker mark or of a minute spot; empty for none.
-    QString ToolTipAt(const QPoint& position) const;
 
     QWidget& form_;
     ClockData& data_;

@@ -209,8 +209,9 @@ void DragInput::TakeBack() {
 // A hand all over the ground would say little: there it shows once something moves.
 void DragInput::ShowPointerAt(const QPointF& local, bool withControl) {
     const QPointF point = local * form_.devicePixelRatioF();
-    if (const mduUILib::Control* label = ControlAt(controls_.lblHour, point)) {
-        pointer_.ShowMark(label->Picture);
+    const ClockHit hit = PartAt(controls_, point);
+    if (hit.Part == ClockPart::HourNumber) {
+        pointer_.ShowMark(controls_.lblHour(hit.Index).Picture);
         return;
     }
     const DragObject object = ObjectAt(local, withControl);

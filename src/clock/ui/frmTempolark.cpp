@@ -76,6 +76,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       partDrag_(data_, {controls_, canvas_, face_, dial_, digital_, background_, overlays_, timers_,
                         settings_}),
       drag_(*this, area, placement_, data_, controls_, partDrag_),
+      hints_({*this, data_, controls_, timers_, menus_}, program.Services.Clock),
       input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
             {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,

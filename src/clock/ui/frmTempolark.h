@@ -21,6 +21,7 @@
 #include "clock/ui/DragInput.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
+#include "clock/ui/PartBalloon.h"
 #include "clock/ui/WidgetScreen.h"
 #include "drawing/CalculatorLines.h"
 #include "drawing/ClockBackground.h"
@@ -157,7 +158,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    /// Hints, and the right click on a disabled clock.
+    /// The right click on a disabled clock.
     bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -221,6 +222,7 @@ private:
     clockcore::ClockMenuHandlers menus_;
     clockcore::PartDrag partDrag_;
     clockcore::DragInput drag_;
+    clockcore::PartBalloon hints_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
 };

@@ -1,6 +1,5 @@
 // What the window system tells a clock's window.
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -46,12 +45,6 @@ bool frmTempolark::event(QEvent* event) {
     if (event->type() == QEvent::ContextMenu && !isEnabled()) {
         input_.ShowMenu(*static_cast<QContextMenuEvent*>(event));
         event->accept();
-        return true;
-    }
-    if (event->type() == QEvent::ToolTip) {
-        if (!input_.ShowToolTip(*static_cast<QHelpEvent*>(event))) {
-            event->ignore();
-        }
         return true;
     }
     return QWidget::event(event);
