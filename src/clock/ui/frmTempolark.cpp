@@ -77,6 +77,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
                         settings_}),
       drag_(*this, area, placement_, data_, controls_, partDrag_),
       hints_({*this, data_, controls_, timers_, menus_}, program.Services.Clock),
+      walk_({*this, data_, controls_, canvas_, timers_, menus_, partDrag_}),
       input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
             {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,

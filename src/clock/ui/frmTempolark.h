@@ -22,6 +22,7 @@
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
 #include "clock/ui/PartBalloon.h"
+#include "clock/ui/WalkInput.h"
 #include "clock/ui/WidgetScreen.h"
 #include "drawing/CalculatorLines.h"
 #include "drawing/ClockBackground.h"
@@ -223,6 +224,7 @@ private:
     clockcore::PartDrag partDrag_;
     clockcore::DragInput drag_;
     clockcore::PartBalloon hints_;
+    clockcore::WalkInput walk_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
 };

@@ -36,6 +36,7 @@ void frmTempolark::paintEvent(QPaintEvent* event) {
         const QRectF source(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
         painter.drawImage(QRectF(part), shown, source);
     }
+    walk_.PaintRing(painter);
     if (!isEnabled()) {
         clockcore::DrawDisabledVeil(painter, event->region());
     }
