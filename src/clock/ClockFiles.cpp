@@ -167,7 +167,7 @@ bool ClockFiles::SavePosition(const QRectF& twips) {
     return written;
 }
 
-bool ClockFiles::SaveKey(const QString& name) {
+bool ClockFiles::SaveKeys(const QStringList& names) {
     platform::Files& files = program_.Services.FileSystem;
     const QString& path = data_.PropertyFileName;
     if (!mayWrite_ || !mduLib::MayRewrite(files, path)) {
@@ -178,8 +178,10 @@ bool ClockFiles::SaveKey(const QString& name) {
     if (!mduLib::ReadPropertyFile(files, path, stored)) {
         stored = data_.Properties();  // the file has gone
     }
-    const bool written = mduLib::SavePropertyNow(
-        files, name, mduLib::GetPropertyRaw(name, data_.Properties()), stored, path);
+    for (const QString& name : names) {
+        mduLib::PutPropertyRaw(name, mduLib::GetPropertyRaw(name, data_.Properties()), stored);
+    }
+    const bool written = mduLib::WritePropertyFile(files, stored, path);
     ReportUnless(written);
     return written;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QStringList>
 #include <array>
 #include <functional>
 
@@ -55,10 +56,11 @@ public:
     /// false when it can't be written
     bool SavePosition(const QRectF& twips);
 
-    /// Brings the present value of a key, with its choices, into the file as it now stands on disk.
-    /// What else has been changed waits for its own save. @return false when that failed, which is
-    /// told.
-    bool SaveKey(const QString& name);
+    /// Brings the present values of some keys, with their choices, into the file as it now stands
+    /// on disk, which is written once. What else has been changed waits for its own save. @return
+    /// false when that failed, which is told.
+    bool SaveKeys(const QStringList& names);
+    bool SaveKey(const QString& name) { return SaveKeys({name}); }
 
     /// Names this clock's file and properties as the current ones.
     void MakeCurrent();

@@ -77,6 +77,18 @@ std::optional<int> SpotAt(const mduUILib::ControlArray& spots, const QPointF& po
     return found;
 }
 
+bool HasHands(const ClockData& data) {
+    return data.IsAnalogue() && !data.Tag.IsWrapper;
+}
+
+QRectF ReadOutPlace(const mduUILib::ControlArray& labels) {
+    QRectF place;
+    for (const mduUILib::Control& label : labels.Members) {
+        place |= ClickArea(label);
+    }
+    return place;
+}
+
 }  // namespace
 
 ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
@@ -92,13 +104,34 @@ ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point) {
 ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,
                const QPointF& point) {
     const ClockHit hit = PartAt(controls, point);
-    if (hit.Part != ClockPart::Face || !data.IsAnalogue() || data.Tag.IsWrapper) {
+    if (hit.Part != ClockPart::Face || !HasHands(data)) {
         return hit;
     }
     const QPointF away =
         point - drawing::ClockCentre(data.Properties(), scale.width(), scale.height());
     const bool meet = std::abs(away.x()) <= HubReach && std::abs(away.y()) <= HubReach;
     return meet ? ClockHit{ClockPart::Hands} : hit;
+}
+
+QRectF PlaceOfPart(const ClockData& data, const mduUILib::ClockControls& controls,
+                   const QSize& scale, const ClockHit& hit) {
+    if (hit.Part == ClockPart::Hands && HasHands(data)) {
+        const QPointF reach(HubReach, HubReach);
+        const QPointF hub = drawing::ClockCentre(data.Properties(), scale.width(), scale.height());
+        return {hub - reach, hub + reach};
+    }
+    if (hit.Part == ClockPart::Digits) {
+        return ReadOutPlace(controls.lblDigitalNumber);
+    }
+    QRectF place;
+    for (const auto& layer : Layers) {
+        const mduUILib::ControlArray& array = controls.*layer.Array;
+        const bool isThere = hit.Index >= array.First && hit.Index < array.First + array.Count();
+        if (layer.Part == hit.Part && isThere) {
+            place |= ClickArea(array(hit.Index));
+        }
+    }
+    return place;
 }
 
 const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array, const QPointF& point) {

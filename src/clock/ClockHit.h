@@ -43,6 +43,11 @@ ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
 ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,
                const QPointF& point);
 
+/// Where a part stands, in device pixels of the surface: what takes its clicks, and for digits all
+/// of them together. Nothing, as an empty rectangle, for the face and for a part that is hidden.
+QRectF PlaceOfPart(const ClockData& data, const mduUILib::ClockControls& controls,
+                   const QSize& scale, const ClockHit& hit);
+
 /// The first visible member of an array that holds a point, in device pixels of the surface; null
 /// where there is none.
 const mduUILib::Control* ControlAt(const mduUILib::ControlArray& array, const QPointF& point);

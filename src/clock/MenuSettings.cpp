@@ -1,7 +1,5 @@
 #include "clock/MenuSettings.h"
 
-#include <algorithm>
-
 #include "foundation/NamedValues.h"
 #include "foundation/PropertyLookup.h"
 
@@ -47,8 +45,7 @@ void MenuSettings::SetEnabled(bool enabled) {
 }
 
 void MenuSettings::Save(const QStringList& keys) {
-    if (std::all_of(keys.begin(), keys.end(),
-                    [this](const QString& key) { return parts_.Files.SaveKey(key); })) {
+    if (parts_.Files.SaveKeys(keys)) {
         parts_.Look.TellSaved(u"the settings of "_s + parts_.Placement.Caption());
     }
     parts_.Timers.SaveTimer(data_.TimerFile);

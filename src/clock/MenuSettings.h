@@ -45,11 +45,11 @@ public:
     void SetActionColour(const QString& colour);
     /// Makes a disabled clock usable again, or disables it, now and at its next start.
     void SetEnabled(bool enabled);
-
-private:
+    /// Brings keys that have been given their values already into the file, all at once.
     /// Tells of a save only when all the keys are in the file.
     void Save(const QStringList& keys);
 
+private:
     ClockData& data_;
     Parts parts_;
 };

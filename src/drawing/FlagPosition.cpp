@@ -32,6 +32,10 @@ FlagPosition ReadFlagPosition(const QString& text) {
     return left ? FlagPosition::TopLeft : FlagPosition::TopRight;
 }
 
+QString FlagPositionName(FlagPosition position) {
+    return Positions.NameOf(position);
+}
+
 QStringList FlagPositionNames() {
     return Positions.Words();
 }

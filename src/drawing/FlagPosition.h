@@ -12,6 +12,9 @@ enum class FlagPosition { TopRight, TopLeft, BottomRight, BottomLeft, Icon };
 /// unknown text is `TopRight`.
 FlagPosition ReadFlagPosition(const QString& text);
 
+/// The words of one of them, as they are stored.
+QString FlagPositionName(FlagPosition position);
+
 QStringList FlagPositionNames();  ///< in the order of a menu of them
 
 }  // namespace drawing

@@ -264,6 +264,29 @@ private Q_SLOTS:
         QCOMPARE(clockcore::ControlAt(controls.lblHour, {7, 5}), &controls.lblHour(7));
         QCOMPARE(clockcore::ControlAt(controls.lblHour, {12, 5}), &controls.lblHour(30));
     }
+
+    void PlacesOfParts() {
+        const Centred clock(ClockKind::AnalogueAndDigital, u"25"_s);
+        mduUILib::ClockControls controls;
+        Put(controls.lblDigitalNumber(1), 10, 60, 20, 10);
+        Put(controls.lblDigitalNumber(3), 40, 60, 20, 10);
+        Put(controls.imgFlag(1), 5, 6, 7, 8);
+        Put(controls.imgAction(1), 100, 50, 10, 10);
+        Put(controls.lblActionMsg(1), 115, 52, 40, 6);
+        const auto place = [&](ClockPart part, int index) {
+            return PlaceOfPart(clock.Data, controls, {200, 100}, {part, index});
+        };
+        QCOMPARE(place(ClockPart::Hands, 1), QRectF(30, 30, 40, 40));
+        QCOMPARE(place(ClockPart::Digits, 3), QRectF(10, 60, 50, 10));
+        QCOMPARE(place(ClockPart::Flag, 1), QRectF(5, 6, 7, 8));
+        QCOMPARE(place(ClockPart::Action, 1), QRectF(100, 50, 55, 10));
+        QVERIFY(place(ClockPart::Face, 1).isEmpty());
+        QVERIFY(place(ClockPart::Speaker, 1).isEmpty());  // hidden
+        QVERIFY(place(ClockPart::TimerMark, 101).isEmpty());
+        QVERIFY(place(ClockPart::TimerMark, 0).isEmpty());
+        const Centred digital(ClockKind::Digital);
+        QVERIFY(PlaceOfPart(digital.Data, controls, {200, 100}, {ClockPart::Hands}).isEmpty());
+    }
 };
 
 QTEST_MAIN(tst_ClockHit)

@@ -1,5 +1,4 @@
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTest>
@@ -66,9 +65,6 @@ struct InputDesk {
     void Menu(const QPoint& at, Qt::KeyboardModifiers with = {}) {
         Input.ShowMenu(
             QContextMenuEvent(QContextMenuEvent::Mouse, at, at + QPoint(100, 100), with));
-    }
-    void MoveTo(const QPoint& at) {
-        Input.MoveMouse(QMouseEvent(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {}));
     }
 };
 
@@ -183,33 +179,6 @@ private Q_SLOTS:
         desk.Form.setEnabled(false);
         desk.Menu({5, 5});
         QCOMPARE(desk.Clicks.Log, QStringList{u"disabled at 105,105"_s});
-    }
-
-    void AnHourNumberHasItsCursor() {
-        InputDesk desk;
-        QImage mark(32, 16, QImage::Format_RGB32);
-        mark.fill(Qt::red);
-        desk.Put(desk.Controls.lblHour(5), 60);
-        desk.Controls.lblHour(5).Picture = std::make_shared<const QImage>(mark);
-        desk.MoveTo({65, 5});
-        QCOMPARE(desk.Form.cursor().shape(), Qt::BitmapCursor);
-        QCOMPARE(desk.Form.cursor().pixmap().size(), QSize(16, 8));
-        desk.MoveTo({80, 5});
-        QCOMPARE(desk.Form.cursor().shape(), Qt::ArrowCursor);
-    }
-
-    void HintsOfSpeakerAndSpots() {
-        InputDesk desk;
-        desk.Put(desk.Controls.imgClockNumber(3), 60);
-        desk.Put(desk.Controls.imgClockNumber(4), 80);
-        desk.Controls.imgClockNumber(3).ToolTipText = u"3:00"_s;
-        const auto hintAt = [&](const QPoint& at) {
-            return desk.Input.ShowToolTip(QHelpEvent(QEvent::ToolTip, at, at));
-        };
-        QVERIFY(hintAt({5, 5}));
-        QVERIFY(hintAt({65, 5}));
-        QVERIFY(!hintAt({85, 5}));  // a spot without a text
-        QVERIFY(!hintAt({99, 99}));
     }
 };
 

@@ -1,7 +1,5 @@
 #include <QApplication>
-#include <QHelpEvent>
 #include <QTest>
-#include <QToolTip>
 
 #include "ClockDesk.h"
 
@@ -243,21 +241,6 @@ private Q_SLOTS:
         clock->SetBackward();
         QCOMPARE(mduLib::GetProperty(u"Clock Special"_s, clock->Data().Properties()),
                  u"Analogue Backward"_s);
-    }
-
-    void SpotsTellTheirTime() {
-        Desk desk;
-        frmTempolark* clock = desk.Running(u"UTC"_s);
-        const auto hover = [clock](const QPoint& position) {
-            QHelpEvent event(QEvent::ToolTip, position, clock->mapToGlobal(position));
-            QApplication::sendEvent(clock, &event);
-            return QToolTip::text();
-        };
-        const mduUILib::ControlArray& spots = clock->Controls().imgClockNumber;
-        QCOMPARE(hover(spots(6).Rect().center().toPoint()), u"1:12"_s);
-        QCOMPARE(hover(spots(45).Rect().center().toPoint()), u"9:00"_s);
-        hover(clock->rect().center());
-        QTRY_VERIFY(!QToolTip::isVisible());
     }
 
     void TheMouseShowsTheMarkOfANumber() {

@@ -1,11 +1,8 @@
 #include "clock/ui/ClockInput.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPixmap>
-#include <QToolTip>
 
 #include "clock/ClockKeys.h"
 #include "drawing/TitleEdit.h"
@@ -47,8 +44,6 @@ int CalculatorKey(const QKeyEvent& event) {
     const QString text = event.text();
     return text.isEmpty() || !text[0].isPrint() ? 0 : drawing::TypedKey(text[0]);
 }
-
-constexpr int CursorSide = 16;  // logical pixels
 
 bool IsOnAction(const mduUILib::ClockControls& controls, const QPointF& point) {
     return ControlAt(controls.imgAction, point) != nullptr ||
@@ -105,22 +100,6 @@ QPointF ClockInput::SurfacePoint(const QPoint& position) const {
     return QPointF(position) * form_.devicePixelRatioF();
 }
 
-void ClockInput::MoveMouse(const QMouseEvent& event) {
-    const mduUILib::Control* label =
-        ControlAt(controls_.lblHour, SurfacePoint(event.position().toPoint()));
-    const std::shared_ptr<const QImage> picture = label != nullptr ? label->Picture : nullptr;
-    if (picture == mouseIcon_) {
-        return;
-    }
-    mouseIcon_ = picture;
-    if (picture && !picture->isNull()) {
-        form_.setCursor(QCursor(QPixmap::fromImage(picture->scaled(
-            CursorSide, CursorSide, Qt::KeepAspectRatio, Qt::SmoothTransformation))));
-    } else {
-        form_.unsetCursor();
-    }
-}
-
 bool ClockInput::PressMouse(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) {
         return false;
@@ -162,26 +141,6 @@ void ClockInput::ShowMenu(const QContextMenuEvent& event) {
     if (hit.Part != ClockPart::Speaker || !withControl) {
         clicks_.ShowMenu(hit, event.globalPos());
     }
-}
-
-QString ClockInput::ToolTipAt(const QPoint& position) const {
-    const QPointF point = SurfacePoint(position);
-    if (ControlAt(controls_.imgSpeaker, point) != nullptr) {
-        return clicks_.SpeakerHint();
-    }
-    const mduUILib::Control* spot = ControlAt(controls_.imgClockNumber, point);
-    return spot != nullptr ? spot->ToolTipText : QString();
-}
-
-bool ClockInput::ShowToolTip(const QHelpEvent& event) {
-    const QString text = ToolTipAt(event.pos());
-    if (text.isEmpty()) {
-        QToolTip::hideText();
-        return false;
-    }
-    QToolTip::showText(event.globalPos(), text, &form_,
-                       QRect(event.pos() - QPoint(2, 2), QSize(5, 5)));
-    return true;
 }
 
 }  // namespace clockcore

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
 
 #include "clock/ClockClicks.h"
 #include "clock/ClockData.h"
@@ -9,14 +8,14 @@
 #include "foundation/Controls.h"
 
 class QContextMenuEvent;
-class QHelpEvent;
 class QKeyEvent;
 class QMouseEvent;
 
 namespace clockcore {
 
-/// What keys and the mouse mean to a clock. Each handler tells whether the event was the clock's;
-/// what was not is the window's own. (Dragging of parts comes here, too.)
+/// What keys and clicks mean to a clock. Each handler tells whether the event was the clock's;
+/// what was not is the window's own.  Drags are
+/// `DragInput`'s.
 class ClockInput {
 public:
     /// @param form the window that the events come from, which shows cursors and hints
@@ -31,9 +30,6 @@ public:
     /// Tab belongs to the calculator; elsewhere it moves the focus.
     bool TakesTab() const { return data_.IsCalculator(); }
 
-    /// Over an hour number the mouse shows the number's own mark, 16 logical pixels large;
-    /// elsewhere, and over a number without a mark, its arrow.
-    void MoveMouse(const QMouseEvent& event);
     /// The left button on the speaker or on an action. With Ctrl held a press on the speaker is
     /// left to those who drag it.
     bool PressMouse(const QMouseEvent& event);
@@ -41,21 +37,16 @@ public:
     bool DoubleClickMouse(const QMouseEvent& event);
     /// Shows the menu of the part that was clicked, or that of a disabled clock.
     void ShowMenu(const QContextMenuEvent& event);
-    /// Shows the hint of what lies above at that point. @return false where there is none
-    bool ShowToolTip(const QHelpEvent& event);
 
 private:
     /// From logical pixels of the form to device pixels of the surface.
     QPointF SurfacePoint(const QPoint& position) const;
-    /// Of the speaker mark or of a minute spot; empty for none.
-    QString ToolTipAt(const QPoint& position) const;
 
     QWidget& form_;
     ClockData& data_;
     const mduUILib::ClockControls& controls_;
     drawing::CalculatorClock& calculator_;
     ClockClicks& clicks_;
-    std::shared_ptr<const QImage> mouseIcon_;  ///< what the mouse shows; null for its arrow
 };
 
 }  // namespace clockcore

@@ -18,10 +18,13 @@
 #include "clock/StyleFiles.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
+#include "clock/ui/DragInput.h"
 #include "clock/ui/FormPopup.h"
 #include "clock/ui/FormWindow.h"
 #include "clock/ui/MdiPlacement.h"
+#include "clock/ui/PartBalloon.h"
 #include "clock/ui/TimersOnDial.h"
+#include "clock/ui/WalkInput.h"
 #include "clock/ui/WidgetScreen.h"
 #include "drawing/CalculatorLines.h"
 #include "drawing/ClockBackground.h"
@@ -127,6 +130,10 @@ public:
     void FormRightClick() { popup_.FormRightClick(QCursor::pos()); }
     /// Shows the text of `lblClock` where the point, in device pixels of the surface, lies on it.
     void RightClick(double x, double y) { popup_.RightClick({x, y}); }
+    /// See `DragInput::MouseMoveObj`.
+    void MouseMoveObj(const mduUILib::Control& object, int button, int shift, double x, double y) {
+        drag_.MouseMoveObj(object, button, shift, x, y);
+    }
 
     /// Gives the zone's record, the state and the controls to those who look from outside.
     const clockcore::ClockData& Data() const { return data_; }
@@ -158,9 +165,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    /// Hints, keys, the double click, and the right click on a disabled clock.
+    /// Keys, the double click, and the right click on a disabled clock.
     bool event(QEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     /// Tab belongs to the calculator.
@@ -225,6 +231,10 @@ private:
     clockcore::PartMenus partMenus_;
     clockcore::TimersOnDial timersOnDial_;
     clockcore::ClockMenuHandlers menus_;
+    clockcore::PartDrag partDrag_;
+    clockcore::DragInput drag_;
+    clockcore::PartBalloon hints_;
+    clockcore::WalkInput walk_;
     clockcore::ClockInput input_;
     clockcore::ClockTick tick_;
 };

@@ -1,6 +1,5 @@
 // What the window system tells a clock's window.
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -38,6 +37,7 @@ void frmTempolark::paintEvent(QPaintEvent* event) {
         const QRectF source(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
         painter.drawImage(QRectF(part), shown, source);
     }
+    walk_.PaintRing(painter);
     if (!isEnabled()) {
         clockcore::DrawDisabledVeil(painter, event->region());
     }
@@ -58,18 +58,7 @@ bool frmTempolark::event(QEvent* event) {
         input_.DoubleClickMouse(*static_cast<QMouseEvent*>(event))) {
         return true;
     }
-    if (event->type() == QEvent::ToolTip) {
-        if (!input_.ShowToolTip(*static_cast<QHelpEvent*>(event))) {
-            event->ignore();
-        }
-        return true;
-    }
     return QWidget::event(event);
-}
-
-void frmTempolark::mouseMoveEvent(QMouseEvent* event) {
-    input_.MoveMouse(*event);
-    QWidget::mouseMoveEvent(event);
 }
 
 void frmTempolark::mousePressEvent(QMouseEvent* event) {

@@ -1,0 +1,20 @@
+#include "clock/Dragging.h"
+
+namespace clockcore {
+
+void Dragging::Press(DragObject object, const QPointF& pointer) {
+    End();
+    object_ = object;
+    pressed_ = pointer_ = pointer;
+}
+
+bool Dragging::Move(const QPointF& pointer, double threshold) {
+    if (object_ == DragObject::None) {
+        return false;
+    }
+    pointer_ = pointer;
+    underWay_ = underWay_ || Way().manhattanLength() >= threshold;
+    return underWay_;
+}
+
+}  // namespace clockcore

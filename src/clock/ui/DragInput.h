@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include "clock/Dragging.h"
+#include "clock/PartDrag.h"
+#include "clock/ui/MousePointer.h"
+#include "clock/ui/WindowMove.h"
+
+class QMouseEvent;
+
+namespace clockcore {
+
+/// The mouse that drags a clock's parts, and the clock by its ground. It watches the form's events
+/// and takes those of a drag for itself; a press that comes to nothing is left to others as the
+/// click that it is.
+///
+/// However many moves the mouse makes, the clock follows once before each time that it is painted.
+/// Escape takes a drag back, and so does whatever takes the window away from under it: another
+/// size, a change of state, a clock that is disabled, hidden or closed.
+///
+/// The mouse shows a hand over what can be dragged, a closed one while that moves, and over an hour
+/// number the number's own mark, 16 logical pixels large.
+class DragInput final : public QObject {
+public:
+    /// @param form the clock's form, whose events are watched
+    /// @param area the shell's frame for its children; null for a clock that stands alone
+    DragInput(QWidget& form, const QMdiArea* area, MdiPlacement& placement, const ClockData& data,
+              mduUILib::ClockControls& controls, PartDrag& part);
+
+    /// The mouse over an object, as a script or another window tells it: with the left button it
+    /// drags the object, as far as that can be dragged, until the button is let go; without, it
+    /// shows whether there is something to drag.
+    /// @param object a control of this clock; another than the draggable ones only shows the mouse
+    /// @param button 1 left; 0 none
+    /// @param shift keys held: 1 Shift, 2 Ctrl, 4 Alt, added up
+    /// @param x, y from the object's left top, in device pixels of the surface
+    void MouseMoveObj(const mduUILib::Control& object, int button, int shift, double x, double y);
+
+    /// Whether something is following the mouse at this moment.
+    bool IsDragging() const { return dragging_.IsUnderWay(); }
+
+    bool event(QEvent* event) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool Press(const QMouseEvent& event);
+    bool Move(const QMouseEvent& event);
+    bool Release(const QMouseEvent& event);
+    /// The pointer, with the left button held, in logical pixels of the form and of the screen.
+    void MoveTo(const QPointF& local, const QPointF& global);
+    DragObject ObjectAt(const QPointF& local, bool withControl) const;
+    void Begin();
+    void Follow();
+    void Drop();
+    void TakeBack();
+    void ShowPointerAt(const QPointF& local, bool withControl);
+
+    QWidget& form_;
+    const ClockData& data_;
+    mduUILib::ClockControls& controls_;
+    PartDrag& part_;
+    WindowMove window_;
+    Dragging dragging_;
+    MousePointer pointer_;
+    bool followsSoon_ = false;
+};
+
+}  // namespace clockcore
