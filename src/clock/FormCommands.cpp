@@ -49,6 +49,12 @@ void FormCommands::Run(const FormEntry& entry) {
     }
 }
 
+// While its window is between two sizes, a clock is not in sight.
+void FormCommands::SetWindowState(int state) {
+    parts_.Placement.SetWindowState(state);
+    parts_.Look.FitSurface();
+}
+
 void FormCommands::SetKind(const FormEntry& entry) {
     parts_.Look.SetClocks(NumberedClockKind(entry.Index));
 }

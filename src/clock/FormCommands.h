@@ -39,7 +39,7 @@ public:
     /// shell tells that it can't.
     void OpenWindow(ShellWindow window);
     /// Restores, minimises or maximises the window: 0, 1 or 2. The next save stores it.
-    void SetWindowState(int state) { parts_.Placement.SetWindowState(state); }
+    void SetWindowState(int state);
     /// Maximises the window; one that is maximised or minimised comes back to its normal size.
     void ToggleMaximised() { SetWindowState(parts_.Placement.WindowState() == 0 ? 2 : 0); }
     /// Enables the clock or disables it, now and at its next start, without a question.

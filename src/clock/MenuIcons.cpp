@@ -31,15 +31,21 @@ constexpr struct {
     {u"PropertyMenu", u"Toolbar/Property"},
 };
 
+/// Null for a file that is missing or no picture.
+std::shared_ptr<const QImage> ReadIcon(const platform::Files& files, const QString& path) {
+    QImage picture = QImage::fromData(files.Read(path).value_or(QByteArray()), "svg");
+    return picture.isNull() ? nullptr : std::make_shared<const QImage>(std::move(picture));
+}
+
 }  // namespace
 
 void SetMenuIcon(MenuNode& menu, const Program& program) {
     for (MenuNode& node : menu.Children) {
         for (const auto& icon : Icons) {
             if (node.Name == icon.Entry) {
-                node.Icon = program.Module.Pictures.Load(
-                    program.Services.FileSystem,
-                    program.Module.Paths.ImagesFolder + icon.File.toString() + u".svg"_s);
+                node.Icon =
+                    ReadIcon(program.Services.FileSystem,
+                             program.Module.Paths.ImagesFolder + icon.File.toString() + u".svg"_s);
             }
         }
     }

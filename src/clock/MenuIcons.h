@@ -6,8 +6,8 @@
 namespace clockcore {
 
 /// Gives the entries of a clock's menu their pictures, those of its sub-menus aside: our own, from
-/// the folder of pictures. An entry of another name, and one whose
-/// file is missing, has none.
+/// the folder of pictures, 48 pixels wide and high. An entry of another name, a separator, and one
+/// whose file is missing have none.
 void SetMenuIcon(MenuNode& menu, const Program& program);
 
 }  // namespace clockcore

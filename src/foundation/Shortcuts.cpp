@@ -24,7 +24,7 @@ bool IsKey(const QString& part, int code) {
 bool Fits(const QString& text, int code, const QString& modifier) {
     const qsizetype plus = text.indexOf(u'+');
     if (plus < 0) {
-        return modifier.isEmpty() && !text.trimmed().isEmpty() && KeyNameCode(text) == code;
+        return modifier.isEmpty() && code != 0 && KeyNameCode(text) == code;
     }
     // What stands behind another "+" is not looked at; in "Ctrl++" that leaves nothing.
     return text.left(plus).trimmed() == modifier && IsKey(text.section(u'+', 1, 1), code);

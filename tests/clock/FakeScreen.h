@@ -14,6 +14,7 @@ public:
     int ShellColour = 0x804020;
     std::vector<QRegion> Updates;
     QStringList Status;
+    IShell* TheShell = nullptr;
 
     QSize Size() const override { return Extent; }
     double DevicePixelRatio() const override { return Ratio; }
@@ -21,5 +22,6 @@ public:
     bool IsMDIChild() const override { return MDIChild; }
     bool IsInSight() const override { return InSight; }
     int ShellBackColor() const override { return ShellColour; }
+    IShell* Shell() const override { return TheShell; }
     void ShowStatus(const QString& text) override { Status += text; }
 };

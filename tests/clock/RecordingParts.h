@@ -77,6 +77,12 @@ class RecordingParts {
             State = state;
             *Log += QStringLiteral("SetWindowState %1").arg(state);
         }
+        void MoveTo(const QString& caption) override {
+            *Log += QStringLiteral("MoveTo ") + caption;
+        }
+        void SetOuterSize(const QSizeF& twips) override {
+            *Log += QStringLiteral("size %1 x %2").arg(twips.width()).arg(twips.height());
+        }
         QRectF OuterRect() const override { return Outer; }
         std::optional<QRectF> PlaceToStore() const override { return ToStore; }
         QPoint SurfaceOffset() const override { return Offset; }

@@ -28,6 +28,11 @@ struct WritingClicks final : clockcore::ClockClicks {
     void ShowMenu(const clockcore::ClockHit& hit, const QPoint& at) override {
         Log += u"menu %1 at %2,%3"_s.arg(static_cast<int>(hit.Part)).arg(at.x()).arg(at.y());
     }
+    void DoubleClickGround() override { Log += u"ground"_s; }
+    bool PressKey(int code, int shift) override {
+        Log += u"key %1 %2"_s.arg(code).arg(shift);
+        return code == 112;
+    }
     void ShowDisabledMenu(const QPoint& at) override {
         Log += u"disabled at %1,%2"_s.arg(at.x()).arg(at.y());
     }
@@ -104,6 +109,42 @@ private Q_SLOTS:
         QVERIFY(!desk.Key(Qt::Key_Tab, u"\t"_s));
         QVERIFY(!desk.Key(Qt::Key_Left));
         QCOMPARE(desk.Calculator.Log.size(), 1);
+    }
+
+    void TheMenuKeyOpensTheClocksMenu() {
+        InputDesk desk;
+        desk.Form.setGeometry(100, 50, 200, 160);
+        const QPoint middle = desk.Form.mapToGlobal(QPoint(99, 79));
+        const QString menu = u"menu 0 at %1,%2"_s.arg(middle.x()).arg(middle.y());
+        QVERIFY(desk.Key(Qt::Key_Menu));
+        QVERIFY(desk.Key(Qt::Key_F10, {}, Qt::ShiftModifier));
+        QCOMPARE(desk.Clicks.Log, QStringList({menu, menu}));
+        QVERIFY(!desk.Key(Qt::Key_F10));
+        QCOMPARE(desk.Clicks.Log.last(), u"key 121 0"_s);
+    }
+
+    void OtherKeysAreHandedOn() {
+        InputDesk desk;
+        QVERIFY(desk.Key(Qt::Key_F1));
+        QVERIFY(!desk.Key(Qt::Key_K, u"\v"_s, Qt::ControlModifier | Qt::ShiftModifier));
+        QVERIFY(!desk.Key(Qt::Key_K, {}, Qt::AltModifier | Qt::ControlModifier));
+        QVERIFY(!desk.Key(Qt::Key_Up));
+        QCOMPARE(desk.Clicks.Log,
+                 QStringList({u"key 112 0"_s, u"key 75 3"_s, u"key 75 6"_s, u"key 0 0"_s}));
+    }
+
+    void ADoubleClickOnTheGround() {
+        InputDesk desk;
+        const auto doubleClick = [&desk](const QPoint& at, Qt::MouseButton button) {
+            return desk.Input.DoubleClickMouse(
+                QMouseEvent(QEvent::MouseButtonDblClick, at, at, button, button, {}));
+        };
+        QVERIFY(!doubleClick({5, 5}, Qt::LeftButton));
+        QVERIFY(!doubleClick({99, 99}, Qt::RightButton));
+        QVERIFY(doubleClick({99, 99}, Qt::LeftButton));
+        QCOMPARE(desk.Clicks.Log, QStringList(u"ground"_s));
+        desk.Form.setEnabled(false);
+        QVERIFY(!doubleClick({99, 99}, Qt::LeftButton));
     }
 
     void TabIsTheCalculators_data() {

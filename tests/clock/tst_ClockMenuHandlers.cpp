@@ -2,7 +2,7 @@
 #include <QMenu>
 #include <QTest>
 
-#include "clock/SettingsDesk.h"
+#include "clock/FormDesk.h"
 #include "clock/ui/ClockMenuHandlers.h"
 #include "clock/ui/TimersOnDial.h"
 #include "drawing/StockPictures.h"
@@ -15,10 +15,8 @@ using clockcore::ClockPart;
 namespace {
 
 /// The menus of a clock over a plain widget.
-struct MenuDesk : SettingsDesk {
+struct MenuDesk : FormDesk {
     QWidget Form;
-    clockcore::WidgetScreen FormScreen{Form, nullptr, nullptr};
-    clockcore::LookDialogs Dialogs{Form, TheProgram, Data.State, Canvas, Look};
     timers::ActionList Actions{
         {Data.Properties(), Data.Zone, Controls, Speaking, Module, TimerHost}};
     clockcore::PartMenus OnParts{Data,
@@ -32,11 +30,14 @@ struct MenuDesk : SettingsDesk {
         Data,
         TheProgram,
         {Form, Controls, Canvas, TimerHost, Calculator, Timers, Actions, OnParts}};
-    clockcore::ClockMenuHandlers Menus{
+    clockcore::FormPopup Popup{
+        Form,
         Data,
+        Controls,
         TheProgram,
-        {Form, FormScreen, Parts.TheWindow, Controls, Canvas, Files, Styles, Look, Dialogs,
-         Settings, Messages, Actions, Voice, Parts.TheSpoken, OnParts}};
+        {Screen, Parts.TheWindow, Parts.ThePlacement, Files, Styles, Look, Commands}};
+    clockcore::ClockMenuHandlers Menus{{Form, Controls, Canvas, Settings, Messages, Actions, Voice,
+                                        Parts.TheSpoken, Popup, Commands, Keys, OnParts}};
 
     MenuDesk() {
         Form.resize(200, 150);
@@ -108,51 +109,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Data.PropertyFileName);
     }
 
-    void AKindIsChosen() {
+    void AnEntryOfTheFormMenuIsRun() {
         MenuDesk desk;
         desk.OpenName(ClockPart::Face);
         QVERIFY(MenuDesk::Choose(u"Analogue and Digital"_s));
         QVERIFY(desk.Data.Is(ClockKind::AnalogueAndDigital));
     }
 
-    void AColourIsChosenOrPicked() {
+    void KeysAndTheGroundAreHandedOn() {
         MenuDesk desk;
-        desk.OpenName(ClockPart::Face);
-        QVERIFY(MenuDesk::Choose(u"Red"_s));
-        QCOMPARE(desk.Value(u"Window Background Colour"_s), u"Red"_s);
-        desk.Machine.Dialogs.ColourAnswers = {4711};
-        desk.OpenName(ClockPart::Face);
-        QVERIFY(MenuDesk::Choose(u"Custom"_s));
-        QCOMPARE(desk.Value(u"Window Background Colour"_s), u"4711"_s);
-    }
-
-    void AStyleIsChosenOrAskedFor() {
-        MenuDesk desk;
-        desk.Module.Paths.StylesFolder = desk.Machine.AppFolder() + u"/Styles/"_s;
-        desk.WriteStyle(u"Mine.ini"_s, u"Hour Hand Colour"_s, u"Magenta"_s);
-        desk.OpenName(ClockPart::Face);
-        QVERIFY(MenuDesk::Choose(u"Mine"_s));
-        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Magenta"_s);
-        desk.Machine.Dialogs.FileAnswers = {
-            desk.WriteStyle(u"Other.ini"_s, u"Hour Hand Colour"_s, u"Cyan"_s)};
-        desk.OpenName(ClockPart::Face);
-        QVERIFY(MenuDesk::Choose(u"More"_s));
-        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Cyan"_s);
-    }
-
-    void CloseClosesTheClock() {
-        MenuDesk desk;
-        desk.OpenName(ClockPart::Face);
-        desk.Calls();
-        QVERIFY(MenuDesk::Choose(u"Close"_s));
-        QCOMPARE(desk.Calls(), u"CloseClock"_s);
-    }
-
-    void WithoutAShellThereIsNoHelp() {
-        MenuDesk desk;
-        desk.OpenName(ClockPart::Face);
-        QVERIFY(MenuDesk::Choose(u"Help"_s));
-        QCOMPARE(desk.Calls(), QString());
+        QVERIFY(desk.Menus.PressKey(112, 0));
+        QCOMPARE(desk.Shell.Take(), QStringList(u"clock help"_s));
+        QVERIFY(!desk.Menus.PressKey('A', 0));
+        desk.Menus.DoubleClickGround();
+        QCOMPARE(desk.Parts.ThePlacement.State, 2);
     }
 
     void AMessageHides() {

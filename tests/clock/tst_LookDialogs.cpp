@@ -63,6 +63,18 @@ private Q_SLOTS:
         QCOMPARE(desk.Screen.Status, QStringList{u"Saved the style Mine at 12:00:00"_s});
     }
 
+    void AsksAndIsAnswered() {
+        DialogDesk desk;
+        desk.Machine.Dialogs.BoxAnswers = {6, 7, 6};
+        QVERIFY(desk.Dialogs.Confirms(u"Sure?"_s, u"Question"_s));
+        QVERIFY(!desk.Dialogs.Confirms(u"Sure?"_s, u"Question"_s));
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Text, u"Sure?"_s);
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Title, u"Question"_s);
+        QCOMPARE(desk.Machine.Dialogs.Boxes[0].Flags, 36);
+        desk.Data.State = clockcore::ClockState::Closing;
+        QVERIFY(!desk.Dialogs.Confirms(u"Sure?"_s, u"Question"_s));
+    }
+
     void AClosingClockTakesNoAnswer() {
         DialogDesk desk;
         const QString path = desk.Machine.AppFolder() + u"/Mine.ini"_s;

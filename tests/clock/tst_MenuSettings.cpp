@@ -75,10 +75,17 @@ private Q_SLOTS:
     void EnablesAtOnce() {
         SettingsDesk desk;
         desk.Set(u"Enable"_s, u"No"_s);
-        desk.Settings.Enable();
+        desk.Settings.SetEnabled(true);
         QCOMPARE(desk.InFile(u"Enable"_s), u"Yes"_s);
         QCOMPARE(desk.Calls(), u"enable|SaveTimer UTCTimer.txt"_s);
         QCOMPARE(desk.Screen.Status, Saved);
+    }
+
+    void DisablesAtOnce() {
+        SettingsDesk desk;
+        desk.Settings.SetEnabled(false);
+        QCOMPARE(desk.InFile(u"Enable"_s), u"No"_s);
+        QCOMPARE(desk.Calls(), u"disable|SaveTimer UTCTimer.txt"_s);
     }
 
     void AnActionsColourIsKeptWhileItCountsDown() {
@@ -100,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(4, '\0'));
         file.close();
-        desk.Settings.Enable();
+        desk.Settings.SetEnabled(true);
         QCOMPARE(desk.Screen.Status,
                  QStringList{path + u" can't be read as a property file; it is left as it is"_s});
         QCOMPARE(desk.Calls(), u"enable|SaveTimer UTCTimer.txt"_s);

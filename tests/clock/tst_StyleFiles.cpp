@@ -131,6 +131,20 @@ private Q_SLOTS:
         QVERIFY(desk.Problem.isEmpty());
     }
 
+    void PeeksWithoutAMerge() {
+        StyleDesk desk;
+        const QString style = desk.Style("Hour Hand Width", "Hour Hand Width");
+        desk.Machine.SetAge(u"Styles/S.ini"_s, 7200);
+        const QByteArray content = desk.Machine.ReadFile(u"Styles/S.ini"_s);
+        const std::optional<ClockProperties> read = desk.Styles.Peek(style, desk.Problem);
+        QVERIFY(read.has_value());
+        QCOMPARE(mduLib::GetProperty(u"Clocks"_s, *read), u"Analogue"_s);
+        QCOMPARE(desk.Problem, QString());
+        QCOMPARE(desk.Machine.ReadFile(u"Styles/S.ini"_s), content);
+        QVERIFY(!desk.Styles.Peek(u"/none.ini"_s, desk.Problem));
+        QCOMPARE(desk.Problem, u"/none.ini is not there any more"_s);
+    }
+
     void SavePath_data() {
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<QString>("path");

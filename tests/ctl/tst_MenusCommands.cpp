@@ -86,6 +86,86 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QCOMPARE(Companion().Run(QStringList{u"menus"_s} + arguments).Status, 2);
     }
+
+    /// An entry of the clock's menu by its name; empty where there is none.
+    static QJsonObject Entry(const CompanionAnswer& answer, const QString& name) {
+        for (const QJsonValue& entry : answer.Array()) {
+            if (entry[u"name"_s].toString() == name) {
+                return entry.toObject();
+            }
+        }
+        return {};
+    }
+    static QStringList Children(const QJsonObject& entry, bool tickedOnly = false) {
+        QStringList captions;
+        for (const QJsonValue& child : entry[u"children"_s].toArray()) {
+            if (!tickedOnly || child[u"checked"_s].toBool()) {
+                captions += child[u"caption"_s].toString();
+            }
+        }
+        return captions;
+    }
+
+    void TheMenuOfAClock() {
+        const Companion companion;
+        Put(companion, u"Oak.ini"_s, 10);
+        Put(companion, u"Elm.ini"_s, 12);
+        companion.Write(u"app/tester/TimeZones/Tokyo.ini"_s, "x");
+        companion.Write(u"India.ini"_s,
+                        "Clock:Clocks=Digital,Analogue,Digital\r\nClock:Enable=No\r\n"
+                        "Window:Window State=Maximized\r\n"
+                        "Window:Window Background Colour=Transparent\r\n");
+        const CompanionAnswer answer =
+            companion.Run({u"--app-folder"_s, u"app"_s, u"--user"_s, u"tester"_s, u"menus"_s,
+                           u"clock"_s, u"India.ini"_s, u"--style-folder"_s, u"Styles"_s});
+        QCOMPARE(answer.Status, 0);
+        QStringList names;
+        for (const QJsonValue& entry : answer.Array()) {
+            names +=
+                entry[u"caption"_s].toString() == u"-"_s ? u"-"_s : entry[u"name"_s].toString();
+        }
+        QCOMPARE(names.join(u' '),
+                 u"Clocks ClockStyle WindowState windowPositionMenu ClockColour Restore - "
+                 "SelectCountry ChooseTimeZones ShowTimeZoneDetails - "
+                 "AutoStart ScreenSaverMenu EnableActive - Help About Close - "
+                 "SaveStyle SaveStyleAs PropertyMenu"_s);
+        QCOMPARE(Children(Entry(answer, u"ClockStyle"_s)),
+                 QStringList({u"Elm"_s, u"Oak"_s, u"More"_s}));
+        QCOMPARE(Children(Entry(answer, u"SelectCountry"_s)),
+                 QStringList({u"India"_s, u"Tokyo"_s, u"More"_s}));
+        const std::pair<QString, QString> ticks[] = {{u"Clocks"_s, u"Digital"_s},
+                                                     {u"WindowState"_s, u"Maximized"_s},
+                                                     {u"ClockColour"_s, u"Transparent"_s},
+                                                     {u"ScreenSaverMenu"_s, u""_s}};
+        for (const auto& [entry, ticked] : ticks) {
+            QCOMPARE(Children(Entry(answer, entry), true).join(u'|'), ticked);
+        }
+        QCOMPARE(Entry(answer, u"AutoStart"_s)[u"caption"_s].toString(),
+                 u"Enable India Auto Start"_s);
+        QCOMPARE(Entry(answer, u"EnableActive"_s)[u"caption"_s].toString(), u"Enable Clock"_s);
+        const QJsonObject help = Entry(answer, u"Help"_s);
+        QCOMPARE(help, (QJsonObject{{u"name"_s, u"Help"_s},
+                                    {u"caption"_s, u"Help"_s},
+                                    {u"checked"_s, false},
+                                    {u"enabled"_s, true},
+                                    {u"children"_s, QJsonArray()}}));
+    }
+
+    void TheStylesOfTheFolder() {
+        const Companion companion;
+        companion.Write(u"app/Styles/Oak.ini"_s, "x");
+        companion.Write(u"India.ini"_s, "Clock:Clocks=Analogue\r\n");
+        const CompanionAnswer answer =
+            companion.Run({u"--app-folder"_s, u"app"_s, u"menus"_s, u"clock"_s, u"India.ini"_s});
+        QCOMPARE(Children(Entry(answer, u"ClockStyle"_s)), QStringList({u"Oak"_s, u"More"_s}));
+    }
+
+    void NoClockNoMenu() {
+        const CompanionAnswer answer = Companion().Run({u"menus"_s, u"clock"_s, u"None.ini"_s});
+        QCOMPARE(answer.Status, 1);
+        QCOMPARE(answer.Output, "[]\n");
+        QVERIFY(answer.Messages.contains("None.ini"));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_MenusCommands)

@@ -21,6 +21,8 @@ Prepare() {
         sed "$place; s/Window Background Colour=[^,]*/Window Background Colour=$style/" \
             "$folder/ini/Tempolark.ini" >"$folder/Styles/$style.ini"
     done
+    touch -d "2 days ago" "$folder/Styles/Red.ini" # the one used last stands first
+    touch -d "1 day ago" "$folder/Styles/Blue.ini"
     echo "$zone=$zone" >"$user/AutoStart.txt"
 }
 
@@ -43,8 +45,17 @@ Choose() {
     WaitFor 5 HasPopups 0
 }
 
+# The shell's title tells of a maximised clock.
+Windowed() { [[ "$(xdotool getwindowname "$(ShellWindow)")" != *"["* ]]; }
+Maximised() { ! Windowed; }
+DoubleClick() {
+    xdotool mousemove $(ClockPoint 60 260) sleep 0.1 click --repeat 2 --delay 80 1
+    WaitFor 5 Maximised
+}
+# Key NAME COMMAND: presses a key, and waits until the command succeeds.
+Key() { xdotool key "$1" && WaitFor 5 "$2"; }
 Is() { [[ "$(Value "$file" "$1" | cut -d, -f1)" == "$2" ]]; }
-Save() { Choose Down Down Down Down Return; }
+Save() { Choose Up Up Up Return; }
 Differ() { ! cmp -s "$@"; }
 Picture() { import -window "$(ShellWindow)" -crop "290x250+25+$((AreaTop + 53))" "$scratch/$1.png"; }
 Type() { xdotool key Tab sleep 0.2 && xdotool type --delay 30 "x" && sleep 0.3; }
@@ -52,13 +63,15 @@ Type() { xdotool key Tab sleep 0.2 && xdotool type --delay 30 "x" && sleep 0.3; 
 Prepare
 Check "the shell appears" Start
 Check "the clock shows the default look" WaitFor 10 Shows "#F2F0EA"
+Check "the first style is highlighted" Choose Down Down Right Escape Escape
+Check "the clock has its own look again" Shows "#F2F0EA"
 Check "the second style is chosen" Choose Down Down Right Down Return
 Check "the clock is red at once" WaitFor 2 Shows "#FF0000"
 Check "the file waits for the save" Is "Window Background Colour" 15397106
 Check "the look is saved" Save
 Check "now the file says red" WaitFor 5 Is "Window Background Colour" Red
 Check "the zone stayed" Is "Time Zone Standard Name" "$zone"
-Check "the first style is chosen" Choose Down Down Right Return
+Check "the other style is chosen, which stands second now" Choose Down Down Right Down Return
 Check "the clock is blue" WaitFor 2 Shows "#0000FF"
 Check "it becomes a calculator" Choose Down Right Down Down Return
 sleep 1.2
@@ -71,6 +84,8 @@ Check "Esc gives them back to the time" xdotool key Escape
 sleep 2.2
 Picture running
 Check "the lines run again" Differ "$scratch/typed.png" "$scratch/running.png"
+Check "a double click maximises it" DoubleClick
+Check "Ctrl+W brings it back" Key ctrl+w Windowed
 Check "a calculator is saved" Save
 Check "the file says so" WaitFor 5 Is "Clocks" Calculator
 Check "the mouse closes the program" CloseWithMouse

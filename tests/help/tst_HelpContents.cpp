@@ -24,6 +24,7 @@ private Q_SLOTS:
     void tellsOfTheShellsMenus();
     void tellsOfTheToolbar();
     void tellsOfTheClocksMenu();
+    void tellsOfTheClocksKeys();
     void tellsOfTheMenusOfParts_data();
     void tellsOfTheMenusOfParts();
     void tellsOfTheZonesMenus();
@@ -84,16 +85,6 @@ void AddCaptions(QStringList& captions, std::span<const clockcore::PartMenuRow> 
     }
 }
 
-/// The captions of a menu and of its sub-menus.
-QStringList CaptionsIn(const clockcore::MenuNode& menu) {
-    QStringList captions;
-    for (const clockcore::MenuNode& child : menu.Children) {
-        captions += child.Caption;
-        captions += CaptionsIn(child);
-    }
-    return captions;
-}
-
 /// The captions of a menu itself; its lists come from files.
 QStringList Captions(const QMenu& menu) {
     QStringList captions;
@@ -151,13 +142,33 @@ void tst_HelpContents::tellsOfTheToolbar() {
     QCOMPARE(Missing(tags, ShellPage), QStringList());
 }
 
+/// Of a maximised clock that nobody has named; what depends on its name is told by its last words.
 void tst_HelpContents::tellsOfTheClocksMenu() {
     const clockcore::MenuNode menu = clockcore::MakeFormMenu(
-        {.ScreenSaverTimes = {u"Disabled"_s}}, {.Run = [](const clockcore::FormEntry&) {}});
-    const QStringList captions = CaptionsIn(menu);
-    QVERIFY(captions.contains(u"Centre Auto Size"_s));
-    QVERIFY(captions.size() >= 40);
+        {.WindowState = 2, .ScreenSaverTimes = {u"10"_s, u"120"_s, u"Disabled"_s}}, {});
+    QStringList captions;
+    for (const clockcore::MenuNode& node : menu.Children) {
+        if (node.Name != u"AutoStart"_s && node.Caption != u"-"_s) {
+            captions += node.Caption;
+        }
+        for (const clockcore::MenuNode& member : node.Children) {
+            captions += member.Caption;
+        }
+    }
+    captions += {u"Auto Start"_s, u"Enable Clock"_s};
+    QCOMPARE(captions.size(), 47);
     QCOMPARE(Missing(captions, ClockPage), QStringList());
+}
+
+void tst_HelpContents::tellsOfTheClocksKeys() {
+    QStringList names;
+    const ClockProperties shortcuts = DefaultFile(u"Shortcuts.txt"_s);
+    for (int row = 1; row <= shortcuts.UpperBound(); ++row) {
+        names += shortcuts[row].Name;
+    }
+    names.removeAll(QString());
+    QCOMPARE(names.size(), 20);
+    QCOMPARE(Missing(names, u"common/keyboard.html"_s), QStringList());
 }
 
 void tst_HelpContents::tellsOfTheMenusOfParts_data() {

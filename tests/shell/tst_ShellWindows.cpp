@@ -91,6 +91,17 @@ private Q_SLOTS:
         QCOMPARE(desk.Shell.Take(), QStringList{u"The shortcut window can't be opened yet"_s});
     }
 
+    void OpensWhatAClockAsksFor() {
+        Desk desk;
+        desk.Opened.Open(ShellWindow::Shortcuts);
+        QCOMPARE(desk.Shell.Take(), QStringList{u"The shortcut window can't be opened yet"_s});
+        desk.OpenClock();
+        desk.Opened.Open(ShellWindow::Properties);
+        QCOMPARE(desk.Shell.Take(), QStringList{u"The property window can't be opened yet"_s});
+        desk.Opened.Open(ShellWindow::TimeZones);
+        QCOMPARE(desk.Area->ActiveChild()->Name(), u"frmTimeZones"_s);
+    }
+
     void HelpGoesByTheWindowInFront() {
         Desk desk;
         const QString folder = desk.Machine.AppFolder() + u"/Help/"_s;

@@ -59,6 +59,14 @@ private Q_SLOTS:
                              u" can't be read as a property file; it is left as it is"_s});
     }
 
+    void AClockTellsWhetherItStarts() {
+        Desk desk("Tokyo=Tokyo\r\n");
+        desk.Lists.SetAutoStart(u"Paris, Texas"_s, true);
+        desk.Lists.SetAutoStart(u"Tokyo"_s, false);
+        QCOMPARE(desk.Machine.ReadFile(u"tester/AutoStart.txt"_s),
+                 QByteArray("Tokyo=\r\nParis, Texas=Paris, Texas\r\n"));
+    }
+
     void AZoneThatIsGoneStartsNoMore() {
         Desk desk("UTC=UTC\r\nTokyo=Tokyo\r\n");
         desk.Lists.ForgetAutoStart(u"UTC"_s);

@@ -25,6 +25,8 @@ MenuNode FormPopup::Fill() {
 void FormPopup::FormRightClick(const QPoint& globalPosition) {
     parts_.Files.MakeCurrent();
     menu_ = MakeMenu(&form_, Fill());
+    // However it closes: a row of styles may have been highlighted without its sub-menu.
+    QObject::connect(menu_, &QMenu::aboutToHide, menu_, [this] { preview_.End(); });
     menu_->popup(globalPosition);
 }
 

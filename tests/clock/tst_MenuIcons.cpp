@@ -1,0 +1,42 @@
+#include "clock/MenuIcons.h"
+
+#include <QTest>
+
+#include "clock/FormMenu.h"
+#include "support/MachineWithZones.h"
+
+using namespace Qt::StringLiterals;
+using clockcore::MenuNode;
+
+class tst_MenuIcons : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EachEntryHasAPicture() {
+        MachineWithZones machine;
+        machine.Module.Paths.ImagesFolder = QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/Images/");
+        MenuNode menu = clockcore::MakeFormMenu({.WindowState = 2}, {});
+        SetMenuIcon(menu, machine.TheProgram);
+        for (const MenuNode& node : menu.Children) {
+            if (node.Caption == u"-"_s) {
+                QVERIFY(node.Icon == nullptr);
+                continue;
+            }
+            QVERIFY2(node.Icon != nullptr, qPrintable(node.Name));
+            QCOMPARE(node.Icon->size(), QSize(48, 48));
+            QVERIFY(node.Icon->hasAlphaChannel());
+            QCOMPARE(qAlpha(node.Icon->pixel(0, 0)), 0);
+        }
+    }
+
+    void AFileThatIsMissingGivesNone() {
+        MachineWithZones machine;
+        machine.Module.Paths.ImagesFolder = u"/nowhere/"_s;
+        MenuNode menu = clockcore::MakeFormMenu({}, {});
+        SetMenuIcon(menu, machine.TheProgram);
+        QVERIFY(menu.Children[0].Icon == nullptr);
+    }
+};
+
+QTEST_MAIN(tst_MenuIcons)
+#include "tst_MenuIcons.moc"
