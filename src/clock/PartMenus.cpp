@@ -41,14 +41,12 @@ void TrimSeparators(std::vector<MenuNode>& nodes) {
 }  // namespace
 
 std::optional<MenuNode> PartMenus::MenuOf(const ClockHit& hit) const {
-    if (const auto maker = makers_.find(hit.Part); maker != makers_.end()) {
-        return maker->second(hit);
-    }
+    const auto maker = makers_.find(hit.Part);
     const PartMenu* menu = FindPartMenu(hit.Part);
-    if (menu == nullptr || !IsOffered(hit.Part)) {
+    if (maker == makers_.end() && (menu == nullptr || !IsOffered(hit.Part))) {
         return std::nullopt;
     }
-    MenuNode made = Make(*menu, hit);
+    MenuNode made = maker != makers_.end() ? maker->second(hit) : Make(*menu, hit);
     return made.Children.empty() ? std::nullopt : std::optional(std::move(made));
 }
 

@@ -45,10 +45,12 @@ private Q_SLOTS:
         ClockHit asked;
         desk.Menus.SetMaker(ClockPart::Spot, [&asked](const ClockHit& hit) {
             asked = hit;
-            return MenuNode{.Name = u"SetTimer"_s};
+            return MenuNode{.Name = u"SetTimer"_s, .Children = {{.Caption = u"3:00"_s}}};
         });
         QCOMPARE(desk.Menu(ClockPart::Spot, 7).Name, u"SetTimer"_s);
         QCOMPARE(asked, (ClockHit{ClockPart::Spot, 7}));
+        desk.Menus.SetMaker(ClockPart::Spot, [](const ClockHit&) { return MenuNode(); });
+        QVERIFY(!desk.Menus.MenuOf({ClockPart::Spot, 7}));
     }
 
     void AGroupHoldsItsSubMenus() {

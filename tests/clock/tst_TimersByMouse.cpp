@@ -167,7 +167,7 @@ private Q_SLOTS:
         MouseDesk desk({}, "Calculator");
         desk.Base.Machine.Clock.Advance(1000);
         desk.Click(*desk.Clock, desk.Clock->Controls().lblTimeOutput(1), Qt::RightButton);
-        desk.Choose({u"12:03"_s});
+        desk.Choose({u"Set Timer"_s, u"12:03"_s});
         QTRY_VERIFY(desk.Box() != nullptr);
         QCOMPARE(desk.Clock->Data().Tag.Text(), u"6"_s);
         desk.Key(Qt::Key_Up);

@@ -95,6 +95,33 @@ Check "it stays away" HasNot 0 "#FF00FF"
 Check "the speaker is hidden from its menu" RightClick 0 16 281 Down Return
 Check "its file says so" WaitFor 3 SpeakerIs No
 
+# Six o'clock is at the lower end of the dial, where the left button opens the menu of the spot.
+SetTimer() {
+    ClickAt $(At 0 149 280)
+    WaitFor 5 HasPopups 1 && sleep 0.2
+    Keys Down Down Return
+    WaitFor 5 HasPopups 0 && sleep 0.3
+    xdotool type --delay 30 "Tea is ready"
+    Keys Return
+}
+# DragMark X Y X Y: from one point of the clock to another, as a hand does.
+DragMark() {
+    xdotool mousemove $(At 0 "$1" "$2") sleep 0.1 mousedown 1 sleep 0.1 \
+        mousemove $(At 0 $((($1 + $3) / 2)) $((($2 + $4) / 2))) sleep 0.1 \
+        mousemove $(At 0 "$3" "$4") sleep 0.1 mouseup 1
+}
+Kept() { grep -Eq " $1=Tea is ready" "$user/Timers/${message}Timer.txt"; }
+# About three and six, by day or by night, the timer would fire while it is made.
+FiresNow() { [[ $(date -u +%I%M) =~ ^(025|030|055[89]|060) ]]; }
+if ! FiresNow; then
+    Check "a timer is set on the dial" SetTimer
+    Check "its file has it" WaitFor 3 Kept 18:1
+    Check "its mark is dragged to three" DragMark 139 255 248 147
+    Check "that is kept" WaitFor 3 Kept '(14:5|15:)[0-9]+'
+    Check "its menu removes it" RightClick 0 248 147 Up Up Return
+    Check "it has gone" WaitFor 3 eval '! Kept "[0-9:]+"'
+fi
+
 rm "$scratch/tools/ran"
 Check "an action counts down in its colour" WaitFor 5 Has 1 "#0000FF"
 Check "it takes another colour" RightClick 1 150 60 Down Down Down Right Down Down Down Return
