@@ -106,6 +106,5 @@ private Q_SLOTS:
     }
 };
 
-Q_DECLARE_METATYPE(ZoneMenu::State)
 QTEST_MAIN(tst_ZoneMenu)
 #include "tst_ZoneMenu.moc"
