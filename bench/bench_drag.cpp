@@ -55,6 +55,7 @@ struct DraggedClock : Desk {
 /// Round and round, @p events of the mouse to a paint.
 void DragFrom(benchmark::State& state, DraggedClock& desk, const QPointF& from) {
     const int events = static_cast<int>(state.range(0));
+    const QImage before = desk.Clock->PaintedSurface().Image().copy();
     desk.Send(QEvent::MouseButtonPress, from);
     int step = 0;
     for (auto _ : state) {
@@ -65,6 +66,9 @@ void DragFrom(benchmark::State& state, DraggedClock& desk, const QPointF& from) 
                       QPointF(400 + 150 * std::cos(angle), 400 + 150 * std::sin(angle)));
         }
         QApplication::processEvents();
+    }
+    if (desk.Clock->PaintedSurface().Image() == before) {
+        state.SkipWithError("nothing has moved");
     }
     desk.Send(QEvent::MouseButtonRelease, {400, 400});
     state.counters["moves"] =

@@ -58,8 +58,9 @@ std::vector<ClockHit> PartsInOrder(const ClockData& data, const mduUILib::ClockC
          {ClockPart::Flag},
          {ClockPart::Digits},
          {ClockPart::Location}});
+    const QRectF surface(QPointF(0, 0), QSizeF(scale));
     std::erase_if(parts, [&](const ClockHit& hit) {
-        return PlaceOfPart(data, controls, scale, hit).isEmpty();
+        return !PlaceOfPart(data, controls, scale, hit).intersects(surface);
     });
     return parts;
 }

@@ -11,9 +11,10 @@
 /// The parts of a clock as the keyboard walks along them.
 namespace clockcore {
 
-/// The parts that are seen, in the order of the walk: the hands, the numbers from one to twelve,
-/// the spots that hold a timer, the marks, an action, a message, the speaker, the flag, the digits
-/// as one, the name. The lines of a calculator are not among them: it has keys of its own.
+/// The parts that are seen, at least in part, in the order of the walk: the hands, the numbers from
+/// one to twelve, the spots that hold a timer, the marks, an action, a message, the speaker, the
+/// flag, the digits as one, the name. The lines of a calculator are not among them: it has keys of
+/// its own.
 /// @param scale the size of the surface in device pixels
 std::vector<ClockHit> PartsInOrder(const ClockData& data, const mduUILib::ClockControls& controls,
                                    const QSize& scale, const timers::ClockTimers& timers);

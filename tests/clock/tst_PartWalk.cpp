@@ -81,6 +81,22 @@ private Q_SLOTS:
         QCOMPARE(desk.Order(), u"Timer 1, Digits"_s);
     }
 
+    /// A dial that was dragged to the edge has numbers beyond it.
+    void WhatLiesBeyondTheEdgeIsPassedOver() {
+        WalkDesk desk(ClockKind::Digital);
+        mduUILib::Control& flag = desk.Controls.imgFlag(1);
+        flag.Visible = true;
+        flag.Left = 199;
+        QCOMPARE(desk.Order(), u"Flag"_s);
+        flag.Left = 200;
+        QCOMPARE(desk.Order(), QString());
+        flag.Left = 50;
+        flag.Top = -10;
+        QCOMPARE(desk.Order(), QString());
+        flag.Top = -9;
+        QCOMPARE(desk.Order(), u"Flag"_s);
+    }
+
     /// One that is off the dial has no spot, and neither has a text that is no time.
     void SpotsOfTimers() {
         WalkDesk desk(ClockKind::Digital);
