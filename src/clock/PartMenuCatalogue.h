@@ -46,7 +46,16 @@ enum class Redraw {
 
 /// A row of a menu.
 struct PartMenuRow {
-    QStringView Name = {};
+    QStringView Name = {};  ///< by which tests and scripts find it: "HourHandColours"
+    /// Of the row; without one the entries of a sub-menu stand in the menu itself.
+    QStringView Caption = {};
+    QStringView Key = {};  ///< of the property; empty for a group and a command
+    MenuSource Source = MenuSource::Separator;
+    Redraw Redraws = Redraw::Nothing;
+    QStringView Value = {};                  ///< of `MenuSource::Value`
+    QStringView OtherKey = {};               ///< of `MenuSource::Value`; empty for none
+    std::span<const PartMenuRow> Rows = {};  ///< of `MenuSource::Group`
+};
 
 /// A menu of the catalogue.
 struct PartMenu {
