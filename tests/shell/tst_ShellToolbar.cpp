@@ -266,6 +266,9 @@ private Q_SLOTS:
         turn({45, 20}, 120);  // there is nothing more in front
         QCOMPARE(bar.Seen(), u"1 2 3"_s);
         QCOMPARE(bar.Hovered, (QList<int>{0, 2}));
+        turn({15, 20}, -120);
+        turn({15, 20}, 120);
+        QCOMPARE(bar.Hovered.last(), 1);
     }
 
     void AfterScrollingToTheEndTheBalloonIsThatOfTheLastButton() {
