@@ -540,6 +540,7 @@ private Q_SLOTS:
         alone.Place.ApplyTitleBar();
         alone.Place.ShowClockWindow(true);
         QVERIFY(alone.Clock.windowFlags() & Qt::WindowTitleHint);
+        QVERIFY(alone.Clock.windowFlags() & Qt::WindowStaysOnTopHint);
         QVERIFY(!(alone.Clock.windowFlags() & Qt::WindowMinMaxButtonsHint));
         QSignalSpy closed(qApp, &QApplication::lastWindowClosed);
         alone.Set(u"Window Title Bar"_s, u"No"_s);

@@ -342,6 +342,19 @@ private Q_SLOTS:
         QCOMPARE(clock->Controls().imgTimer(1).Left, 13.0F);
         QCOMPARE(clock->Controls().imgTimer(100).Top, 13.0F);
     }
+
+    void AloneItIsCurrentWhileItIsActive() {
+        Desk desk;
+        frmTempolark clock(desk.TheProgram, nullptr, nullptr);
+        QVERIFY(clock.ShowMeMDIChild(u"UTC"_s));
+        desk.Machine.Clock.Advance(30);
+        desk.Module.Paths.CurrentPropertyFile = u"/another.ini"_s;
+        desk.Module.CurrentProperties.Reset();
+        QEvent activate(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&clock, &activate);
+        QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Path(u"UTC"_s));
+        QCOMPARE(desk.Module.CurrentProperties, clock.Data().Properties());
+    }
 };
 
 QTEST_MAIN(tst_frmTempolark)

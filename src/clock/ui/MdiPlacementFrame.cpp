@@ -42,7 +42,7 @@ void MdiPlacement::ApplyLook() {
         frame_->SetLook(look);
         return;
     }
-    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint;
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowStaysOnTopHint;
     if (look.TitleBar) {
         flags |= Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     } else if (look.Border == WindowBorder::NoBorder) {

@@ -49,6 +49,10 @@ bool frmTempolark::event(QEvent* event) {
         event->accept();
         return true;
     }
+    // In a shell the frame tells of it.
+    if (event->type() == QEvent::WindowActivate && area_ == nullptr && data_.State.HasBegun()) {
+        Activate();
+    }
     // A disabled clock's come from the shell.
     if (event->type() == QEvent::KeyPress && input_.PressKey(*static_cast<QKeyEvent*>(event))) {
         event->accept();
