@@ -46,11 +46,11 @@ enum class Redraw {
 
 /// A row of a menu.
 struct PartMenuRow {
-    MenuSource Source = MenuSource::Separator;
     QStringView Name = {};  ///< by which tests and scripts find it: "HourHandColours"
     /// Of the row; without one the entries of a sub-menu stand in the menu itself.
     QStringView Caption = {};
     QStringView Key = {};  ///< of the property; empty for a group and a command
+    MenuSource Source = MenuSource::Separator;
     Redraw Redraws = Redraw::Nothing;
     QStringView Value = {};                  ///< of `MenuSource::Value`
     QStringView OtherKey = {};               ///< of `MenuSource::Value`; empty for none

@@ -148,14 +148,14 @@ PartMenus::Nodes PartMenus::Entries(const PartMenuRow& row) const {
 }
 
 QStringList PartMenus::Captions(const PartMenuRow& row) const {
-    const QStringList choices = mduUILib::FillMenuFromList(
+    QStringList choices = mduUILib::FillMenuFromList(
         mduLib::GetPropertyChoices(row.Key.toString(), data_.Properties()));
     if (row.Source == MenuSource::Choices) {
         return choices;
     }
     QStringList colours = mduUILib::FillColourMenu();
     if (row.Source == MenuSource::AnyColour) {
-        for (const QString& choice : choices) {
+        for (const QString& choice : std::as_const(choices)) {
             if (!colours.contains(choice)) {
                 colours += choice;
             }
