@@ -70,7 +70,7 @@ bool TimerMouse::Press(const QMouseEvent& event) {
     } else if (hit.Part == ClockPart::Spot) {
         spotPressedAt_ = event.position();
     }
-    return holdsMark_;
+    return false;
 }
 
 bool TimerMouse::Move(const QMouseEvent& event) {

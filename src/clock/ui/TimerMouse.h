@@ -15,8 +15,8 @@ namespace clockcore {
 
 /// The left button on what timers are made and changed with: it drags a timer's mark, opens its
 /// box with a double click, and opens the menu of a minute spot with a click. It watches the form's
-/// events and takes those of a mark for itself; a press on a spot is left to others, too, who may
-/// drag what lies there.
+/// events and takes the moves and the end of a mark's drag for itself; each press is left to
+/// others, too, who may have a hint to hide or drag what lies there.
 ///
 /// While a mark is dragged, the time that it has come to stands at the pointer. Escape takes the
 /// drag back, and so does whatever takes the window away from under it.

@@ -1,0 +1,170 @@
+#include "clock/ui/MessageBoxes.h"
+
+#include <QKeyEvent>
+#include <QTest>
+
+#include "clock/DialDesk.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A box over a plain form, whose timer is the only one.
+struct BoxDesk : DialDesk {
+    QWidget Form;
+    clockcore::MessageBoxes Boxes{Form};
+    clockcore::MessageTyping Keys{
+        Data, {Controls, Timers, Host, Calculator, Canvas, Machine.Clock, Boxes}};
+
+    explicit BoxDesk(const QString& message = u"Tea"_s) {
+        Boxes.SetTyping(Keys);
+        Form.setFocusPolicy(Qt::StrongFocus);
+        Form.resize(300, 200);
+        Form.show();
+        Data.Tag = {clockcore::ClockKind::Digital, false};
+        Add(u"03:05"_s, message);
+    }
+    void Open(int colour = 255) {
+        timers::ClockTimer timer = Timers.Timer(1);
+        timer.MessageColour = colour;
+        Timers.ChangeTimer(1, timer);
+        Keys.OpenMessageBox(1);
+    }
+    QLineEdit* Line() const { return Form.findChild<QLineEdit*>(u"txtMsg"_s); }
+    void LoseFocus(Qt::FocusReason reason) const {
+        QFocusEvent event(QEvent::FocusOut, reason);
+        QApplication::sendEvent(Line(), &event);
+    }
+    bool TakesKey(int key, Qt::KeyboardModifiers with = {}) const {
+        QKeyEvent event(QEvent::KeyPress, key, with);
+        event.ignore();
+        QApplication::sendEvent(Line(), &event);
+        return event.isAccepted();
+    }
+};
+
+}  // namespace
+
+class tst_MessageBoxes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void StandsWhereItsTimerWantsIt() {
+        BoxDesk desk;
+        desk.Open();
+        QVERIFY(desk.Line() != nullptr && desk.Line()->isVisible());
+        QCOMPARE(desk.Line()->geometry(), desk.Keys.Place(1).toAlignedRect());
+        QCOMPARE(desk.Line()->text(), u"Tea"_s);
+        desk.Controls.imgTimer(1).Height = 40;
+        desk.Keys.Follow();
+        QCOMPARE(desk.Line()->geometry().top(), 200 - 40 - 26 - 4);
+    }
+
+    void LettersCanBeReadOnAnyColour_data() {
+        QTest::addColumn<int>("colour");
+        QTest::addColumn<QColor>("back");
+        QTest::addColumn<QColor>("letters");
+        QTest::newRow("red") << 0x0000FF << QColor(Qt::red) << QColor(Qt::white);
+        QTest::newRow("yellow") << 0x00FFFF << QColor(Qt::yellow) << QColor(Qt::black);
+        QTest::newRow("black") << 0 << QColor(Qt::black) << QColor(Qt::white);
+        QTest::newRow("blue") << 0xFF0000 << QColor(Qt::blue) << QColor(Qt::white);
+    }
+
+    void LettersCanBeReadOnAnyColour() {
+        QFETCH(int, colour);
+        QFETCH(QColor, back);
+        QFETCH(QColor, letters);
+        BoxDesk desk(u"HHHHHH"_s);
+        desk.Open(colour);
+        const QImage shown = desk.Line()->grab().toImage();
+        int ofLetters = 0;
+        for (int x = 0; x < 60; ++x) {
+            for (int y = 2; y < shown.height() - 2; ++y) {
+                ofLetters += shown.pixelColor(x, y) == letters ? 1 : 0;
+            }
+        }
+        QCOMPARE(shown.pixelColor(shown.width() - 5, shown.height() - 4), back);
+        QVERIFY2(ofLetters > 20, qPrintable(QString::number(ofLetters)));
+    }
+
+    void ItsOwnMenuAndAnotherWindowEndNothing() {
+        BoxDesk desk;
+        desk.Open();
+        desk.LoseFocus(Qt::PopupFocusReason);
+        QCOMPARE(desk.Keys.Slot(), 1);
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        desk.LoseFocus(Qt::ActiveWindowFocusReason);
+        QCOMPARE(desk.Keys.Slot(), 1);
+        desk.LoseFocus(Qt::MouseFocusReason);
+        QCOMPARE(desk.Keys.Slot(), 0);
+    }
+
+    // Another clock of the same shell comes to the front.
+    void AnotherPartOfTheWindowFinishesIt() {
+        BoxDesk desk;
+        desk.Form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.Form));
+        desk.Open();
+        desk.LoseFocus(Qt::ActiveWindowFocusReason);
+        QCOMPARE(desk.Keys.Slot(), 0);
+    }
+
+    void KeysThatFinishIt_data() {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("Return") << Qt::Key_Return;
+        QTest::newRow("Enter") << Qt::Key_Enter;
+        QTest::newRow("Tab") << Qt::Key_Tab;
+        QTest::newRow("Backtab") << Qt::Key_Backtab;
+        QTest::newRow("Escape") << Qt::Key_Escape;
+    }
+
+    void KeysThatFinishIt() {
+        QFETCH(Qt::Key, key);
+        BoxDesk desk;
+        desk.Open();
+        QVERIFY(desk.TakesKey(key));
+        QCOMPARE(desk.Keys.Slot(), 0);
+        QVERIFY(desk.Timers.Timer(1).OnDial);
+        QVERIFY(!desk.Line()->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(desk.Line() == nullptr);
+    }
+
+    void OnlyKeysOfTheWindowPassIt() {
+        BoxDesk desk;
+        desk.Open();
+        QVERIFY(desk.TakesKey(Qt::Key_Up));
+        QVERIFY(desk.TakesKey(Qt::Key_F1));
+        QVERIFY(!desk.TakesKey(Qt::Key_W, Qt::ControlModifier));
+        QVERIFY(!desk.TakesKey(Qt::Key_Escape, Qt::AltModifier));
+        QCOMPARE(desk.Keys.Slot(), 1);
+    }
+
+    void DeleteTakesALetterFirst() {
+        BoxDesk desk(u"T"_s);
+        desk.Open();
+        desk.Line()->home(false);
+        QVERIFY(desk.TakesKey(Qt::Key_Delete));
+        QCOMPARE(desk.Timers.Timer(1).Message, QString());
+        QCOMPARE(desk.Keys.Slot(), 1);
+        QVERIFY(desk.TakesKey(Qt::Key_Delete));
+        QCOMPARE(desk.Keys.Slot(), 0);
+        QVERIFY(!desk.Timers.Timer(1).OnDial);
+    }
+
+    void TheFormTakesTheKeysAgain() {
+        BoxDesk desk;
+        desk.Form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.Form));
+        desk.Open();
+        QTRY_VERIFY(desk.Line()->hasFocus());
+        desk.TakesKey(Qt::Key_Return);
+        QVERIFY(desk.Form.hasFocus());
+    }
+};
+
+QTEST_MAIN(tst_MessageBoxes)
+#include "tst_MessageBoxes.moc"
