@@ -81,6 +81,12 @@ bool HasHands(const ClockData& data) {
     return data.IsAnalogue() && !data.Tag.IsWrapper;
 }
 
+/// Nothing for a number that no member has.
+QRectF MemberPlace(const mduUILib::ControlArray& array, int index) {
+    const bool isThere = index >= array.First && index < array.First + array.Count();
+    return isThere ? ClickArea(array(index)) : QRectF();
+}
+
 QRectF ReadOutPlace(const mduUILib::ControlArray& labels) {
     QRectF place;
     for (const mduUILib::Control& label : labels.Members) {
@@ -123,12 +129,13 @@ QRectF PlaceOfPart(const ClockData& data, const mduUILib::ClockControls& control
     if (hit.Part == ClockPart::Digits) {
         return ReadOutPlace(controls.lblDigitalNumber);
     }
+    if (hit.Part == ClockPart::Spot) {
+        return MemberPlace(controls.imgClockNumber, hit.Index);
+    }
     QRectF place;
     for (const auto& layer : Layers) {
-        const mduUILib::ControlArray& array = controls.*layer.Array;
-        const bool isThere = hit.Index >= array.First && hit.Index < array.First + array.Count();
-        if (layer.Part == hit.Part && isThere) {
-            place |= ClickArea(array(hit.Index));
+        if (layer.Part == hit.Part) {
+            place |= MemberPlace(controls.*layer.Array, hit.Index);
         }
     }
     return place;

@@ -43,8 +43,9 @@ ClockHit PartAt(const mduUILib::ClockControls& controls, const QPointF& point);
 ClockHit HitAt(const ClockData& data, const mduUILib::ClockControls& controls, const QSize& scale,
                const QPointF& point);
 
-/// Where a part stands, in device pixels of the surface: what takes its clicks, and for digits all
-/// of them together. Nothing, as an empty rectangle, for the face and for a part that is hidden.
+/// Where a part stands, in device pixels of the surface: what takes its clicks, though of a spot
+/// only itself, and all digits together. Nothing, as an empty rectangle, for the face and for a
+/// part that is hidden.
 QRectF PlaceOfPart(const ClockData& data, const mduUILib::ClockControls& controls,
                    const QSize& scale, const ClockHit& hit);
 

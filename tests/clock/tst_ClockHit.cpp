@@ -279,6 +279,10 @@ private Q_SLOTS:
         QCOMPARE(place(ClockPart::Hands, 1), QRectF(30, 30, 40, 40));
         QCOMPARE(place(ClockPart::Digits, 3), QRectF(10, 60, 50, 10));
         QCOMPARE(place(ClockPart::Flag, 1), QRectF(5, 6, 7, 8));
+        Put(controls.imgClockNumber(60), 90, 2, 6, 6);
+        QCOMPARE(place(ClockPart::Spot, 60), QRectF(90, 2, 6, 6));
+        QVERIFY(place(ClockPart::Spot, 59).isEmpty());
+        QVERIFY(place(ClockPart::Spot, 61).isEmpty());
         QCOMPARE(place(ClockPart::Action, 1), QRectF(100, 50, 55, 10));
         QVERIFY(place(ClockPart::Face, 1).isEmpty());
         QVERIFY(place(ClockPart::Speaker, 1).isEmpty());  // hidden

@@ -14,8 +14,7 @@ class QMouseEvent;
 namespace clockcore {
 
 /// What keys and clicks mean to a clock. Each handler tells whether the event was the clock's;
-/// what was not is the window's own.  Drags are
-/// `DragInput`'s.
+/// what was not is the window's own. Drags are `DragInput`'s.
 class ClockInput {
 public:
     /// @param form the window that the events come from, which shows cursors and hints
