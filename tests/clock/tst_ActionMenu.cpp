@@ -175,7 +175,8 @@ void tst_ActionMenu::HidesTheMessage() {
     QVERIFY(message.Visible);
     desk.Click(*desk.Clock, message, Qt::RightButton);
     QVERIFY(ActionDesk::OpenMenu() != nullptr);
-    QCOMPARE(ActionDesk::Captions(*ActionDesk::OpenMenu()), QStringList{u"Hide Message"_s});
+    QCOMPARE(ActionDesk::Captions(*ActionDesk::OpenMenu()),
+             (QStringList{u"Hide Message"_s, u"Set Message Font Colour"_s}));
     desk.Choose({u"Hide Message"_s});
     QVERIFY(!message.Visible);
     QCOMPARE(desk.Clock->PendingMessage(), QString());

@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(ClickedDesk::Captions(*menu), QStringList{u"Enable Clock"_s});
         ClickedDesk::Choose({u"Enable Clock"_s});
         QVERIFY(clock->IsEnabled());
-        RightClick(desk, *clock, {60, 12});
+        RightClick(desk, *clock, {4, 4});  // beside the dial and its spots
         QVERIFY(ClickedDesk::OpenMenu() != nullptr);
         QCOMPARE(ClickedDesk::OpenMenu()->objectName(), u"FormPopup"_s);
     }
