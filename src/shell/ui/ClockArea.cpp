@@ -1,6 +1,6 @@
 #include "shell/ui/ClockArea.h"
 
-#include <QKeyEvent>
+#include <QEvent>
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QScrollBar>
@@ -19,8 +19,15 @@ void ClockArea::SetPicture(const QPixmap& picture) {
     viewport()->update();
 }
 
+void ClockArea::WatchKeysOf(QWidget& window) {
+    window.installEventFilter(this);
+}
+
 // By its own handler alone: what it leaves would come back here from its parents.
-bool ClockArea::GiveKeyToDisabled(QKeyEvent* event) {
+bool ClockArea::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || watched != window()) {
+        return QMdiArea::eventFilter(watched, event);
+    }
     const QMdiSubWindow* front = activeSubWindow();
     QObject* clock = front != nullptr && !front->isEnabled() ? front->widget() : nullptr;
     return clock != nullptr && clock->event(event);

@@ -23,12 +23,13 @@ public:
 
     /// The child window in front; null when there is none.
     IForm* ActiveChild() const;
-    /// Gives a key to the child in front, where that is disabled and so can't have the focus.
-    /// @return whether the key meant something to it
-    bool GiveKeyToDisabled(QKeyEvent* event);
+    /// From now on a key that nobody in @p window has taken is given to the child in front, where
+    /// that is disabled and so can't have the focus.
+    void WatchKeysOf(QWidget& window);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QPixmap picture_;

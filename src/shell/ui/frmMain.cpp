@@ -216,12 +216,6 @@ void frmMain::SaveWindowPlacement() {
     buttons_->SaveToolbarLayout();
 }
 
-void frmMain::keyPressEvent(QKeyEvent* event) {
-    if (!area_->GiveKeyToDisabled(event)) {
-        QMainWindow::keyPressEvent(event);
-    }
-}
-
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && header_ != nullptr) {

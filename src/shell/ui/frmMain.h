@@ -110,8 +110,6 @@ protected:
     /// Closes all clocks, then saves the lists, the settings and the place of the window.
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
-    /// A key that nobody has taken belongs to a disabled clock in front.
-    void keyPressEvent(QKeyEvent* event) override;
     /// Of the area's inside: the header follows its size, and a right click opens the menu of
     /// windows.
     bool eventFilter(QObject* watched, QEvent* event) override;

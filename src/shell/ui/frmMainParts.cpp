@@ -47,6 +47,7 @@ void frmMain::MakeInnerParts() {
         tell);
     HandleCommands();
     area_->viewport()->installEventFilter(this);
+    area_->WatchKeysOf(*this);
     connect(area_, &QMdiArea::subWindowActivated, this, [this] { ShowHeaderWhenEmpty(); });
 }
 
