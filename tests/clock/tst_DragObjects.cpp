@@ -87,6 +87,12 @@ private Q_SLOTS:
         QTEST(parts.At(x, 102, true), "withControl");
     }
 
+    void TheEdgeBelongsToTheDisc() {
+        const Parts parts;
+        QCOMPARE(parts.At(250, 100), DragObject::Dial);
+        QCOMPARE(parts.At(250.5, 100), DragObject::None);
+    }
+
     void WithoutADialThereIsNoDisc() {
         Parts parts;
         parts.Ground.HasDial = false;

@@ -256,6 +256,19 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(u"Flag Position"_s), u"Bottom left"_s);
     }
 
+    /// Another style has laid the name out; a push goes on from there, and the one before is gone.
+    void APushAfterAnotherStyleBeginsAnew() {
+        DragDesk desk;
+        desk.Drag.Nudge(DragObject::Location, {1, 0});
+        desk.Set(u"Clock Special"_s, u"World Map"_s);
+        desk.Calls();
+        desk.Drag.Nudge(DragObject::Location, {1, 0});
+        QCOMPARE(desk.Calls(), u"LayOutOverlays"_s);
+        QCOMPARE(desk.InFile(NameLeft), u"-1"_s);
+        desk.Drag.Keep();
+        QVERIFY(desk.InFile(NameLeft) != u"-1"_s);
+    }
+
     void AnotherPartStoresTheFirst() {
         DragDesk desk;
         desk.Drag.Nudge(DragObject::Dial, {1, 0});
