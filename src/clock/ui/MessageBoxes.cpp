@@ -42,6 +42,7 @@ bool MessageLine::event(QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+            event->accept();
             typing_.FinishMessage();
             return true;
         }
