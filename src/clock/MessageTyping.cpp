@@ -21,7 +21,7 @@ constexpr double LeastRow = 70;  // of an outline; a narrower one is looked for 
 constexpr double BoxHeight = 26;
 constexpr double BelowTheBox = 4;
 
-constexpr qint64 SecondsOfDay = 24 * 60 * 60;
+constexpr qint64 SecondsOfDay = 86'400;
 constexpr qint64 SecondsOfHalfDay = SecondsOfDay / 2;
 
 // The times of the menu follow the calculated one, and may lie behind midnight.
@@ -187,7 +187,7 @@ std::optional<QDateTime> MessageTyping::EndMessageMode() {
     if (!data_.Is(ClockKind::CalculatorMessage)) {
         return std::nullopt;
     }
-    const auto calculated =
+    auto calculated =
         mduTimeZones::MomentOfText(parts_.Controls.lblTimeOutput(1).Tag, parts_.Clock.Now());
     data_.Tag.Kind = ClockKind::Calculator;
     parts_.Controls.lblLocation(1).Caption = data_.Zone.CurrentName;  // typing may have changed it

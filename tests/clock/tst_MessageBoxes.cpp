@@ -139,6 +139,15 @@ private Q_SLOTS:
         QVERIFY(desk.Line() == nullptr);
     }
 
+    void ALongMessageIsNotCut() {
+        BoxDesk desk(QString(40'000, u'x'));
+        desk.Open();
+        desk.Line()->end(false);
+        desk.Line()->insert(u"y"_s);
+        desk.TakesKey(Qt::Key_Return);
+        QCOMPARE(desk.Timers.Timer(1).Message, QString(40'000, u'x') + u'y');
+    }
+
     void OnlyKeysOfTheWindowPassIt() {
         BoxDesk desk;
         desk.Open();

@@ -1,4 +1,5 @@
 #include <QLineEdit>
+#include <QToolTip>
 
 #include "MenuClicks.h"
 
@@ -266,7 +267,9 @@ private Q_SLOTS:
         const QPointF start = desk.Mark(1).Rect().topLeft();
         desk.Press(at);
         desk.DragTo(desk.Spot(30).Rect().center());
+        QTRY_VERIFY(QToolTip::isVisible());
         QTest::keyClick(desk.Clock, Qt::Key_Escape);
+        QTRY_VERIFY(!QToolTip::isVisible());
         QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
         desk.DragTo(desk.Spot(40).Rect().center());
         desk.Release(desk.Spot(40).Rect().center());
