@@ -88,7 +88,7 @@ Answer() {
 
 Prepare
 Check "the shell appears" Start
-Check "the clock shows the default look" WaitFor 10 Shows 60 150 "#F2F0EA"
+Check "the clock shows the default look" WaitFor 10 Shows 405 405 "#F2F0EA"
 
 echo "-- its menu"
 Check "another kind of clock" Pick 1 2
@@ -99,13 +99,13 @@ Preview() {
     Open "${ground[@]}" && Keys Down Down Right && sleep 0.5
 }
 Check "a style is pointed at" Preview
-Check "the clock shows it" WaitFor 2 eval 'Shows 60 150 "#0000FF" || Shows 60 150 "#FF0000"'
+Check "the clock shows it" WaitFor 2 eval 'Shows 405 405 "#0000FF" || Shows 405 405 "#FF0000"'
 Keys Escape Escape
-Check "and goes back" WaitFor 2 Shows 60 150 "#F2F0EA"
+Check "and goes back" WaitFor 2 Shows 405 405 "#F2F0EA"
 Check "a style is chosen" Pick 2 1
-Check "it stays" WaitFor 2 eval 'Shows 60 150 "#0000FF" || Shows 60 150 "#FF0000"'
+Check "it stays" WaitFor 2 eval 'Shows 405 405 "#0000FF" || Shows 405 405 "#FF0000"'
 Check "a colour is chosen" Pick 5 4
-Check "it shows" WaitFor 2 Shows 60 150 "#00FF00"
+Check "it shows" WaitFor 2 Shows 405 405 "#00FF00"
 Check "another zone is chosen" Pick 6 2
 Check "its own is chosen again" Pick 6 2
 Check "it goes to the corner" Pick 4 1
