@@ -80,6 +80,7 @@ std::vector<Command> MenusCommands();
 /// "menus clock", the one of its group that reads the program folder.
 Command ClockMenuCommand();
 std::vector<Command> ShellCommands();
+std::vector<Command> ShortcutsCommands();
 std::vector<Command> TimersCommands();
 std::vector<Command> ZonesCommands();
 std::vector<Command> SpeechCommands();

@@ -12,6 +12,10 @@ namespace {
 
 constexpr int BeforeF1 = 111;
 
+bool IsCharacter(int code) {
+    return code > 0 && code <= 0xFFFF;
+}
+
 /// Whether the second part of a text such as "Ctrl+K" means a key.
 bool IsKey(const QString& part, int code) {
     if (!FunctionKeyName(code).isEmpty()) {
@@ -50,7 +54,7 @@ QString KeyText(int code, int shift) {
     const QString name = FunctionKeyName(code);
     const QString modifier = ModifierName(shift);
     if (name.isEmpty()) {
-        return modifier + u'+' + QChar(code);
+        return modifier + u'+' + (IsCharacter(code) ? QString(QChar(code)) : QString());
     }
     return modifier.isEmpty() ? name : modifier + u'+' + name;
 }

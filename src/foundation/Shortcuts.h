@@ -26,7 +26,7 @@ QString ModifierName(int shift);
 int KeyNameCode(const QString& text);
 
 /// The text of a key, as the list of shortcuts holds it: (114, Ctrl) gives "Ctrl+F3", (75, 0) gives
-/// "+K".
+/// "+K". A code that is no character leaves that part empty.
 QString KeyText(int code, int shift);
 
 /// The command that a key is bound to.

@@ -97,6 +97,8 @@ void tst_CommandLine::refusesAWordTooManyOrTooFew_data() {
     row("menus times", 1);
     row("menus minutes", 1);
     row("shell push-opened", 2);
+    row("shortcuts match", 3);
+    row("shortcuts text", 2);
     row("zones list", 0);
     row("zones local", 0);
     row("zones show", 1);
