@@ -35,7 +35,7 @@ std::vector<Command> AllCommands() {
     for (const auto& group :
          {PropertiesCommands(), ValuesCommands(), FilesCommands(), ClockCommands(),
           ClockPlaceCommands(), ClockRunCommands(), MenusCommands(), ShellCommands(),
-          ZonesCommands(), TimersCommands(), SpeechCommands()}) {
+          ZonesCommands(), TimersCommands(), SpeechCommands(), GridCommands(), EditorCommands()}) {
         commands.insert(commands.end(), group.begin(), group.end());
     }
     return commands;
