@@ -1,5 +1,8 @@
 #include "ctl/GridOperations.h"
 
+#include <functional>
+#include <utility>
+
 #include "ctl/GridScript.h"
 #include "editor/ColChooser.h"
 #include "editor/GridLines.h"
@@ -14,100 +17,119 @@ namespace ctl {
 
 namespace {
 
+using editor::CellEditing;
 using editor::EditGridData;
 using editor::GridColumns;
 
-/// A property of the grid, asked for and set.
-template <auto Get>
-QJsonValue Ask(GridScript& script, const GridArguments&) {
-    return (script.Grid.*Get)();
+// What an operation works on.
+template <typename T>
+auto& Part(GridScript& script) {
+    if constexpr (std::is_same_v<T, EditGridData>) {
+        return script.Grid;
+    } else if constexpr (std::is_same_v<T, GridColumns>) {
+        return script.Columns;
+    } else {
+        return script.Editing;
+    }
 }
 
-template <auto Set>
-QJsonValue Put(GridScript& script, const GridArguments& given) {
-    (script.Grid.*Set)(given.Int(0));
-    return {};
+// An argument by its place, from 0; the one that a shorter line leaves out is 0 or nothing.
+template <typename T>
+T Argument(const GridArguments& given, std::size_t place) {
+    const int index = static_cast<int>(place);
+    if constexpr (std::is_same_v<T, std::optional<int>>) {
+        return index + 1 < given.Line.size() ? T(given.Int(index)) : T();
+    } else if constexpr (std::is_same_v<T, int>) {
+        return given.Int(index);
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return given.Flag(index);
+    } else {
+        return given.Text(index);
+    }
 }
 
-/// The same of a row, and of a column that can be edited.
-template <auto Get>
-QJsonValue AskOfRow(GridScript& script, const GridArguments& given) {
-    const int row = given.Int(0);
-    return script.Grid.HasRow(row) ? QJsonValue((script.Grid.*Get)(row)) : QJsonValue();
-}
+template <typename Result, typename Owner, typename... Given>
+struct Call {
+    template <auto Work>
+    static Result Run(GridScript& script, const GridArguments& given) {
+        return [&]<std::size_t... Place>(std::index_sequence<Place...>) {
+            return std::invoke(Work, Part<std::remove_const_t<Owner>>(script),
+                               Argument<std::remove_cvref_t<Given>>(given, Place)...);
+        }
+        (std::index_sequence_for<Given...>());
+    }
+};
 
-template <auto Set>
-QJsonValue PutInRow(GridScript& script, const GridArguments& given) {
-    (script.Grid.*Set)(given.Int(0), given.Int(1));
-    return {};
-}
-
-/// An operation without a result: with nothing, with a number, with a text.
-template <auto Work>
-QJsonValue Do(GridScript& script, const GridArguments&) {
-    Work(script.Grid);
-    return {};
-}
-
-template <auto Work>
-QJsonValue DoWithNumber(GridScript& script, const GridArguments& given) {
-    Work(script.Grid, given.Int(0));
-    return {};
-}
-
-template <auto Work>
-QJsonValue DoWithText(GridScript& script, const GridArguments& given) {
-    Work(script.Grid, given.Text(0));
-    return {};
-}
-
-/// An operation whose result is a value.
-template <auto Work>
-QJsonValue Tell(GridScript& script, const GridArguments&) {
-    return Work(script.Grid);
-}
+// The part and the arguments of a function, by its type.
+template <typename R, typename Owner, typename... Given>
+Call<R, Owner, Given...> CallOf(R (*)(Owner&, Given...));
+template <typename R, typename Owner, typename... Given>
+Call<R, Owner, Given...> CallOf(R (Owner::*)(Given...));
+template <typename R, typename Owner, typename... Given>
+Call<R, Owner, Given...> CallOf(R (Owner::*)(Given...) const);
 
 template <typename T>
 QJsonValue OrNull(const std::optional<T>& result) {
     return result ? QJsonValue(*result) : QJsonValue();
 }
+QJsonValue OrNull(const QJsonValue& result) {
+    return result;
+}
 
-QJsonValue Setup(GridScript& script, const GridArguments& given) {
-    script.Grid = EditGridData({given.Int(0), given.Int(1), given.Int(2), given.Int(3)});
+/// Runs a function of the grid, and has no result.
+template <auto Work>
+QJsonValue Do(GridScript& script, const GridArguments& given) {
+    decltype(CallOf(Work))::template Run<Work>(script, given);
+    return {};
+}
+
+/// Runs it, and tells its result.
+template <auto Work>
+QJsonValue Tell(GridScript& script, const GridArguments& given) {
+    return OrNull(decltype(CallOf(Work))::template Run<Work>(script, given));
+}
+
+QJsonValue SetUp(GridScript& script, const GridArguments& given) {
+    if (given.Line.size() > 1) {
+        script.Grid = EditGridData({given.Int(0), given.Int(1), given.Int(2), given.Int(3)});
+    }
     script.Columns.Setup(script.Grid.Cols());
     return {};
 }
 
-QJsonValue CellText(GridScript& script, const GridArguments& given) {
-    const bool isThere = script.Grid.HasRow(given.Int(0)) && script.Grid.HasCol(given.Int(1));
-    return isThere ? QJsonValue(script.Grid.TextMatrix(given.Int(0), given.Int(1))) : QJsonValue();
+std::optional<QString> CellText(EditGridData& grid, int row, int col) {
+    const bool isThere = grid.HasRow(row) && grid.HasCol(col);
+    return isThere ? std::optional(grid.TextMatrix(row, col)) : std::nullopt;
 }
 
-QJsonValue SetMode(GridScript& script, const GridArguments& given) {
-    if (given.Int(0) >= 0 && given.Int(0) <= 2) {
-        script.Grid.Mode = static_cast<editor::SelectionMode>(given.Int(0));
+std::optional<int> RowData(EditGridData& grid, int row) {
+    return grid.HasRow(row) ? std::optional(grid.RowData(row)) : std::nullopt;
+}
+
+std::optional<int> RowHeight(EditGridData& grid, int row) {
+    return grid.HasRow(row) ? std::optional(grid.RowHeight(row)) : std::nullopt;
+}
+
+int Mode(EditGridData& grid) {
+    return static_cast<int>(grid.Mode);
+}
+
+void SetMode(EditGridData& grid, int mode) {
+    if (mode >= 0 && mode <= static_cast<int>(editor::SelectionMode::ByColumn)) {
+        grid.Mode = static_cast<editor::SelectionMode>(mode);
     }
-    return {};
 }
 
-QJsonValue RowText(GridScript& script, const GridArguments& given) {
-    const int stopCol = given.Line.size() > 2 ? given.Int(1) : 0;
-    return OrNull(editor::RowToStr(script.Grid, given.Int(0), stopCol));
+int LastEditRow(EditGridData& grid) {
+    return grid.LastEditRow;
 }
 
-QJsonValue Insert(GridScript& script, const GridArguments& given) {
-    return OrNull(editor::InsertOneLine(script.Grid, given.Flag(0)));
+void SetLastEditRow(EditGridData& grid, int row) {
+    grid.LastEditRow = row;
 }
 
-QJsonValue Operate(GridScript& script, const GridArguments& given) {
-    return OrNull(editor::RowOperation(script.Grid, given.Int(0)));
-}
-
-QJsonValue Add(GridScript& script, const GridArguments& given) {
-    const bool hasPlace = given.Line.size() > 2;
-    editor::AddItem(script.Grid, given.Text(0),
-                    hasPlace ? std::optional(given.Int(1)) : std::nullopt);
-    return {};
+QString LastLineNumber(EditGridData& grid) {
+    return grid.TextMatrix(grid.LastEditRow, 0);
 }
 
 QJsonValue ChooserCaptions(GridScript&, const GridArguments& given) {
@@ -118,166 +140,89 @@ QJsonValue ChooserCaptions(GridScript&, const GridArguments& given) {
     return captions;
 }
 
-QJsonValue Total(GridScript& script, const GridArguments& given) {
-    return editor::ColTotal(script.Grid, given.Int(0));
-}
-
 constexpr GridOperation Operations[] = {
-    {"Setup", "iiii", Setup},
-    {"Setup", "",
-     [](GridScript& script, const GridArguments&) -> QJsonValue {
-         script.Columns.Setup(script.Grid.Cols());
-         return {};
-     }},
-    {"Rows", "", Ask<&EditGridData::Rows>},
-    {"Rows", "i", Put<&EditGridData::SetRows>},
-    {"Cols", "", Ask<&EditGridData::Cols>},
-    {"Cols", "i", Put<&EditGridData::SetCols>},
-    {"FixedRows", "", Ask<&EditGridData::FixedRows>},
-    {"FixedRows", "i", Put<&EditGridData::SetFixedRows>},
-    {"FixedCols", "", Ask<&EditGridData::FixedCols>},
-    {"FixedCols", "i", Put<&EditGridData::SetFixedCols>},
-    {"Row", "", Ask<&EditGridData::Row>},
-    {"Row", "i", Put<&EditGridData::SetRow>},
-    {"Col", "", Ask<&EditGridData::Col>},
-    {"Col", "i", Put<&EditGridData::SetCol>},
-    {"RowSel", "", Ask<&EditGridData::RowSel>},
-    {"RowSel", "i", Put<&EditGridData::SetRowSel>},
-    {"ColSel", "", Ask<&EditGridData::ColSel>},
-    {"ColSel", "i", Put<&EditGridData::SetColSel>},
-    {"SelectionMode", "",
-     [](GridScript& script, const GridArguments&) -> QJsonValue {
-         return static_cast<int>(script.Grid.Mode);
-     }},
-    {"SelectionMode", "i", SetMode},
-    {"TextMatrix", "ii", CellText},
-    {"TextMatrix", "iit",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Grid.SetTextMatrix(given.Int(0), given.Int(1), given.Text(2));
-         return {};
-     }},
-    {"TextArray", "i",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         return script.Grid.TextArray(given.Int(0));
-     }},
-    {"TextArray", "it",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Grid.SetTextArray(given.Int(0), given.Text(1));
-         return {};
-     }},
-    {"RowData", "i", AskOfRow<&EditGridData::RowData>},
-    {"RowData", "ii", PutInRow<&EditGridData::SetRowData>},
-    {"RowHeight", "i", AskOfRow<&EditGridData::RowHeight>},
-    {"RowHeight", "ii", PutInRow<&EditGridData::SetRowHeight>},
-    {"SetRowHeight", "ii", PutInRow<&EditGridData::SetRowHeight>},
-    {"RemoveItem", "i", Put<&EditGridData::RemoveItem>},
-    {"GetGridClip", "", Ask<&EditGridData::Clip>},
-    {"SetGridClip", "t",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Grid.SetClip(given.Text(0));
-         return {};
-     }},
-    {"Grid2Str", "t",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         return editor::Grid2Str(script.Grid, given.Text(0));
-     }},
-    {"Str2Gird", "t", DoWithText<editor::Str2Gird>},
+    {"Setup", "iiii", SetUp},
+    {"Setup", "", SetUp},
+    {"Rows", "", Tell<&EditGridData::Rows>},
+    {"Rows", "i", Do<&EditGridData::SetRows>},
+    {"Cols", "", Tell<&EditGridData::Cols>},
+    {"Cols", "i", Do<&EditGridData::SetCols>},
+    {"FixedRows", "", Tell<&EditGridData::FixedRows>},
+    {"FixedRows", "i", Do<&EditGridData::SetFixedRows>},
+    {"FixedCols", "", Tell<&EditGridData::FixedCols>},
+    {"FixedCols", "i", Do<&EditGridData::SetFixedCols>},
+    {"Row", "", Tell<&EditGridData::Row>},
+    {"Row", "i", Do<&EditGridData::SetRow>},
+    {"Col", "", Tell<&EditGridData::Col>},
+    {"Col", "i", Do<&EditGridData::SetCol>},
+    {"RowSel", "", Tell<&EditGridData::RowSel>},
+    {"RowSel", "i", Do<&EditGridData::SetRowSel>},
+    {"ColSel", "", Tell<&EditGridData::ColSel>},
+    {"ColSel", "i", Do<&EditGridData::SetColSel>},
+    {"SelectionMode", "", Tell<Mode>},
+    {"SelectionMode", "i", Do<SetMode>},
+    {"TextMatrix", "ii", Tell<CellText>},
+    {"TextMatrix", "iit", Do<&EditGridData::SetTextMatrix>},
+    {"TextArray", "i", Tell<&EditGridData::TextArray>},
+    {"TextArray", "it", Do<&EditGridData::SetTextArray>},
+    {"RowData", "i", Tell<RowData>},
+    {"RowData", "ii", Do<&EditGridData::SetRowData>},
+    {"RowHeight", "i", Tell<RowHeight>},
+    {"RowHeight", "ii", Do<&EditGridData::SetRowHeight>},
+    {"SetRowHeight", "ii", Do<&EditGridData::SetRowHeight>},
+    {"RemoveItem", "i", Do<&EditGridData::RemoveItem>},
+    {"GetGridClip", "", Tell<&EditGridData::Clip>},
+    {"SetGridClip", "t", Do<&EditGridData::SetClip>},
+    {"GetSelRow", "", Tell<&EditGridData::RowSel>},
+    {"Grid2Str", "t", Tell<editor::Grid2Str>},
     {"CurrentRowStr", "", Tell<editor::CurrentRowStr>},
-    {"RowToStr", "i", RowText},
-    {"RowToStr", "ii", RowText},
-    {"StrToRow", "ti",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         editor::StrToRow(script.Grid, given.Text(0), given.Int(1));
-         return {};
-     }},
-    {"Clear", "", Do<editor::Clear>},
-    {"GridClear", "", Do<editor::GridClear>},
-    {"DeleteGridRows", "", Do<editor::DeleteGridRows>},
-    {"Duplicate", "", Do<editor::Duplicate>},
-    {"RefreshItemNumber", "", Do<editor::RefreshItemNumber>},
-    {"ToggleRowStrikeThrough", "", Do<editor::ToggleRowStrikeThrough>},
-    {"CompactColumn", "", Do<editor::CompactColumn>},
-    {"SelectGridAll", "", Do<editor::SelectGridAll>},
-    {"SelectGridNone", "", Do<editor::SelectGridNone>},
-    {"ClearRow", "i", DoWithNumber<editor::ClearRow>},
-    {"SelectOneRow", "i", DoWithNumber<editor::SelectOneRow>},
-    {"Sort", "i", DoWithNumber<editor::Sort>},
-    {"CopyRow", "ii",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         editor::CopyRow(script.Grid, given.Int(0), given.Int(1));
-         return {};
-     }},
-    {"InsertOneLine", "b", Insert},
-    {"InsertOneLine", "bi", Insert},
-    {"RowOperation", "i", Operate},
-    {"RowOperation", "ib", Operate},
-    {"AddItem", "t", Add},
-    {"AddItem", "ti", Add},
-    {"AddRowDetail", "t", DoWithText<editor::AddRowDetail>},
-    {"RemoveItemByName", "t", DoWithText<editor::RemoveItemByName>},
-    {"SetLastLineNumber", "t", DoWithText<editor::SetLastLineNumber>},
-    {"SetLineNumber", "it",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         editor::SetLineNumber(script.Grid, given.Int(0), given.Text(1));
-         return {};
-     }},
-    {"SetRowStrikeThrough", "b",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         editor::SetRowStrikeThrough(script.Grid, given.Flag(0));
-         return {};
-     }},
+    {"RowToStr", "i", Tell<editor::RowToStr>},
+    {"RowToStr", "ii", Tell<editor::RowToStr>},
+    {"InsertOneLine", "b", Tell<editor::InsertOneLine>},
+    {"InsertOneLine", "bi", Tell<editor::InsertOneLine>},
+    {"RowOperation", "i", Tell<editor::RowOperation>},
+    {"RowOperation", "ib", Tell<editor::RowOperation>},
     {"IsRowStrikeThrough", "", Tell<editor::IsRowStrikeThrough>},
     {"GetHightLightValue", "", Tell<editor::GetHightLightValue>},
-    {"GetSelRow", "", Ask<&EditGridData::RowSel>},
-    {"LastEditRow", "",
-     [](GridScript& script, const GridArguments&) -> QJsonValue {
-         return script.Grid.LastEditRow;
-     }},
-    {"GetLastEditRow", "",
-     [](GridScript& script, const GridArguments&) -> QJsonValue {
-         return script.Grid.LastEditRow;
-     }},
-    {"LastEditRow", "i",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Grid.LastEditRow = given.Int(0);
-         return {};
-     }},
-    {"SetLastEditRow", "i",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Grid.LastEditRow = given.Int(0);
-         return {};
-     }},
-    {"LastLineNumber", "",
-     [](GridScript& script, const GridArguments&) -> QJsonValue {
-         return script.Grid.TextMatrix(script.Grid.LastEditRow, 0);
-     }},
-    {"ColTotal", "i", Total},
+    {"ColTotal", "i", Tell<editor::ColTotal>},
+    {"Str2Gird", "t", Do<editor::Str2Gird>},
+    {"StrToRow", "ti", Do<editor::StrToRow>},
+    {"Clear", "", Do<editor::Clear>},
+    {"GridClear", "", Do<editor::GridClear>},
+    {"ClearRow", "i", Do<editor::ClearRow>},
+    {"CopyRow", "ii", Do<editor::CopyRow>},
+    {"Duplicate", "", Do<editor::Duplicate>},
+    {"AddItem", "t", Do<editor::AddItem>},
+    {"AddItem", "ti", Do<editor::AddItem>},
+    {"AddRowDetail", "t", Do<editor::AddRowDetail>},
+    {"RemoveItemByName", "t", Do<editor::RemoveItemByName>},
+    {"DeleteGridRows", "", Do<editor::DeleteGridRows>},
+    {"RefreshItemNumber", "", Do<editor::RefreshItemNumber>},
+    {"SetLineNumber", "it", Do<editor::SetLineNumber>},
+    {"SetLastLineNumber", "t", Do<editor::SetLastLineNumber>},
+    {"SetRowStrikeThrough", "b", Do<editor::SetRowStrikeThrough>},
+    {"ToggleRowStrikeThrough", "", Do<editor::ToggleRowStrikeThrough>},
+    {"CompactColumn", "", Do<editor::CompactColumn>},
+    {"SelectOneRow", "i", Do<editor::SelectOneRow>},
+    {"SelectGridAll", "", Do<editor::SelectGridAll>},
+    {"SelectGridNone", "", Do<editor::SelectGridNone>},
+    {"Sort", "i", Do<editor::Sort>},
+    {"LastEditRow", "", Tell<LastEditRow>},
+    {"GetLastEditRow", "", Tell<LastEditRow>},
+    {"LastEditRow", "i", Do<SetLastEditRow>},
+    {"SetLastEditRow", "i", Do<SetLastEditRow>},
+    {"LastLineNumber", "", Tell<LastLineNumber>},
     {"SetColComboOption", "t", ChooserCaptions},
-    {"SetCellCtl", "ii",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Columns.SetCellCtlID(given.Int(0), given.Int(1));
-         return {};
-     }},
-    {"SetCellCtlID", "ii",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Columns.SetCellCtlID(given.Int(0), given.Int(1));
-         return {};
-     }},
-    {"SetCellCtlVisible", "ib",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Columns.SetCellCtlVisible(given.Int(0), given.Flag(1));
-         return {};
-     }},
-    {"SetColFormat", "t",
-     [](GridScript& script, const GridArguments& given) -> QJsonValue {
-         script.Columns.SetColFormat(given.Text(0));
-         return {};
-     }},
-    {"MoveToNextCell", "",
-     [](GridScript& script, const GridArguments&) -> QJsonValue {
-         script.Editing.MoveToNextCell();
-         return {};
-     }},
+    {"SetCellCtl", "ii", Do<&GridColumns::SetCellCtlID>},
+    {"SetCellCtlID", "ii", Do<&GridColumns::SetCellCtlID>},
+    {"SetCellCtlVisible", "ib", Do<&GridColumns::SetCellCtlVisible>},
+    {"SetColFormat", "t", Do<&GridColumns::SetColFormat>},
+    {"AddCellComboItem", "it", Do<&GridColumns::AddCellComboItem>},
+    {"AddCellComboEditItem", "it", Do<&GridColumns::AddCellComboEditItem>},
+    {"RemoveComboEditItem", "it", Do<&GridColumns::RemoveComboEditItem>},
+    {"ClearCellCombo", "i", Do<&GridColumns::ClearCellCombo>},
+    {"ClearCellComboEdit", "i", Do<&GridColumns::ClearCellComboEdit>},
+    {"MoveToNextCell", "", Do<&CellEditing::MoveToNextCell>},
 };
 
 }  // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QJsonArray>
-#include <optional>
 #include <span>
 
 namespace ctl {

@@ -33,7 +33,7 @@ std::optional<QString> SpunDate(const QString& text, int days, int presentYear) 
 }  // namespace
 
 QString FormattedNumber(const QString& text) {
-    const QString trimmed = text.trimmed();
+    QString trimmed = text.trimmed();
     const double number = mduAPILib::Val(trimmed);
     if (!mduAPILib::IsNumeric(trimmed) || std::abs(number) >= LargestNumber) {
         return trimmed;
