@@ -67,6 +67,9 @@ constexpr NamedKey NamedKeys[] = {
     {u"Backspace", editor::KeyCode::Backspace},
 };
 
+// Those before have a character's code, as Enter has.
+constexpr int FirstKeyWithoutCharacter = editor::KeyCode::PageUp;
+
 /// A key by its name, or by the one character that it types.
 std::optional<editor::EditKey> KeyOf(const QString& word) {
     for (const NamedKey& key : NamedKeys) {
@@ -95,12 +98,14 @@ void SetUpCell(GridScript& script, int kind, const QString& text) {
     }
 }
 
-/// The first key enters the cell, whatever it means on a grid; only Tab and Escape never do.
+/// The first key enters the cell, whatever it means on a grid; Tab and Escape never do. What types
+/// nothing acts in the editor at once.
 void EnterCell(editor::CellEditing& editing, const editor::EditKey& key) {
-    if (!key.Typed.isEmpty() || key.Code == editor::KeyCode::Tab) {
+    const bool isPressed = !key.Typed.isEmpty() || key.Code < FirstKeyWithoutCharacter;
+    if (isPressed) {
         editing.OnGridKey(key);
-    } else if (key.Code != editor::KeyCode::Escape) {
-        editing.OnCellKeyPress(0);
+    } else if (editing.OnCellKeyPress(0)) {
+        editing.OnKeyFromEditor(key);
     }
 }
 

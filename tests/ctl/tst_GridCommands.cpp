@@ -352,7 +352,13 @@ void tst_GridCommands::edits_data() {
     row("a letter, entered", {u"3"_s, u"abc"_s, u"x"_s, u"Enter"_s}, "x", false);
     row("a letter, cancelled", {u"3"_s, u"abc"_s, u"x"_s, u"Escape"_s}, "abc", false);
     row("the old text", {u"3"_s, u"abc"_s, u"Enter"_s, u"x"_s, u"Enter"_s}, "abcx", false);
-    row("an arrow enters", {u"3"_s, u"abc"_s, u"Left"_s, u"x"_s, u"Enter"_s}, "abcx", false);
+    row("an arrow enters and acts", {u"3"_s, u"abc"_s, u"Left"_s, u"x"_s, u"Enter"_s}, "abxc",
+        false);
+    row("an arrow spins", {u"2"_s, u"1.50"_s, u"Up"_s, u"Enter"_s}, "2.50", false);
+    row("an arrow chooses", {u"1"_s, u"Red,Red,Green"_s, u"Down"_s, u"Enter"_s}, "Green", false);
+    row("an arrow opens no empty list", {u"1"_s, u"Red"_s, u"Down"_s}, "Red", false);
+    row("backspace enters", {u"3"_s, u"abc"_s, u"Backspace"_s, u"x"_s, u"Enter"_s}, "abcx", false);
+    row("a page key enters and ends", {u"3"_s, u"abc"_s, u"PageUp"_s}, "abc", false);
     row("tab does not", {u"3"_s, u"abc"_s, u"Tab"_s}, "abc", false);
     row("escape does not", {u"3"_s, u"abc"_s, u"Escape"_s}, "abc", false);
     row("an arrow enters first alone", {u"3"_s, u"abc"_s, u"Enter"_s, u"Enter"_s, u"Left"_s}, "abc",

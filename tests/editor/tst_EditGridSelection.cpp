@@ -24,8 +24,8 @@ void tst_EditGridSelection::EndsWithANewCell() {
     EditGridData grid({5, 4, 1, 0});
     grid.SetRow(1);
     grid.SetCol(1);
-    grid.SetRowSel(3);
-    grid.SetColSel(2);
+    QVERIFY(grid.SetRowSel(3));
+    QVERIFY(grid.SetColSel(2));
     QCOMPARE(grid.Row(), 1);
     QCOMPARE(grid.Col(), 1);
     QVERIFY(grid.SetRow(2));
@@ -90,6 +90,9 @@ void tst_EditGridSelection::Clips() {
 
 void tst_EditGridSelection::ClipsNothing() {
     QCOMPARE(EditGridData({0, 3, 0, 0}).Clip(), QString());
+    QCOMPARE(EditGridData({0, 3, 0, 0}).Selection().Bottom, -1);
+    QCOMPARE(EditGridData({3, 0, 1, 0}).Selection().Right, -1);
+    QCOMPARE(GridOf({u"A"_s}, 1).Clip(), u"A"_s);
     QCOMPARE(EditGridData({3, 0, 1, 0}).Clip(), QString());
     QCOMPARE(EditGridData({3, 3, 1, 0}).RowClipText(1), u"\t\t"_s);
 }
