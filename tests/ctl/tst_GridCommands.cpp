@@ -360,6 +360,7 @@ void tst_GridCommands::edits_data() {
     row("backspace enters", {u"3"_s, u"abc"_s, u"Backspace"_s, u"x"_s, u"Enter"_s}, "abcx", false);
     row("a page key enters and ends", {u"3"_s, u"abc"_s, u"PageUp"_s}, "abc", false);
     row("tab does not", {u"3"_s, u"abc"_s, u"Tab"_s}, "abc", false);
+    row("tab finds no other cell", {u"3"_s, u"abc"_s, u"Tab"_s, u"x"_s, u"Enter"_s}, "x", false);
     row("escape does not", {u"3"_s, u"abc"_s, u"Escape"_s}, "abc", false);
     row("an arrow enters first alone", {u"3"_s, u"abc"_s, u"Enter"_s, u"Enter"_s, u"Left"_s}, "abc",
         false);
