@@ -35,7 +35,8 @@ std::vector<Command> AllCommands() {
     for (const auto& group :
          {PropertiesCommands(), ValuesCommands(), FilesCommands(), ClockCommands(),
           ClockPlaceCommands(), ClockRunCommands(), MenusCommands(), ShellCommands(),
-          ShortcutsCommands(), ZonesCommands(), TimersCommands(), SpeechCommands()}) {
+          ShortcutsCommands(), ZonesCommands(), TimersCommands(), SpeechCommands(), GridCommands(),
+          EditorCommands()}) {
         commands.insert(commands.end(), group.begin(), group.end());
     }
     return commands;

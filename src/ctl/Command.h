@@ -84,6 +84,8 @@ std::vector<Command> ShortcutsCommands();
 std::vector<Command> TimersCommands();
 std::vector<Command> ZonesCommands();
 std::vector<Command> SpeechCommands();
+std::vector<Command> GridCommands();
+std::vector<Command> EditorCommands();
 
 /// Every command, group by group. A new group is declared above and added there.
 std::vector<Command> AllCommands();

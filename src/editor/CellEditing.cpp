@@ -1,0 +1,153 @@
+#include "editor/CellEditing.h"
+
+#include <algorithm>
+
+#include "editor/CellText.h"
+#include "platform/WallClock.h"
+
+namespace editor {
+
+namespace {
+
+constexpr int FirstCharacter = 32;
+
+QString CharacterOf(int keyAscii) {
+    const auto code = static_cast<char32_t>(keyAscii);
+    return keyAscii < FirstCharacter || !QChar::isPrint(code) ? QString()
+                                                              : QString::fromUcs4(&code, 1);
+}
+
+}  // namespace
+
+CellEditing::CellEditing(EditGridData& grid, GridColumns& columns, platform::WallClock& clock)
+    : grid_(grid), columns_(columns), clock_(clock), typeAhead_(clock) {}
+
+int CellEditing::PresentYear() const {
+    return clock_.Now().date().year();
+}
+
+bool CellEditing::OnCellKeyPress(int keyAscii) {
+    return keyAscii != KeyCode::Escape && EnterCell(CharacterOf(keyAscii));
+}
+
+bool CellEditing::EnterCell(const QString& typed) {
+    const int row = grid_.Row();
+    const bool isRowForEdits =
+        grid_.HasRow(row) && row >= grid_.FixedRows() && !grid_.IsStruckThrough(row);
+    if (!Editable || !isRowForEdits || IsEditing()) {
+        return false;
+    }
+    earlierEditRow_ = grid_.LastEditRow;
+    grid_.LastEditRow = row;
+    return columns_.IsEditable(grid_.Col()) && BeginCellEdit(typed);
+}
+
+bool CellEditing::BeginCellEdit(const QString& typed) {
+    editColumn_ = grid_.Col();
+    const EditorKind kind = columns_.Ctl(editColumn_).Id;
+    const QStringList items = columns_.Items(editColumn_);
+    if (kind == EditorKind::Combo && items.isEmpty()) {
+        return false;
+    }
+    editor_.emplace(kind, grid_.TextMatrix(grid_.Row(), editColumn_), items);
+    editor_->Begin(typed);
+    return true;
+}
+
+bool CellEditing::OnGridKey(const EditKey& key) {
+    if (!key.Typed.isEmpty()) {
+        EnterCell(key.Typed);
+        return true;
+    }
+    const bool movesOn =
+        key.Code == KeyCode::Tab || (key.Code == KeyCode::Enter && MoveToNextOnEnter);
+    if (movesOn) {
+        MoveToNextCell();
+        return true;
+    }
+    return (key.Code == KeyCode::Enter || key.Code == KeyCode::Backspace) &&
+           OnCellKeyPress(key.Code);
+}
+
+void CellEditing::OnKeyFromEditor(const EditKey& key) {
+    if (!editor_) {
+        return;
+    }
+    switch (ActionOf(editor_->Kind(), key)) {
+        case EditorAction::Stays:
+            editor_->Key(key, typeAhead_, PresentYear());
+            break;
+        case EditorAction::ClearsChoice:
+            editor_->ClearChoice();
+            break;
+        case EditorAction::Cancels:
+            CancelCellEdit();
+            break;
+        case EditorAction::Ends:
+            EndCellEdit();
+            if (MoveToNextOnEnter) {
+                MoveToNextCell();
+            }
+            break;
+        case EditorAction::EndsAndPages:
+            EndCellEdit();
+            MoveByPage(key.Code);
+            break;
+        case EditorAction::None:
+            break;
+    }
+}
+
+void CellEditing::Spin(int step) {
+    if (editor_) {
+        editor_->Spin(step, PresentYear());
+    }
+}
+
+void CellEditing::EndCellEdit() {
+    if (!editor_) {
+        return;
+    }
+    const bool isLine =
+        editor_->Kind() == EditorKind::Text || editor_->Kind() == EditorKind::UpDown;
+    const QString text = editor_->Text();
+    const bool isNumber = isLine && columns_.HasNumberFormat(editColumn_);
+    WriteValue(isNumber ? FormattedNumber(text) : text);
+    editor_.reset();
+    typeAhead_.End();
+}
+
+// The row may have gone, or moved, since the edit began; `LastEditRow` has followed it.
+void CellEditing::WriteValue(const QString& text) {
+    if (grid_.LastEditRow < grid_.FixedRows() || text == editor_->OldText()) {
+        return;
+    }
+    RowChanges = grid_.SetTextMatrix(grid_.LastEditRow, editColumn_, text) || RowChanges;
+}
+
+void CellEditing::CancelCellEdit() {
+    if (editor_) {
+        grid_.LastEditRow = earlierEditRow_;
+    }
+    editor_.reset();
+    typeAhead_.End();
+}
+
+void CellEditing::MoveToNextCell() {
+    if (grid_.SetCol(grid_.Col() + 1)) {
+        return;
+    }
+    int first = 0;
+    while (first < grid_.Cols() && !columns_.IsEditable(first)) {
+        ++first;
+    }
+    grid_.SetCol(first < grid_.Cols() ? first : 0);
+    grid_.SetRow(grid_.Row() + 1);
+}
+
+void CellEditing::MoveByPage(int code) {
+    const int row = grid_.Row() + (code == KeyCode::PageUp ? -PageRows : PageRows);
+    grid_.SetRow(std::clamp(row, grid_.FixedRows(), std::max(grid_.Rows() - 1, grid_.FixedRows())));
+}
+
+}  // namespace editor

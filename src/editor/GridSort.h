@@ -1,0 +1,22 @@
+#pragma once
+
+#include "editor/EditGridData.h"
+
+namespace editor {
+
+/// Sorts whole rows by the columns of the selection, from left to right. A selection of several
+/// rows sorts these, any other all that are not headings. Equal rows keep their order, rows without
+/// any text stay behind the others, and the current cell keeps its place.
+///
+/// | code | order |
+/// |---|---|
+/// | 0 | as it is |
+/// | 1, 2 | by number where both are numbers, else by text, letter case aside; up, down |
+/// | 3, 4 | by the number that the text begins with, 0 if there is none; up, down |
+/// | 5, 6 | by text, letter case aside; up, down |
+/// | 7, 8 | by the codes of the characters; up, down |
+///
+/// @return false for any other code
+bool Sort(EditGridData& grid, int code);
+
+}  // namespace editor
