@@ -221,6 +221,48 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(DialX), u"-1"_s);
     }
 
+    void ADisabledClockIsNotDragged_data() {
+        using Act = std::function<void(MouseDesk&)>;
+        QTest::addColumn<QByteArray>("enable");
+        QTest::addColumn<Act>("act");
+        QTest::newRow("from its start") << QByteArray("Enable=No") << Act([](MouseDesk&) {});
+        QTest::newRow("in between") << QByteArray("Enable=Yes") << Act([](MouseDesk& desk) {
+            desk.MoveTo(MouseDesk::MiddleOf(desk.Clock->Controls().lblLocation(1)));
+            QCOMPARE(desk.Clock->cursor().shape(), Qt::OpenHandCursor);
+            desk.Clock->EnableWindow(false);
+            QCOMPARE(desk.Clock->cursor().shape(), Qt::ArrowCursor);
+        });
+        QTest::newRow("while the button is held")
+            << QByteArray("Enable=Yes") << Act([](MouseDesk& desk) {
+                   desk.Press({170, 60});
+                   desk.Clock->EnableWindow(false);
+               });
+    }
+
+    void ADisabledClockIsNotDragged() {
+        QFETCH(QByteArray, enable);
+        QFETCH(std::function<void(MouseDesk&)>, act);
+        MouseDesk desk("Enable=Yes", enable);
+        act(desk);
+        QVERIFY(!desk.Clock->isEnabled());
+        QTest::mousePress(desk.Clock, Qt::LeftButton, {}, {170, 60});
+        for (const QPointF at : {QPointF(150, 60), QPointF(120, 70)}) {
+            QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::LeftButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(desk.Clock, &move);
+            QCoreApplication::processEvents();
+            QCOMPARE(desk.Value(DialX), u"-1"_s);
+        }
+        QTest::mouseRelease(desk.Clock, Qt::LeftButton, {}, {120, 70});
+        const Control& name = desk.Clock->Controls().lblLocation(1);
+        QMouseEvent over(QEvent::MouseMove, name.Rect().center(), name.Rect().center(),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.Clock, &over);
+        desk.Clock->MouseMoveObj(name, 0, 0, 3, 3);
+        QCOMPARE(desk.Clock->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(desk.InFile(DialX), u"-1"_s);
+    }
+
     /// A button that was let go where nobody saw it.
     void AMoveWithoutTheButtonEndsIt() {
         MouseDesk desk;

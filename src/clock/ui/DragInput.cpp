@@ -50,6 +50,17 @@ DragInput::DragInput(QWidget& form, const QMdiArea* area, MdiPlacement& placemen
 }
 
 bool DragInput::eventFilter(QObject*, QEvent* event) {
+    if (EndsDrags(event->type())) {
+        TakeBack();
+    }
+    if (form_.isEnabled()) {
+        return Take(event);
+    }
+    pointer_.ShowArrow();
+    return false;
+}
+
+bool DragInput::Take(QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
             return Press(static_cast<QMouseEvent&>(*event));
@@ -66,9 +77,6 @@ bool DragInput::eventFilter(QObject*, QEvent* event) {
             }
             return false;
         default:
-            if (EndsDrags(event->type())) {
-                TakeBack();
-            }
             return false;
     }
 }
@@ -118,12 +126,15 @@ bool DragInput::Release(const QMouseEvent& event) {
 
 void DragInput::MouseMoveObj(const mduUILib::Control& object, int button, int shift, double x,
                              double y) {
+    if (!form_.isEnabled()) {
+        return;
+    }
     const QRectF rect = object.Rect();
     const DragObject what = ObjectOf(object, controls_);
     const QPointF at = rect.topLeft() + QPointF(x, y);
     const QPointF local = at / form_.devicePixelRatioF();
     if (button == LeftButton) {
-        if (dragging_.Object() == DragObject::None && form_.isEnabled()) {
+        if (dragging_.Object() == DragObject::None) {
             dragging_.Press(what, local);
         }
         MoveTo(local, form_.mapToGlobal(local));

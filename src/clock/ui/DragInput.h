@@ -18,7 +18,8 @@ namespace clockcore {
 ///
 /// However many moves the mouse makes, the clock follows once before each time that it is painted.
 /// Escape takes a drag back, and so does whatever takes the window away from under it: another
-/// size, a change of state, a clock that is disabled, hidden or closed.
+/// size, a change of state, a clock that is disabled, hidden or closed. On a disabled clock nothing
+/// is dragged, and the mouse is the arrow.
 ///
 /// The mouse shows a hand over what can be dragged, a closed one while that moves, and over an hour
 /// number the number's own mark, 16 logical pixels large.
@@ -31,7 +32,7 @@ public:
 
     /// The mouse over an object, as a script or another window tells it: with the left button it
     /// drags the object, as far as that can be dragged, until the button is let go; without, it
-    /// shows whether there is something to drag.
+    /// shows whether there is something to drag. Nothing on a disabled clock.
     /// @param object a control of this clock; another than the draggable ones only shows the mouse
     /// @param button 1 left; 0 none
     /// @param shift keys held: 1 Shift, 2 Ctrl, 4 Alt, added up
@@ -47,6 +48,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Take(QEvent* event);
     bool Press(const QMouseEvent& event);
     bool Move(const QMouseEvent& event);
     bool Release(const QMouseEvent& event);

@@ -19,7 +19,7 @@ bool PartBalloon::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseMove: {
             const auto& move = static_cast<const QMouseEvent&>(*event);
-            if (move.buttons() == Qt::NoButton) {
+            if (move.buttons() == Qt::NoButton && parts_.Form.isEnabled()) {
                 Rest(move.position());
             }
             break;

@@ -46,6 +46,18 @@ WalkInput::WalkInput(const Parts& parts) : parts_(parts) {
 
 bool WalkInput::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
+        case QEvent::EnabledChange:
+        case QEvent::Hide:
+        case QEvent::Close:
+            Leave();
+            return false;
+        default:
+            return parts_.Form.isEnabled() && Take(event);
+    }
+}
+
+bool WalkInput::Take(QEvent* event) {
+    switch (event->type()) {
         case QEvent::KeyPress:
             return PressKey(static_cast<QKeyEvent&>(*event));
         case QEvent::KeyRelease: {
@@ -68,9 +80,6 @@ bool WalkInput::eventFilter(QObject*, QEvent* event) {
             }
             return false;
         case QEvent::MouseButtonPress:
-        case QEvent::EnabledChange:
-        case QEvent::Hide:
-        case QEvent::Close:
             Leave();
             return false;
         default:
@@ -148,9 +157,6 @@ void WalkInput::Leave() {
 }
 
 bool WalkInput::ShowMenu() {
-    if (!parts_.Form.isEnabled()) {
-        return false;
-    }
     const QRectF ring = RingPlace();
     const bool isThere = Focus() && !ring.isEmpty();
     const QPointF at = isThere ? ring.center() : QRectF(parts_.Form.rect()).center();

@@ -20,7 +20,8 @@ namespace clockcore {
 /// the key is let go. Escape ends the walk, and so do a click and a focus that goes elsewhere.
 ///
 /// The menu key and Shift+F10 open the menu of the part with the ring, or that of the clock. Tab
-/// is a calculator's own.
+/// is a calculator's own. A disabled clock is not walked along: disabling it ends the walk, and
+/// stores what the arrow keys have done until then.
 ///
 /// It watches the form's events; the keys of a walk it takes for itself.
 class WalkInput final : public QObject {
@@ -48,6 +49,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Take(QEvent* event);
     bool PressKey(const QKeyEvent& event);
     bool PressWalkKey(int key);
     bool Step(bool forward);
