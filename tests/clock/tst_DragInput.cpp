@@ -77,6 +77,68 @@ private Q_SLOTS:
         QCOMPARE(desk.Base.Shell.Messages, QStringList());
     }
 
+    void NoOtherKeyDoesAnything_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("with");
+        const auto row = [](const char* name, Qt::Key key, Qt::KeyboardModifier with) {
+            QTest::newRow(name) << int(key) << int(with);
+        };
+        row("tab", Qt::Key_Tab, Qt::NoModifier);
+        row("tab back", Qt::Key_Backtab, Qt::ShiftModifier);
+        row("menu", Qt::Key_Menu, Qt::NoModifier);
+        row("menu as well", Qt::Key_F10, Qt::ShiftModifier);
+        row("an arrow", Qt::Key_Right, Qt::NoModifier);
+        row("a key of the clock's", Qt::Key_Delete, Qt::NoModifier);
+    }
+
+    void NoOtherKeyDoesAnything() {
+        QFETCH(int, key);
+        QFETCH(int, with);
+        MouseDesk desk;
+        desk.Press({170, 60});
+        desk.MoveTo({150, 80});
+        const QString dragged = desk.Value(DialX);
+        QTest::keyClick(desk.Clock, Qt::Key(key), Qt::KeyboardModifiers(with));
+        QVERIFY(MouseDesk::OpenMenu() == nullptr);
+        QCOMPARE(desk.Clock->accessibleDescription(), QString());
+        QCOMPARE(desk.Value(DialX), dragged);
+        QCOMPARE(desk.InFile(DialX), u"-1"_s);
+        desk.MoveTo({120, 70});
+        desk.Release({120, 70});
+        QVERIFY(IsNear(desk.InFile(DialX), desk.Across(130)));
+    }
+
+    /// So that a shortcut of the shell's is none meanwhile.
+    void KeysAreOverriddenMeanwhile() {
+        MouseDesk desk;
+        QKeyEvent before(QEvent::ShortcutOverride, Qt::Key_F5, Qt::NoModifier);
+        before.ignore();
+        QCoreApplication::sendEvent(desk.Clock, &before);
+        QVERIFY(!before.isAccepted());
+        desk.Press({170, 60});
+        desk.MoveTo({150, 80});
+        QKeyEvent meanwhile(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+        meanwhile.ignore();
+        QCoreApplication::sendEvent(desk.Clock, &meanwhile);
+        QVERIFY(meanwhile.isAccepted());
+        QVERIFY(IsNear(desk.Value(DialX), desk.Across(160)));  // the press is still to come
+    }
+
+    /// 51 percent, with the key still down; the drag goes on from there.
+    void WhatWasPushedIsKeptBeforeADrag() {
+        MouseDesk desk;
+        QTest::keyClick(desk.Clock, Qt::Key_Tab);
+        QTest::keyPress(desk.Clock, Qt::Key_Right);
+        QCOMPARE(desk.InFile(DialX), u"-1"_s);
+        const Control& name = desk.Clock->Controls().lblLocation(1);
+        desk.Clock->MouseMoveObj(name, 1, 0, 3, 3);
+        desk.Clock->MouseMoveObj(name, 1, 0, -17, -27);
+        QCOMPARE(desk.InFile(DialX), u"51"_s);
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s), u"-1"_s);
+        QTest::keyRelease(desk.Clock, Qt::Key_Right);
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s), u"-1"_s);
+    }
+
     void TheDigits() {
         MouseDesk desk("Clocks=Analogue", "Clocks=Digital");
         const QPoint from = MouseDesk::MiddleOf(desk.Clock->Controls().lblDigitalNumber(3));

@@ -11,9 +11,7 @@ constexpr int RestTime = 500;  // milliseconds
 }  // namespace
 
 PartBalloon::PartBalloon(const Parts& parts, platform::WallClock& clock)
-    : parts_(parts), balloonTip_(clock) {
-    parts_.Form.installEventFilter(this);
-}
+    : parts_(parts), balloonTip_(clock) {}
 
 bool PartBalloon::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {

@@ -191,6 +191,9 @@ private:
     /// What the parts of the face share. The parts hold references to fields that are made before
     /// them: so the order of the fields below matters.
     drawing::FaceContext Context();
+    clockcore::HeldPart::Parts PartsToMove();
+    /// Those who see mouse and keys before the window does.
+    void InstallFilters();
 
     Program program_;
     /// Null for a clock that stands alone.
@@ -232,6 +235,7 @@ private:
     clockcore::TimersOnDial timersOnDial_;
     clockcore::ClockMenuHandlers menus_;
     clockcore::PartDrag partDrag_;
+    clockcore::PartNudge partNudge_;
     clockcore::DragInput drag_;
     clockcore::PartBalloon hints_;
     clockcore::WalkInput walk_;
