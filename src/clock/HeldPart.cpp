@@ -1,5 +1,6 @@
 #include "clock/HeldPart.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "foundation/PropertyLookup.h"
@@ -14,14 +15,17 @@ void HeldPart::Take(DragObject object) {
         return;
     }
     object_ = object;
-    revision_ = data_.Revision();
+    kind_ = data_.Tag.Kind;
+    style_ = data_.Dial.LastStyle;
     for (const QString& key : KeysOf(object)) {
         before_.emplace_back(key, mduLib::GetProperty(key, data_.Properties()));
     }
 }
 
 bool HeldPart::IsStillOurs() const {
-    return object_ != DragObject::None && revision_ == data_.Revision();
+    const KeyValues& left = put_.empty() ? before_ : put_;
+    return object_ != DragObject::None && data_.Is(kind_) && data_.Dial.LastStyle == style_ &&
+           std::all_of(left.begin(), left.end(), [this](const auto& value) { return Has(value); });
 }
 
 bool HeldPart::IsPercent() const {
@@ -75,7 +79,7 @@ void HeldPart::Store() {
 
 void HeldPart::TakeBack() {
     for (std::size_t i = 0; i < put_.size(); ++i) {
-        if (mduLib::GetProperty(put_[i].first, data_.Properties()) == put_[i].second) {
+        if (Has(put_[i])) {
             mduLib::PutProperty(before_[i].first, before_[i].second, data_.EditProperties());
         }
     }
@@ -99,7 +103,10 @@ void HeldPart::PutValues(const KeyValues& values) {
         mduLib::PutProperty(key, value, data_.EditProperties());
     }
     put_ = values;
-    revision_ = data_.Revision();
+}
+
+bool HeldPart::Has(const KeyValues::value_type& value) const {
+    return mduLib::GetProperty(value.first, data_.Properties()) == value.second;
 }
 
 void HeldPart::Forget() {

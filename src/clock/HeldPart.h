@@ -20,8 +20,9 @@ namespace clockcore {
 /// For a dial and digits the properties in memory go along with each step, the file does not; for
 /// the others only the control does. What is stored is the part's own keys alone.
 ///
-/// A move ends without being stored when the properties have changed in the meantime, as with
-/// another style; what it had changed itself is then taken back, as far as it is still there.
+/// A move ends without being stored when somebody else has changed the part's keys in the meantime,
+/// or when the clock has become another kind or got another style; what it had changed itself is
+/// then taken back, as far as it is still there. Any other change of the properties leaves it be.
 class HeldPart {
 public:
     /// What is moved and laid out anew. All of it outlives this.
@@ -70,6 +71,8 @@ private:
     /// What the keys would be for the part as it stands.
     KeyValues PlacedValues() const;
     void PutValues(const KeyValues& values);
+    /// Whether that is the value of its key at this moment.
+    bool Has(const KeyValues::value_type& value) const;
     void Forget();
     void Redo();
     void RedoDial();
@@ -80,7 +83,8 @@ private:
     KeyValues before_;  ///< the values from before the move
     KeyValues put_;     ///< those that the move has put last; none before the first
     bool moved_ = false;
-    int revision_ = 0;  ///< of the properties, as the move has left them
+    ClockKind kind_ = ClockKind::None;  ///< of the clock, as the part was taken
+    QString style_;                     ///< that the clock had got last; likewise
 };
 
 }  // namespace clockcore

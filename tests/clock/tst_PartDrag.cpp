@@ -159,10 +159,41 @@ private Q_SLOTS:
         DragDesk desk;
         desk.Drag.Begin(DragObject::Flag);
         QVERIFY(desk.Drag.Follow({}, {-200, 120}));
-        desk.Set(u"Clock Special"_s, u"World Map"_s);
+        desk.Data.Dial.LastStyle = u"Neon"_s;
         desk.Drag.Drop();
         QCOMPARE(desk.InFile(u"Flag Position"_s), u"Top right"_s);
         QCOMPARE(desk.Screen.Status, QStringList());
+    }
+
+    void AnotherKindEndsTheDrag() {
+        DragDesk desk;
+        desk.Drag.Begin(DragObject::Location);
+        QVERIFY(desk.Drag.Follow({}, {-20, -30}));
+        desk.Data.Tag.Kind = ClockKind::Digital;
+        QVERIFY(!desk.Drag.Follow({}, {-20, -31}));
+        QCOMPARE(desk.InFile(NameLeft), u"-1"_s);
+    }
+
+    void TheNamesOwnKeysEndItsDrag() {
+        DragDesk desk;
+        desk.Drag.Begin(DragObject::Location);
+        desk.Set(NameTop, u"5"_s);
+        QVERIFY(!desk.Drag.Follow({}, {-20, -30}));
+        QCOMPARE(desk.Values(NameLeft, NameTop), u"-1 5"_s);
+    }
+
+    /// A list of voices that comes in, a timer with a volume of its own.
+    void OtherChangesLeaveItBe() {
+        DragDesk desk;
+        desk.Drag.Begin(DragObject::Dial);
+        desk.Set(u"Speaker Volume"_s, u"40"_s);
+        QVERIFY(desk.Drag.Follow({20, 20}, {}));
+        desk.Set(u"Speaker Volume"_s, u"60"_s);
+        QVERIFY(desk.Drag.Follow({146, 70}, {}));
+        desk.Set(u"Speaker Volume"_s, u"80"_s);
+        desk.Drag.Drop();
+        QCOMPARE(desk.Stored(DialX, DialY), u"50 40"_s);
+        QCOMPARE(desk.Value(u"Speaker Volume"_s), u"80"_s);
     }
 
     /// What was only tried out of the look is not saved along with a drop.

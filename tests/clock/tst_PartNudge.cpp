@@ -71,6 +71,17 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(NameLeft), u"103"_s);
     }
 
+    void OtherChangesLeaveThemBe() {
+        NudgeDesk desk;
+        desk.Pushed.Nudge(DragObject::Location, {1, 0});
+        desk.Set(u"Speaker Volume"_s, u"40"_s);
+        desk.Pushed.Nudge(DragObject::Location, {0, -1});
+        desk.Set(u"Speaker Volume"_s, u"60"_s);
+        QCOMPARE(desk.Screen.Status, QStringList());
+        desk.Pushed.Keep();
+        QCOMPARE(desk.Stored(NameLeft, NameTop), u"103 148"_s);
+    }
+
     /// Four device pixels are two of 200 logical ones.
     void AFineScreen() {
         NudgeDesk desk;
