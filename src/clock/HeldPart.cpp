@@ -80,7 +80,7 @@ void HeldPart::Store() {
 void HeldPart::TakeBack() {
     for (std::size_t i = 0; i < put_.size(); ++i) {
         if (Has(put_[i])) {
-            mduLib::PutProperty(before_[i].first, before_[i].second, data_.EditProperties());
+            PutValue(before_[i].first, before_[i].second, data_.EditProperties());
         }
     }
     if (std::exchange(moved_, false)) {
@@ -100,7 +100,7 @@ KeyValues HeldPart::PlacedValues() const {
 
 void HeldPart::PutValues(const KeyValues& values) {
     for (const auto& [key, value] : values) {
-        mduLib::PutProperty(key, value, data_.EditProperties());
+        PutValue(key, value, data_.EditProperties());
     }
     put_ = values;
 }

@@ -111,6 +111,27 @@ private Q_SLOTS:
                  u"Top right,Top left,Bottom right,Bottom left,Icon"_s);
     }
 
+    /// A row of choices alone, without a value.
+    void ChoicesWithoutAValueStay() {
+        DragDesk desk;
+        const auto raw = [&desk](const QString& key) {
+            return mduLib::GetPropertyRaw(key, desk.Data.Properties());
+        };
+        for (const QString& key : {u"Flag Position"_s, DialX}) {
+            mduLib::PutPropertyRaw(key, u",Icon,50"_s, desk.Data.EditProperties());
+        }
+        desk.Drag.Begin(DragObject::Dial);
+        desk.Drag.Follow({20, 20}, {});
+        desk.Drag.Follow({146, 70}, {});
+        QCOMPARE(raw(DialX), u"50,Icon,50"_s);
+        desk.Drag.TakeBack();
+        QCOMPARE(raw(DialX), u",Icon,50"_s);
+        desk.Drag.Begin(DragObject::Flag);
+        desk.Drag.Follow({}, {-200, 120});
+        desk.Drag.Drop();
+        QCOMPARE(raw(u"Flag Position"_s), u"Bottom left,Icon,50"_s);
+    }
+
     void TakenBack() {
         DragDesk desk;
         desk.Set(DialX, u"30"_s);
@@ -206,11 +227,12 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(u"Clock Special"_s), u"None"_s);
     }
 
+    /// (151 + 5) / 312 and (80 + 10) / 225.
     void AFineScreen() {
         DragDesk desk;
         desk.Canvas.Drawn = drawing::Surface(600, 400, 2);
         desk.Drag.Begin(DragObject::Dial);
-        desk.Drag.Follow({146, 70}, {});
+        desk.Drag.Follow({151, 80}, {});
         QCOMPARE(desk.Values(DialX, DialY), u"50 40"_s);
         desk.Drag.Drop();
         desk.Drag.Begin(DragObject::Location);
