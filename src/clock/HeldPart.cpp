@@ -15,6 +15,9 @@ void HeldPart::Take(DragObject object) {
         return;
     }
     object_ = object;
+    if (!IsPercent()) {
+        parts_.Overlays.Hold(&Held());
+    }
     kind_ = data_.Tag.Kind;
     style_ = data_.Dial.LastStyle;
     for (const QString& key : KeysOf(object)) {
@@ -67,6 +70,7 @@ void HeldPart::Store() {
     }
     if (!IsPercent()) {
         PutValues(PlacedValues());
+        LetGo();
         Redo();
     }
     QStringList keys;
@@ -83,6 +87,7 @@ void HeldPart::TakeBack() {
             PutValue(before_[i].first, before_[i].second, data_.EditProperties());
         }
     }
+    LetGo();
     if (std::exchange(moved_, false)) {
         Redo();
     }
@@ -107,6 +112,12 @@ void HeldPart::PutValues(const KeyValues& values) {
 
 bool HeldPart::Has(const KeyValues::value_type& value) const {
     return mduLib::GetProperty(value.first, data_.Properties()) == value.second;
+}
+
+void HeldPart::LetGo() {
+    if (object_ != DragObject::None && !IsPercent()) {
+        parts_.Overlays.Hold(nullptr);
+    }
 }
 
 void HeldPart::Forget() {

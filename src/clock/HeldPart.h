@@ -5,6 +5,7 @@
 #include "clock/ClockData.h"
 #include "clock/ClockWindow.h"
 #include "clock/DroppedParts.h"
+#include "clock/HeldOverlays.h"
 #include "clock/MenuSettings.h"
 #include "drawing/Canvas.h"
 #include "drawing/FaceParts.h"
@@ -18,7 +19,8 @@ namespace clockcore {
 /// who move it, `PartDrag` and `PartNudge`. Each of them holds a part of its own.
 ///
 /// For a dial and digits the properties in memory go along with each step, the file does not; for
-/// the others only the control does. What is stored is the part's own keys alone.
+/// the others only the control does, which stays there whatever is laid out meanwhile. What is
+/// stored is the part's own keys alone.
 ///
 /// A move ends without being stored when somebody else has changed the part's keys in the meantime,
 /// or when the clock has become another kind or got another style; what it had changed itself is
@@ -33,7 +35,7 @@ public:
         drawing::Dial& Dial;
         drawing::DigitalClock& Digital;
         drawing::Background& Background;
-        drawing::Overlays& Overlays;
+        HeldOverlays& Overlays;  ///< which leave the part where it is, until it is let go
         timers::TimerSlots& Timers;
         MenuSettings& Settings;
     };
@@ -73,6 +75,8 @@ private:
     void PutValues(const KeyValues& values);
     /// Whether that is the value of its key at this moment.
     bool Has(const KeyValues::value_type& value) const;
+    /// The overlays may place the part again.
+    void LetGo();
     void Forget();
     void Redo();
     void RedoDial();

@@ -15,9 +15,10 @@ inline const QString Saved = QStringLiteral("Saved the settings of India at 12:0
 /// 60 by 10 pixels at (100, 150), its flag 40 by 20 in the corner at the top and to the right, its
 /// speaker 14 by 14 at (4, 182), its read-out 100 by 20 at (50, 40).
 struct MoveDesk : SettingsDesk {
-    clockcore::HeldPart::Parts ToMove{Controls,          Canvas,           Parts.TheFace,
-                                      Parts.TheDial,     Parts.TheDigital, Parts.TheBackground,
-                                      Parts.TheOverlays, Parts.TheTimers,  Settings};
+    clockcore::HeldOverlays Overlays{Parts.TheOverlays};
+    clockcore::HeldPart::Parts ToMove{Controls,      Canvas,           Parts.TheFace,
+                                      Parts.TheDial, Parts.TheDigital, Parts.TheBackground,
+                                      Overlays,      Parts.TheTimers,  Settings};
 
     MoveDesk() {
         Canvas.Outer = QSizeF(4680, 3375);

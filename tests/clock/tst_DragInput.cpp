@@ -161,6 +161,45 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(u"Time Zone Name Top"_s).toDouble(), now.top());
     }
 
+    void ItsPlaceHoldsThroughARedraw_data() {
+        using Act = std::function<void(MouseDesk&)>;
+        QTest::addColumn<Act>("act");
+        QTest::newRow("redraw") << Act([](MouseDesk& desk) { desk.Clock->LayOutAgain(); });
+        QTest::newRow("look") << Act([](MouseDesk& desk) {
+            desk.Base.Module.CurrentProperties = desk.Clock->Data().Properties();
+            desk.Clock->RefreshForm({});
+        });
+        QTest::newRow("exposed") << Act([](MouseDesk& desk) { desk.Clock->update(); });
+    }
+
+    void ItsPlaceHoldsThroughARedraw() {
+        QFETCH(std::function<void(MouseDesk&)>, act);
+        MouseDesk desk;
+        const Control& name = desk.Clock->Controls().lblLocation(1);
+        const Control& speaker = desk.Clock->Controls().imgSpeaker(1);
+        const QPointF moved = name.Rect().topLeft() + QPointF(-60, -90);
+        const QPointF speakerMoved = speaker.Rect().topLeft() + QPointF(60, -90);
+        const QPoint from = name.Rect().center().toPoint();
+        const QPoint fromSpeaker = speaker.Rect().center().toPoint();
+        const auto redraw = [&] {
+            act(desk);
+            QCoreApplication::processEvents();
+            desk.Base.Machine.Clock.Advance(2000);
+        };
+        desk.Press(from);
+        desk.MoveTo(from + QPoint(-60, -90));
+        redraw();
+        QCOMPARE(name.Rect().topLeft(), moved);
+        desk.Release(from + QPoint(-60, -90));
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s).toDouble(), moved.x());
+        desk.Press(fromSpeaker, Qt::ControlModifier);
+        desk.MoveTo(fromSpeaker + QPoint(60, -90));
+        redraw();
+        QCOMPARE(speaker.Rect().topLeft(), speakerMoved);
+        desk.Release(fromSpeaker + QPoint(60, -90));
+        QCOMPARE(desk.InFile(u"Speaker Image Top"_s).toDouble(), speakerMoved.y());
+    }
+
     void TheSpeakerWithCtrl() {
         MouseDesk desk;
         const QRectF before = desk.Clock->Controls().imgSpeaker(1).Rect();

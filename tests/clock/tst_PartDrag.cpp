@@ -88,6 +88,24 @@ private Q_SLOTS:
         QCOMPARE(desk.Calls(), u"LayOutOverlays|SaveTimer UTCTimer.txt"_s);
     }
 
+    void ANameIsLetGoAtTheEnd() {
+        DragDesk desk;
+        desk.Parts.Made.OnCall = [&desk](const QString& call) {
+            if (call == u"LayOutOverlays"_s) {
+                MoveDesk::Put(desk.Controls.lblLocation(1), {100, 150, 60, 10});
+            }
+        };
+        for (const bool drop : {false, true}) {
+            desk.Drag.Begin(DragObject::Location);
+            QVERIFY(desk.Drag.Follow({}, {-20, -30}));
+            desk.Overlays.LayOutOverlays();
+            QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(80, 120, 60, 10));
+            drop ? desk.Drag.Drop() : desk.Drag.TakeBack();
+            QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(100, 150, 60, 10));
+        }
+        QCOMPARE(desk.Stored(NameLeft, NameTop), u"80 120"_s);
+    }
+
     void SpeakerAndHandleHaveKeysOfTheirOwn() {
         DragDesk desk;
         desk.Drag.Begin(DragObject::Speaker);

@@ -167,6 +167,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Base.Shell.Messages.size(), 1);
     }
 
+    /// 3 of 300 pixels to the left, and another size while the key is down.
+    void APushHoldsThroughAnotherSize() {
+        KeyDesk desk;
+        desk.Tab(15);
+        const mduUILib::Control& name = desk.Clock->Controls().lblLocation(1);
+        const qreal left = name.Rect().left();
+        QTest::keyPress(desk.Clock, Qt::Key_Left);
+        desk.Frame()->resize(desk.Frame()->size() + QSize(40, 20));
+        desk.Base.Machine.Clock.Advance(2000);
+        QCOMPARE(name.Rect().left(), left - 3);
+        QTest::keyRelease(desk.Clock, Qt::Key_Left);
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s).toDouble(), left - 3);
+    }
+
     void TheRingGoesWithThePart() {
         KeyDesk desk;
         desk.Tab();

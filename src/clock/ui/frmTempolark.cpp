@@ -48,6 +48,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       calculator_(Context()),
       background_(Context()),
       overlays_(Context()),
+      heldOverlays_(overlays_),
       actionRunner_(Parts<timers::TimerHost>()),
       messages_(Parts<timers::TimerHost>(),
                 [this](const QString& action) { actionRunner_.RunAction(action); }),
@@ -57,14 +58,14 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       voice_(Parts<speech::SpeechHost>()),
       spoken_(Parts<speech::SpeechHost>(), voice_),
       music_(Parts<speech::SpeechHost>()),
-      face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, overlays_},
+      face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, heldOverlays_},
             program.Services.Clock, program.Services.Random),
       look_(data_, controls_, program, files_, styles_,
-            {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_, overlays_,
-             voice_, spoken_, tick_}),
+            {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_,
+             heldOverlays_, voice_, spoken_, tick_}),
       dialogs_(*this, program, data_.State, canvas_, look_),
-      redraws_(data_, {face_, dial_, digital_, calculator_, overlays_, messages_, voice_, spoken_,
-                       program.Services.Random}),
+      redraws_(data_, {face_, dial_, digital_, calculator_, heldOverlays_, messages_, voice_,
+                       spoken_, program.Services.Random}),
       settings_(data_, {files_, look_, window_, placement_, canvas_, messages_, timers_, voice_,
                         redraws_}),
       zones_(data_, program, screen_, look_),
@@ -87,7 +88,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       walk_({*this, data_, controls_, canvas_, timers_, menus_, partNudge_}),
       input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
-            {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
+            {window_, placement_, face_, dial_, digital_, calculator_, background_, heldOverlays_,
              timers_, messages_, sounds_, voice_, spoken_, music_, menus_, look_},
             program.Module, program.Services.Clock) {
     canvas_.SetFace(face_);
@@ -123,7 +124,8 @@ drawing::FaceContext frmTempolark::Context() {
 }
 
 clockcore::HeldPart::Parts frmTempolark::PartsToMove() {
-    return {controls_, canvas_, face_, dial_, digital_, background_, overlays_, timers_, settings_};
+    return {controls_,   canvas_,       face_,   dial_,    digital_,
+            background_, heldOverlays_, timers_, settings_};
 }
 
 frmTempolark::~frmTempolark() {

@@ -11,6 +11,7 @@
 #include "clock/ClockLook.h"
 #include "clock/ClockTick.h"
 #include "clock/Face.h"
+#include "clock/HeldOverlays.h"
 #include "clock/LookDialogs.h"
 #include "clock/MenuSettings.h"
 #include "clock/PartMenus.h"
@@ -214,6 +215,7 @@ private:
     drawing::CalculatorLines calculator_;
     drawing::ClockBackground background_;
     drawing::ClockOverlays overlays_;
+    clockcore::HeldOverlays heldOverlays_;
     timers::ActionRunner actionRunner_;
     timers::ClockMessages messages_;
     timers::ClockTimers timers_;
