@@ -69,7 +69,7 @@ KeyValues DroppedPercent(DragObject object, const QPointF& pointer, const QSizeF
     const bool isDial = object == DragObject::Dial;
     const DroppedPlace place =
         StoreDroppedPlace(pointer * TwipsPerPixel, isDial ? Dragged::Dial : Dragged::Digits,
-                          window.Outer, TwipsPerPixel);
+                          window.Outer, TwipsPerPixel / window.Ratio);
     const QSizeF extent = isDial ? QSizeF(0, 0) : size;
     return {{place.KeyX, PercentInSight(place.X, extent.width(), window.Surface.width())},
             {place.KeyY, PercentInSight(place.Y, extent.height(), window.Surface.height())}};

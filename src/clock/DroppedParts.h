@@ -30,7 +30,8 @@ DropWindow DropWindowOf(drawing::Canvas& canvas);
 std::vector<QString> KeysOf(DragObject object);
 
 /// The place of a dial or of digits that were let go, as `StoreDroppedPlace` has it, with the
-/// middle of them brought back into the surface: for the dial that is 0 to 100.
+/// middle of them brought back into the surface: for the dial that is 0 to 100. The grip is one of
+/// device pixels, so on a fine screen it is shorter.
 /// @param pointer in logical pixels of the clock, anywhere
 /// @param size of the read-out, in device pixels; that of the dial does not matter
 KeyValues DroppedPercent(DragObject object, const QPointF& pointer, const QSizeF& size,

@@ -7,9 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
-namespace {
-
-// A row that begins with a comma has choices and no value; they are kept, for the menu lists them.
 void PutValue(const QString& key, const QString& value, ClockProperties& properties) {
     if (mduLib::GetPropertyRaw(key, properties).startsWith(u',')) {
         mduLib::PutPropertyKeepChoices(key, value, properties);
@@ -17,8 +14,6 @@ void PutValue(const QString& key, const QString& value, ClockProperties& propert
         mduLib::PutProperty(key, value, properties);
     }
 }
-
-}  // namespace
 
 void MenuSettings::Put(const QStringList& keys, const QString& value, Redraw what) {
     for (const QString& key : keys) {

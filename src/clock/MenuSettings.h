@@ -12,6 +12,10 @@
 
 namespace clockcore {
 
+/// Gives a key its value and keeps its choices, for a menu lists them: also those of a row that
+/// begins with a comma, which has choices and no value. A new key is added.
+void PutValue(const QString& key, const QString& value, ClockProperties& properties);
+
 /// What the menus on parts of a clock set: one property at a time, applied and saved at once.
 ///
 /// Each setting writes its own key into the clock's file and leaves the others as the file has

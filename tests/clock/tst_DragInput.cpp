@@ -77,6 +77,68 @@ private Q_SLOTS:
         QCOMPARE(desk.Base.Shell.Messages, QStringList());
     }
 
+    void NoOtherKeyDoesAnything_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("with");
+        const auto row = [](const char* name, Qt::Key key, Qt::KeyboardModifier with) {
+            QTest::newRow(name) << int(key) << int(with);
+        };
+        row("tab", Qt::Key_Tab, Qt::NoModifier);
+        row("tab back", Qt::Key_Backtab, Qt::ShiftModifier);
+        row("menu", Qt::Key_Menu, Qt::NoModifier);
+        row("menu as well", Qt::Key_F10, Qt::ShiftModifier);
+        row("an arrow", Qt::Key_Right, Qt::NoModifier);
+        row("a key of the clock's", Qt::Key_Delete, Qt::NoModifier);
+    }
+
+    void NoOtherKeyDoesAnything() {
+        QFETCH(int, key);
+        QFETCH(int, with);
+        MouseDesk desk;
+        desk.Press({170, 60});
+        desk.MoveTo({150, 80});
+        const QString dragged = desk.Value(DialX);
+        QTest::keyClick(desk.Clock, Qt::Key(key), Qt::KeyboardModifiers(with));
+        QVERIFY(MouseDesk::OpenMenu() == nullptr);
+        QCOMPARE(desk.Clock->accessibleDescription(), QString());
+        QCOMPARE(desk.Value(DialX), dragged);
+        QCOMPARE(desk.InFile(DialX), u"-1"_s);
+        desk.MoveTo({120, 70});
+        desk.Release({120, 70});
+        QVERIFY(IsNear(desk.InFile(DialX), desk.Across(130)));
+    }
+
+    /// So that a shortcut of the shell's is none meanwhile.
+    void KeysAreOverriddenMeanwhile() {
+        MouseDesk desk;
+        QKeyEvent before(QEvent::ShortcutOverride, Qt::Key_F5, Qt::NoModifier);
+        before.ignore();
+        QCoreApplication::sendEvent(desk.Clock, &before);
+        QVERIFY(!before.isAccepted());
+        desk.Press({170, 60});
+        desk.MoveTo({150, 80});
+        QKeyEvent meanwhile(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+        meanwhile.ignore();
+        QCoreApplication::sendEvent(desk.Clock, &meanwhile);
+        QVERIFY(meanwhile.isAccepted());
+        QVERIFY(IsNear(desk.Value(DialX), desk.Across(160)));  // the press is still to come
+    }
+
+    /// 51 percent, with the key still down; the drag goes on from there.
+    void WhatWasPushedIsKeptBeforeADrag() {
+        MouseDesk desk;
+        QTest::keyClick(desk.Clock, Qt::Key_Tab);
+        QTest::keyPress(desk.Clock, Qt::Key_Right);
+        QCOMPARE(desk.InFile(DialX), u"-1"_s);
+        const Control& name = desk.Clock->Controls().lblLocation(1);
+        desk.Clock->MouseMoveObj(name, 1, 0, 3, 3);
+        desk.Clock->MouseMoveObj(name, 1, 0, -17, -27);
+        QCOMPARE(desk.InFile(DialX), u"51"_s);
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s), u"-1"_s);
+        QTest::keyRelease(desk.Clock, Qt::Key_Right);
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s), u"-1"_s);
+    }
+
     void TheDigits() {
         MouseDesk desk("Clocks=Analogue", "Clocks=Digital");
         const QPoint from = MouseDesk::MiddleOf(desk.Clock->Controls().lblDigitalNumber(3));
@@ -97,6 +159,45 @@ private Q_SLOTS:
         QCOMPARE(now.topLeft(), before.topLeft() + QPointF(-60, -90));
         QCOMPARE(desk.InFile(u"Time Zone Name Left"_s).toDouble(), now.left());
         QCOMPARE(desk.InFile(u"Time Zone Name Top"_s).toDouble(), now.top());
+    }
+
+    void ItsPlaceHoldsThroughARedraw_data() {
+        using Act = std::function<void(MouseDesk&)>;
+        QTest::addColumn<Act>("act");
+        QTest::newRow("redraw") << Act([](MouseDesk& desk) { desk.Clock->LayOutAgain(); });
+        QTest::newRow("look") << Act([](MouseDesk& desk) {
+            desk.Base.Module.CurrentProperties = desk.Clock->Data().Properties();
+            desk.Clock->RefreshForm({});
+        });
+        QTest::newRow("exposed") << Act([](MouseDesk& desk) { desk.Clock->update(); });
+    }
+
+    void ItsPlaceHoldsThroughARedraw() {
+        QFETCH(std::function<void(MouseDesk&)>, act);
+        MouseDesk desk;
+        const Control& name = desk.Clock->Controls().lblLocation(1);
+        const Control& speaker = desk.Clock->Controls().imgSpeaker(1);
+        const QPointF moved = name.Rect().topLeft() + QPointF(-60, -90);
+        const QPointF speakerMoved = speaker.Rect().topLeft() + QPointF(60, -90);
+        const QPoint from = name.Rect().center().toPoint();
+        const QPoint fromSpeaker = speaker.Rect().center().toPoint();
+        const auto redraw = [&] {
+            act(desk);
+            QCoreApplication::processEvents();
+            desk.Base.Machine.Clock.Advance(2000);
+        };
+        desk.Press(from);
+        desk.MoveTo(from + QPoint(-60, -90));
+        redraw();
+        QCOMPARE(name.Rect().topLeft(), moved);
+        desk.Release(from + QPoint(-60, -90));
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s).toDouble(), moved.x());
+        desk.Press(fromSpeaker, Qt::ControlModifier);
+        desk.MoveTo(fromSpeaker + QPoint(60, -90));
+        redraw();
+        QCOMPARE(speaker.Rect().topLeft(), speakerMoved);
+        desk.Release(fromSpeaker + QPoint(60, -90));
+        QCOMPARE(desk.InFile(u"Speaker Image Top"_s).toDouble(), speakerMoved.y());
     }
 
     void TheSpeakerWithCtrl() {
@@ -218,6 +319,48 @@ private Q_SLOTS:
         desk.MoveTo({120, 70});
         desk.Base.Close(desk.Clock);
         QTest::mouseRelease(desk.Base.Area.windowHandle(), Qt::LeftButton, {}, {300, 300});
+        QCOMPARE(desk.InFile(DialX), u"-1"_s);
+    }
+
+    void ADisabledClockIsNotDragged_data() {
+        using Act = std::function<void(MouseDesk&)>;
+        QTest::addColumn<QByteArray>("enable");
+        QTest::addColumn<Act>("act");
+        QTest::newRow("from its start") << QByteArray("Enable=No") << Act([](MouseDesk&) {});
+        QTest::newRow("in between") << QByteArray("Enable=Yes") << Act([](MouseDesk& desk) {
+            desk.MoveTo(MouseDesk::MiddleOf(desk.Clock->Controls().lblLocation(1)));
+            QCOMPARE(desk.Clock->cursor().shape(), Qt::OpenHandCursor);
+            desk.Clock->EnableWindow(false);
+            QCOMPARE(desk.Clock->cursor().shape(), Qt::ArrowCursor);
+        });
+        QTest::newRow("while the button is held")
+            << QByteArray("Enable=Yes") << Act([](MouseDesk& desk) {
+                   desk.Press({170, 60});
+                   desk.Clock->EnableWindow(false);
+               });
+    }
+
+    void ADisabledClockIsNotDragged() {
+        QFETCH(QByteArray, enable);
+        QFETCH(std::function<void(MouseDesk&)>, act);
+        MouseDesk desk("Enable=Yes", enable);
+        act(desk);
+        QVERIFY(!desk.Clock->isEnabled());
+        QTest::mousePress(desk.Clock, Qt::LeftButton, {}, {170, 60});
+        for (const QPointF at : {QPointF(150, 60), QPointF(120, 70)}) {
+            QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::LeftButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(desk.Clock, &move);
+            QCoreApplication::processEvents();
+            QCOMPARE(desk.Value(DialX), u"-1"_s);
+        }
+        QTest::mouseRelease(desk.Clock, Qt::LeftButton, {}, {120, 70});
+        const Control& name = desk.Clock->Controls().lblLocation(1);
+        QMouseEvent over(QEvent::MouseMove, name.Rect().center(), name.Rect().center(),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.Clock, &over);
+        desk.Clock->MouseMoveObj(name, 0, 0, 3, 3);
+        QCOMPARE(desk.Clock->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(desk.InFile(DialX), u"-1"_s);
     }
 

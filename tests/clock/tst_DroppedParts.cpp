@@ -36,11 +36,12 @@ class tst_DroppedParts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// (94 + 10) / 208 and (30 + 20) / 125, whatever pixels the screen has.
+    /// (94 + 10) / 208 and (30 + 20) / 125. A pixel of the finer screen is half of that, so there
+    /// (99 + 5) / 208 and (40 + 10) / 125.
     void ADialByItsGrip() {
         const QString expected = u"Clock CentralX(%)=50|Clock CentralY(%)=40"_s;
         QCOMPARE(DialAt({94, 30}, Plain), expected);
-        QCOMPARE(DialAt({94, 30}, Fine), expected);
+        QCOMPARE(DialAt({99, 40}, Fine), expected);
     }
 
     /// Its centre goes to the edge: 0 and 100.
@@ -50,11 +51,11 @@ private Q_SLOTS:
         QCOMPARE(DialAt({900, -500}, Plain), u"Clock CentralX(%)=100|Clock CentralY(%)=0"_s);
     }
 
-    /// (47 + 5) / 208 and (80 - 30) / 125.
+    /// (47 + 5) / 208 and (80 - 30) / 125; (49.5 + 2.5) / 208 and (65 - 15) / 125.
     void DigitsByTheirGrip() {
         const QString expected = u"Digital Clock CentralX(%)=25|Digital Clock CentralY(%)=40"_s;
         QCOMPARE(DigitsAt({47, 80}, {80, 20}, Plain), expected);
-        QCOMPARE(DigitsAt({47, 80}, {160, 40}, Fine), expected);
+        QCOMPARE(DigitsAt({49.5, 65}, {160, 40}, Fine), expected);
     }
 
     /// Half of them may hang over an edge: 40 of 200 and 10 of 100.

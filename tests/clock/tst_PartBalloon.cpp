@@ -137,6 +137,27 @@ private Q_SLOTS:
         }
         desk.Wait(1000);
     }
+
+    void ADisabledClockHasNoHints_data() {
+        QTest::addColumn<QByteArray>("enable");
+        QTest::newRow("from its start") << QByteArray("Enable=No");
+        QTest::newRow("in between") << QByteArray("Enable=Yes");
+    }
+
+    void ADisabledClockHasNoHints() {
+        QFETCH(QByteArray, enable);
+        HintDesk desk("Enable=Yes", enable);
+        desk.Clock->EnableWindow(false);
+        QMouseEvent move(QEvent::MouseMove, QPointF(155, 105), QPointF(155, 105), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.Clock, &move);
+        desk.Wait(500);
+        QCOMPARE(desk.Title(), u"none"_s);
+        desk.Clock->EnableWindow(true);
+        QCoreApplication::sendEvent(desk.Clock, &move);
+        desk.Wait(500);
+        QCOMPARE(desk.Title(), u"Clock Hand Settings"_s);
+    }
 };
 
 QTEST_MAIN(tst_PartBalloon)

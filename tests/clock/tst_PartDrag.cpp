@@ -1,7 +1,7 @@
 #include <QTest>
 
+#include "clock/MoveDesk.h"
 #include "clock/PartDrag.h"
-#include "clock/SettingsDesk.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockKind;
@@ -9,49 +9,9 @@ using clockcore::DragObject;
 
 namespace {
 
-/// A clock in UTC on a surface of 300 by 200 in a window of 312 by 225 logical pixels. Its name has
-/// 60 by 10 pixels at (100, 150), its flag 40 by 20 in the corner at the top and to the right, its
-/// speaker 14 by 14 at (4, 182), its read-out 100 by 20 at (50, 40).
-struct DragDesk : SettingsDesk {
-    clockcore::PartDrag Drag{Data,
-                             {Controls, Canvas, Parts.TheFace, Parts.TheDial, Parts.TheDigital,
-                              Parts.TheBackground, Parts.TheOverlays, Parts.TheTimers, Settings}};
-
-    DragDesk() {
-        Canvas.Outer = QSizeF(4680, 3375);
-        Data.Tag = {ClockKind::Analogue, false};
-        Put(Controls.lblLocation(1), {100, 150, 60, 10});
-        Put(Controls.imgFlag(1), {260, 0, 40, 20});
-        Put(Controls.imgSpeaker(1), {4, 182, 14, 14});
-        Put(Controls.shpArea(1), {0, 0, 16, 16});
-        Put(Controls.lblClock(1), {50, 40, 100, 20});
-        Put(Controls.lblDigitalNumber(1), {50, 40, 40, 20});
-        Put(Controls.lblDigitalNumber(3), {110, 40, 40, 20});
-        Controls.lblClock(1).Visible = false;
-        Calls();
-    }
-    static void Put(mduUILib::Control& control, const QRectF& place) {
-        control.Left = static_cast<float>(place.left());
-        control.Top = static_cast<float>(place.top());
-        control.Width = static_cast<float>(place.width());
-        control.Height = static_cast<float>(place.height());
-        control.Visible = true;
-    }
-    QString Values(const QString& one, const QString& other) const {
-        return Value(one) + u' ' + Value(other);
-    }
-    QString Stored(const QString& one, const QString& other) const {
-        return InFile(one) + u' ' + InFile(other);
-    }
+struct DragDesk : MoveDesk {
+    clockcore::PartDrag Drag{Data, ToMove};
 };
-
-const QString DialX = u"Clock CentralX(%)"_s;
-const QString DialY = u"Clock CentralY(%)"_s;
-const QString DigitsX = u"Digital Clock CentralX(%)"_s;
-const QString DigitsY = u"Digital Clock CentralY(%)"_s;
-const QString NameLeft = u"Time Zone Name Left"_s;
-const QString NameTop = u"Time Zone Name Top"_s;
-const QString Saved = u"Saved the settings of India at 12:00:00"_s;
 
 }  // namespace
 
@@ -128,6 +88,24 @@ private Q_SLOTS:
         QCOMPARE(desk.Calls(), u"LayOutOverlays|SaveTimer UTCTimer.txt"_s);
     }
 
+    void ANameIsLetGoAtTheEnd() {
+        DragDesk desk;
+        desk.Parts.Made.OnCall = [&desk](const QString& call) {
+            if (call == u"LayOutOverlays"_s) {
+                MoveDesk::Put(desk.Controls.lblLocation(1), {100, 150, 60, 10});
+            }
+        };
+        for (const bool drop : {false, true}) {
+            desk.Drag.Begin(DragObject::Location);
+            QVERIFY(desk.Drag.Follow({}, {-20, -30}));
+            desk.Overlays.LayOutOverlays();
+            QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(80, 120, 60, 10));
+            drop ? desk.Drag.Drop() : desk.Drag.TakeBack();
+            QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(100, 150, 60, 10));
+        }
+        QCOMPARE(desk.Stored(NameLeft, NameTop), u"80 120"_s);
+    }
+
     void SpeakerAndHandleHaveKeysOfTheirOwn() {
         DragDesk desk;
         desk.Drag.Begin(DragObject::Speaker);
@@ -149,6 +127,27 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(u"Flag Position"_s), u"Bottom left"_s);
         QCOMPARE(mduLib::GetPropertyChoices(u"Flag Position"_s, desk.Data.Properties()),
                  u"Top right,Top left,Bottom right,Bottom left,Icon"_s);
+    }
+
+    /// A row of choices alone, without a value.
+    void ChoicesWithoutAValueStay() {
+        DragDesk desk;
+        const auto raw = [&desk](const QString& key) {
+            return mduLib::GetPropertyRaw(key, desk.Data.Properties());
+        };
+        for (const QString& key : {u"Flag Position"_s, DialX}) {
+            mduLib::PutPropertyRaw(key, u",Icon,50"_s, desk.Data.EditProperties());
+        }
+        desk.Drag.Begin(DragObject::Dial);
+        desk.Drag.Follow({20, 20}, {});
+        desk.Drag.Follow({146, 70}, {});
+        QCOMPARE(raw(DialX), u"50,Icon,50"_s);
+        desk.Drag.TakeBack();
+        QCOMPARE(raw(DialX), u",Icon,50"_s);
+        desk.Drag.Begin(DragObject::Flag);
+        desk.Drag.Follow({}, {-200, 120});
+        desk.Drag.Drop();
+        QCOMPARE(raw(u"Flag Position"_s), u"Bottom left,Icon,50"_s);
     }
 
     void TakenBack() {
@@ -199,10 +198,41 @@ private Q_SLOTS:
         DragDesk desk;
         desk.Drag.Begin(DragObject::Flag);
         QVERIFY(desk.Drag.Follow({}, {-200, 120}));
-        desk.Set(u"Clock Special"_s, u"World Map"_s);
+        desk.Data.Dial.LastStyle = u"Neon"_s;
         desk.Drag.Drop();
         QCOMPARE(desk.InFile(u"Flag Position"_s), u"Top right"_s);
         QCOMPARE(desk.Screen.Status, QStringList());
+    }
+
+    void AnotherKindEndsTheDrag() {
+        DragDesk desk;
+        desk.Drag.Begin(DragObject::Location);
+        QVERIFY(desk.Drag.Follow({}, {-20, -30}));
+        desk.Data.Tag.Kind = ClockKind::Digital;
+        QVERIFY(!desk.Drag.Follow({}, {-20, -31}));
+        QCOMPARE(desk.InFile(NameLeft), u"-1"_s);
+    }
+
+    void TheNamesOwnKeysEndItsDrag() {
+        DragDesk desk;
+        desk.Drag.Begin(DragObject::Location);
+        desk.Set(NameTop, u"5"_s);
+        QVERIFY(!desk.Drag.Follow({}, {-20, -30}));
+        QCOMPARE(desk.Values(NameLeft, NameTop), u"-1 5"_s);
+    }
+
+    /// A list of voices that comes in, a timer with a volume of its own.
+    void OtherChangesLeaveItBe() {
+        DragDesk desk;
+        desk.Drag.Begin(DragObject::Dial);
+        desk.Set(u"Speaker Volume"_s, u"40"_s);
+        QVERIFY(desk.Drag.Follow({20, 20}, {}));
+        desk.Set(u"Speaker Volume"_s, u"60"_s);
+        QVERIFY(desk.Drag.Follow({146, 70}, {}));
+        desk.Set(u"Speaker Volume"_s, u"80"_s);
+        desk.Drag.Drop();
+        QCOMPARE(desk.Stored(DialX, DialY), u"50 40"_s);
+        QCOMPARE(desk.Value(u"Speaker Volume"_s), u"80"_s);
     }
 
     /// What was only tried out of the look is not saved along with a drop.
@@ -215,75 +245,12 @@ private Q_SLOTS:
         QCOMPARE(desk.InFile(u"Clock Special"_s), u"None"_s);
     }
 
-    void PushesAreStoredTogether() {
-        DragDesk desk;
-        desk.Drag.Nudge(DragObject::Dial, {1, 0});
-        desk.Drag.Nudge(DragObject::Dial, {1, 0});
-        desk.Drag.Nudge(DragObject::Dial, {0, -1});
-        QCOMPARE(desk.Values(DialX, DialY), u"52 49"_s);
-        QCOMPARE(desk.Screen.Status, QStringList());
-        desk.Drag.Keep();
-        QCOMPARE(desk.Stored(DialX, DialY), u"52 49"_s);
-        QCOMPARE(desk.Screen.Status, QStringList{Saved});
-        desk.Drag.Keep();
-        QCOMPARE(desk.Screen.Status, QStringList{Saved});
-    }
-
-    /// The read-out begins at (50, 40) of (300, 200): 16.67 and 20 percent.
-    void PushedDigits() {
-        DragDesk desk;
-        desk.Data.Tag.Kind = ClockKind::Digital;
-        desk.Drag.Nudge(DragObject::Digits, {-1, 1});
-        QCOMPARE(desk.Values(DigitsX, DigitsY), u"15.66667 21"_s);
-    }
-
-    /// A percent of 300 and 200 pixels.
-    void PushedPixels() {
-        DragDesk desk;
-        desk.Drag.Nudge(DragObject::Location, {1, 0});
-        desk.Drag.Nudge(DragObject::Location, {0, -1});
-        QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(103, 148, 60, 10));
-        desk.Drag.Keep();
-        QCOMPARE(desk.Stored(NameLeft, NameTop), u"103 148"_s);
-    }
-
-    void APushedFlagGoesToTheNextCorner() {
-        DragDesk desk;
-        desk.Drag.Nudge(DragObject::Flag, {-1, 0});
-        QCOMPARE(desk.Controls.imgFlag(1).Rect(), QRectF(0, 0, 40, 20));
-        desk.Drag.Nudge(DragObject::Flag, {0, 1});
-        desk.Drag.Keep();
-        QCOMPARE(desk.InFile(u"Flag Position"_s), u"Bottom left"_s);
-    }
-
-    /// Another style has laid the name out; a push goes on from there, and the one before is gone.
-    void APushAfterAnotherStyleBeginsAnew() {
-        DragDesk desk;
-        desk.Drag.Nudge(DragObject::Location, {1, 0});
-        desk.Set(u"Clock Special"_s, u"World Map"_s);
-        desk.Calls();
-        desk.Drag.Nudge(DragObject::Location, {1, 0});
-        QCOMPARE(desk.Calls(), u"LayOutOverlays"_s);
-        QCOMPARE(desk.InFile(NameLeft), u"-1"_s);
-        desk.Drag.Keep();
-        QVERIFY(desk.InFile(NameLeft) != u"-1"_s);
-    }
-
-    void AnotherPartStoresTheFirst() {
-        DragDesk desk;
-        desk.Drag.Nudge(DragObject::Dial, {1, 0});
-        desk.Drag.Nudge(DragObject::Location, {1, 0});
-        QCOMPARE(desk.Stored(DialX, DialY), u"51 50"_s);
-        QCOMPARE(desk.InFile(NameLeft), u"-1"_s);
-        desk.Drag.Begin(DragObject::Flag);  // a drag takes back what was not kept
-        QCOMPARE(desk.InFile(NameLeft), u"-1"_s);
-    }
-
+    /// (151 + 5) / 312 and (80 + 10) / 225.
     void AFineScreen() {
         DragDesk desk;
         desk.Canvas.Drawn = drawing::Surface(600, 400, 2);
         desk.Drag.Begin(DragObject::Dial);
-        desk.Drag.Follow({146, 70}, {});
+        desk.Drag.Follow({151, 80}, {});
         QCOMPARE(desk.Values(DialX, DialY), u"50 40"_s);
         desk.Drag.Drop();
         desk.Drag.Begin(DragObject::Location);
@@ -291,8 +258,6 @@ private Q_SLOTS:
         QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(120, 190, 60, 10));
         desk.Drag.Drop();
         QCOMPARE(desk.Stored(NameLeft, NameTop), u"60 95"_s);
-        desk.Drag.Nudge(DragObject::Location, {1, 1});
-        QCOMPARE(desk.Controls.lblLocation(1).Rect(), QRectF(126, 194, 60, 10));
     }
 };
 

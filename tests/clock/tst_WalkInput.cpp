@@ -167,6 +167,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Base.Shell.Messages.size(), 1);
     }
 
+    /// 3 of 300 pixels to the left, and another size while the key is down.
+    void APushHoldsThroughAnotherSize() {
+        KeyDesk desk;
+        desk.Tab(15);
+        const mduUILib::Control& name = desk.Clock->Controls().lblLocation(1);
+        const qreal left = name.Rect().left();
+        QTest::keyPress(desk.Clock, Qt::Key_Left);
+        desk.Frame()->resize(desk.Frame()->size() + QSize(40, 20));
+        desk.Base.Machine.Clock.Advance(2000);
+        QCOMPARE(name.Rect().left(), left - 3);
+        QTest::keyRelease(desk.Clock, Qt::Key_Left);
+        QCOMPARE(desk.InFile(u"Time Zone Name Left"_s).toDouble(), left - 3);
+    }
+
     void TheRingGoesWithThePart() {
         KeyDesk desk;
         desk.Tab();
@@ -182,6 +196,7 @@ private Q_SLOTS:
         QTest::newRow("escape") << Act([](KeyDesk& desk) { desk.Key(Qt::Key_Escape); });
         QTest::newRow("tab") << Act([](KeyDesk& desk) { desk.Tab(); });
         QTest::newRow("click") << Act([](KeyDesk& desk) { desk.Press({10, 10}); });
+        QTest::newRow("disable") << Act([](KeyDesk& desk) { desk.Clock->EnableWindow(false); });
         QTest::newRow("close") << Act([](KeyDesk& desk) { desk.Base.Close(desk.Clock); });
     }
 
@@ -192,6 +207,32 @@ private Q_SLOTS:
         QTest::keyPress(desk.Clock, Qt::Key_Left);
         act(desk);
         QCOMPARE(desk.InFile(u"Clock CentralX(%)"_s), u"49"_s);
+    }
+
+    void ADisabledClockIsNotWalked_data() {
+        QTest::addColumn<QByteArray>("enable");
+        QTest::newRow("from its start") << QByteArray("Enable=No");
+        QTest::newRow("in between") << QByteArray("Enable=Yes");
+    }
+
+    void ADisabledClockIsNotWalked() {
+        QFETCH(QByteArray, enable);
+        KeyDesk desk("Enable=Yes", enable);
+        if (desk.Clock->isEnabled()) {
+            desk.Tab();
+            QCOMPARE(desk.Focus(), u"Hands"_s);
+            desk.Clock->EnableWindow(false);
+        }
+        QCOMPARE(desk.Focus(), QString());
+        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(desk.Clock, &focus);
+        QCOMPARE(desk.Focus(), QString());
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.Clock, &tab);
+        QKeyEvent right(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.Clock, &right);
+        QCOMPARE(desk.Focus(), QString());
+        QCOMPARE(desk.Value(u"Clock CentralX(%)"_s), u"-1"_s);
     }
 
     void ANumberStays() {

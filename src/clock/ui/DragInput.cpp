@@ -38,18 +38,21 @@ bool EndsDrags(QEvent::Type type) {
 
 }  // namespace
 
-DragInput::DragInput(QWidget& form, const QMdiArea* area, MdiPlacement& placement,
-                     const ClockData& data, mduUILib::ClockControls& controls, PartDrag& part)
-    : form_(form),
-      data_(data),
-      controls_(controls),
-      part_(part),
-      window_(placement, area),
-      pointer_(form) {
-    form.installEventFilter(this);
-}
+DragInput::DragInput(const Parts& parts)
+    : parts_(parts), window_(parts.Placement, parts.Area), pointer_(parts.Form) {}
 
 bool DragInput::eventFilter(QObject*, QEvent* event) {
+    if (EndsDrags(event->type())) {
+        TakeBack();
+    }
+    if (parts_.Form.isEnabled()) {
+        return Take(event);
+    }
+    pointer_.ShowArrow();
+    return false;
+}
+
+bool DragInput::Take(QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
             return Press(static_cast<QMouseEvent&>(*event));
@@ -59,16 +62,10 @@ bool DragInput::eventFilter(QObject*, QEvent* event) {
             return Release(static_cast<QMouseEvent&>(*event));
         case QEvent::ContextMenu:
             return IsDragging();
+        case QEvent::ShortcutOverride:
         case QEvent::KeyPress:
-            if (IsDragging() && static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape) {
-                TakeBack();
-                return true;
-            }
-            return false;
+            return TakeKey(static_cast<QKeyEvent&>(*event));
         default:
-            if (EndsDrags(event->type())) {
-                TakeBack();
-            }
             return false;
     }
 }
@@ -116,17 +113,32 @@ bool DragInput::Release(const QMouseEvent& event) {
     return wasDrag;
 }
 
+// A key that is overridden comes back as a press, and is no shortcut of the shell.
+bool DragInput::TakeKey(QKeyEvent& event) {
+    if (!IsDragging()) {
+        return false;
+    }
+    event.accept();
+    if (event.type() == QEvent::KeyPress && event.key() == Qt::Key_Escape) {
+        TakeBack();
+    }
+    return true;
+}
+
 void DragInput::MouseMoveObj(const mduUILib::Control& object, int button, int shift, double x,
                              double y) {
+    if (!parts_.Form.isEnabled()) {
+        return;
+    }
     const QRectF rect = object.Rect();
-    const DragObject what = ObjectOf(object, controls_);
+    const DragObject what = ObjectOf(object, parts_.Controls);
     const QPointF at = rect.topLeft() + QPointF(x, y);
-    const QPointF local = at / form_.devicePixelRatioF();
+    const QPointF local = at / parts_.Form.devicePixelRatioF();
     if (button == LeftButton) {
-        if (dragging_.Object() == DragObject::None && form_.isEnabled()) {
+        if (dragging_.Object() == DragObject::None) {
             dragging_.Press(what, local);
         }
-        MoveTo(local, form_.mapToGlobal(local));
+        MoveTo(local, parts_.Form.mapToGlobal(local));
         return;
     }
     Drop();
@@ -153,19 +165,21 @@ void DragInput::MoveTo(const QPointF& local, const QPointF& global) {
 }
 
 DragObject DragInput::ObjectAt(const QPointF& local, bool withControl) const {
-    if (!data_.State.IsDrawn()) {
+    if (!parts_.Data.State.IsDrawn()) {
         return DragObject::None;
     }
-    const double ratio = form_.devicePixelRatioF();
-    const DragObject object = DragObjectAt(
-        controls_, local * ratio, ReadDragGround(data_, QSizeF(form_.size()) * ratio), withControl);
+    const double ratio = parts_.Form.devicePixelRatioF();
+    const DragObject object =
+        DragObjectAt(parts_.Controls, local * ratio,
+                     ReadDragGround(parts_.Data, QSizeF(parts_.Form.size()) * ratio), withControl);
     return object == DragObject::Window && !window_.CanMove() ? DragObject::None : object;
 }
 
 void DragInput::Begin() {
+    parts_.Nudge.Keep();
     pointer_.ShowHand(true);
     if (dragging_.Object() != DragObject::Window) {
-        part_.Begin(dragging_.Object());
+        parts_.Drag.Begin(dragging_.Object());
     } else if (window_.Begin()) {
         dragging_.End();
         pointer_.ShowArrow();
@@ -178,7 +192,7 @@ void DragInput::Follow() {
     }
     if (dragging_.Object() == DragObject::Window) {
         window_.Follow(dragging_.Way(), dragging_.Pointer());
-    } else if (!part_.Follow(dragging_.Pointer(), dragging_.Way())) {
+    } else if (!parts_.Drag.Follow(dragging_.Pointer(), dragging_.Way())) {
         dragging_.End();
         pointer_.ShowArrow();
     }
@@ -189,7 +203,7 @@ void DragInput::Drop() {
     const bool wasPart = IsDragging() && dragging_.Object() != DragObject::Window;
     dragging_.End();
     if (wasPart) {
-        part_.Drop();
+        parts_.Drag.Drop();
     }
 }
 
@@ -199,7 +213,7 @@ void DragInput::TakeBack() {
     if (object == DragObject::Window) {
         window_.TakeBack();
     } else if (object != DragObject::None) {
-        part_.TakeBack();
+        parts_.Drag.TakeBack();
     }
     if (object != DragObject::None) {
         pointer_.ShowArrow();
@@ -208,10 +222,10 @@ void DragInput::TakeBack() {
 
 // A hand all over the ground would say little: there it shows once something moves.
 void DragInput::ShowPointerAt(const QPointF& local, bool withControl) {
-    const QPointF point = local * form_.devicePixelRatioF();
-    const ClockHit hit = PartAt(controls_, point);
+    const QPointF point = local * parts_.Form.devicePixelRatioF();
+    const ClockHit hit = PartAt(parts_.Controls, point);
     if (hit.Part == ClockPart::HourNumber) {
-        pointer_.ShowMark(controls_.lblHour(hit.Index).Picture);
+        pointer_.ShowMark(parts_.Controls.lblHour(hit.Index).Picture);
         return;
     }
     const DragObject object = ObjectAt(local, withControl);

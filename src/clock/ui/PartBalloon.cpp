@@ -11,15 +11,13 @@ constexpr int RestTime = 500;  // milliseconds
 }  // namespace
 
 PartBalloon::PartBalloon(const Parts& parts, platform::WallClock& clock)
-    : parts_(parts), balloonTip_(clock) {
-    parts_.Form.installEventFilter(this);
-}
+    : parts_(parts), balloonTip_(clock) {}
 
 bool PartBalloon::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseMove: {
             const auto& move = static_cast<const QMouseEvent&>(*event);
-            if (move.buttons() == Qt::NoButton) {
+            if (move.buttons() == Qt::NoButton && parts_.Form.isEnabled()) {
                 Rest(move.position());
             }
             break;

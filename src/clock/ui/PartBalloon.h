@@ -13,9 +13,9 @@ namespace clockcore {
 /// The hint of the part under the mouse, in the clock's balloon. It comes when the mouse has rested
 /// half a second, beside the part that it is about, and goes when the mouse comes to another part,
 /// a button is pressed, or the window hides or closes. A part that has been pressed has no hint
-/// until the mouse has been elsewhere.
+/// until the mouse has been elsewhere, and a disabled clock has none at all.
 ///
-/// It watches the form's events and takes none of them.
+/// A filter of the form's events that takes none of them.
 class PartBalloon final : public QObject {
 public:
     /// What the hints tell of. All of it outlives the balloon.

@@ -33,9 +33,11 @@ bool EndsDrags(QEvent::Type type) {
 
 TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
                        const mduUILib::ClockControls& controls, MarkDrag& marks, Commands commands)
-    : form_(form), data_(data), controls_(controls), marks_(marks), commands_(std::move(commands)) {
-    form.installEventFilter(this);
-}
+    : form_(form),
+      data_(data),
+      controls_(controls),
+      marks_(marks),
+      commands_(std::move(commands)) {}
 
 bool TimerMouse::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {

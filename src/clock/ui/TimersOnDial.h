@@ -33,6 +33,8 @@ public:
     void FinishMessage() { typing_.FinishMessage(); }
     /// Brings an open box to where it belongs, after each tick and each change of size.
     void Follow() { typing_.Follow(); }
+    /// What is to see the form's mouse and keys before the form itself does.
+    QObject& EventFilter() { return mouse_; }
 
 private:
     MessageBoxes boxes_;

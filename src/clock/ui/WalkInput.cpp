@@ -40,18 +40,26 @@ void DrawRing(QPainter& painter, const QRectF& ring) {
 
 }  // namespace
 
-WalkInput::WalkInput(const Parts& parts) : parts_(parts) {
-    parts_.Form.installEventFilter(this);
+bool WalkInput::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::EnabledChange:
+        case QEvent::Hide:
+        case QEvent::Close:
+            Leave();
+            return false;
+        default:
+            return parts_.Form.isEnabled() && Take(event);
+    }
 }
 
-bool WalkInput::eventFilter(QObject*, QEvent* event) {
+bool WalkInput::Take(QEvent* event) {
     switch (event->type()) {
         case QEvent::KeyPress:
             return PressKey(static_cast<QKeyEvent&>(*event));
         case QEvent::KeyRelease: {
             const auto& key = static_cast<const QKeyEvent&>(*event);
             if (Focus() && IsArrow(key.key()) && !key.isAutoRepeat()) {
-                parts_.Drag.Keep();
+                parts_.Nudge.Keep();
             }
             return false;
         }
@@ -68,9 +76,6 @@ bool WalkInput::eventFilter(QObject*, QEvent* event) {
             }
             return false;
         case QEvent::MouseButtonPress:
-        case QEvent::EnabledChange:
-        case QEvent::Hide:
-        case QEvent::Close:
             Leave();
             return false;
         default:
@@ -107,7 +112,7 @@ bool WalkInput::PressWalkKey(int key) {
 }
 
 bool WalkInput::Step(bool forward) {
-    parts_.Drag.Keep();
+    parts_.Nudge.Keep();
     const bool stepped =
         parts_.Data.State.IsDrawn() &&
         walk_.Step(PartsInOrder(parts_.Data, parts_.Controls, Scale(), parts_.Timers), forward);
@@ -123,7 +128,7 @@ bool WalkInput::Push(int key) {
     }
     for (const auto& arrow : Arrows) {
         if (arrow.Key == key) {
-            parts_.Drag.Nudge(object, {arrow.Across, arrow.Down});
+            parts_.Nudge.Nudge(object, {arrow.Across, arrow.Down});
         }
     }
     ShowRing();
@@ -141,20 +146,17 @@ void WalkInput::TakeFocus(const QFocusEvent& event) {
 
 void WalkInput::Leave() {
     if (Focus()) {
-        parts_.Drag.Keep();
+        parts_.Nudge.Keep();
         walk_.Leave();
         ShowRing();
     }
 }
 
 bool WalkInput::ShowMenu() {
-    if (!parts_.Form.isEnabled()) {
-        return false;
-    }
     const QRectF ring = RingPlace();
     const bool isThere = Focus() && !ring.isEmpty();
     const QPointF at = isThere ? ring.center() : QRectF(parts_.Form.rect()).center();
-    parts_.Drag.Keep();
+    parts_.Nudge.Keep();
     parts_.Clicks.ShowMenu(isThere ? *Focus() : ClockHit(), parts_.Form.mapToGlobal(at).toPoint());
     return true;
 }

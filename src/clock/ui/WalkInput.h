@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "clock/ClockClicks.h"
-#include "clock/PartDrag.h"
+#include "clock/PartNudge.h"
 #include "clock/PartWalk.h"
 #include "drawing/Canvas.h"
 
@@ -20,9 +20,10 @@ namespace clockcore {
 /// the key is let go. Escape ends the walk, and so do a click and a focus that goes elsewhere.
 ///
 /// The menu key and Shift+F10 open the menu of the part with the ring, or that of the clock. Tab
-/// is a calculator's own.
+/// is a calculator's own. A disabled clock is not walked along: disabling it ends the walk, and
+/// stores what the arrow keys have done until then.
 ///
-/// It watches the form's events; the keys of a walk it takes for itself.
+/// As a filter of the form's events it takes the keys of a walk for itself.
 class WalkInput final : public QObject {
 public:
     /// What the walk goes along and asks. All of it outlives the walk.
@@ -33,10 +34,10 @@ public:
         drawing::Canvas& Canvas;
         const timers::ClockTimers& Timers;
         ClockClicks& Clicks;
-        PartDrag& Drag;
+        PartNudge& Nudge;
     };
 
-    explicit WalkInput(const Parts& parts);
+    explicit WalkInput(const Parts& parts) : parts_(parts) {}
 
     /// Nothing outside of a walk.
     const std::optional<ClockHit>& Focus() const { return walk_.Focus(); }
@@ -48,6 +49,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Take(QEvent* event);
     bool PressKey(const QKeyEvent& event);
     bool PressWalkKey(int key);
     bool Step(bool forward);

@@ -48,6 +48,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       calculator_(Context()),
       background_(Context()),
       overlays_(Context()),
+      heldOverlays_(overlays_),
       actionRunner_(Parts<timers::TimerHost>()),
       messages_(Parts<timers::TimerHost>(),
                 [this](const QString& action) { actionRunner_.RunAction(action); }),
@@ -57,14 +58,14 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       voice_(Parts<speech::SpeechHost>()),
       spoken_(Parts<speech::SpeechHost>(), voice_),
       music_(Parts<speech::SpeechHost>()),
-      face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, overlays_},
+      face_(data_, controls_, canvas_, {dial_, digital_, calculator_, background_, heldOverlays_},
             program.Services.Clock, program.Services.Random),
       look_(data_, controls_, program, files_, styles_,
-            {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_, overlays_,
-             voice_, spoken_, tick_}),
+            {screen_, canvas_, window_, placement_, face_, dial_, digital_, background_,
+             heldOverlays_, voice_, spoken_, tick_}),
       dialogs_(*this, program, data_.State, canvas_, look_),
-      redraws_(data_, {face_, dial_, digital_, calculator_, overlays_, messages_, voice_, spoken_,
-                       program.Services.Random}),
+      redraws_(data_, {face_, dial_, digital_, calculator_, heldOverlays_, messages_, voice_,
+                       spoken_, program.Services.Random}),
       settings_(data_, {files_, look_, window_, placement_, canvas_, messages_, timers_, voice_,
                         redraws_}),
       zones_(data_, program, screen_, look_),
@@ -80,14 +81,14 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
                     {*this, controls_, canvas_, host_, calculator_, timers_, actions_, partMenus_}),
       menus_({*this, controls_, canvas_, settings_, messages_, actions_, voice_, spoken_, popup_,
               commands_, keys_, partMenus_}),
-      partDrag_(data_, {controls_, canvas_, face_, dial_, digital_, background_, overlays_, timers_,
-                        settings_}),
-      drag_(*this, area, placement_, data_, controls_, partDrag_),
+      partDrag_(data_, PartsToMove()),
+      partNudge_(data_, PartsToMove()),
+      drag_({*this, area, placement_, data_, controls_, partDrag_, partNudge_}),
       hints_({*this, data_, controls_, timers_, menus_}, program.Services.Clock),
-      walk_({*this, data_, controls_, canvas_, timers_, menus_, partDrag_}),
+      walk_({*this, data_, controls_, canvas_, timers_, menus_, partNudge_}),
       input_(*this, data_, controls_, calculator_, menus_),
       tick_(data_,
-            {window_, placement_, face_, dial_, digital_, calculator_, background_, overlays_,
+            {window_, placement_, face_, dial_, digital_, calculator_, background_, heldOverlays_,
              timers_, messages_, sounds_, voice_, spoken_, music_, menus_, look_},
             program.Module, program.Services.Clock) {
     canvas_.SetFace(face_);
@@ -96,7 +97,18 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    InstallFilters();
     program_.Windows.Add(*this);
+}
+
+// The one that is installed last is asked first. So whatever is dragged has the mouse and the keys
+// to itself, the hint goes before a key or a press does something, and what nobody takes comes to
+// `event`.
+void frmTempolark::InstallFilters() {
+    QObject* const lastToFirst[] = {&walk_, &hints_, &timersOnDial_.EventFilter(), &drag_};
+    for (QObject* filter : lastToFirst) {
+        installEventFilter(filter);
+    }
 }
 
 drawing::FaceContext frmTempolark::Context() {
@@ -109,6 +121,11 @@ drawing::FaceContext frmTempolark::Context() {
             program_.Services.Random,
             program_.Module.Pictures,
             program_.Module.Paths};
+}
+
+clockcore::HeldPart::Parts frmTempolark::PartsToMove() {
+    return {controls_,   canvas_,       face_,   dial_,    digital_,
+            background_, heldOverlays_, timers_, settings_};
 }
 
 frmTempolark::~frmTempolark() {

@@ -11,6 +11,7 @@
 #include "clock/ClockLook.h"
 #include "clock/ClockTick.h"
 #include "clock/Face.h"
+#include "clock/HeldOverlays.h"
 #include "clock/LookDialogs.h"
 #include "clock/MenuSettings.h"
 #include "clock/PartMenus.h"
@@ -191,6 +192,9 @@ private:
     /// What the parts of the face share. The parts hold references to fields that are made before
     /// them: so the order of the fields below matters.
     drawing::FaceContext Context();
+    clockcore::HeldPart::Parts PartsToMove();
+    /// Those who see mouse and keys before the window does.
+    void InstallFilters();
 
     Program program_;
     /// Null for a clock that stands alone.
@@ -211,6 +215,7 @@ private:
     drawing::CalculatorLines calculator_;
     drawing::ClockBackground background_;
     drawing::ClockOverlays overlays_;
+    clockcore::HeldOverlays heldOverlays_;
     timers::ActionRunner actionRunner_;
     timers::ClockMessages messages_;
     timers::ClockTimers timers_;
@@ -232,6 +237,7 @@ private:
     clockcore::TimersOnDial timersOnDial_;
     clockcore::ClockMenuHandlers menus_;
     clockcore::PartDrag partDrag_;
+    clockcore::PartNudge partNudge_;
     clockcore::DragInput drag_;
     clockcore::PartBalloon hints_;
     clockcore::WalkInput walk_;
