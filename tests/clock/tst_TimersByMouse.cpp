@@ -225,6 +225,43 @@ private Q_SLOTS:
         QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea!\r\n"));
     }
 
+    void ADisabledClockTakesNoPress() {
+        MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
+        desk.Clock->EnableWindow(false);
+        const QPointF start = desk.Mark(1).Rect().topLeft();
+        desk.DoubleClick(desk.Mark(1));
+        QVERIFY(desk.Box() == nullptr);
+        desk.Click(*desk.Clock, desk.Spot(16), Qt::LeftButton);
+        QVERIFY(desk.OpenMenu() == nullptr);
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(desk.Spot(30).Rect().center());
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+        desk.Release(desk.Spot(30).Rect().center());
+        QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea\r\n"));
+    }
+
+    void ADisabledCalculatorStaysOne() {
+        MouseDesk desk("5,Red,,None,0#20:30@Tea\r\n", "Calculator");
+        desk.DoubleClick(desk.Mark(1));
+        QVERIFY(desk.Box() != nullptr);
+        desk.Key(Qt::Key_Return);
+        desk.Clock->EnableWindow(false);
+        desk.DoubleClick(desk.Mark(1));
+        QVERIFY(desk.Box() == nullptr);
+        QCOMPARE(desk.Clock->Data().Tag.Text(), u"3"_s);
+    }
+
+    // The press before it was the clock's, what follows is not.
+    void DisablingTakesADragBack() {
+        MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
+        const QPointF start = desk.Mark(1).Rect().topLeft();
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(desk.Spot(30).Rect().center());
+        QVERIFY(desk.Mark(1).Rect().topLeft() != start);
+        desk.Clock->EnableWindow(false);
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+    }
+
     void AMenuIsOpenWhileItsTimerFires() {
         MouseDesk desk("5,Red,,None,0#12:1@Tea\r\n");
         desk.Click(*desk.Clock, desk.Mark(1), Qt::RightButton);

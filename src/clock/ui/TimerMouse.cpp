@@ -38,6 +38,13 @@ TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
 }
 
 bool TimerMouse::eventFilter(QObject*, QEvent* event) {
+    if (EndsDrags(event->type())) {
+        TakeBack();
+    }
+    return form_.isEnabled() && Take(event);
+}
+
+bool TimerMouse::Take(QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
             return Press(static_cast<QMouseEvent&>(*event));
@@ -50,9 +57,6 @@ bool TimerMouse::eventFilter(QObject*, QEvent* event) {
         case QEvent::KeyPress:
             return static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape && TakeBack();
         default:
-            if (EndsDrags(event->type())) {
-                TakeBack();
-            }
             return false;
     }
 }

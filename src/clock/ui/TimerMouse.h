@@ -19,7 +19,8 @@ namespace clockcore {
 /// others, too, who may have a hint to hide or drag what lies there.
 ///
 /// While a mark is dragged, the time that it has come to stands at the pointer. Escape takes the
-/// drag back, and so does whatever takes the window away from under it.
+/// drag back, and so does whatever takes the window away from under it. On a disabled clock nothing
+/// is done.
 class TimerMouse final : public QObject {
 public:
     /// What is asked for. All of it outlives this.
@@ -35,6 +36,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Take(QEvent* event);
     bool Press(const QMouseEvent& event);
     bool Move(const QMouseEvent& event);
     bool Release(const QMouseEvent& event);
