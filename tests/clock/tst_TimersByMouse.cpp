@@ -225,6 +225,23 @@ private Q_SLOTS:
         QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea!\r\n"));
     }
 
+    // The first of the twelve times is the present minute; W is a key of the clock's own.
+    void ATimerWaitsForWhatIsTyped() {
+        MouseDesk desk;
+        desk.Click(*desk.Clock, desk.Spot(60), Qt::RightButton);
+        desk.Choose({u"12:00"_s});
+        QTRY_VERIFY(desk.Box() != nullptr && desk.Box()->hasFocus());
+        desk.Type(u"w"_s);
+        desk.Base.Machine.Clock.Advance(2 * 60 * 1000);
+        QVERIFY(desk.Box() != nullptr && desk.Box()->hasFocus());
+        desk.Type(u"ait"_s);
+        QCOMPARE(desk.Clock->PendingMessage(), QString());
+        desk.Key(Qt::Key_Return);
+        desk.Base.Machine.Clock.Advance(2000);
+        QCOMPARE(desk.Clock->PendingMessage(), u"wait"_s);
+        QVERIFY(!desk.Mark(1).Visible);
+    }
+
     void ADisabledClockTakesNoPress() {
         MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
         desk.Clock->EnableWindow(false);
