@@ -27,6 +27,8 @@ public:
     virtual void Open(const Look& look) = 0;
     virtual void Move(const QRectF& place) = 0;
     virtual void Close() = 0;
+    /// Whether what is typed comes to the box: it is open, and no other window is in front.
+    virtual bool HasKeys() const = 0;
 };
 
 /// The typing of a timer's message, `txtMsg(n)`: where its box stands, what its keys do, and what
@@ -34,7 +36,8 @@ public:
 ///
 /// What is typed belongs to the timer at once, so that a clock that closes keeps it. A calculator
 /// stands still meanwhile; its calculated time tells for which day the timer is meant. The timer
-/// may fire or be removed while its message is typed: the box then closes and changes nothing.
+/// does not fire while it is typed into, so that no key goes to the clock instead. Behind another
+/// window it may fire, and it may be removed: the box then closes and changes nothing.
 class MessageTyping {
 public:
     /// What the typing changes. All of it outlives it.
@@ -57,6 +60,8 @@ public:
     void OpenMessageBox(int slot, Timer timer = Timer::Old);
     /// The slot whose box is open; 0 for none.
     int Slot() const { return slot_; }
+    /// Whether the keys go to the box of that slot.
+    bool IsTypedInto(int slot) const { return slot == slot_ && parts_.View.HasKeys(); }
 
     // What the box tells. Without an open box they do nothing.
     /// The whole text, after each key.

@@ -118,6 +118,7 @@ QStringList ClockTimers::TimerLines() const {
 void ClockTimers::ChangeTimer(int slot, const ClockTimer& timer) {
     ClockTimer& own = timers_[Index(slot)];
     if (own.TimerTime != timer.TimerTime) {
+        late_.erase(slot);
         std::erase_if(fired_, [slot](const Fired& fired) { return fired.Slot == slot; });
     }
     own = timer;

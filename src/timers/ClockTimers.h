@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <functional>
+#include <set>
 #include <vector>
 
 #include "timers/ClockMessages.h"
@@ -17,12 +18,14 @@ namespace timers {
 ///
 /// A timer fires in the minute that its time names, in either half of the day, and is then cleared,
 /// unless an action counts down for it. Permanent does not mean repeating: a permanent timer is
-/// kept across runs until it has fired.
+/// kept across runs until it has fired. A timer that comes due while it is held fires as soon as it
+/// is not, be it minutes later.
 ///
 /// A slot's number that is asked for lies between 1 and `SlotCount`; nothing checks it.
 class ClockTimers final : public TimerSlots {
 public:
     using Watcher = std::function<void(int slot, const ClockTimer& timer)>;
+    using Holder = std::function<bool(int slot)>;
 
     /// @param messages shows what fires; it outlives the timers
     ClockTimers(const TimerContext& context, ClockMessages& messages);
@@ -72,6 +75,8 @@ public:
 
     /// Tells of each timer that fires, before anything is done for it.
     void WatchFiring(Watcher watcher) { watcher_ = std::move(watcher); }
+    /// Asks, at each check, whether a timer must wait.
+    void HoldWhile(Holder isHeld) { isHeld_ = std::move(isHeld); }
 
 private:
     static std::size_t Index(int slot) { return static_cast<std::size_t>(slot) - 1; }
@@ -83,6 +88,9 @@ private:
     void ForgetFired(int dialMinute);
     bool HasFired(int slot) const;
     bool IsDue(int slot, int dialMinute) const;
+    bool ComesAt(int slot, int dialMinute) const;
+    bool IsHeld(int slot) const;
+    void NoteHeld(int dialMinute);
     bool IsLastOfPass(int slot, int dialMinute) const;
     void Fire(int slot, const QDateTime& clockTime);
     bool MayFire() const;
@@ -110,7 +118,9 @@ private:
         int DialMinute = 0;
     };
     std::vector<Fired> fired_;  ///< those that may not fire again in this minute
+    std::set<int> late_;        ///< slots that have come due while they were held
     Watcher watcher_;
+    Holder isHeld_;
 };
 
 }  // namespace timers

@@ -40,6 +40,7 @@ void ClockTimers::CheckTimers(const QString& clockTime) {
     }
     const int minute = DialMinute(parsed->Moment.time());
     ForgetFired(minute);
+    NoteHeld(minute);
     int saves = 0;
     for (int slot = 1; slot <= SlotCount() && MayFire(); ++slot) {
         if (!IsDue(slot, minute)) {
@@ -61,7 +62,24 @@ bool ClockTimers::MayFire() const {
 }
 
 bool ClockTimers::IsDue(int slot, int dialMinute) const {
+    return (ComesAt(slot, dialMinute) || late_.contains(slot)) && !IsHeld(slot);
+}
+
+bool ClockTimers::ComesAt(int slot, int dialMinute) const {
     return dueMinutes_[Index(slot)] == dialMinute && !HasFired(slot);
+}
+
+bool ClockTimers::IsHeld(int slot) const {
+    return isHeld_ && isHeld_(slot);
+}
+
+void ClockTimers::NoteHeld(int dialMinute) {
+    const int last = MayFire() ? SlotCount() : 0;
+    for (int slot = 1; slot <= last; ++slot) {
+        if (ComesAt(slot, dialMinute) && IsHeld(slot)) {
+            late_.insert(slot);
+        }
+    }
 }
 
 // An action ends the pass.
@@ -94,6 +112,7 @@ bool ClockTimers::HasFired(int slot) const {
 void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
     const ClockTimer timer = Timer(slot);  // a copy: a step may change the slot
     const int minutes = WholeNumber(timer.DisplayMinutes);
+    late_.erase(slot);
     fired_.push_back({slot, DialMinute(clockTime.time())});
     const std::function<void()> steps[] = {
         [&] { messages_.ShowMessage(timer.Message); },

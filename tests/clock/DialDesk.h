@@ -11,12 +11,14 @@ struct DialDesk : LookDesk {
     struct Box final : clockcore::MessageBoxView {
         QStringList Log;
         Look Last;
+        bool InFront = true;
         void Open(const Look& look) override {
             Last = look;
             Log += QStringLiteral("open ") + look.Text;
         }
         void Move(const QRectF& place) override { Last.Place = place; }
         void Close() override { Log += QStringLiteral("close"); }
+        bool HasKeys() const override { return InFront; }
     };
     struct Lines final : drawing::CalculatorClock {
         int Presents = 0;
@@ -39,6 +41,7 @@ struct DialDesk : LookDesk {
         using namespace Qt::StringLiterals;
         Data.TimerFile = Machine.AppFolder() + u"/Timer.txt"_s;
         Timers.LoadTimers(Data.TimerFile);
+        Timers.HoldWhile([this](int slot) { return Typing.IsTypedInto(slot); });
     }
 
     /// A timer on the dial, with nothing but its time and its message.

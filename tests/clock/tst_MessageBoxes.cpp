@@ -98,10 +98,13 @@ private Q_SLOTS:
         desk.Open();
         desk.LoseFocus(Qt::PopupFocusReason);
         QCOMPARE(desk.Keys.Slot(), 1);
+        QVERIFY(QTest::qWaitForWindowActive(&desk.Form));
+        QVERIFY(desk.Boxes.HasKeys());
         QWidget other;
         other.show();
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(!desk.Boxes.HasKeys());
         desk.LoseFocus(Qt::ActiveWindowFocusReason);
         QCOMPARE(desk.Keys.Slot(), 1);
         desk.LoseFocus(Qt::MouseFocusReason);

@@ -123,16 +123,50 @@ private Q_SLOTS:
     }
 
     // While the message is typed its timer comes due.
-    void ATimerThatFiresClosesItsBox() {
+    void ATimerDoesNotFireBeforeItsBoxIsClosed() {
         DialDesk desk;
         desk.Typing.OpenMessageBox(desk.Add(u"12:00"_s));
         desk.Typing.Type(u"Tea"_s);
         desk.Timers.CheckTimers(u"15/06/2026 12:00:01"_s);
+        desk.Typing.Follow();
+        QCOMPARE(desk.Messages.PendingMessage(), QString());
+        QCOMPARE(desk.View.Log, QStringList{u"open "_s});
+        desk.Typing.Type(u"Tea is ready"_s);
+        desk.Typing.FinishMessage();
+        desk.Timers.CheckTimers(u"15/06/2026 12:01:02"_s);
+        QCOMPARE(desk.Messages.PendingMessage(), u"Tea is ready"_s);
+        QVERIFY(desk.Timers.Timer(1).IsFree());
+    }
+
+    void BehindAnotherWindowItFires() {
+        DialDesk desk;
+        desk.Typing.OpenMessageBox(desk.Add(u"12:00"_s));
+        desk.Typing.Type(u"Tea"_s);
+        desk.View.InFront = false;
+        desk.Timers.CheckTimers(u"15/06/2026 12:00:01"_s);
         QCOMPARE(desk.Messages.PendingMessage(), u"Tea"_s);
+        desk.Typing.Follow();
+        QCOMPARE(desk.View.Log.last(), u"close"_s);
+        QVERIFY(!desk.Data.ActiveEditFlag);
+    }
+
+    void OnlyItsOwnTimerWaits() {
+        DialDesk desk;
+        desk.Add(u"12:00"_s, u"Eggs"_s);
+        desk.Typing.OpenMessageBox(desk.Add(u"12:00"_s));
+        desk.Timers.CheckTimers(u"15/06/2026 12:00:01"_s);
+        QCOMPARE(desk.Messages.PendingMessage(), u"Eggs"_s);
+        QVERIFY(desk.Timers.Timer(2).OnDial);
+    }
+
+    void ATimerThatIsRemovedClosesItsBox() {
+        DialDesk desk;
+        desk.Typing.OpenMessageBox(desk.Add(u"12:00"_s));
+        desk.Typing.Type(u"Tea"_s);
+        desk.Timers.ClearTimerSlot(1);
         desk.Typing.Type(u"Tea is"_s);
         desk.Typing.Follow();
         QCOMPARE(desk.View.Log.last(), u"close"_s);
-        QVERIFY(desk.Timers.Timer(1).IsFree());
         QCOMPARE(desk.Timers.Timer(1).Message, QString());
         QVERIFY(!desk.Data.ActiveEditFlag);
     }

@@ -95,6 +95,23 @@ private Q_SLOTS:
         QCOMPARE(desk.Mark(1).Visible, true);
     }
 
+    // Where the spots of a small clock stand close, one ends where its neighbour is nearer.
+    void AHandThatTremblesMeansTheSpotThatItPressed() {
+        MouseDesk desk;
+        desk.Clock->parentWidget()->resize(200, 200);
+        desk.Base.Machine.Clock.Advance(2000);
+        QPoint below = desk.Spot(16).Rect().center().toPoint();
+        while (clockcore::PartAt(desk.Clock->Controls(), below).Index == 16) {
+            below += QPoint(0, 1);
+        }
+        QCOMPARE(clockcore::PartAt(desk.Clock->Controls(), below),
+                 (clockcore::ClockHit{clockcore::ClockPart::Spot, 17}));
+        desk.Press(below - QPoint(0, 1));
+        desk.Release(below);
+        QVERIFY(desk.OpenMenu() != nullptr);
+        QCOMPARE(desk.OpenMenu()->actions().first()->text(), u"03:12"_s);
+    }
+
     // What is pressed on a spot and let go elsewhere is no click.
     void ADragFromASpotOpensNothing() {
         MouseDesk desk;
@@ -226,6 +243,60 @@ private Q_SLOTS:
         QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea!\r\n"));
     }
 
+    // The first of the twelve times is the present minute; W is a key of the clock's own.
+    void ATimerWaitsForWhatIsTyped() {
+        MouseDesk desk;
+        desk.Click(*desk.Clock, desk.Spot(60), Qt::RightButton);
+        desk.Choose({u"12:00"_s});
+        QTRY_VERIFY(desk.Box() != nullptr && desk.Box()->hasFocus());
+        desk.Type(u"w"_s);
+        desk.Base.Machine.Clock.Advance(2 * 60 * 1000);
+        QVERIFY(desk.Box() != nullptr && desk.Box()->hasFocus());
+        desk.Type(u"ait"_s);
+        QCOMPARE(desk.Clock->PendingMessage(), QString());
+        desk.Key(Qt::Key_Return);
+        desk.Base.Machine.Clock.Advance(2000);
+        QCOMPARE(desk.Clock->PendingMessage(), u"wait"_s);
+        QVERIFY(!desk.Mark(1).Visible);
+    }
+
+    void ADisabledClockTakesNoPress() {
+        MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
+        desk.Clock->EnableWindow(false);
+        const QPointF start = desk.Mark(1).Rect().topLeft();
+        desk.DoubleClick(desk.Mark(1));
+        QVERIFY(desk.Box() == nullptr);
+        desk.Click(*desk.Clock, desk.Spot(16), Qt::LeftButton);
+        QVERIFY(desk.OpenMenu() == nullptr);
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(desk.Spot(30).Rect().center());
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+        desk.Release(desk.Spot(30).Rect().center());
+        QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea\r\n"));
+    }
+
+    void ADisabledCalculatorStaysOne() {
+        MouseDesk desk("5,Red,,None,0#20:30@Tea\r\n", "Calculator");
+        desk.DoubleClick(desk.Mark(1));
+        QVERIFY(desk.Box() != nullptr);
+        desk.Key(Qt::Key_Return);
+        desk.Clock->EnableWindow(false);
+        desk.DoubleClick(desk.Mark(1));
+        QVERIFY(desk.Box() == nullptr);
+        QCOMPARE(desk.Clock->Data().Tag.Text(), u"3"_s);
+    }
+
+    // The press before it was the clock's, what follows is not.
+    void DisablingTakesADragBack() {
+        MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
+        const QPointF start = desk.Mark(1).Rect().topLeft();
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(desk.Spot(30).Rect().center());
+        QVERIFY(desk.Mark(1).Rect().topLeft() != start);
+        desk.Clock->EnableWindow(false);
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+    }
+
     void AMenuIsOpenWhileItsTimerFires() {
         MouseDesk desk("5,Red,,None,0#12:1@Tea\r\n");
         desk.Click(*desk.Clock, desk.Mark(1), Qt::RightButton);
@@ -274,6 +345,40 @@ private Q_SLOTS:
         desk.DragTo(desk.Spot(40).Rect().center());
         desk.Release(desk.Spot(40).Rect().center());
         QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+        QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea\r\n"));
+    }
+
+    void AMenuTakesADragBack_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifier>("with");
+        QTest::newRow("right button") << 0 << Qt::NoModifier;
+        QTest::newRow("menu key") << int(Qt::Key_Menu) << Qt::NoModifier;
+        QTest::newRow("Shift+F10") << int(Qt::Key_F10) << Qt::ShiftModifier;
+    }
+
+    void AMenuTakesADragBack() {
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifier, with);
+        MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
+        const QPointF start = desk.Mark(1).Rect().topLeft();
+        const QPoint six = desk.Spot(30).Rect().center().toPoint();
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(six);
+        QVERIFY(desk.Mark(1).Rect().topLeft() != start);
+        if (key != 0) {
+            QTest::keyClick(desk.Clock, static_cast<Qt::Key>(key), with);
+        } else {
+            QTest::mousePress(desk.Base.Area.windowHandle(), Qt::RightButton, {},
+                              desk.Clock->mapTo(&desk.Base.Area, six));
+        }
+        QCOMPARE(desk.OpenMenu() != nullptr, key != 0);
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+        if (key != 0) {
+            desk.OpenMenu()->close();
+        }
+        desk.DragTo(desk.Spot(40).Rect().center());
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), start);
+        desk.Release(six);
         QCOMPARE(desk.File(), QByteArray("5,Red,,None,0#15:30@Tea\r\n"));
     }
 

@@ -13,6 +13,7 @@ struct FiringDesk : TimerDesk {
         Set(u"Speak Timer Message"_s, u"No"_s);
         Set(u"Speak Action Message"_s, u"No"_s);
         Timers.WatchFiring([this](int slot, const ClockTimer&) { Fired += slot; });
+        Timers.HoldWhile([this](int slot) { return slot == Held; });
     }
     void Set(const QString& name, const QString& value) {
         mduLib::PutPropertyRaw(name, value, Host.Properties);
@@ -30,6 +31,7 @@ struct FiringDesk : TimerDesk {
         Messages.RunMessage(0, 400);
     }
     QList<int> Fired;
+    int Held = 0;
 };
 
 QString Padded(int minuteOfDay) {
@@ -57,6 +59,10 @@ private Q_SLOTS:
     void LetsTheLastMessageWin();
     void FiresNoneActionsATickApart();
     void PassesOverDuringACountdown();
+    void WaitsWhileItIsHeld();
+    void WaitsAlone();
+    void ForgetsThatItWaited();
+    void WaitsThroughNoCountdown();
     void CountsDownAnAction();
     void RunsAnActionWithoutMinutesOnce();
     void FiresAgainInTheOtherHalf();
@@ -276,6 +282,67 @@ void tst_TimerFiring::PassesOverDuringACountdown() {
     QVERIFY(desk.Timers.Timer(2).OnDial);
     desk.Tick(u"03:06:00"_s);
     QCOMPARE(desk.Fired, QList<int>({1, 2}));
+}
+
+// Its minute may have gone meanwhile.
+void tst_TimerFiring::WaitsWhileItIsHeld() {
+    FiringDesk desk;
+    desk.Add(u"03:05"_s, u"first"_s);
+    desk.Held = 1;
+    desk.Tick(u"15:05:00"_s);
+    desk.Tick(u"15:05:01"_s);
+    desk.Tick(u"15:09:00"_s);
+    QCOMPARE(desk.Fired, QList<int>());
+    desk.Held = 0;
+    desk.Tick(u"15:09:01"_s);
+    QCOMPARE(desk.Fired, QList<int>({1}));
+    QVERIFY(desk.Timers.Timer(1).IsFree());
+    desk.Add(u"03:05"_s, u"second"_s);
+    desk.Tick(u"15:09:02"_s);
+    QCOMPARE(desk.Fired, QList<int>({1}));
+}
+
+void tst_TimerFiring::WaitsAlone() {
+    FiringDesk desk;
+    desk.Add(u"03:05"_s, u"first"_s);
+    desk.Add(u"03:05"_s, u"second"_s);
+    desk.Add(u"03:06"_s, u"third"_s);
+    desk.Held = 1;
+    desk.Tick(u"15:05:00"_s);
+    QCOMPARE(desk.Fired, QList<int>({2}));
+    desk.Held = 3;
+    desk.Tick(u"15:06:00"_s);
+    QCOMPARE(desk.Fired, QList<int>({2, 1}));
+    desk.Held = 0;
+    desk.Tick(u"15:06:01"_s);
+    QCOMPARE(desk.Fired, QList<int>({2, 1, 3}));
+}
+
+// Another time, or another timer in the slot, is due at its own time.
+void tst_TimerFiring::ForgetsThatItWaited() {
+    FiringDesk desk;
+    desk.Add(u"03:05"_s, u"first"_s);
+    desk.Held = 1;
+    desk.Tick(u"15:05:00"_s);
+    desk.Timers.PlaceTimerMark(1, u"03:20"_s);
+    desk.Held = 0;
+    desk.Tick(u"15:05:01"_s);
+    QCOMPARE(desk.Fired, QList<int>());
+}
+
+// What comes due while an action counts down is passed over, held or not.
+void tst_TimerFiring::WaitsThroughNoCountdown() {
+    FiringDesk desk;
+    desk.Add(u"03:05"_s, u"first"_s, u"Reboot"_s, u"3"_s);
+    desk.Add(u"03:06"_s, u"second"_s);
+    desk.Tick(u"15:05:00"_s);
+    desk.Held = 2;
+    desk.Tick(u"15:06:00"_s);
+    desk.Held = 0;
+    desk.Tick(u"15:08:00"_s);
+    desk.Tick(u"15:08:01"_s);
+    QCOMPARE(desk.Messages.PendingAction(), QString());
+    QCOMPARE(desk.Fired, QList<int>({1}));
 }
 
 void tst_TimerFiring::CountsDownAnAction() {

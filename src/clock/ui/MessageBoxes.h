@@ -44,6 +44,7 @@ public:
     void Move(const QRectF& place) override;
     /// The form takes the keys where the box had them.
     void Close() override;
+    bool HasKeys() const override { return line_ != nullptr && line_->isActiveWindow(); }
 
 private:
     /// From device pixels of the surface to logical ones of the form.

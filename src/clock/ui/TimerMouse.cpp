@@ -15,13 +15,14 @@ int Threshold() {
     return QGuiApplication::styleHints()->startDragDistance();
 }
 
-/// Events that take the window away from under a drag.
+/// Events that take the window, or its keys, away from under a drag: a menu that pops up, too.
 bool EndsDrags(QEvent::Type type) {
     switch (type) {
         case QEvent::Resize:
         case QEvent::Hide:
         case QEvent::Close:
         case QEvent::EnabledChange:
+        case QEvent::FocusOut:
         case QEvent::WindowDeactivate:
             return true;
         default:
@@ -40,6 +41,13 @@ TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
       commands_(std::move(commands)) {}
 
 bool TimerMouse::eventFilter(QObject*, QEvent* event) {
+    if (EndsDrags(event->type())) {
+        TakeBack();
+    }
+    return form_.isEnabled() && Take(event);
+}
+
+bool TimerMouse::Take(QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
             return Press(static_cast<QMouseEvent&>(*event));
@@ -51,10 +59,9 @@ bool TimerMouse::eventFilter(QObject*, QEvent* event) {
             return DoubleClick(static_cast<QMouseEvent&>(*event));
         case QEvent::KeyPress:
             return static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape && TakeBack();
+        case QEvent::ContextMenu:
+            return TakeBack();
         default:
-            if (EndsDrags(event->type())) {
-                TakeBack();
-            }
             return false;
     }
 }
@@ -64,13 +71,12 @@ bool TimerMouse::Press(const QMouseEvent& event) {
         return marks_.IsDragging();
     }
     const ClockHit hit = HitAt(event);
-    spotPressedAt_.reset();
+    pressedSpot_.reset();
     holdsMark_ = hit.Part == ClockPart::TimerMark;
     if (holdsMark_) {
-        QToolTip::hideText();
         marks_.Press(hit.Index, SurfacePoint(event));
     } else if (hit.Part == ClockPart::Spot) {
-        spotPressedAt_ = event.position();
+        pressedSpot_ = {hit, event.position()};
     }
     return false;
 }
@@ -100,12 +106,9 @@ bool TimerMouse::Release(const QMouseEvent& event) {
         }
         return true;
     }
-    const std::optional<QPointF> pressedAt = std::exchange(spotPressedAt_, std::nullopt);
-    const ClockHit hit = HitAt(event);
-    const bool isClick = pressedAt && hit.Part == ClockPart::Spot &&
-                         (event.position() - *pressedAt).manhattanLength() < Threshold();
-    if (isClick) {
-        commands_.ShowMenu(hit, event.globalPosition().toPoint());
+    const std::optional<PressedSpot> pressed = std::exchange(pressedSpot_, std::nullopt);
+    if (pressed && (event.position() - pressed->At).manhattanLength() < Threshold()) {
+        commands_.ShowMenu(pressed->Spot, event.globalPosition().toPoint());
     }
     return false;
 }
@@ -121,7 +124,7 @@ bool TimerMouse::DoubleClick(const QMouseEvent& event) {
 
 bool TimerMouse::TakeBack() {
     holdsMark_ = false;
-    spotPressedAt_.reset();
+    pressedSpot_.reset();
     if (!marks_.Cancel()) {
         return false;
     }

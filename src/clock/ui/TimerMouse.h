@@ -15,11 +15,13 @@ namespace clockcore {
 
 /// The left button on what timers are made and changed with: it drags a timer's mark, opens its
 /// box with a double click, and opens the menu of a minute spot with a click. It watches the form's
-/// events and takes the moves and the end of a mark's drag for itself; each press is left to
-/// others, too, who may have a hint to hide or drag what lies there.
+/// events and takes the moves and the end of a mark's drag for itself; a press of the left button
+/// is left to others, too, who may drag what lies there.
 ///
 /// While a mark is dragged, the time that it has come to stands at the pointer. Escape takes the
-/// drag back, and so does whatever takes the window away from under it.
+/// drag back, and so do the right button, which opens no menu then, and whatever takes the window
+/// or its keys away from under it, as a menu does that a key opens. On a disabled clock nothing is
+/// done.
 class TimerMouse final : public QObject {
 public:
     /// What is asked for. All of it outlives this.
@@ -35,6 +37,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Take(QEvent* event);
     bool Press(const QMouseEvent& event);
     bool Move(const QMouseEvent& event);
     bool Release(const QMouseEvent& event);
@@ -50,8 +53,13 @@ private:
     const mduUILib::ClockControls& controls_;
     MarkDrag& marks_;
     Commands commands_;
-    bool holdsMark_ = false;                ///< the button is down on a mark
-    std::optional<QPointF> spotPressedAt_;  ///< logical pixels; nothing without a spot
+    bool holdsMark_ = false;  ///< the button is down on a mark
+    /// A spot that the button is down on; a hand that trembles does not choose another.
+    struct PressedSpot {
+        ClockHit Spot;
+        QPointF At;  ///< logical pixels
+    };
+    std::optional<PressedSpot> pressedSpot_;
 };
 
 }  // namespace clockcore

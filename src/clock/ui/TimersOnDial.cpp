@@ -21,6 +21,7 @@ TimersOnDial::TimersOnDial(ClockData& data, const Program& program, const Parts&
                   MakeMenu(&form, menus_.SetTimerMenu(drawing::SpotTime(spot.Index)))->popup(at);
               }}) {
     boxes_.SetTyping(typing_);
+    parts.Timers.HoldWhile([this](int slot) { return typing_.IsTypedInto(slot); });
     parts.Menus.SetMaker(ClockPart::TimerMark,
                          [this](const ClockHit& mark) { return menus_.ImgTimerMenu(mark.Index); });
     parts.Menus.SetMaker(ClockPart::Spot, [this](const ClockHit& spot) {
