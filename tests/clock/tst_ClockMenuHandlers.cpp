@@ -40,6 +40,7 @@ struct MenuDesk : FormDesk {
                                         Parts.TheSpoken, Popup, Commands, Keys, OnParts}};
 
     MenuDesk() {
+        Data.TimerFile = Machine.AppFolder() + u"/Timer.txt"_s;
         Form.resize(200, 150);
         Form.show();
     }
