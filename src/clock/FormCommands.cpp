@@ -1,8 +1,10 @@
 #include "clock/FormCommands.h"
 
 #include "clock/FormMenuState.h"
+#include "clock/HiddenParts.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
+#include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SystemSettings.h"
 #include "platform/Dialogs.h"
@@ -39,6 +41,7 @@ const FormCommands::Row FormCommands::Rows[] = {
     {u"SaveStyle", &FormCommands::Save},
     {u"SaveStyleAs", &FormCommands::SaveAs},
     {u"PropertyMenu", &FormCommands::Properties},
+    {u"HiddenPart", &FormCommands::ShowHiddenPart},
 };
 
 void FormCommands::Run(const FormEntry& entry) {
@@ -124,6 +127,15 @@ void FormCommands::ChooseScreenSaver(const FormEntry& entry) {
 void FormCommands::TellUnless(bool kept) {
     if (!kept) {
         parts_.Screen.ShowStatus(u"The setting can't be saved"_s);
+    }
+}
+
+void FormCommands::ShowHiddenPart(const FormEntry& entry) {
+    ClockProperties defaults;
+    mduLib::ReadPropertyFile(program_.Services.FileSystem, program_.Module.Paths.ZoneDefaultFile(),
+                             defaults);
+    for (const WayBack& way : WaysBack(entry.Caption, data_.Properties(), defaults)) {
+        parts_.Settings.Put({way.Key}, way.Value, way.What);
     }
 }
 

@@ -77,6 +77,7 @@ private:
     void Save(const FormEntry&) { SaveStyle(); }
     void SaveAs(const FormEntry&) { SaveStyleAs(); }
     void Properties(const FormEntry&) { OpenWindow(ShellWindow::Properties); }
+    void ShowHiddenPart(const FormEntry& entry);
     void TellUnless(bool kept);
 
     const ClockData& data_;

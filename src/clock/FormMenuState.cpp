@@ -58,7 +58,8 @@ FormMenuState ReadFormMenuState(const Program& program, const ClockData& data,
             .Zones = Files(program, paths.ZoneFileFolder, zone),
             .Styles = Files(program, paths.StylesFolder, data.Dial.LastStyle),
             .ScreenSaverTimes = mduLib::ScreenSaverTimes(settings, paths.AppEXEName()),
-            .ScreenSaverTime = mduLib::ScreenSaverTimeOut(settings)};
+            .ScreenSaverTime = mduLib::ScreenSaverTimeOut(settings),
+            .HiddenParts = HiddenParts(data, window.Showable)};
 }
 
 }  // namespace clockcore

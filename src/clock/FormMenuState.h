@@ -2,6 +2,7 @@
 
 #include "clock/ClockData.h"
 #include "clock/FormMenu.h"
+#include "clock/HiddenParts.h"
 #include "foundation/Program.h"
 
 namespace clockcore {
@@ -11,6 +12,7 @@ struct FormWindowFacts {
     bool IsMDIChild = false;
     bool IsEnabled = true;
     int WindowState = 0;  ///< 0 normal, 1 minimised, 2 maximised
+    ShowableParts Showable = {};
 };
 
 /// The name under which a clock that stands alone starts with the user's logon.

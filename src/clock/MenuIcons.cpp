@@ -29,6 +29,7 @@ constexpr struct {
     {u"SaveStyle", u"Menu/Save"},
     {u"SaveStyleAs", u"Menu/Save As"},
     {u"PropertyMenu", u"Toolbar/Property"},
+    {u"HiddenParts", u"Menu/Hidden"},
 };
 
 /// Null for a file that is missing or no picture.

@@ -190,6 +190,23 @@ private Q_SLOTS:
         QCOMPARE(desk.Screen.Status, QStringList(u"The setting can't be saved"_s));
     }
 
+    void AHiddenPartIsShownAndSaved() {
+        FormDesk desk;
+        desk.Set(u"Minute Spot Style"_s, u"No Spots"_s);
+        desk.Set(u"Minute Spot Size"_s, u"0"_s);
+        desk.Set(u"Hour Hand Colour"_s, u"Cyan"_s);  // is tried out, and not saved along with it
+        desk.Calls();
+        desk.Run(u"HiddenPart"_s, u"Minute Spots"_s);
+        QCOMPARE(desk.InFile(u"Minute Spot Style"_s), u"Spot 60"_s);
+        QCOMPARE(desk.InFile(u"Minute Spot Size"_s), u"-1"_s);
+        QVERIFY(desk.InFile(u"Hour Hand Colour"_s) != u"Cyan"_s);
+        QVERIFY(desk.Calls().startsWith(u"DrawDialNumbers|DrawClockFace|SaveTimer"_s));
+        QCOMPARE(desk.Screen.Status.last(), u"Saved the settings of India at 12:00:00"_s);
+        desk.Screen.Status.clear();
+        desk.Run(u"HiddenPart"_s, u"Minute Spots"_s);  // has been shown meanwhile
+        QCOMPARE(desk.Screen.Status, QStringList());
+    }
+
     void AsksBeforeItDisables() {
         FormDesk desk;
         desk.Machine.Dialogs.BoxAnswers = {7, 6};

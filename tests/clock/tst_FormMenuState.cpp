@@ -121,6 +121,14 @@ private Q_SLOTS:
         QCOMPARE(desk.State().Styles, QStringList());
     }
 
+    void TellsOfHiddenParts() {
+        StateDesk desk;
+        desk.Set(u"Speaker"_s, u"No"_s);
+        QCOMPARE(desk.State().HiddenParts, QStringList());
+        QCOMPARE(desk.State({.Showable = {.Speaker = true}}).HiddenParts,
+                 QStringList(u"Speaker"_s));
+    }
+
     void TellsOfTheScreenSaver() {
         StateDesk desk;
         QCOMPARE(desk.State().ScreenSaverTimes.size(), 12);

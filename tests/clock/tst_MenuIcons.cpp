@@ -15,7 +15,7 @@ private Q_SLOTS:
     void EachEntryHasAPicture() {
         MachineWithZones machine;
         machine.Module.Paths.ImagesFolder = QStringLiteral(TEMPOLARK_SOURCE_DIR "/data/Images/");
-        MenuNode menu = clockcore::MakeFormMenu({.WindowState = 2}, {});
+        MenuNode menu = clockcore::MakeFormMenu({.WindowState = 2, .HiddenParts = {u"Flag"_s}}, {});
         SetMenuIcon(menu, machine.TheProgram);
         for (const MenuNode& node : menu.Children) {
             if (node.Caption == u"-"_s) {

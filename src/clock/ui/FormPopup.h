@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "clock/FormCommands.h"
+#include "clock/HiddenParts.h"
 #include "clock/StylePreview.h"
 
 namespace clockcore {
@@ -21,6 +22,7 @@ public:
         const StyleFiles& Styles;
         ClockLook& Look;
         FormCommands& Commands;
+        const speech::SpeakerVoice& Voice;
     };
 
     /// @param form the parent of the menu
@@ -44,6 +46,7 @@ public:
 
 private:
     MenuNode Fill();
+    ShowableParts Showable() const;
 
     QWidget& form_;
     ClockData& data_;

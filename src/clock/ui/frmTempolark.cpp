@@ -71,7 +71,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       commands_(data_, program,
                 {screen_, window_, placement_, files_, look_, dialogs_, settings_, zones_, voice_}),
       popup_(*this, data_, controls_, program,
-             {screen_, window_, placement_, files_, styles_, look_, commands_}),
+             {screen_, window_, placement_, files_, styles_, look_, commands_, voice_}),
       keys_(data_, controls_, program, {window_, placement_, look_, commands_, zones_}),
       partMenus_(data_, program,
                  {controls_, window_, placement_, canvas_, settings_, dialogs_, messages_, voice_,
