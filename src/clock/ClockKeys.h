@@ -36,7 +36,7 @@ public:
               const Parts& parts)
         : data_(data), controls_(controls), program_(program), parts_(parts) {}
 
-    /// A key goes down. A clock that is disabled listens to Ctrl+E and to the key of "Disable"
+    /// A key goes down. A clock that is disabled listens to Ctrl+E, F1 and the key of "Disable"
     /// only.
     /// @param code as `KeyCodeOf` tells it
     /// @param shift bits of `mduUILib::KeyShift`

@@ -51,7 +51,8 @@ private Q_SLOTS:
         desk.Parts.TheWindow.Enabled = false;
         QVERIFY(!desk.Keys.ClockKeyDown('E', 0));
         QVERIFY(!desk.Keys.ClockKeyDown('W', Ctrl));
-        QVERIFY(!desk.Keys.ClockKeyDown(112, 0));
+        QVERIFY(desk.Keys.ClockKeyDown(112, 0));
+        QCOMPARE(desk.Shell.Take(), QStringList(u"clock help"_s));
         QVERIFY(!desk.Parts.TheWindow.Enabled);
         QVERIFY(desk.Keys.ClockKeyDown('E', Ctrl));
         QVERIFY(desk.Parts.TheWindow.Enabled);
