@@ -127,9 +127,10 @@ void ClockKeys::Enable() {
     }
 }
 
+// A window that is maximised or minimised has no size of its own.
 void ClockKeys::TakeSizeOfPicture() {
     const std::shared_ptr<const QImage> picture = controls_.imgClock(1).Picture;
-    if (picture && !picture->isNull()) {
+    if (picture && !picture->isNull() && parts_.Placement.WindowState() == 0) {
         parts_.Placement.SetOuterSize(
             {PictureUnits(picture->width()), PictureUnits(picture->height())});
     }
@@ -151,7 +152,7 @@ void ClockKeys::TakeNextChoice(const QString& name, int) {
 }
 
 void ClockKeys::TakeNextStyle(const QString&, int) {
-    parts_.Look.ApplyNextStyle();
+    parts_.Look.ApplyStyleBehindLast();
 }
 
 void ClockKeys::SetWindowState(const QString&, int state) {

@@ -18,7 +18,7 @@ int KeyCodeOf(int key);
 /// | F1 | help |
 /// | Ctrl+E | enables the clock |
 /// | Ctrl+W | the window takes its normal size |
-/// | Ctrl+R | the window takes the size of the clock's picture |
+/// | Ctrl+R | the window, in its normal state, takes the size of the clock's picture |
 ///
 /// Commands that change the look do so in memory, as the menu does; "Save Current Style" keeps it.
 class ClockKeys {

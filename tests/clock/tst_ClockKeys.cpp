@@ -82,6 +82,11 @@ private Q_SLOTS:
             std::make_shared<const QImage>(192, 96, QImage::Format_RGB32);
         QVERIFY(desk.Keys.ClockKeyDown('R', Ctrl));
         QCOMPARE(desk.Calls(), u"size 5080 x 2540"_s);
+        for (const int state : {1, 2}) {
+            desk.Parts.ThePlacement.State = state;
+            QVERIFY(desk.Keys.ClockKeyDown('R', Ctrl));
+            QCOMPARE(desk.Calls(), QString());
+        }
     }
 
     void OtherKeysAreLookedUp() {
