@@ -18,6 +18,9 @@ struct FormWindowFacts {
 /// The name under which a clock that stands alone starts with the user's logon.
 QString RunName(const ClockData& data);
 
+/// The executable of a clock that stands alone, as the stored commands name it.
+QString ClockProgram(const PathTable& paths);
+
 /// Looks up what `FormPopup` shows: the clock's properties, the files of the folders of zones and
 /// styles, those used last first and ten at most, the lists and the settings. Nothing is kept, so
 /// that the menu is right at each opening.
