@@ -55,9 +55,7 @@ void MessageLine::keyPressEvent(QKeyEvent* event) {
     } else if (!isPlain || event->key() != Qt::Key_Delete || !typing_.Delete()) {
         QLineEdit::keyPressEvent(event);
     }
-    if (isPlain) {
-        event->accept();
-    }
+    event->accept();
 }
 
 void MessageLine::focusOutEvent(QFocusEvent* event) {
