@@ -44,7 +44,21 @@ const FormCommands::Row FormCommands::Rows[] = {
     {u"HiddenPart", &FormCommands::ShowHiddenPart},
 };
 
+// A menu may be open while its clock is closed by other means.
+bool FormCommands::IsOpen() const {
+    return data_.State != ClockState::Closing;
+}
+
+void FormCommands::SetEnabled(bool enabled) {
+    if (IsOpen()) {
+        parts_.Settings.SetEnabled(enabled);
+    }
+}
+
 void FormCommands::Run(const FormEntry& entry) {
+    if (!IsOpen()) {
+        return;
+    }
     for (const Row& row : Rows) {
         if (row.Name == entry.Name) {
             return (this->*row.Command)(entry);
@@ -113,9 +127,8 @@ void FormCommands::ToggleAutoStart(const FormEntry&) {
     } else if (state.AutoStarts) {
         TellUnless(mduLib::RemoveFromRunKey(settings, RunName(data_)));
     } else {
-        const QString program = program_.Module.Paths.AppFolder + u"/Tempolark.exe"_s;
-        TellUnless(mduLib::AddToRunKey(settings, RunName(data_),
-                                       mduLib::ToStoredPath(program) + u' ' + state.ZoneFile));
+        const QString program = mduLib::ToStoredPath(ClockProgram(program_.Module.Paths));
+        TellUnless(mduLib::AddToRunKey(settings, RunName(data_), program + u' ' + state.ZoneFile));
     }
 }
 

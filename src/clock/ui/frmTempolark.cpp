@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "clock/ClockMode.h"
+#include "clock/FormMenuState.h"
 #include "drawing/StockPictures.h"
 #include "drawing/TimerMarks.h"
 #include "foundation/NamedValues.h"
@@ -78,8 +79,8 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
                   spoken_}),
       timersOnDial_(data_, program,
                     {*this, controls_, canvas_, host_, calculator_, timers_, actions_, partMenus_}),
-      menus_({*this, controls_, canvas_, settings_, messages_, actions_, voice_, spoken_, popup_,
-              commands_, keys_, partMenus_}),
+      menus_({*this, controls_, canvas_, messages_, actions_, voice_, spoken_, popup_, commands_,
+              keys_, partMenus_}),
       partDrag_(data_, {controls_, canvas_, face_, dial_, digital_, background_, overlays_, timers_,
                         settings_}),
       drag_(*this, area, placement_, data_, controls_, partDrag_),
@@ -249,7 +250,7 @@ void frmTempolark::SetFocus() {
 }
 
 QString frmTempolark::AppEXEName() const {
-    return program_.Module.Paths.AppFolder + u"/Tempolark.exe"_s;
+    return clockcore::ClockProgram(program_.Module.Paths);
 }
 
 QString frmTempolark::GetLocation() const {
@@ -262,6 +263,23 @@ void frmTempolark::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
 
 void frmTempolark::SetClocks(int mode) {
     look_.SetClocks(clockcore::NumberedClockKind(mode));
+}
+
+// A style that is only highlighted in the open menu is not the clock's look.
+
+void frmTempolark::SaveCurrentStyle() {
+    popup_.EndPreview();
+    look_.SaveCurrentStyle();
+}
+
+void frmTempolark::SaveStyleAs() {
+    popup_.EndPreview();
+    dialogs_.SaveStyleAs();
+}
+
+void frmTempolark::SetProperty() {
+    popup_.EndPreview();
+    look_.SetProperty();
 }
 
 void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
