@@ -40,6 +40,7 @@ bool MessageLine::event(QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
             typing_.FinishMessage();
+            event->accept();
             return true;
         }
     }
