@@ -59,7 +59,8 @@ private:
 /// Working values of the face and the tick.
 struct DialState {
     int StyleIndex = 0;
-    /// The name of the style that was put on the clock last, without its extension; empty for none.
+    /// The name of the style that was put on the clock last, without its extension; empty for none
+    /// and for one that is not in the folder of styles.
     QString LastStyle = {};
 };
 

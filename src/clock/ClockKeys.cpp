@@ -28,6 +28,10 @@ int Number(ZoneOnClock::Take what) {
     return static_cast<int>(what);
 }
 
+bool IsCtrl(char letter, int code, int shift) {
+    return code == letter && mduUILib::ModifierName(shift) == u"Ctrl"_s;
+}
+
 /// The choice behind the present value, round and round; empty where there is no choice.
 QString NextChoice(const QString& present, QStringList choices) {
     choices.removeIf(mduUILib::IsCustomColour);
@@ -74,9 +78,9 @@ bool ClockKeys::ClockKeyDown(int code, int shift) {
         return false;
     }
     const QString action = mduUILib::MatchShortcut(program_.Module.ShortcutList, code, shift);
-    if (!parts_.Window.IsEnabled() && action != u"Disable"_s) {
-        const bool enables = code == 'E' && mduUILib::ModifierName(shift) == u"Ctrl"_s;
-        return enables && RunOwnKey(code, shift);
+    if (!parts_.Window.IsEnabled()) {
+        const bool isOwn = code == F1 || IsCtrl('E', code, shift);
+        return isOwn ? RunOwnKey(code, shift) : action == u"Disable"_s && RunAction(action);
     }
     return RunOwnKey(code, shift) || RunAction(action);
 }
@@ -123,9 +127,10 @@ void ClockKeys::Enable() {
     }
 }
 
+// A window that is maximised or minimised has no size of its own.
 void ClockKeys::TakeSizeOfPicture() {
     const std::shared_ptr<const QImage> picture = controls_.imgClock(1).Picture;
-    if (picture && !picture->isNull()) {
+    if (picture && !picture->isNull() && parts_.Placement.WindowState() == 0) {
         parts_.Placement.SetOuterSize(
             {PictureUnits(picture->width()), PictureUnits(picture->height())});
     }
@@ -147,7 +152,7 @@ void ClockKeys::TakeNextChoice(const QString& name, int) {
 }
 
 void ClockKeys::TakeNextStyle(const QString&, int) {
-    parts_.Look.ApplyNextStyle();
+    parts_.Look.ApplyStyleBehindLast();
 }
 
 void ClockKeys::SetWindowState(const QString&, int state) {

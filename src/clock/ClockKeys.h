@@ -18,7 +18,7 @@ int KeyCodeOf(int key);
 /// | F1 | help |
 /// | Ctrl+E | enables the clock |
 /// | Ctrl+W | the window takes its normal size |
-/// | Ctrl+R | the window takes the size of the clock's picture |
+/// | Ctrl+R | the window, in its normal state, takes the size of the clock's picture |
 ///
 /// Commands that change the look do so in memory, as the menu does; "Save Current Style" keeps it.
 class ClockKeys {
@@ -36,7 +36,7 @@ public:
               const Parts& parts)
         : data_(data), controls_(controls), program_(program), parts_(parts) {}
 
-    /// A key goes down. A clock that is disabled listens to Ctrl+E and to the key of "Disable"
+    /// A key goes down. A clock that is disabled listens to Ctrl+E, F1 and the key of "Disable"
     /// only.
     /// @param code as `KeyCodeOf` tells it
     /// @param shift bits of `mduUILib::KeyShift`

@@ -87,7 +87,7 @@ void ClockLook::ApplyClockStyle(const QString& styleFile) {
     // Without a style the steps below apply what the clock has.
     if (style) {
         data_.EditProperties() = *style;
-        data_.Dial.LastStyle = mduLib::FileBaseName(styleFile, false);
+        data_.Dial.LastStyle = styles_.NameInFolder(styleFile);
     }
     SetProperty();
     if (parts_.Placement.IsShown() && data_.State.HasBegun()) {
@@ -109,6 +109,14 @@ void ClockLook::ApplyNextStyle() {
     int& index = data_.Dial.StyleIndex;
     index = index + 1 >= names.size() ? 0 : index + 1;
     ApplyClockStyle(program_.Module.Paths.StylesFolder + names[index]);
+}
+
+void ClockLook::ApplyStyleBehindLast() {
+    const QStringList names = styles_.Names();
+    const qsizetype next = names.indexOf(data_.Dial.LastStyle + u".ini"_s) + 1;
+    if (!names.isEmpty()) {
+        ApplyClockStyle(program_.Module.Paths.StylesFolder + names[next % names.size()]);
+    }
 }
 
 void ClockLook::RecordProgramFolder() {

@@ -72,6 +72,9 @@ public:
     /// Goes on to the next style of the folder, and from the last to the first. Nothing in a folder
     /// without styles.
     void ApplyNextStyle() override;
+    /// The same behind the style that is on the clock, without the count of `ApplyNextStyle`; the
+    /// first style where none of the folder is on it.
+    void ApplyStyleBehindLast();
     void RecordProgramFolder() override;
     /// Takes `CurrentProperties` as the clock's own and applies them all. @p fileName becomes the
     /// current file, unless it is empty.

@@ -1,8 +1,10 @@
 #include "clock/FormCommands.h"
 
 #include "clock/FormMenuState.h"
+#include "clock/HiddenParts.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/NamedValues.h"
+#include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SystemSettings.h"
 #include "platform/Dialogs.h"
@@ -39,9 +41,24 @@ const FormCommands::Row FormCommands::Rows[] = {
     {u"SaveStyle", &FormCommands::Save},
     {u"SaveStyleAs", &FormCommands::SaveAs},
     {u"PropertyMenu", &FormCommands::Properties},
+    {u"HiddenPart", &FormCommands::ShowHiddenPart},
 };
 
+// A menu may be open while its clock is closed by other means.
+bool FormCommands::IsOpen() const {
+    return data_.State != ClockState::Closing;
+}
+
+void FormCommands::SetEnabled(bool enabled) {
+    if (IsOpen()) {
+        parts_.Settings.SetEnabled(enabled);
+    }
+}
+
 void FormCommands::Run(const FormEntry& entry) {
+    if (!IsOpen()) {
+        return;
+    }
     for (const Row& row : Rows) {
         if (row.Name == entry.Name) {
             return (this->*row.Command)(entry);
@@ -110,9 +127,8 @@ void FormCommands::ToggleAutoStart(const FormEntry&) {
     } else if (state.AutoStarts) {
         TellUnless(mduLib::RemoveFromRunKey(settings, RunName(data_)));
     } else {
-        const QString program = program_.Module.Paths.AppFolder + u"/Tempolark.exe"_s;
-        TellUnless(mduLib::AddToRunKey(settings, RunName(data_),
-                                       mduLib::ToStoredPath(program) + u' ' + state.ZoneFile));
+        const QString program = mduLib::ToStoredPath(ClockProgram(program_.Module.Paths));
+        TellUnless(mduLib::AddToRunKey(settings, RunName(data_), program + u' ' + state.ZoneFile));
     }
 }
 
@@ -124,6 +140,15 @@ void FormCommands::ChooseScreenSaver(const FormEntry& entry) {
 void FormCommands::TellUnless(bool kept) {
     if (!kept) {
         parts_.Screen.ShowStatus(u"The setting can't be saved"_s);
+    }
+}
+
+void FormCommands::ShowHiddenPart(const FormEntry& entry) {
+    ClockProperties defaults;
+    mduLib::ReadPropertyFile(program_.Services.FileSystem, program_.Module.Paths.ZoneDefaultFile(),
+                             defaults);
+    for (const WayBack& way : WaysBack(entry.Caption, data_.Properties(), defaults)) {
+        parts_.Settings.Put({way.Key}, way.Value, way.What);
     }
 }
 

@@ -30,7 +30,7 @@ public:
     FormCommands(const ClockData& data, const Program& program, const Parts& parts)
         : data_(data), program_(program), parts_(parts) {}
 
-    /// A click on an entry; one of no known name does nothing.
+    /// A click on an entry; one of no known name does nothing, nor does any on a closing clock.
     void Run(const FormEntry& entry);
 
     /// The help of clocks, by the shell or, without one, at once.
@@ -42,8 +42,9 @@ public:
     void SetWindowState(int state);
     /// Maximises the window; one that is maximised or minimised comes back to its normal size.
     void ToggleMaximised() { SetWindowState(parts_.Placement.WindowState() == 0 ? 2 : 0); }
-    /// Enables the clock or disables it, now and at its next start, without a question.
-    void SetEnabled(bool enabled) { parts_.Settings.SetEnabled(enabled); }
+    /// Enables the clock or disables it, now and at its next start, without a question. A closing
+    /// clock stays as it is.
+    void SetEnabled(bool enabled);
     bool IsEnabled() const { return parts_.Window.IsEnabled(); }
     void SaveStyle() { parts_.Look.SaveCurrentStyle(); }
     void SaveStyleAs() { parts_.Dialogs.SaveStyleAs(); }
@@ -56,6 +57,7 @@ private:
     };
     static const Row Rows[];
 
+    bool IsOpen() const;
     void SetKind(const FormEntry& entry);
     void ChooseStyle(const FormEntry& entry);
     void ChooseWindowState(const FormEntry& entry) { SetWindowState(entry.Index - 1); }
@@ -77,6 +79,7 @@ private:
     void Save(const FormEntry&) { SaveStyle(); }
     void SaveAs(const FormEntry&) { SaveStyleAs(); }
     void Properties(const FormEntry&) { OpenWindow(ShellWindow::Properties); }
+    void ShowHiddenPart(const FormEntry& entry);
     void TellUnless(bool kept);
 
     const ClockData& data_;

@@ -25,6 +25,10 @@ QString EnableCaption(const State& state) {
     return state.Enabled ? u"Disable Clock"_s : u"Enable Clock"_s;
 }
 
+bool HasHiddenParts(const State& state) {
+    return !state.HiddenParts.isEmpty();
+}
+
 bool IsMaximised(const State& state) {
     return state.WindowState == 2;
 }
@@ -68,6 +72,10 @@ Members ScreenSaverTimes(const State& state) {
     return {state.ScreenSaverTimes, state.ScreenSaverTime};
 }
 
+Members Hidden(const State& state) {
+    return {state.HiddenParts, {}, false};
+}
+
 /// An entry of the menu. One with an array is a sub-menu; one without a name separates.
 struct Row {
     QStringView Name = {};
@@ -102,6 +110,7 @@ constexpr Row Rows[] = {
     {u"SaveStyle", u"Save Current Style"},
     {u"SaveStyleAs", u"Save Style As"},
     {u"PropertyMenu", u"Properties"},
+    {u"HiddenParts", u"Show Hidden Part", nullptr, HasHiddenParts, u"HiddenPart", Hidden},
 };
 
 std::vector<MenuNode> MakeMembers(const QString& array, const Members& members,

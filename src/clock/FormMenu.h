@@ -19,6 +19,7 @@ struct FormMenuState {
     QStringList Styles = {};  ///< likewise
     QStringList ScreenSaverTimes = {};
     QString ScreenSaverTime = {};  ///< the one that is set; empty for none
+    QStringList HiddenParts = {};  ///< that can be shown again
 };
 
 /// An entry of `FormPopup`, by which its command goes.

@@ -1,8 +1,11 @@
 #include "clock/FormMenuState.h"
 
+#include <QSet>
+
+#include "clock/ZoneOnClock.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/FileMenu.h"
-#include "foundation/NamedValues.h"
+#include "foundation/MenuLists.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SystemSettings.h"
 
@@ -24,17 +27,15 @@ bool AutoStarts(const Program& program, const ClockData& data, bool isMDIChild) 
     return !value.isEmpty() && value != u"0"_s;
 }
 
-// A window that is see-through holds a special number in the place of its colour.
-QString PresentColour(const ClockData& data) {
-    const QString text = mduLib::GetProperty(u"Window Background Colour"_s, data.Properties());
-    return mduUILib::ColourWord(text) == u"transparent"_s
-               ? mduUILib::ColourName(mduUILib::TransparentWindow)
-               : text;
-}
-
+// What only holds ".ini", such as a copy with another ending, and a file that has gone, could not
+// be chosen.
 QStringList Files(const Program& program, const QString& folder, const QString& current) {
-    return mduUILib::FillFileMenu(program.Services.FileSystem, folder, u".ini"_s, current,
-                                  MostFiles);
+    const platform::Files& files = program.Services.FileSystem;
+    const QStringList names = files.FileNames(folder);
+    const QSet<QString> there(names.begin(), names.end());
+    QStringList captions = mduUILib::FillFileMenu(files, folder, u".ini"_s, current, 0);
+    captions.removeIf([&](const QString& name) { return !there.contains(name + u".ini"_s); });
+    return captions.mid(0, MostFiles);
 }
 
 }  // namespace
@@ -43,22 +44,28 @@ QString RunName(const ClockData& data) {
     return u"Tempolark "_s + mduLib::FileBaseName(data.PropertyFileName, false);
 }
 
+QString ClockProgram(const PathTable& paths) {
+    return paths.AppFolder + u"/Tempolark.exe"_s;
+}
+
 FormMenuState ReadFormMenuState(const Program& program, const ClockData& data,
                                 const FormWindowFacts& window) {
     const PathTable& paths = program.Module.Paths;
     const platform::SettingsStore& settings = program.Services.Settings;
     const QString file = mduLib::FileBaseName(data.PropertyFileName, false);
-    const QString zone = data.TakenZone.isEmpty() ? file : data.TakenZone;
     return {.ZoneFile = file,
             .AutoStarts = AutoStarts(program, data, window.IsMDIChild),
             .Enabled = window.IsEnabled,
-            .Colour = PresentColour(data),
+            .Colour = mduUILib::ColourCaption(
+                mduLib::GetProperty(u"Window Background Colour"_s, data.Properties()),
+                program.Services.Random),
             .WindowState = window.WindowState,
             .Kind = data.IsCalculator() ? ClockKind::Calculator : data.Tag.Kind,
-            .Zones = Files(program, paths.ZoneFileFolder, zone),
+            .Zones = Files(program, paths.ZoneFileFolder, PresentZone(data)),
             .Styles = Files(program, paths.StylesFolder, data.Dial.LastStyle),
             .ScreenSaverTimes = mduLib::ScreenSaverTimes(settings, paths.AppEXEName()),
-            .ScreenSaverTime = mduLib::ScreenSaverTimeOut(settings)};
+            .ScreenSaverTime = mduLib::ScreenSaverTimeOut(settings),
+            .HiddenParts = HiddenParts(data, window.Showable)};
 }
 
 }  // namespace clockcore

@@ -209,7 +209,10 @@ QString PartMenus::Present(const PartMenuRow& row) const {
     if (row.Redraws == Redraw::ActionMessage) {
         return mduUILib::ColourName(parts_.Controls.lblActionMsg(1).ForeColor);
     }
-    return mduLib::GetProperty(row.Key.toString(), data_.Properties());
+    const QString value = mduLib::GetProperty(row.Key.toString(), data_.Properties());
+    return row.Source == MenuSource::AnyColour
+               ? mduUILib::ColourCaption(value, program_.Services.Random)
+               : value;
 }
 
 int PartMenus::MinutesLeft() const {

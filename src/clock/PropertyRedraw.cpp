@@ -29,6 +29,10 @@ void PropertyRedraw::Apply(Redraw what, const QString& value) {
             }
             break;
         case Redraw::Location:
+            // A name that was hidden is laid out by the face alone.
+            parts_.Overlays.LayOutOverlays();
+            parts_.Face.DrawClockFace();
+            break;
         case Redraw::Flag:
             parts_.Overlays.LayOutOverlays();
             break;

@@ -1,5 +1,7 @@
 #include "clock/StyleFiles.h"
 
+#include <QDir>
+
 #include "clock/ClockFiles.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/PropertyFile.h"
@@ -13,6 +15,8 @@ using namespace Qt::StringLiterals;
 namespace clockcore {
 
 namespace {
+
+constexpr auto Extension = ".ini"_L1;
 
 /// Whether a file has anything of a clock's look in it: a text that has not would leave every
 /// value of the clock at 0.
@@ -90,10 +94,18 @@ bool StyleFiles::Write(const QString& path, ClockProperties look,
     return mduLib::WritePropertyFile(program_.Services.FileSystem, look, path);
 }
 
+QString StyleFiles::NameInFolder(const QString& styleFile) const {
+    const QString path = QDir::cleanPath(mduLib::ToNativePath(styleFile));
+    const QString name = mduLib::FileBaseName(path, false);
+    const QString own = program_.Module.Paths.StylesFolder + name + Extension;
+    return path == QDir::cleanPath(mduLib::ToNativePath(own)) ? name : QString();
+}
+
 QStringList StyleFiles::Names() const {
-    return mduLib::ListFolderFiles(program_.Services.FileSystem, program_.Module.Paths.StylesFolder,
-                                   u".ini"_s, u"@"_s)
-        .split(u'@', Qt::SkipEmptyParts);
+    const platform::Files& files = program_.Services.FileSystem;
+    QStringList names = files.FileNames(program_.Module.Paths.StylesFolder);
+    names.removeIf([](const QString& name) { return !name.endsWith(Extension); });
+    return names;
 }
 
 }  // namespace clockcore

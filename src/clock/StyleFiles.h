@@ -33,7 +33,10 @@ public:
     /// the window has its normal size. @return false when the file can't be written
     bool Write(const QString& path, ClockProperties look, const std::optional<QRectF>& twips) const;
 
-    /// The names of the style files, in directory order.
+    /// The name of a style by its full path, without ".ini"; empty for one that is not in the
+    /// folder of styles, or that has another extension.
+    QString NameInFolder(const QString& styleFile) const;
+    /// The names of the style files with ".ini", in directory order.
     QStringList Names() const;
 
 private:

@@ -34,7 +34,17 @@ bool BeginsAsOneOf(const QString& name, const Names& names) {
 
 }  // namespace
 
+// To apply a look ends a typing, and makes a wrapper a clock.
+bool StylePreview::IsPossible() const {
+    const bool isTyped =
+        data_.Is(ClockKind::CalculatorInput) || data_.Is(ClockKind::CalculatorMessage);
+    return data_.State != ClockState::Closing && !data_.Tag.IsWrapper && !isTyped;
+}
+
 void StylePreview::Show(const QString& style) {
+    if (!IsPossible()) {
+        return;
+    }
     QString problem;
     const std::optional<ClockProperties> look =
         styles_.Peek(program_.Module.Paths.StylesFolder + style + u".ini"_s, problem);

@@ -24,13 +24,15 @@ public:
 
     /// Shows the style of that name in the folder of styles, in the place of one that is shown
     /// already. A file that is gone or is no style is told in the status bar; the clock then has
-    /// its own look.
+    /// its own look. A wrapper, a calculator that is typed into and a clock that is closing show
+    /// none.
     void Show(const QString& style);
     /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
     /// else has changed meanwhile stays.
     void End();
 
 private:
+    bool IsPossible() const;
     /// A key that has another value for now; both are raw values, with their choices.
     struct Tried {
         QString Name;

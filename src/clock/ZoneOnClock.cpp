@@ -10,21 +10,38 @@ using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
-QString ZoneOnClock::PresentZone() const {
-    return data_.TakenZone.isEmpty() ? mduLib::FileBaseName(data_.PropertyFileName, false)
-                                     : data_.TakenZone;
+QString PresentZone(const ClockData& data) {
+    return data.TakenZone.isEmpty() ? mduLib::FileBaseName(data.PropertyFileName, false)
+                                    : data.TakenZone;
+}
+
+QString ZoneOnClock::PathOf(const QString& name) const {
+    return program_.Module.Paths.ZoneFileFolder + name + u".ini"_s;
+}
+
+std::optional<ClockProperties> ZoneOnClock::ReadZone(const QString& name) const {
+    const platform::Files& files = program_.Services.FileSystem;
+    ClockProperties set;
+    const bool isRead = mduLib::MayRewrite(files, PathOf(name)) &&
+                        mduLib::ReadPropertyFile(files, PathOf(name), set);
+    return isRead ? std::optional(std::move(set)) : std::nullopt;
+}
+
+void ZoneOnClock::TellUnreadable(const QString& name) {
+    screen_.ShowStatus(PathOf(name) + u" can't be read as a property file"_s);
 }
 
 void ZoneOnClock::TakeZone(const QString& name, Take what) {
+    if (std::optional<ClockProperties> set = ReadZone(name)) {
+        Put(name, std::move(*set), what);
+    } else {
+        TellUnreadable(name);
+    }
+}
+
+void ZoneOnClock::Put(const QString& name, ClockProperties set, Take what) {
     const platform::Services& services = program_.Services;
     const PathTable& paths = program_.Module.Paths;
-    const QString path = paths.ZoneFileFolder + name + u".ini"_s;
-    ClockProperties set;
-    if (!mduLib::MayRewrite(services.FileSystem, path) ||
-        !mduLib::ReadPropertyFile(services.FileSystem, path, set)) {
-        screen_.ShowStatus(path + u" can't be read as a property file"_s);
-        return;
-    }
     if (mduTimeZones::IsOfAnotherYear(set, services.Clock.Now().date())) {
         mduTimeZones::PutZoneKeys(services, paths, set, name);
     }
@@ -55,8 +72,15 @@ void ZoneOnClock::TakeNextZone(Take what) {
             names += mduLib::FileBaseName(file, false);
         }
     }
+    const qsizetype next = names.indexOf(PresentZone(data_)) + 1;
+    for (qsizetype step = 0; step < names.size(); ++step) {
+        const QString& name = names[(next + step) % names.size()];
+        if (std::optional<ClockProperties> set = ReadZone(name)) {
+            return Put(name, std::move(*set), what);
+        }
+    }
     if (!names.isEmpty()) {
-        TakeZone(names[(names.indexOf(PresentZone()) + 1) % names.size()], what);
+        TellUnreadable(names[next % names.size()]);
     }
 }
 

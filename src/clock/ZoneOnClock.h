@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "clock/ClockData.h"
 #include "clock/ClockLook.h"
 #include "foundation/Program.h"
@@ -18,16 +20,24 @@ public:
     /// @param name of a file in the folder of zone files, without its extension. One that can't be
     /// read is told in the status bar, and nothing changes.
     void TakeZone(const QString& name, Take what);
-    /// Goes on to the next zone's file, in directory order, and from the last to the first.
+    /// Goes on to the next zone's file, in directory order, and from the last to the first. Files
+    /// that can't be read are passed over; where none can be, the next one is told.
     void TakeNextZone(Take what);
-    /// The base name of the file whose zone the clock shows.
-    QString PresentZone() const;
 
 private:
+    QString PathOf(const QString& name) const;
+    /// Nothing for a file that can't be read.
+    std::optional<ClockProperties> ReadZone(const QString& name) const;
+    void Put(const QString& name, ClockProperties set, Take what);
+    void TellUnreadable(const QString& name);
+
     ClockData& data_;
     Program program_;
     ClockScreen& screen_;
     ClockLook& look_;
 };
+
+/// The base name of the file whose zone a clock shows.
+QString PresentZone(const ClockData& data);
 
 }  // namespace clockcore

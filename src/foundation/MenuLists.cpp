@@ -1,6 +1,7 @@
 #include "foundation/MenuLists.h"
 
 #include "foundation/NamedValues.h"
+#include "foundation/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,16 @@ QStringList FillMenuFromList(const QString& list) {
         }
     }
     return captions;
+}
+
+QString ColourCaption(const QString& value, platform::RandomNumbers& random) {
+    const QStringList named = MenuColours() + QStringList{u"Transparent"_s, u"Random"_s};
+    for (const QString& name : named) {
+        if (ColourWord(value) == ColourWord(name)) {
+            return name;
+        }
+    }
+    return mduAPILib::IsNumeric(value) ? ColourName(ColourValue(value, random)) : value;
 }
 
 QStringList FillColourMenu() {

@@ -2,6 +2,10 @@
 
 #include <QStringList>
 
+namespace platform {
+class RandomNumbers;
+}
+
 /// The captions of menus that offer the values of something, and which of them is ticked.
 namespace mduUILib {
 
@@ -16,6 +20,16 @@ bool CheckMenuItem(const QString& caption, const QString& value);
 /// around them. Empty parts give no entry, and an empty list gives no captions.
 /// @param list choices such as `mduLib::GetPropertyChoices` tells: "10, 20,30" gives three captions
 QStringList FillMenuFromList(const QString& list);
+
+/// The caption under which menus of colours have a value: its name in their letter case, also where
+/// it is held as a number. Any other value is its own.
+///
+///     ColourCaption(u"255"_s, random)      // "Red"
+///     ColourCaption(u"random "_s, random)  // "Random"
+///     ColourCaption(u"4711"_s, random)     // "4711"
+///
+/// @param random what `ColourValue` needs; it is asked for nothing
+QString ColourCaption(const QString& value, platform::RandomNumbers& random);
 
 /// The captions of a menu of colours, from "Black" to "Yellow" in the order of the alphabet.
 QStringList FillColourMenu();

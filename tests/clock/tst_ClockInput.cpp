@@ -221,6 +221,18 @@ private Q_SLOTS:
         desk.Menu({5, 5});
         QCOMPARE(desk.Clicks.Log, QStringList{u"disabled at 105,105"_s});
     }
+
+    void ADisabledClockTypesNothing() {
+        InputDesk desk;
+        desk.Form.setEnabled(false);
+        desk.Data.Tag = {ClockKind::Calculator, false};
+        QVERIFY(!desk.Key(Qt::Key_Tab, u"\t"_s));
+        QVERIFY(desk.Data.Is(ClockKind::Calculator));
+        desk.Data.Tag = {ClockKind::CalculatorInput, false};
+        QVERIFY(!desk.Key(Qt::Key_5, u"5"_s));
+        QCOMPARE(desk.Calculator.Log, QStringList());
+        QCOMPARE(desk.Clicks.Log, QStringList({u"key 0 0"_s, u"key 53 0"_s}));
+    }
 };
 
 QTEST_MAIN(tst_ClockInput)

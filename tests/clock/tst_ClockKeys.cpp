@@ -51,7 +51,8 @@ private Q_SLOTS:
         desk.Parts.TheWindow.Enabled = false;
         QVERIFY(!desk.Keys.ClockKeyDown('E', 0));
         QVERIFY(!desk.Keys.ClockKeyDown('W', Ctrl));
-        QVERIFY(!desk.Keys.ClockKeyDown(112, 0));
+        QVERIFY(desk.Keys.ClockKeyDown(112, 0));
+        QCOMPARE(desk.Shell.Take(), QStringList(u"clock help"_s));
         QVERIFY(!desk.Parts.TheWindow.Enabled);
         QVERIFY(desk.Keys.ClockKeyDown('E', Ctrl));
         QVERIFY(desk.Parts.TheWindow.Enabled);
@@ -81,6 +82,11 @@ private Q_SLOTS:
             std::make_shared<const QImage>(192, 96, QImage::Format_RGB32);
         QVERIFY(desk.Keys.ClockKeyDown('R', Ctrl));
         QCOMPARE(desk.Calls(), u"size 5080 x 2540"_s);
+        for (const int state : {1, 2}) {
+            desk.Parts.ThePlacement.State = state;
+            QVERIFY(desk.Keys.ClockKeyDown('R', Ctrl));
+            QCOMPARE(desk.Calls(), QString());
+        }
     }
 
     void OtherKeysAreLookedUp() {

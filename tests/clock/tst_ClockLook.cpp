@@ -192,10 +192,32 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList{second, first, second}));
     }
 
+    void TheStyleBehindTheLast() {
+        LookDesk desk;
+        desk.Module.Paths.StylesFolder = desk.Machine.AppFolder() + u"/Styles/"_s;
+        for (const QString& colour : {u"Cyan"_s, u"Magenta"_s, u"Yellow"_s}) {
+            desk.WriteStyle(colour + u".ini"_s, u"Hour Hand Colour"_s, colour);
+        }
+        QStringList names = desk.Styles.Names();
+        names.replaceInStrings(u".ini"_s, QString());
+        desk.Look.ApplyStyleBehindLast();  // none is on it
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), names[0]);
+        desk.Look.ApplyClockStyle(desk.Module.Paths.StylesFolder + names[1] + u".ini"_s);
+        desk.Look.ApplyStyleBehindLast();
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), names[2]);
+        desk.Look.ApplyStyleBehindLast();
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), names[0]);
+        desk.Look.ApplyNextStyle();  // counts for itself
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), names[1]);
+        desk.Look.ApplyStyleBehindLast();
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), names[2]);
+    }
+
     void WithoutStylesTheTickGoesOn() {
         LookDesk desk;
         desk.Module.Paths.StylesFolder = desk.Machine.AppFolder() + u"/none/"_s;
         desk.Look.ApplyNextStyle();
+        desk.Look.ApplyStyleBehindLast();
         QCOMPARE(desk.Calls(), QString());
     }
 

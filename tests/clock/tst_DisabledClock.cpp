@@ -26,6 +26,13 @@ class tst_DisabledClock : public QObject {
                           widget.mapTo(&desk.Base.Area, at));
     }
 
+    /// A key as the shell hands it on. @return whether it meant something
+    static bool Press(frmTempolark& clock, int key, Qt::KeyboardModifiers with = {}) {
+        QKeyEvent event(QEvent::KeyPress, key, with);
+        event.ignore();
+        return static_cast<QObject&>(clock).event(&event) && event.isAccepted();
+    }
+
 private Q_SLOTS:
     /// 150 of 255 parts grey 150, the rest what is there.
     void Veil() {
@@ -123,6 +130,53 @@ private Q_SLOTS:
         RightClick(desk, *clock, {4, 4});  // beside the dial and its spots
         QVERIFY(ClickedDesk::OpenMenu() != nullptr);
         QCOMPARE(ClickedDesk::OpenMenu()->objectName(), u"FormPopup"_s);
+    }
+
+    void TheMenuKeyOffersNothingElse_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("with");
+        QTest::newRow("menu key") << int(Qt::Key_Menu) << int(Qt::NoModifier);
+        QTest::newRow("Shift+F10") << int(Qt::Key_F10) << int(Qt::ShiftModifier);
+    }
+    void TheMenuKeyOffersNothingElse() {
+        QFETCH(int, key);
+        QFETCH(int, with);
+        ClickedDesk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->EnableWindow(false);
+        Press(*clock, key, Qt::KeyboardModifiers(with));
+        const QMenu* menu = ClickedDesk::OpenMenu();
+        QVERIFY(menu != nullptr);
+        QCOMPARE(menu->objectName(), u"DisabledMenu"_s);
+        ClickedDesk::Choose({u"Enable Clock"_s});
+        QVERIFY(clock->IsEnabled());
+    }
+
+    void OtherKeysDoNothing() {
+        ClickedDesk desk;
+        for (const auto* row : {"F2:Clocks", "Ctrl+M:Window Maximized", "Ctrl+D:Disable"}) {
+            const QStringList parts = QString::fromLatin1(row).split(u':');
+            mduLib::AppendProperty(u"Clock"_s, parts[1], parts[0], desk.Base.Module.ShortcutList);
+        }
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->SetClocks(3);
+        clock->EnableWindow(false);
+        for (const int key : {Qt::Key_Tab, Qt::Key_F2, Qt::Key_5}) {
+            QVERIFY(!Press(*clock, key));
+        }
+        QVERIFY(clock->Data().Is(clockcore::ClockKind::Calculator));
+        for (const int key : {Qt::Key_M, Qt::Key_W, Qt::Key_R}) {
+            QVERIFY(!Press(*clock, key, Qt::ControlModifier));
+        }
+        QCOMPARE(clock->WindowState(), 0);
+        QVERIFY(Press(*clock, Qt::Key_F1));
+        QCOMPARE(desk.Base.Shell.Helps, 1);
+        QVERIFY(!clock->IsEnabled());
+        QVERIFY(Press(*clock, Qt::Key_D, Qt::ControlModifier));
+        QVERIFY(clock->IsEnabled());
+        clock->EnableWindow(false);
+        QVERIFY(Press(*clock, Qt::Key_E, Qt::ControlModifier));
+        QVERIFY(clock->IsEnabled());
     }
 
     void EnabledWhileMinimised() {

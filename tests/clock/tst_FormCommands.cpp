@@ -30,6 +30,12 @@ private Q_SLOTS:
             desk.WriteStyle(u"Other.ini"_s, u"Hour Hand Colour"_s, u"Cyan"_s)};
         desk.Run(u"ClockStyles"_s, u"More"_s, 2, true);
         QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Cyan"_s);
+        QCOMPARE(desk.Data.Dial.LastStyle, u"Other"_s);
+        const QString away = desk.Machine.WriteFile(u"Away/Oak.ini"_s, "Clocks=Digital");
+        desk.Machine.Dialogs.FileAnswers = {away};
+        desk.Run(u"ClockStyles"_s, u"More"_s, 3, true);
+        QCOMPARE(desk.Value(u"Clocks"_s), u"Digital"_s);
+        QCOMPARE(desk.Data.Dial.LastStyle, QString());  // the menu could not give it back
     }
 
     void AStyleThatIsGoneChangesNothing() {
@@ -190,6 +196,23 @@ private Q_SLOTS:
         QCOMPARE(desk.Screen.Status, QStringList(u"The setting can't be saved"_s));
     }
 
+    void AHiddenPartIsShownAndSaved() {
+        FormDesk desk;
+        desk.Set(u"Minute Spot Style"_s, u"No Spots"_s);
+        desk.Set(u"Minute Spot Size"_s, u"0"_s);
+        desk.Set(u"Hour Hand Colour"_s, u"Cyan"_s);  // is tried out, and not saved along with it
+        desk.Calls();
+        desk.Run(u"HiddenPart"_s, u"Minute Spots"_s);
+        QCOMPARE(desk.InFile(u"Minute Spot Style"_s), u"Spot 60"_s);
+        QCOMPARE(desk.InFile(u"Minute Spot Size"_s), u"-1"_s);
+        QVERIFY(desk.InFile(u"Hour Hand Colour"_s) != u"Cyan"_s);
+        QVERIFY(desk.Calls().startsWith(u"DrawDialNumbers|DrawClockFace|SaveTimer"_s));
+        QCOMPARE(desk.Screen.Status.last(), u"Saved the settings of India at 12:00:00"_s);
+        desk.Screen.Status.clear();
+        desk.Run(u"HiddenPart"_s, u"Minute Spots"_s);  // has been shown meanwhile
+        QCOMPARE(desk.Screen.Status, QStringList());
+    }
+
     void AsksBeforeItDisables() {
         FormDesk desk;
         desk.Machine.Dialogs.BoxAnswers = {7, 6};
@@ -217,6 +240,18 @@ private Q_SLOTS:
         desk.Machine.Dialogs.FileAnswers = {path};
         desk.Run(u"SaveStyleAs"_s);
         QCOMPARE(desk.Stored(path + u".ini"_s, u"Hour Hand Colour"_s), u"Cyan"_s);
+    }
+
+    void AClosingClockDoesNothing() {
+        FormDesk desk;
+        desk.Data.State = clockcore::ClockState::Closing;
+        desk.Calls();
+        desk.Run(u"ClocksMenu"_s, u"Digital"_s, 2);
+        desk.Run(u"Close"_s);
+        desk.Commands.SetEnabled(false);
+        QCOMPARE(desk.Calls(), QString());
+        QVERIFY(desk.Data.Is(ClockKind::Analogue));
+        QCOMPARE(desk.InFile(u"Enable"_s), u"Yes"_s);
     }
 
     void AnUnknownEntryDoesNothing() {

@@ -128,6 +128,20 @@ private Q_SLOTS:
         QCOMPARE(Captions(*Find(menu, u"SelectCountry"_s)), QStringList(u"More"_s));
     }
 
+    void HiddenPartsStandLast() {
+        FormMenuState state = SomeState();
+        QVERIFY(Find(MakeFormMenu(state, {}), u"HiddenParts"_s) == nullptr);
+        state.HiddenParts = {u"Flag"_s, u"Zone Name"_s};
+        const MenuNode menu = MakeFormMenu(state, {});
+        const MenuNode& last = menu.Children.back();
+        QCOMPARE(last.Name, u"HiddenParts"_s);
+        QCOMPARE(last.Caption, u"Show Hidden Part"_s);
+        QCOMPARE(Captions(last), QStringList({u"Flag"_s, u"Zone Name"_s}));
+        QCOMPARE(last.Children[1].Name, u"HiddenPart"_s);
+        QVERIFY(last.Children[1].Ticked == MenuNode::Tick::None);
+        QCOMPARE(menu.Children[menu.Children.size() - 2].Name, u"PropertyMenu"_s);
+    }
+
     void TellsWhatAClickDoes() {
         FormMenuState state = SomeState();
         state.AutoStarts = true;

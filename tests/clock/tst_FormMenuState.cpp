@@ -51,7 +51,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("colour");
         QTest::newRow("a name") << u"Cyan"_s << u"Cyan"_s;
-        QTest::newRow("a number") << u"255"_s << u"255"_s;
+        QTest::newRow("a number") << u"255"_s << u"Red"_s;
+        QTest::newRow("a number without a name") << u"4711"_s << u"4711"_s;
+        QTest::newRow("another letter case") << u"cYAN"_s << u"Cyan"_s;
         QTest::newRow("transparent") << u"transparent"_s << u"Transparent"_s;
     }
     void Colours() {
@@ -108,6 +110,20 @@ private Q_SLOTS:
         QCOMPARE(desk.State().ZoneFile, u"UTC"_s);
     }
 
+    void WhatCantBeChosenIsLeftOut() {
+        StateDesk desk;
+        desk.Put(u"Styles/Oak.ini"_s, 1);
+        desk.Put(u"Styles/Oak.ini.bak"_s, 30);
+        for (int copy = 1; copy <= 10; ++copy) {
+            desk.Put(u"Styles/%1.ini~"_s.arg(copy), 20);
+            desk.Put(u"tester/TimeZones/%1.ini~"_s.arg(copy), 20);
+        }
+        QCOMPARE(desk.State().Styles, QStringList(u"Oak"_s));
+        QCOMPARE(desk.State().Zones, QStringList(u"UTC"_s));
+        desk.Data.Dial.LastStyle = u"Elm"_s;  // was deleted
+        QCOMPARE(desk.State().Styles, QStringList(u"Oak"_s));
+    }
+
     void FoldersMayBeEmptyGoneOrFull() {
         StateDesk desk;
         QCOMPARE(desk.State().Styles, QStringList());
@@ -119,6 +135,14 @@ private Q_SLOTS:
         QCOMPARE(desk.State().Styles.size(), 10);
         desk.Module.Paths.StylesFolder = u"/nowhere/"_s;
         QCOMPARE(desk.State().Styles, QStringList());
+    }
+
+    void TellsOfHiddenParts() {
+        StateDesk desk;
+        desk.Set(u"Speaker"_s, u"No"_s);
+        QCOMPARE(desk.State().HiddenParts, QStringList());
+        QCOMPARE(desk.State({.Showable = {.Speaker = true}}).HiddenParts,
+                 QStringList(u"Speaker"_s));
     }
 
     void TellsOfTheScreenSaver() {

@@ -117,6 +117,54 @@ private Q_SLOTS:
         QCOMPARE(Ground(*clock), own);
     }
 
+    void WhatIsOnlyHighlightedIsNotSaved() {
+        ClickedDesk desk;
+        Style(desk, u"Oak"_s, "Red");
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        const QRgb own = Ground(*clock);
+        QMenu* menu = Open(*clock);
+        EntryOf(*menu, u"Clock Style"_s, u"Oak"_s)->hover();
+        QCOMPARE(Ground(*clock), qRgb(255, 0, 0));
+        clock->SaveCurrentStyle();
+        QCOMPARE(desk.Base.Key(u"UTC"_s, u"Window Background Colour"_s), u"15397106"_s);
+        QCOMPARE(Ground(*clock), own);
+        EntryOf(*menu, u"Clock Style"_s, u"Oak"_s)->hover();
+        clock->SetProperty();
+        QCOMPARE(
+            mduLib::GetProperty(u"Window Background Colour"_s, desk.Base.Module.CurrentProperties),
+            u"15397106"_s);
+        EntryOf(*menu, u"Clock Style"_s, u"Oak"_s)->hover();
+        const QString path = desk.Base.Machine.AppFolder() + u"/Styles/Mine.ini"_s;
+        desk.Base.Machine.Dialogs.FileAnswers = {path};
+        clock->SaveStyleAs();
+        QVERIFY(desk.Base.Machine.ReadFile(u"Styles/Mine.ini"_s)
+                    .contains("Background Colour=15397106"));
+    }
+
+    /// A click may still come from a menu whose clock is about to go.
+    void AClosingClockDoesNothingMore() {
+        ClickedDesk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        QAction* digital = EntryOf(*Open(*clock), u"Clocks"_s, u"Digital"_s);
+        clock->Unload();
+        digital->trigger();
+        QVERIFY(clock->Data().Is(clockcore::ClockKind::Analogue));
+    }
+
+    void AClosingClockIsNotEnabled() {
+        ClickedDesk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        clock->EnableWindow(false);
+        QTest::mouseClick(desk.Base.Area.windowHandle(), Qt::RightButton, {},
+                          clock->mapTo(&desk.Base.Area, QPoint(60, 60)));
+        QAction* enable = ClickedDesk::OpenMenu()->actions().value(0);
+        desk.Base.Shell.Messages.clear();
+        clock->Unload();
+        enable->trigger();
+        QVERIFY(!clock->IsEnabled());
+        QCOMPARE(desk.Base.Shell.Messages, QStringList());
+    }
+
     /// What others do while the menu is open.
     void AClockClosesUnderItsMenu() {
         ClickedDesk desk;

@@ -151,14 +151,42 @@ private Q_SLOTS:
         QCOMPARE(desk.Timers.Timer(1).Message, QString(40'000, u'x') + u'y');
     }
 
-    void OnlyKeysOfTheWindowPassIt() {
+    void NoKeyPassesIt_data() {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("with");
+        const int ctrl = Qt::ControlModifier;
+        const int alt = Qt::AltModifier;
+        QTest::newRow("up") << Qt::Key_Up << int(Qt::NoModifier);
+        QTest::newRow("help") << Qt::Key_F1 << int(Qt::NoModifier);
+        QTest::newRow("normal size") << Qt::Key_W << ctrl;
+        QTest::newRow("Ctrl+Enter") << Qt::Key_Return << ctrl;
+        QTest::newRow("Ctrl+F2") << Qt::Key_F2 << ctrl;
+        QTest::newRow("Alt+K") << Qt::Key_K << alt;
+        QTest::newRow("Alt+Esc") << Qt::Key_Escape << alt;
+        QTest::newRow("Ctrl+Alt+D") << Qt::Key_D << (ctrl | alt);
+    }
+
+    void NoKeyPassesIt() {
+        QFETCH(Qt::Key, key);
+        QFETCH(int, with);
         BoxDesk desk;
         desk.Open();
-        QVERIFY(desk.TakesKey(Qt::Key_Up));
-        QVERIFY(desk.TakesKey(Qt::Key_F1));
-        QVERIFY(!desk.TakesKey(Qt::Key_W, Qt::ControlModifier));
-        QVERIFY(!desk.TakesKey(Qt::Key_Escape, Qt::AltModifier));
+        QVERIFY(desk.TakesKey(key, Qt::KeyboardModifiers(with)));
         QCOMPARE(desk.Keys.Slot(), 1);
+        QCOMPARE(desk.Line()->text(), u"Tea"_s);
+    }
+
+    void ItsOwnKeysWork() {
+        BoxDesk desk;
+        desk.Open();
+        QTest::keyClick(desk.Line(), Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(desk.Line()->selectedText(), u"Tea"_s);
+        QTest::keyClick(desk.Line(), Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(desk.Line(), Qt::Key_End);
+        QTest::keyClick(desk.Line(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(desk.Line()->text(), u"TeaTea"_s);
+        QTest::keyClick(desk.Line(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(desk.Line()->text(), u"Tea"_s);
     }
 
     void DeleteTakesALetterFirst() {

@@ -173,8 +173,9 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("ticked");
         QTest::newRow("a name") << u"Blue"_s << QStringList{u"Blue"_s};
         QTest::newRow("blanks around it") << u" Random "_s << QStringList{u"Random"_s};
-        QTest::newRow("another letter case") << u"blue"_s << QStringList();
-        QTest::newRow("its number") << u"16711680"_s << QStringList();
+        QTest::newRow("another letter case") << u"blue"_s << QStringList{u"Blue"_s};
+        QTest::newRow("its number") << u"16711680"_s << QStringList{u"Blue"_s};
+        QTest::newRow("without a name") << u"4711"_s << QStringList();
         QTest::newRow("nothing") << QString() << QStringList();
     }
 
@@ -182,8 +183,14 @@ private Q_SLOTS:
         QFETCH(QString, value);
         MenuDesk desk;
         desk.Set(u"Hour Hand Colour"_s, value);
+        desk.Set(u"Hour Number Colour"_s, value);
+        desk.Set(u"Digital Clock Colour"_s, value);
         const MenuNode menu = desk.Menu(ClockPart::Hands);
+        const MenuNode numbers = desk.Menu(ClockPart::HourNumber);
+        const MenuNode digits = desk.Menu(ClockPart::Digits);
         QTEST(MenuDesk::Ticked(MenuDesk::Find(menu, u"HourHandColours"_s)), "ticked");
+        QTEST(MenuDesk::Ticked(MenuDesk::Find(numbers, u"HourColour"_s)), "ticked");
+        QTEST(MenuDesk::Ticked(MenuDesk::Find(digits, u"FontColour"_s)), "ticked");
         QCOMPARE(MenuDesk::Ticked(MenuDesk::Find(menu, u"MinuteHandColours"_s)), QStringList());
     }
 

@@ -45,7 +45,7 @@ private Q_SLOTS:
         QTest::newRow("lines typed into")
             << Redraw::Calculator << ClockKind::CalculatorInput << u"ApplyCalculatorLook"_s;
         QTest::newRow("no lines") << Redraw::Calculator << both << QString();
-        QTest::newRow("location") << Redraw::Location << both << u"LayOutOverlays"_s;
+        QTest::newRow("location") << Redraw::Location << both << u"LayOutOverlays|DrawClockFace"_s;
         QTest::newRow("flag") << Redraw::Flag << both << u"LayOutOverlays"_s;
         QTest::newRow("speaker's place") << Redraw::SpeakerPlace << both << u"SetSpeakerPosition"_s;
         QTest::newRow("patterns") << Redraw::Speech << both << u"ReadPatterns"_s;

@@ -190,10 +190,21 @@ private Q_SLOTS:
         QCOMPARE(desk.Styles.Names(), QStringList());
         desk.Machine.WriteFile(u"Styles/One.ini"_s, "Clocks=Digital");
         desk.Machine.WriteFile(u"Styles/notes.txt"_s, "");
+        desk.Machine.WriteFile(u"Styles/One.ini.bak"_s, "Clocks=Digital");
         desk.Machine.WriteFile(u"Styles/Zwölf Uhr.ini"_s, "Clocks=Digital");
         QStringList names = desk.Styles.Names();
         names.sort();
         QCOMPARE(names, (QStringList{u"One.ini"_s, u"Zwölf Uhr.ini"_s}));
+    }
+
+    void TellsAStyleOfTheFolder() {
+        StyleDesk desk;
+        const QString folder = desk.Module.Paths.StylesFolder;
+        QCOMPARE(desk.Styles.NameInFolder(folder + u"One.ini"_s), u"One"_s);
+        QCOMPARE(desk.Styles.NameInFolder(folder + u"../Styles//One.ini"_s), u"One"_s);
+        QCOMPARE(desk.Styles.NameInFolder(u"/elsewhere/One.ini"_s), QString());
+        QCOMPARE(desk.Styles.NameInFolder(folder + u"Sub/One.ini"_s), QString());
+        QCOMPARE(desk.Styles.NameInFolder(folder + u"One.txt"_s), QString());
     }
 };
 

@@ -116,6 +116,28 @@ private Q_SLOTS:
         QCOMPARE(desk.Data.Dial.LastStyle, QString());
     }
 
+    void OthersThanPlainClocksShowNone_data() {
+        QTest::addColumn<clockcore::ClockKind>("kind");
+        QTest::addColumn<bool>("isWrapper");
+        QTest::newRow("a time is typed") << clockcore::ClockKind::CalculatorInput << false;
+        QTest::newRow("a message is typed") << clockcore::ClockKind::CalculatorMessage << false;
+        QTest::newRow("wrapper") << clockcore::ClockKind::Analogue << true;
+    }
+    void OthersThanPlainClocksShowNone() {
+        QFETCH(clockcore::ClockKind, kind);
+        QFETCH(bool, isWrapper);
+        PreviewDesk desk;
+        const clockcore::ClockTag tag{kind, isWrapper};
+        desk.Data.Tag = tag;
+        const ClockProperties before = desk.Data.Properties();
+        desk.Style(u"Oak"_s, {{u"Hour Hand Colour"_s, u"Red"_s}});
+        desk.Preview.Show(u"Oak"_s);
+        QCOMPARE(desk.Data.Properties(), before);
+        desk.Preview.End();
+        QVERIFY(desk.Data.Tag == tag);
+        QCOMPARE(desk.Calls(), QString());
+    }
+
     void AStyleThatIsGoneIsTold() {
         PreviewDesk desk;
         const ClockProperties before = desk.Data.Properties();
@@ -148,6 +170,7 @@ private Q_SLOTS:
         desk.Calls();
         desk.Data.State = clockcore::ClockState::Closing;
         desk.Preview.End();
+        desk.Preview.Show(u"Oak"_s);
         QCOMPARE(desk.Calls(), QString());
     }
 

@@ -5,6 +5,7 @@
 #include "clock/FormDesk.h"
 
 using namespace Qt::StringLiterals;
+using clockcore::PresentZone;
 using Take = clockcore::ZoneOnClock::Take;
 
 class tst_ZoneOnClock : public QObject {
@@ -22,7 +23,7 @@ private Q_SLOTS:
         QCOMPARE(desk.Value(u"Time Zone Standard GMT (Minutes)"_s), u"-540"_s);
         QCOMPARE(desk.Controls.lblLocation(1).Caption, u"Tokyo Standard Time"_s);
         QCOMPARE(desk.Value(u"Hour Hand Colour"_s), colour);
-        QCOMPARE(desk.Zone.PresentZone(), u"Tokyo Standard Time"_s);
+        QCOMPARE(PresentZone(desk.Data), u"Tokyo Standard Time"_s);
         QVERIFY(desk.Calls().contains(u"DrawClockFace"_s));
         QCOMPARE(desk.Screen.Status, QStringList(u"UTC shows the time of Tokyo Standard Time"_s));
         QCOMPARE(desk.Machine.ReadFile(u"tester/TimeZones/UTC.ini"_s), own);
@@ -61,7 +62,44 @@ private Q_SLOTS:
             u"/tester/TimeZones/Atlantis.ini can't be read as a property file"_s));
         QCOMPARE(desk.Calls(), QString());
         QCOMPARE(desk.Data.Properties(), before);
-        QCOMPARE(desk.Zone.PresentZone(), u"UTC"_s);
+        QCOMPARE(PresentZone(desk.Data), u"UTC"_s);
+    }
+
+    /// Two that can't be read stand before a third, wherever the folder has them.
+    void PassesOverWhatCantBeRead_data() {
+        QTest::addColumn<bool>("wholeSet");
+        QTest::newRow("zone only") << false;
+        QTest::newRow("with style") << true;
+    }
+    void PassesOverWhatCantBeRead() {
+        QFETCH(bool, wholeSet);
+        FormDesk desk;
+        desk.WriteZone(u"Tokyo Standard Time"_s, u"Hour Hand Colour"_s, u"Red"_s);
+        for (const QString& name : {u"A"_s, u"N"_s, u"Z"_s}) {
+            desk.Machine.WriteFile(u"tester/TimeZones/%1.ini"_s.arg(name), QByteArray("\0\1", 2));
+        }
+        QStringList zones;
+        for (int turn = 0; turn < 2; ++turn) {
+            desk.Zone.TakeNextZone(wholeSet ? Take::WholeSet : Take::ZoneOnly);
+            zones += PresentZone(desk.Data);
+        }
+        QCOMPARE(zones, QStringList({u"Tokyo Standard Time"_s, u"UTC"_s}));
+        QVERIFY(desk.Screen.Status.filter(u"can't be read"_s).isEmpty());
+    }
+
+    void NoneThatCanBeReadIsToldOnce() {
+        FormDesk desk;
+        for (const QString& name : {u"UTC"_s, u"A"_s}) {
+            desk.Machine.WriteFile(u"tester/TimeZones/%1.ini"_s.arg(name), QByteArray("\0\1", 2));
+        }
+        const ClockProperties before = desk.Data.Properties();
+        desk.Calls();
+        desk.Zone.TakeNextZone(Take::ZoneOnly);
+        QCOMPARE(desk.Screen.Status.size(), 1);
+        QVERIFY(desk.Screen.Status[0].endsWith(u"/A.ini can't be read as a property file"_s));
+        QCOMPARE(desk.Calls(), QString());
+        QCOMPARE(desk.Data.Properties(), before);
+        QCOMPARE(PresentZone(desk.Data), u"UTC"_s);
     }
 
     void GoesRound() {
@@ -72,7 +110,7 @@ private Q_SLOTS:
         QStringList zones;
         for (int turn = 0; turn < 4; ++turn) {
             desk.Zone.TakeNextZone(Take::ZoneOnly);
-            zones += desk.Zone.PresentZone();
+            zones += PresentZone(desk.Data);
         }
         QCOMPARE(zones[2], u"UTC"_s);
         QCOMPARE(zones[3], zones[0]);

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "foundation/MenuLists.h"
+#include "support/FakeRandom.h"
 
 using namespace Qt::StringLiterals;
 using mduUILib::CheckMenuItem;
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void FillsFromAList_data();
     void FillsFromAList();
     void OffersEightColours();
+    void NamesAColour_data();
+    void NamesAColour();
 };
 
 void tst_MenuLists::TicksTheSameText_data() {
@@ -37,6 +40,30 @@ void tst_MenuLists::TicksTheSameText() {
     QFETCH(QString, caption);
     QFETCH(QString, value);
     QTEST(CheckMenuItem(caption, value), "ticked");
+}
+
+void tst_MenuLists::NamesAColour_data() {
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("a name") << u"Cyan"_s << u"Cyan"_s;
+    QTest::newRow("another letter case") << u" cYAN "_s << u"Cyan"_s;
+    QTest::newRow("a number") << u"255"_s << u"Red"_s;
+    QTest::newRow("black") << u"0"_s << u"Black"_s;
+    QTest::newRow("in base 16") << u"&HFF0000"_s << u"Blue"_s;
+    QTest::newRow("white") << u"16777213"_s << u"White"_s;
+    QTest::newRow("the transparent key") << u"16777215"_s << u"White"_s;
+    QTest::newRow("a transparent window") << u"16777218"_s << u"Transparent"_s;
+    QTest::newRow("transparent") << u"transparent"_s << u"Transparent"_s;
+    QTest::newRow("random") << u"random"_s << u"Random"_s;
+    QTest::newRow("without a name") << u"4711"_s << u"4711"_s;
+    QTest::newRow("no colour") << u"Purple"_s << u"Purple"_s;
+    QTest::newRow("nothing") << u""_s << u""_s;
+}
+
+void tst_MenuLists::NamesAColour() {
+    QFETCH(QString, value);
+    FakeRandom random;
+    QTEST(mduUILib::ColourCaption(value, random), "caption");
 }
 
 void tst_MenuLists::FillsFromAList_data() {

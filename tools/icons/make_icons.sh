@@ -136,6 +136,8 @@ Entry Save "$(Box "$paper" "$ink" 6 6 36 36)" "$(Fill "$ink" 'M14 6H32V18H14Z')"
     "$(Stroke "$amber" 'M15 31H33')"
 Entry "Save As" "$(Box "$paper" "$ink" 6 6 36 36)" "$(Fill "$ink" 'M14 6H32V18H14Z')" \
     "$(Sign "$green" 'M24 26V38M18 32H30')"
+Entry Hidden "$(Fill "$paper" 'M4 24Q24 4 44 24Q24 44 4 24Z')" \
+    "$(Stroke "$ink" 'M4 24Q24 4 44 24Q24 44 4 24Z')" "$(Disc "$amber" "$amber" 24 24 4)"
 
 # The eye looks to the left, to the right, and blinks.
 Eye() { Frame "$folder/Shell/eye-$1.svg" 24 16 1.8; }

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 
 #include "clock/ClockKeys.h"
+#include "clock/ui/KeyEvents.h"
 #include "drawing/TitleEdit.h"
 #include "foundation/Shortcuts.h"
 
@@ -50,17 +51,6 @@ bool IsOnAction(const mduUILib::ClockControls& controls, const QPointF& point) {
            ControlAt(controls.lblActionMsg, point) != nullptr;
 }
 
-bool IsPlain(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
-    return others == Qt::NoModifier || others == Qt::ShiftModifier;
-}
-
-/// The menu key, and Shift+F10 in its place.
-bool IsMenuKey(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Menu ||
-           (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
-}
-
 /// The modifiers as the list of shortcuts counts them.
 int ShiftState(const QKeyEvent& event) {
     constexpr std::pair<Qt::KeyboardModifier, int> bits[] = {
@@ -77,6 +67,24 @@ int ShiftState(const QKeyEvent& event) {
 }  // namespace
 
 bool ClockInput::PressKey(const QKeyEvent& event) {
+    if (IsMenuKey(event)) {
+        ShowMenuInTheMiddle();
+        return true;
+    }
+    return (form_.isEnabled() && PressCalculatorKey(event)) ||
+           clicks_.PressKey(KeyCodeOf(event.key()), ShiftState(event));
+}
+
+void ClockInput::ShowMenuInTheMiddle() {
+    const QPoint middle = form_.mapToGlobal(form_.rect().center());
+    if (form_.isEnabled()) {
+        clicks_.ShowMenu({}, middle);
+    } else {
+        clicks_.ShowDisabledMenu(middle);
+    }
+}
+
+bool ClockInput::PressCalculatorKey(const QKeyEvent& event) {
     const int key = IsPlain(event) ? CalculatorKey(event) : 0;
     if (data_.Is(ClockKind::CalculatorInput) && key != 0) {
         if (!calculator_.EditCalculatorKey(key)) {
@@ -89,11 +97,7 @@ bool ClockInput::PressKey(const QKeyEvent& event) {
         calculator_.BeginInput();
         return true;
     }
-    if (IsMenuKey(event)) {
-        clicks_.ShowMenu({}, form_.mapToGlobal(form_.rect().center()));
-        return true;
-    }
-    return clicks_.PressKey(KeyCodeOf(event.key()), ShiftState(event));
+    return false;
 }
 
 QPointF ClockInput::SurfacePoint(const QPoint& position) const {

@@ -24,7 +24,7 @@ public:
 
     /// Tab on a calculator begins the typing of a time; from then on keys edit its lines, until one
     /// ends it (Esc). The menu key and Shift+F10 open the menu of the clock; all other keys are
-    /// those of `ClockKeys`.
+    /// those of `ClockKeys`. A disabled clock has its own menu and types nothing.
     bool PressKey(const QKeyEvent& event);
     /// Tab belongs to the calculator; elsewhere it moves the focus.
     bool TakesTab() const { return data_.IsCalculator(); }
@@ -38,6 +38,8 @@ public:
     void ShowMenu(const QContextMenuEvent& event);
 
 private:
+    void ShowMenuInTheMiddle();
+    bool PressCalculatorKey(const QKeyEvent& event);
     /// From logical pixels of the form to device pixels of the surface.
     QPointF SurfacePoint(const QPoint& position) const;
 

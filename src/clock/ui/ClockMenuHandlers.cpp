@@ -29,7 +29,7 @@ void ClockMenuHandlers::ClickAction() {
 void ClockMenuHandlers::ShowDisabledMenu(const QPoint& globalPosition) {
     const MenuNode enable{.Name = u"EnableActive"_s,
                           .Caption = u"Enable Clock"_s,
-                          .Choose = [this] { parts_.Settings.SetEnabled(true); }};
+                          .Choose = [this] { parts_.Commands.SetEnabled(true); }};
     MakeMenu(&parts_.Form, {.Name = u"DisabledMenu"_s, .Children = {enable}})
         ->popup(globalPosition);
 }

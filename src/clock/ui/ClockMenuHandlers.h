@@ -4,7 +4,6 @@
 
 #include "clock/ClockClicks.h"
 #include "clock/ClockKeys.h"
-#include "clock/MenuSettings.h"
 #include "clock/PartMenus.h"
 #include "clock/ui/FormPopup.h"
 #include "timers/ActionList.h"
@@ -20,7 +19,6 @@ public:
         QWidget& Form;  ///< the parent of the menus
         mduUILib::ClockControls& Controls;
         drawing::Canvas& Canvas;
-        MenuSettings& Settings;
         timers::ClockMessages& Messages;
         timers::ActionList& Actions;
         speech::SpeakerVoice& Voice;

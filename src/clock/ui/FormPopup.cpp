@@ -1,5 +1,7 @@
 #include "clock/ui/FormPopup.h"
 
+#include <algorithm>
+
 #include "clock/FormMenuState.h"
 #include "clock/MenuIcons.h"
 #include "clock/ui/MenuView.h"
@@ -13,13 +15,21 @@ MenuNode FormPopup::Fill() {
     const FormMenuState state = ReadFormMenuState(program_, data_,
                                                   {.IsMDIChild = parts_.Window.IsMDIChild(),
                                                    .IsEnabled = parts_.Window.IsEnabled(),
-                                                   .WindowState = parts_.Placement.WindowState()});
+                                                   .WindowState = parts_.Placement.WindowState(),
+                                                   .Showable = Showable()});
     MenuNode menu =
         MakeFormMenu(state, {[this](const FormEntry& entry) { parts_.Commands.Run(entry); },
                              [this](const QString& style) { preview_.Show(style); },
                              [this] { preview_.End(); }});
     SetMenuIcon(menu, program_);
     return menu;
+}
+
+ShowableParts FormPopup::Showable() const {
+    const auto& voices = parts_.Voice.VoiceMenu();
+    return {.Speaker = std::any_of(voices.begin(), voices.end(),
+                                   [](const speech::VoiceEntry& each) { return each.Index >= 0; }),
+            .Flag = controls_.imgFlag(1).Picture != nullptr};
 }
 
 void FormPopup::FormRightClick(const QPoint& globalPosition) {

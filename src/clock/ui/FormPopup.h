@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "clock/FormCommands.h"
+#include "clock/HiddenParts.h"
 #include "clock/StylePreview.h"
 
 namespace clockcore {
@@ -21,6 +22,7 @@ public:
         const StyleFiles& Styles;
         ClockLook& Look;
         FormCommands& Commands;
+        const speech::SpeakerVoice& Voice;
     };
 
     /// @param form the parent of the menu
@@ -38,12 +40,16 @@ public:
     /// Fills the menu and opens it at a point of the screen. The clock's file becomes the current
     /// one first. This does not wait for the menu.
     void FormRightClick(const QPoint& globalPosition);
+    /// Gives the clock its own look back, if it shows one that is highlighted: for those who keep
+    /// or tell its look meanwhile.
+    void EndPreview() { preview_.End(); }
     /// Shows the text of `lblClock`, its tag, where a point of the surface, in device pixels, lies
     /// on it.
     void RightClick(const QPointF& point) const;
 
 private:
     MenuNode Fill();
+    ShowableParts Showable() const;
 
     QWidget& form_;
     ClockData& data_;

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "clock/ui/KeyEvents.h"
+
 using namespace Qt::StringLiterals;
 
 namespace clockcore {
@@ -20,11 +22,6 @@ QColor ToColour(int colour) {
 QString StyleOf(const QColor& back) {
     return u"QLineEdit { background: %1; color: %2; border: 1px solid #808080; padding: 0 3px; }"_s
         .arg(back.name(), qGray(back.rgb()) > Bright ? u"black"_s : u"white"_s);
-}
-
-bool IsPlain(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
-    return others == Qt::NoModifier || others == Qt::ShiftModifier;
 }
 
 }  // namespace
@@ -44,6 +41,7 @@ bool MessageLine::event(QEvent* event) {
         if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
             event->accept();
             typing_.FinishMessage();
+            event->accept();
             return true;
         }
     }
@@ -59,9 +57,7 @@ void MessageLine::keyPressEvent(QKeyEvent* event) {
     } else if (!isPlain || event->key() != Qt::Key_Delete || !typing_.Delete()) {
         QLineEdit::keyPressEvent(event);
     }
-    if (isPlain) {
-        event->accept();
-    }
+    event->accept();
 }
 
 void MessageLine::focusOutEvent(QFocusEvent* event) {

@@ -10,8 +10,8 @@
 namespace clockcore {
 
 /// The line in which a timer's message is typed. Return and Tab finish it as a click beside it
-/// does; line ends that are pasted become blanks. What means nothing to a line of text is not
-/// passed on to the clock, except keys with Ctrl, Alt or Meta.
+/// does; line ends that are pasted become blanks. No key is passed on to the clock, whose shortcuts
+/// would end the typing: one that means nothing to a line of text does nothing.
 class MessageLine final : public QLineEdit {
 public:
     /// @param typing is told of the keys; it outlives the line

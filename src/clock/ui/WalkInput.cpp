@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "clock/ui/KeyEvents.h"
+
 namespace clockcore {
 
 namespace {
@@ -21,11 +23,6 @@ constexpr struct {
 
 bool IsArrow(int key) {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
-}
-
-bool IsMenuKey(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Menu ||
-           (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
 }
 
 void DrawRing(QPainter& painter, const QRectF& ring) {
@@ -84,17 +81,20 @@ bool WalkInput::Take(QEvent* event) {
 }
 
 bool WalkInput::PressKey(const QKeyEvent& event) {
+    if (!parts_.Form.isEnabled()) {
+        return false;
+    }
     if (IsMenuKey(event)) {
         return ShowMenu();
     }
-    const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
-    if (others != Qt::NoModifier && others != Qt::ShiftModifier) {
+    if (!IsPlain(event)) {
         return false;
     }
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) {
         return !parts_.Data.IsCalculator() && Step(event.key() == Qt::Key_Tab);
     }
-    return Focus() && others == Qt::NoModifier && PressWalkKey(event.key());
+    const bool withShift = (event.modifiers() & Qt::ShiftModifier) != 0;
+    return Focus() && !withShift && PressWalkKey(event.key());
 }
 
 bool WalkInput::PressWalkKey(int key) {

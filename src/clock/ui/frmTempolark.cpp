@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "clock/ClockMode.h"
+#include "clock/FormMenuState.h"
 #include "drawing/StockPictures.h"
 #include "drawing/TimerMarks.h"
 #include "foundation/NamedValues.h"
@@ -72,15 +73,15 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       commands_(data_, program,
                 {screen_, window_, placement_, files_, look_, dialogs_, settings_, zones_, voice_}),
       popup_(*this, data_, controls_, program,
-             {screen_, window_, placement_, files_, styles_, look_, commands_}),
+             {screen_, window_, placement_, files_, styles_, look_, commands_, voice_}),
       keys_(data_, controls_, program, {window_, placement_, look_, commands_, zones_}),
       partMenus_(data_, program,
                  {controls_, window_, placement_, canvas_, settings_, dialogs_, messages_, voice_,
                   spoken_}),
       timersOnDial_(data_, program,
                     {*this, controls_, canvas_, host_, calculator_, timers_, actions_, partMenus_}),
-      menus_({*this, controls_, canvas_, settings_, messages_, actions_, voice_, spoken_, popup_,
-              commands_, keys_, partMenus_}),
+      menus_({*this, controls_, canvas_, messages_, actions_, voice_, spoken_, popup_, commands_,
+              keys_, partMenus_}),
       partDrag_(data_, PartsToMove()),
       partNudge_(data_, PartsToMove()),
       drag_({*this, area, placement_, data_, controls_, partDrag_, partNudge_}),
@@ -266,7 +267,7 @@ void frmTempolark::SetFocus() {
 }
 
 QString frmTempolark::AppEXEName() const {
-    return program_.Module.Paths.AppFolder + u"/Tempolark.exe"_s;
+    return clockcore::ClockProgram(program_.Module.Paths);
 }
 
 QString frmTempolark::GetLocation() const {
@@ -279,6 +280,23 @@ void frmTempolark::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
 
 void frmTempolark::SetClocks(int mode) {
     look_.SetClocks(clockcore::NumberedClockKind(mode));
+}
+
+// A style that is only highlighted in the open menu is not the clock's look.
+
+void frmTempolark::SaveCurrentStyle() {
+    popup_.EndPreview();
+    look_.SaveCurrentStyle();
+}
+
+void frmTempolark::SaveStyleAs() {
+    popup_.EndPreview();
+    dialogs_.SaveStyleAs();
+}
+
+void frmTempolark::SetProperty() {
+    popup_.EndPreview();
+    look_.SetProperty();
 }
 
 void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {

@@ -98,11 +98,11 @@ public:
     void SetWindowBackColour(const QString& value, const QString& caption) override;
     /// Asks for a colour and makes it the window's.
     void PickWindowBackColour() { dialogs_.PickWindowBackColour(); }
-    void SaveCurrentStyle() override { look_.SaveCurrentStyle(); }
+    void SaveCurrentStyle() override;
     /// Asks for a name and writes the clock's look there, without its zone.
-    void SaveStyleAs() { dialogs_.SaveStyleAs(); }
+    void SaveStyleAs();
     /// Gives the clock's properties to the property window.
-    void SetProperty() { look_.SetProperty(); }
+    void SetProperty();
     void RefreshForm(const QString& fileName) override { look_.RefreshForm(fileName); }
     /// Paints the face anew, background and all.
     void Refresh() override;
