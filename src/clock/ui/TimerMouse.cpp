@@ -1,35 +1,14 @@
 #include "clock/ui/TimerMouse.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleHints>
 #include <QToolTip>
 #include <utility>
 
+#include "clock/Dragging.h"
+#include "clock/ui/DragEvents.h"
+
 namespace clockcore {
-
-namespace {
-
-int Threshold() {
-    return QGuiApplication::styleHints()->startDragDistance();
-}
-
-/// Events that take the window away from under a drag.
-bool EndsDrags(QEvent::Type type) {
-    switch (type) {
-        case QEvent::Resize:
-        case QEvent::Hide:
-        case QEvent::Close:
-        case QEvent::EnabledChange:
-        case QEvent::WindowDeactivate:
-            return true;
-        default:
-            return false;
-    }
-}
-
-}  // namespace
 
 TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
                        const mduUILib::ClockControls& controls, MarkDrag& marks, Commands commands)
@@ -83,7 +62,7 @@ bool TimerMouse::Move(const QMouseEvent& event) {
         TakeBack();  // the button was let go where nobody saw it
         return false;
     }
-    const double threshold = Threshold() * form_.devicePixelRatioF();
+    const double threshold = DragThreshold() * form_.devicePixelRatioF();
     if (const auto time = marks_.Move(SurfacePoint(event), threshold)) {
         QToolTip::showText(event.globalPosition().toPoint(), *time, &form_);
     }
@@ -103,7 +82,7 @@ bool TimerMouse::Release(const QMouseEvent& event) {
     const std::optional<QPointF> pressedAt = std::exchange(spotPressedAt_, std::nullopt);
     const ClockHit hit = HitAt(event);
     const bool isClick = pressedAt && hit.Part == ClockPart::Spot &&
-                         (event.position() - *pressedAt).manhattanLength() < Threshold();
+                         !IsDrag(*pressedAt, event.position(), DragThreshold());
     if (isClick) {
         commands_.ShowMenu(hit, event.globalPosition().toPoint());
     }
