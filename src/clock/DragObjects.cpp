@@ -66,10 +66,12 @@ DragObject DragObjectAt(const ClockControls& controls, const QPointF& point,
     if (ControlAt(controls.imgSpeaker, point) != nullptr) {
         return withControl ? DragObject::Speaker : DragObject::None;
     }
-    if (ControlAt(controls.shpArea, point) != nullptr) {
+    const ClockPart part = PartAt(controls, point).Part;
+    const bool takesPress = part == ClockPart::TimerMark || part == ClockPart::Action;
+    if (!takesPress && ControlAt(controls.shpArea, point) != nullptr) {
         return ground.HasTitleBar || withControl ? DragObject::Handle : DragObject::Window;
     }
-    switch (PartAt(controls, point).Part) {
+    switch (part) {
         case ClockPart::Flag:
             return DragObject::Flag;
         case ClockPart::Location:

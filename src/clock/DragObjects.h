@@ -41,7 +41,8 @@ DragGround ReadDragGround(const ClockData& data, const QSizeF& surface);
 /// and on the handle the handle, in a window with a title bar; in one without it is the window.
 /// With Ctrl all of the ground is the dial's, the handle comes itself, and so does the speaker,
 /// which otherwise takes a click. `None` for what answers a press itself: speaker, spots, numbers,
-/// timer marks, an action.
+/// timer marks, an action. Of these marks and an action do so over the handle, too; there spots and
+/// numbers are left their clicks, and the drag is the handle's.
 DragObject DragObjectAt(const mduUILib::ClockControls& controls, const QPointF& point,
                         const DragGround& ground, bool withControl);
 

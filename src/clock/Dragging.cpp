@@ -2,6 +2,10 @@
 
 namespace clockcore {
 
+bool IsDrag(const QPointF& from, const QPointF& to, double threshold) {
+    return (to - from).manhattanLength() >= threshold;
+}
+
 void Dragging::Press(DragObject object, const QPointF& pointer) {
     End();
     object_ = object;
@@ -13,7 +17,7 @@ bool Dragging::Move(const QPointF& pointer, double threshold) {
         return false;
     }
     pointer_ = pointer;
-    underWay_ = underWay_ || Way().manhattanLength() >= threshold;
+    underWay_ = underWay_ || IsDrag(pressed_, pointer_, threshold);
     return underWay_;
 }
 

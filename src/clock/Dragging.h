@@ -6,6 +6,14 @@
 
 namespace clockcore {
 
+/// Whether a pointer that was pressed at one point and has come to another drags what lies there,
+/// or the hand trembles and it is still a click. All of them in pixels of one kind.
+/// @param threshold what the ways across and down have to add up to
+///
+///     IsDrag({10, 10}, {13, 16}, 10);  // false, since 3 + 6 is less
+///     IsDrag({10, 10}, {14, 16}, 10);  // true
+bool IsDrag(const QPointF& from, const QPointF& to, double threshold);
+
 /// A drag from its press to its end: whether it is a drag at all, and how far it has come. It knows
 /// neither events nor windows; points may be of any kind, as long as it is the same one throughout.
 ///
@@ -18,7 +26,7 @@ public:
     /// Begins anew. A press on `DragObject::None` ends what there was.
     void Press(DragObject object, const QPointF& pointer);
     /// Takes the pointer along.
-    /// @param threshold how far from its press the pointer has to come first, both ways added
+    /// @param threshold how far from its press the pointer has to come first: see `IsDrag`
     /// @return whether the object moves
     bool Move(const QPointF& pointer, double threshold);
     void End() { *this = {}; }

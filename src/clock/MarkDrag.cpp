@@ -1,7 +1,6 @@
 #include "clock/MarkDrag.h"
 
-#include <cmath>
-
+#include "clock/Dragging.h"
 #include "drawing/TimerMarks.h"
 #include "timers/DialSpot.h"
 #include "timers/TimerFile.h"
@@ -22,8 +21,7 @@ std::optional<QString> MarkDrag::Move(const QPointF& at, double threshold) {
         Forget();
         return std::nullopt;
     }
-    const QPointF way = at - pressedAt_;
-    if (!IsDragging() && std::hypot(way.x(), way.y()) <= threshold) {
+    if (!IsDragging() && !IsDrag(pressedAt_, at, threshold)) {
         return std::nullopt;
     }
     time_ = TimeAt(at - held_);

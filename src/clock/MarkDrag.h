@@ -28,9 +28,9 @@ public:
     /// The left button goes down on the mark of a slot. A clock without a ring drags no marks.
     /// @param at of the pointer, in device pixels of the surface, as everywhere here
     void Press(int slot, const QPointF& at);
-    /// The pointer moves with the button held. Up to @p threshold device pixels from where it went
-    /// down, that is still a click. @return the time that the mark has come to, "3:15" as a dial
-    /// reads it; nothing where no mark is dragged
+    /// The pointer moves with the button held. Before it has gone @p threshold device pixels, as
+    /// `IsDrag` counts them, that is still a click. @return the time that the mark has come to,
+    /// "3:15" as a dial reads it; nothing where no mark is dragged
     std::optional<QString> Move(const QPointF& at, double threshold);
     /// The button goes up: a mark that was dragged gives its timer the time where it stands.
     /// @return false for a click

@@ -93,6 +93,28 @@ private Q_SLOTS:
         QCOMPARE(parts.At(250.5, 100), DragObject::None);
     }
 
+    /// The handle over one part after the other, each of 10 pixels.
+    void TheHandleOverAPart_data() {
+        QTest::addColumn<double>("left");
+        QTest::addColumn<DragObject>("object");
+        QTest::newRow("flag") << 120.0 << DragObject::Handle;
+        QTest::newRow("number") << 150.0 << DragObject::Handle;
+        QTest::newRow("spot") << 160.0 << DragObject::Handle;
+        QTest::newRow("mark") << 170.0 << DragObject::None;
+        QTest::newRow("action") << 180.0 << DragObject::None;
+        QTest::newRow("message") << 190.0 << DragObject::Handle;
+        QTest::newRow("disc") << 200.0 << DragObject::Handle;
+    }
+
+    void TheHandleOverAPart() {
+        QFETCH(double, left);
+        Parts parts;
+        parts.Controls.shpArea(1).Left = static_cast<float>(left);
+        QTEST(parts.At(left + 5, 102), "object");
+        parts.Ground.HasTitleBar = false;
+        QTEST(parts.At(left + 5, 102, true), "object");
+    }
+
     void WithoutADialThereIsNoDisc() {
         Parts parts;
         parts.Ground.HasDial = false;

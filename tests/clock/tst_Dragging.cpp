@@ -18,6 +18,15 @@ private Q_SLOTS:
         QVERIFY(!dragging.Move({5, 16}, 10));  // 5 + 4 to the other side
     }
 
+    void BothWaysCount() {
+        using clockcore::IsDrag;
+        QVERIFY(!IsDrag({10, 10}, {13, 16}, 10));
+        QVERIFY(IsDrag({10, 10}, {14, 16}, 10));
+        QVERIFY(IsDrag({10, 10}, {6, 4}, 10));
+        QVERIFY(IsDrag({10, 10}, {20, 10}, 10));
+        QVERIFY(!IsDrag({10, 10}, {10, 0.5}, 10));
+    }
+
     void FromTheThresholdOnItMoves() {
         Dragging dragging;
         dragging.Press(DragObject::Flag, {10, 20});

@@ -1,12 +1,11 @@
 #include "clock/ui/DragInput.h"
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleHints>
 
 #include "clock/ClockHit.h"
+#include "clock/ui/DragEvents.h"
 
 namespace clockcore {
 
@@ -19,21 +18,6 @@ const QEvent::Type FollowEvent = static_cast<QEvent::Type>(QEvent::registerEvent
 
 bool WithControl(const QMouseEvent& event) {
     return (event.modifiers() & Qt::ControlModifier) != 0;
-}
-
-/// Events that take the window away from under a drag.
-bool EndsDrags(QEvent::Type type) {
-    switch (type) {
-        case QEvent::Resize:
-        case QEvent::Hide:
-        case QEvent::Close:
-        case QEvent::EnabledChange:
-        case QEvent::WindowStateChange:
-        case QEvent::WindowDeactivate:
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace
@@ -152,7 +136,7 @@ void DragInput::MouseMoveObj(const mduUILib::Control& object, int button, int sh
 void DragInput::MoveTo(const QPointF& local, const QPointF& global) {
     const bool wasDrag = IsDragging();
     const QPointF& point = dragging_.Object() == DragObject::Window ? global : local;
-    if (!dragging_.Move(point, QGuiApplication::styleHints()->startDragDistance())) {
+    if (!dragging_.Move(point, DragThreshold())) {
         return;
     }
     if (!wasDrag) {

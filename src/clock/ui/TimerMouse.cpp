@@ -1,36 +1,14 @@
 #include "clock/ui/TimerMouse.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleHints>
 #include <QToolTip>
 #include <utility>
 
+#include "clock/Dragging.h"
+#include "clock/ui/DragEvents.h"
+
 namespace clockcore {
-
-namespace {
-
-int Threshold() {
-    return QGuiApplication::styleHints()->startDragDistance();
-}
-
-/// Events that take the window, or its keys, away from under a drag: a menu that pops up, too.
-bool EndsDrags(QEvent::Type type) {
-    switch (type) {
-        case QEvent::Resize:
-        case QEvent::Hide:
-        case QEvent::Close:
-        case QEvent::EnabledChange:
-        case QEvent::FocusOut:
-        case QEvent::WindowDeactivate:
-            return true;
-        default:
-            return false;
-    }
-}
-
-}  // namespace
 
 TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
                        const mduUILib::ClockControls& controls, MarkDrag& marks, Commands commands)
@@ -89,7 +67,7 @@ bool TimerMouse::Move(const QMouseEvent& event) {
         TakeBack();  // the button was let go where nobody saw it
         return false;
     }
-    const double threshold = Threshold() * form_.devicePixelRatioF();
+    const double threshold = DragThreshold() * form_.devicePixelRatioF();
     if (const auto time = marks_.Move(SurfacePoint(event), threshold)) {
         QToolTip::showText(event.globalPosition().toPoint(), *time, &form_);
     }
@@ -107,7 +85,7 @@ bool TimerMouse::Release(const QMouseEvent& event) {
         return true;
     }
     const std::optional<PressedSpot> pressed = std::exchange(pressedSpot_, std::nullopt);
-    if (pressed && (event.position() - pressed->At).manhattanLength() < Threshold()) {
+    if (pressed && !IsDrag(pressed->At, event.position(), DragThreshold())) {
         commands_.ShowMenu(pressed->Spot, event.globalPosition().toPoint());
     }
     return false;
