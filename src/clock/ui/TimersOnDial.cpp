@@ -11,7 +11,7 @@ TimersOnDial::TimersOnDial(ClockData& data, const Program& program, const Parts&
     : boxes_(parts.Form),
       typing_(data, {parts.Controls, parts.Timers, parts.Host, parts.Calculator, parts.Canvas,
                      program.Services.Clock, boxes_}),
-      dial_(data, {parts.Timers, typing_, parts.Canvas, parts.Host, program.Services.Clock}),
+      dial_(data, {parts.Timers, typing_, parts.Canvas, parts.Host}),
       dialogs_(parts.Form, program, dial_, parts.Actions),
       menus_(data, program, {dial_, dialogs_, parts.Actions}),
       drag_(data, {parts.Controls, parts.Timers, parts.Host, dial_, parts.Canvas}),
