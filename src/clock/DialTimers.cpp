@@ -1,9 +1,6 @@
 #include "clock/DialTimers.h"
 
 #include "timers/TimerFile.h"
-#include "timezones/ZoneArithmetic.h"
-
-using namespace Qt::StringLiterals;
 
 namespace clockcore {
 
@@ -39,7 +36,7 @@ void DialTimers::Change(const ChosenTimer& chosen,
         change(timer);
         parts_.Timers.ChangeTimer(chosen.Slot, timer);
         Save();
-        TellLoss(timer);
+        parts_.Typing.TellLoss(timer);
     }
 }
 
@@ -48,7 +45,7 @@ void DialTimers::ChangeText(const ChosenTimer& chosen, QString timers::ClockTime
     if (timers::CanBeKept(text)) {
         Change(chosen, [field, text](timers::ClockTimer& timer) { timer.*field = text; });
     } else if (IsThere(chosen)) {
-        parts_.Host.ShowStatus(text + u" has one of , # @ = in its name; no timer can keep it"_s);
+        parts_.Host.ShowStatus(timers::NotKept(text));
     }
 }
 
@@ -56,7 +53,7 @@ void DialTimers::ChangeTime(const ChosenTimer& chosen, const QString& time) {
     if (IsThere(chosen)) {
         parts_.Timers.PlaceTimerMark(chosen.Slot, time);
         Save();
-        TellLoss(parts_.Timers.Timer(chosen.Slot));
+        parts_.Typing.TellLoss(parts_.Timers.Timer(chosen.Slot));
     }
 }
 
@@ -71,15 +68,6 @@ void DialTimers::Remove(const ChosenTimer& chosen) {
 void DialTimers::Save() {
     parts_.Timers.SaveTimer(data_.TimerFile);
     parts_.Canvas.ShowChanges();
-}
-
-void DialTimers::TellLoss(const timers::ClockTimer& timer) {
-    const QDateTime clockTime = mduTimeZones::GetClockTime(data_.Zone, parts_.Clock.Now());
-    const QString line = timers::TimerLineText(timer, clockTime);
-    const QString lost = timers::WhatIsLost(timer, line, clockTime.date().year());
-    if (!lost.isEmpty()) {
-        parts_.Host.ShowStatus(lost);
-    }
 }
 
 }  // namespace clockcore

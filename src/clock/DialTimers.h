@@ -27,7 +27,6 @@ public:
         MessageTyping& Typing;
         drawing::Canvas& Canvas;
         timers::TimerHost& Host;
-        const platform::WallClock& Clock;
     };
 
     DialTimers(const ClockData& data, const Parts& parts) : data_(data), parts_(parts) {}
@@ -56,7 +55,6 @@ public:
 
 private:
     void Save();
-    void TellLoss(const timers::ClockTimer& timer);
 
     const ClockData& data_;
     Parts parts_;

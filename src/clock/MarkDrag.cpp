@@ -7,17 +7,33 @@
 
 namespace clockcore {
 
+namespace {
+
+constexpr int AnyYear = 2000;  // a time alone has none
+
+}  // namespace
+
 void MarkDrag::Press(int slot, const QPointF& at) {
     Forget();
     if (data_.Is(ClockKind::Analogue)) {
         chosen_ = parts_.Dial.Choose(slot);
         pressedAt_ = at;
-        held_ = at - parts_.Controls.imgTimer(slot).Rect().bottomRight();
+        held_ = at - CornerOf(slot);
     }
 }
 
+QPointF MarkDrag::CornerOf(int slot) const {
+    const auto time = timers::TimeOfText(chosen_.Timer.TimerTime, AnyYear);
+    if (!time) {
+        return parts_.Controls.imgTimer(slot).Rect().bottomRight();
+    }
+    const timers::DialSpot spot = timers::SpotOfTime(*time);
+    return drawing::TimerMarkPlace(parts_.Canvas.Surface(), data_.Properties(), true, spot.Spot,
+                                   spot.Place, QSizeF(0, 0));
+}
+
 std::optional<QString> MarkDrag::Move(const QPointF& at, double threshold) {
-    if (!parts_.Dial.IsThere(chosen_) || !data_.Is(ClockKind::Analogue)) {
+    if (!IsThere()) {
         Forget();
         return std::nullopt;
     }
@@ -25,10 +41,30 @@ std::optional<QString> MarkDrag::Move(const QPointF& at, double threshold) {
         return std::nullopt;
     }
     time_ = TimeAt(at - held_);
+    Place();
+    return timers::DialText(*time_);
+}
+
+bool MarkDrag::Follow() {
+    if (!IsDragging()) {
+        return false;
+    }
+    if (!IsThere()) {
+        Forget();
+        return false;
+    }
+    Place();
+    return true;
+}
+
+bool MarkDrag::IsThere() const {
+    return parts_.Dial.IsThere(chosen_) && data_.Is(ClockKind::Analogue);
+}
+
+void MarkDrag::Place() {
     const timers::DialSpot spot = timers::SpotOfTime(*time_);
     parts_.Host.PlaceMark(chosen_.Slot, spot.Spot, spot.Place);
     parts_.Canvas.ShowChanges();
-    return timers::DialText(*time_);
 }
 
 bool MarkDrag::Drop() {
@@ -39,7 +75,10 @@ bool MarkDrag::Drop() {
     const ChosenTimer chosen = chosen_;
     const QTime time = *time_;
     Forget();
-    parts_.Dial.ChangeTime(chosen, timers::HourMinute(time));
+    const auto before = timers::TimeOfText(chosen.Timer.TimerTime, AnyYear);
+    if (!before || timers::DialMinute(*before) != timers::DialMinute(time)) {
+        parts_.Dial.ChangeTime(chosen, timers::HourMinute(time));
+    }
     return true;
 }
 

@@ -32,7 +32,11 @@ public:
     /// `IsDrag` counts them, that is still a click. @return the time that the mark has come to,
     /// "3:15" as a dial reads it; nothing where no mark is dragged
     std::optional<QString> Move(const QPointF& at, double threshold);
-    /// The button goes up: a mark that was dragged gives its timer the time where it stands.
+    /// Brings the mark to where it was dragged, after the clock has placed its marks anew; ends the
+    /// drag of a timer that has gone. Called after each tick. @return whether a drag is under way
+    bool Follow();
+    /// The button goes up: a mark that was dragged gives its timer the time where it stands. At the
+    /// timer's own minute of the dial nothing changes, so that "15:14" does not become "03:14".
     /// @return false for a click
     bool Drop();
     /// Takes a drag back: the mark returns. @return false when none was under way
@@ -42,13 +46,18 @@ public:
 private:
     /// Of a mark whose corner has come there: 0:00 to 11:59.
     QTime TimeAt(const QPointF& corner) const;
+    QPointF CornerOf(int slot) const;
+    bool IsThere() const;
+    void Place();
     void Forget();
 
     const ClockData& data_;
     Parts parts_;
     ChosenTimer chosen_;
     QPointF pressedAt_;
-    QPointF held_;               ///< from the mark's lower right corner to the pointer
+    /// From the lower right corner of the mark to the pointer. It is that of the place on the ring,
+    /// which the mark may have been kept from by the edge of the window.
+    QPointF held_;
     std::optional<QTime> time_;  ///< where the mark stands in a drag; nothing before it begins
 };
 

@@ -24,7 +24,7 @@ constexpr double BelowTheBox = 4;
 constexpr qint64 SecondsOfDay = 86'400;
 constexpr qint64 SecondsOfHalfDay = SecondsOfDay / 2;
 
-// The times of the menu follow the calculated one, and may lie behind midnight.
+// The times that a new timer is offered follow the calculated one, and may lie behind midnight.
 QDateTime MomentOf(const QTime& time, const QDateTime& calculated) {
     const QDateTime moment(calculated.date(), time, Qt::UTC);
     return moment.secsTo(calculated) > SecondsOfHalfDay ? moment.addDays(1) : moment;
@@ -54,7 +54,7 @@ void MessageTyping::OpenMessageBox(int slot, Timer timer) {
 void MessageTyping::Type(const QString& text) {
     if (IsThere()) {
         timers::ClockTimer timer = parts_.Timers.Timer(slot_);
-        timer.Message = text;
+        timer.Message = timers::OnOneLine(text);
         parts_.Timers.ChangeTimer(slot_, timer);
     }
 }
@@ -101,13 +101,17 @@ void MessageTyping::FinishMessage() {
 
 void MessageTyping::Settle(int slot, const std::optional<QDateTime>& calculated) {
     const timers::ClockTimer timer = parts_.Timers.Timer(slot);
-    if (isNew_ && calculated && ClockTime().secsTo(*calculated) > SecondsOfDay) {
+    if (calculated && ClockTime().secsTo(*calculated) > SecondsOfDay) {
         DeferTo(slot, *calculated);
         TellLoss(timer, parts_.Timers.DeferredTimerLines().last());
     } else {
         parts_.Timers.PlaceTimerMark(slot, timer.TimerTime);
-        TellLoss(timer, timers::TimerLineText(timer, ClockTime()));
+        TellLoss(timer);
     }
+}
+
+void MessageTyping::TellLoss(const timers::ClockTimer& timer) {
+    TellLoss(timer, timers::TimerLineText(timer, ClockTime()));
 }
 
 void MessageTyping::TellLoss(const timers::ClockTimer& timer, const QString& line) {
@@ -120,7 +124,8 @@ void MessageTyping::TellLoss(const timers::ClockTimer& timer, const QString& lin
 void MessageTyping::DeferTo(int slot, const QDateTime& calculated) {
     const QString time = parts_.Timers.Timer(slot).TimerTime;
     const auto timeOfDay = timers::TimeOfText(time, calculated.date().year());
-    const QDate date = MomentOf(timeOfDay.value_or(calculated.time()), calculated).date();
+    const QDate date =
+        isNew_ && timeOfDay ? MomentOf(*timeOfDay, calculated).date() : calculated.date();
     parts_.Timers.DeferTimer(slot, date);
     parts_.Host.ShowStatus(u"The timer is kept for %1 %2"_s.arg(mduAPILib::ShortDate(date), time));
 }
@@ -159,7 +164,7 @@ QRectF MessageTyping::Place(int slot) const {
     if (row) {
         place.setWidth(std::min(width, row->width()));
         place.moveTop(row->top());
-        place.moveLeft(std::clamp(place.left(), row->left(), row->right() - place.width()));
+        place.moveLeft(std::max(row->left(), std::min(place.left(), row->right() - place.width())));
     }
     return place;
 }

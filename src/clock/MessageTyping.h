@@ -53,7 +53,7 @@ public:
 
     MessageTyping(ClockData& data, const Parts& parts) : data_(data), parts_(parts) {}
 
-    /// A timer that is new: one that has no day yet. See `FinishMessage`.
+    /// A new timer's time was chosen from the calculated one, and may lie behind its midnight.
     enum class Timer { New, Old };
     /// Opens the box of a slot; one that is open is finished first. Nothing for a slot without a
     /// timer on the dial.
@@ -64,7 +64,7 @@ public:
     bool IsTypedInto(int slot) const { return slot == slot_ && parts_.View.HasKeys(); }
 
     // What the box tells. Without an open box they do nothing.
-    /// The whole text, after each key.
+    /// The whole text, after each key. The ends of its lines become blanks.
     void Type(const QString& text);
     /// Closes the box. A timer without a message goes.
     void Escape();
@@ -72,9 +72,13 @@ public:
     /// key like any other
     bool Delete();
     /// Closes the box and saves the timers. A calculator goes back to the present time; where it
-    /// was more than a day ahead of the clock, a new timer is kept for that day and leaves the
-    /// dial. The status bar tells which, and what of the message the file can't keep.
+    /// was more than a day ahead of the clock, the timer is kept for that day and leaves the dial.
+    /// The status bar tells which, and what of the message the file can't keep. A day that has gone
+    /// would end the timer with the run; it stays on the dial.
     void FinishMessage();
+
+    /// The status bar tells what of a timer on the dial the file can't keep.
+    void TellLoss(const timers::ClockTimer& timer);
 
     /// Brings the box to where it belongs after the clock has changed, or closes it when its timer
     /// has gone. Called after each tick and each change of size.

@@ -54,7 +54,7 @@ MenuNode TimerMenus::ImgTimerMenu(int slot) {
                       .Choose = [this, chosen] { parts_.Timers.EditMessage(chosen); }},
                      Colours(chosen),
                      DisplayTimes(chosen)};
-    if (devices_->value_or(1) > 0) {
+    if (*devices_ > 0) {
         menu.Children.push_back(Sounds(chosen));
     }
     menu.Children.push_back(ActionMenu(chosen));
@@ -91,7 +91,7 @@ MenuNode TimerMenus::Colours(const ChosenTimer& chosen) const {
 // without them a message could only be shown longer and longer.
 MenuNode TimerMenus::DisplayTimes(const ChosenTimer& chosen) const {
     MenuNode menu{.Name = u"SetMessageDisplayTime"_s, .Caption = u"Set Message Display Time"_s};
-    const int present = static_cast<int>(mduAPILib::Val(chosen.Timer.DisplayMinutes));
+    const int present = timers::WholeNumber(chosen.Timer.DisplayMinutes);
     const auto add = [&](const QString& minutes) {
         const auto choose = [this, chosen, minutes] {
             parts_.Timers.Change(chosen,
@@ -126,7 +126,8 @@ MenuNode TimerMenus::Sounds(const ChosenTimer& chosen) const {
     QStringList names = program_.Services.FileSystem.FileNames(paths.SoundFilesFolder);
     names.sort(Qt::CaseInsensitive);
     for (const QString& name : names) {
-        menu.Children.push_back(SoundEntry(chosen, name, u".\\SoundFiles\\"_s + name));
+        menu.Children.push_back(
+            SoundEntry(chosen, name, mduLib::ToStoredPath(u"./SoundFiles/"_s + name)));
     }
     menu.Children.push_back({.Name = u"SoundFile"_s,
                              .Caption = u"More"_s,

@@ -27,9 +27,11 @@ public:
     /// time; see `timers::FillTimeMenu`.
     MenuNode SetTimerMenu(const QString& time) const;
     /// `ImgTimerMenu`: all that can be changed of a slot's timer. Without entries for a slot that
-    /// has no timer on the dial. The sounds are left out on a machine that is known to have no
-    /// device for them; it is asked each time, and may answer later.
+    /// has no timer on the dial. The sounds are left out until the machine has told that it has a
+    /// device for them; it is asked anew each time, for the next one.
     MenuNode ImgTimerMenu(int slot);
+    /// Asks the machine for its sound devices; the answer may come later.
+    void CountSoundDevices();
 
 private:
     MenuNode Colours(const ChosenTimer& chosen) const;
@@ -41,13 +43,12 @@ private:
     MenuNode MusicVolumes(const ChosenTimer& chosen) const;
     MenuNode OtherTimes(const ChosenTimer& chosen) const;
     MenuNode PermanentEntry(const ChosenTimer& chosen) const;
-    void CountSoundDevices();
 
     const ClockData& data_;
     Program program_;
     Parts parts_;
-    /// As the machine told last; unknown at first. It may answer when the clock has gone.
-    std::shared_ptr<std::optional<int>> devices_ = std::make_shared<std::optional<int>>();
+    /// As the machine told last. It may answer when the clock has gone.
+    std::shared_ptr<int> devices_ = std::make_shared<int>(0);
 };
 
 }  // namespace clockcore

@@ -26,6 +26,22 @@ double ContrastRatio(const QColor& text, const QColor& ground) {
     return std::max(one, other) / std::min(one, other);
 }
 
+QColor ReadableShade(const QColor& text, const QColor& ground) {
+    constexpr double enough = 4.5;
+    constexpr int steps = 50;
+    const QColor end = ReadableOn(ground);
+    const auto between = [&](int from, int to, int step) {
+        return from + (to - from) * step / steps;
+    };
+    QColor shade = text;
+    for (int step = 1; step <= steps && ContrastRatio(shade, ground) < enough; ++step) {
+        shade =
+            QColor(between(text.red(), end.red(), step), between(text.green(), end.green(), step),
+                   between(text.blue(), end.blue(), step));
+    }
+    return shade;
+}
+
 QColor ReadableOn(const QColor& ground) {
     const QColor black = Qt::black;
     const QColor white = Qt::white;

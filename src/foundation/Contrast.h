@@ -12,4 +12,8 @@ double ContrastRatio(const QColor& text, const QColor& ground);
 /// Black or white, whichever stands out more; one of them always has a contrast of 4.5.
 QColor ReadableOn(const QColor& ground);
 
+/// The colour itself where it can be read on its ground, else the nearest shade of it that can: it
+/// keeps its hue and becomes darker or lighter.
+QColor ReadableShade(const QColor& text, const QColor& ground);
+
 }  // namespace mduUILib

@@ -20,7 +20,7 @@ namespace {
 int DueMinute(const ClockTimer& timer) {
     const QTime time = QTime::fromString(timer.TimerTime, u"HH:mm"_s);
     const bool due = timer.OnDial && time.isValid() && HourMinute(time) == timer.TimerTime;
-    return due ? time.hour() % HalfDay * 60 + time.minute() : -1;
+    return due ? DialMinute(time) : -1;
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ void ClockTimers::SetTemplate() {
     ClockTimer timer = Timer(1);
     timer.MessageColour =
         mduUILib::ColourValue(Property(u"Message Colour"_s), context_.Services.Random);
-    timer.SoundFile = Property(u"Timer Sound File"_s);
+    timer.SoundFile = NewTimersSound();
     ChangeTimer(1, timer);
 }
 
@@ -184,7 +184,7 @@ void ClockTimers::PlaceTimerMarks() {
 int ClockTimers::SetNewTimer(const QString& time) {
     const int slot = GetFreeTimerSlot();
     ClockTimer timer;
-    timer.SoundFile = Property(u"Timer Sound File"_s);
+    timer.SoundFile = NewTimersSound();
     timer.MessageColour =
         mduUILib::ColourValue(Property(u"Message Colour"_s), context_.Services.Random);
     timer.OnDial = true;
@@ -194,6 +194,16 @@ int ClockTimers::SetNewTimer(const QString& time) {
     ChangeTimer(slot, timer);
     PlaceTimerMark(slot, time);
     return slot;
+}
+
+// A sound that would break the timers' lines is left out.
+QString ClockTimers::NewTimersSound() const {
+    const QString sound = Property(u"Timer Sound File"_s);
+    if (CanBeKept(sound)) {
+        return sound;
+    }
+    context_.Host.ShowStatus(NotKept(sound));
+    return {};
 }
 
 void ClockTimers::DeferTimer(int slot, const QDate& date) {

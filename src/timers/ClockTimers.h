@@ -83,6 +83,7 @@ private:
     void LoadLine(const QString& line);
     bool MayWrite(const QString& path);
     void AddSlot();
+    QString NewTimersSound() const;
     QString Property(const QString& name) const;
 
     void ForgetFired(int dialMinute);

@@ -7,6 +7,8 @@
 #include "foundation/Numbers.h"
 #include "foundation/PropertyLookup.h"
 #include "timers/ClockTimers.h"
+#include "timers/DialSpot.h"
+#include "timers/TimerFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,21 +17,9 @@ namespace timers {
 
 namespace {
 
-constexpr int DialMinutes = 12 * 60;
-
 /// Each timer that fires is saved with all others. Where thousands are due together that would take
 /// minutes, so beyond these only the last one's save is made, which leaves the same file.
 constexpr int MostSaves = 20;
-
-int DialMinute(const QTime& time) {
-    return (time.hour() * 60 + time.minute()) % DialMinutes;
-}
-
-/// The whole part of a number in text form.
-int WholeNumber(const QString& text) {
-    constexpr double most = 1e9;
-    return static_cast<int>(std::clamp(mduAPILib::Val(text), -most, most));
-}
 
 }  // namespace
 

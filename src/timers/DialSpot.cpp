@@ -10,7 +10,6 @@ namespace timers {
 
 namespace {
 
-constexpr int MinutesOfDial = 720;
 constexpr int MinutesOfHour = 60;
 
 int DialHour(const QTime& time) {
@@ -18,6 +17,10 @@ int DialHour(const QTime& time) {
 }
 
 }  // namespace
+
+int DialMinute(const QTime& time) {
+    return (time.hour() * MinutesOfHour + time.minute()) % DialMinutes;
+}
 
 DialSpot SpotOfTime(const QTime& time) {
     constexpr int spotsOfHour = 5;
@@ -27,8 +30,8 @@ DialSpot SpotOfTime(const QTime& time) {
 }
 
 QTime TimeAtTurn(double turn) {
-    const double place = (turn - std::floor(turn)) * MinutesOfDial;
-    const int minute = (static_cast<int>(std::lround(place)) - 1 + MinutesOfDial) % MinutesOfDial;
+    const double place = (turn - std::floor(turn)) * DialMinutes;
+    const int minute = (static_cast<int>(std::lround(place)) - 1 + DialMinutes) % DialMinutes;
     return {minute / MinutesOfHour, minute % MinutesOfHour};
 }
 

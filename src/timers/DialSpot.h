@@ -5,6 +5,11 @@
 
 namespace timers {
 
+inline constexpr int DialMinutes = 720;  ///< the dial has no more
+
+/// The minute of the dial that a time falls into, 0 to 719: 14 for "0:14" and for "12:14".
+int DialMinute(const QTime& time);
+
 /// Where a time stands on the dial of twelve hours. It has five minute spots for each hour, and
 /// each spot stands for twelve minutes.
 struct DialSpot {

@@ -54,13 +54,6 @@ QString DialTime(const TimerLine& line) {
                                  : u"%1:%2"_s.arg(time.hour() - HalfDay).arg(time.minute());
 }
 
-// A line is one line, whatever was typed into the message.
-QString OnOneLine(QString text) {
-    text.replace(u"\r\n"_s, u" "_s);
-    text.replace(u'\n', u' ');
-    return text.replace(u'\r', u' ');
-}
-
 // meta = minutes "," colour "," sound "," action "," volume "#"
 QString MetaText(const ClockTimer& timer) {
     return QStringList{timer.DisplayMinutes, mduUILib::ColourName(timer.MessageColour),
@@ -160,6 +153,21 @@ QString WhatIsLost(const ClockTimer& timer, const QString& line, int presentYear
 
 bool CanBeKept(const QString& meta) {
     return std::none_of(meta.begin(), meta.end(), [](QChar c) { return u",#@="_s.contains(c); });
+}
+
+QString NotKept(const QString& meta) {
+    return meta + u" has one of , # @ = in its name; no timer can keep it"_s;
+}
+
+QString OnOneLine(QString text) {
+    text.replace(u"\r\n"_s, u" "_s);
+    text.replace(u'\n', u' ');
+    return text.replace(u'\r', u' ');
+}
+
+int WholeNumber(const QString& text) {
+    constexpr double most = 1e9;
+    return static_cast<int>(std::clamp(mduAPILib::Val(text), -most, most));
 }
 
 std::optional<QTime> TimeOfText(const QString& text, int presentYear) {

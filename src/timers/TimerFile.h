@@ -66,6 +66,14 @@ QString WhatIsLost(const ClockTimer& timer, const QString& line, int presentYear
 
 /// Whether a path or an action can stand in a line without breaking it: it has none of , # @ =.
 bool CanBeKept(const QString& meta);
+/// Tells the user that it can't be kept.
+QString NotKept(const QString& meta);
+
+/// A text without the ends of its lines, each of which becomes a blank.
+QString OnOneLine(QString text);
+
+/// The whole part of a number in text form, between -1e9 and 1e9: how `DisplayMinutes` reads.
+int WholeNumber(const QString& text);
 
 /// The time of a text that is a time, or a date and time; a date alone is midnight.
 std::optional<QTime> TimeOfText(const QString& text, int presentYear);

@@ -35,7 +35,7 @@ struct DialDesk : LookDesk {
     Lines Calculator;
     clockcore::MessageTyping Typing{
         Data, {Controls, Timers, Host, Calculator, Canvas, Machine.Clock, View}};
-    clockcore::DialTimers Dial{Data, {Timers, Typing, Canvas, Host, Machine.Clock}};
+    clockcore::DialTimers Dial{Data, {Timers, Typing, Canvas, Host}};
 
     DialDesk() {
         using namespace Qt::StringLiterals;

@@ -26,9 +26,10 @@ struct MenuDesk : FormDesk {
     timers::ClockTimers Timers{
         {Data.Properties(), Data.Zone, Controls, Speaking, Module, TimerHost}, Messages};
     drawing::CalculatorClock Calculator;
+    Program Sounding{Speaking, Module, Windows};
     clockcore::TimersOnDial Dial{
         Data,
-        TheProgram,
+        Sounding,
         {Form, Controls, Canvas, TimerHost, Calculator, Timers, Actions, OnParts}};
     clockcore::FormPopup Popup{
         Form,
@@ -37,7 +38,7 @@ struct MenuDesk : FormDesk {
         TheProgram,
         {Screen, Parts.TheWindow, Parts.ThePlacement, Files, Styles, Look, Commands}};
     clockcore::ClockMenuHandlers Menus{{Form, Controls, Canvas, Settings, Messages, Actions, Voice,
-                                        Parts.TheSpoken, Popup, Commands, Keys, OnParts}};
+                                        Parts.TheSpoken, Popup, Commands, Keys, OnParts, Dial}};
 
     MenuDesk() {
         Data.TimerFile = Machine.AppFolder() + u"/Timer.txt"_s;
@@ -169,6 +170,14 @@ private Q_SLOTS:
         QVERIFY(desk.Actions.Entries().empty());
         desk.Menus.FillMenuArrays();
         QVERIFY(!desk.Actions.Entries().empty());
+    }
+
+    // A machine may be slow to answer; at the first right click it is to be known.
+    void AsksForTheSoundDevicesEarly() {
+        MenuDesk desk;
+        desk.Devices.Sound.AnswersLater = true;
+        desk.Menus.FillMenuArrays();
+        QVERIFY(desk.Devices.Sound.IsAsked());
     }
 
     void TheSpeakerHasAHint() {

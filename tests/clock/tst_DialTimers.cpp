@@ -39,14 +39,15 @@ private Q_SLOTS:
         QCOMPARE(desk.File(), QByteArray("20/06/2026 09:34=\r\n"));
     }
 
+    // Its time was not chosen from the calculated one.
     void AMessageIsEdited() {
         DialDesk desk;
-        desk.Add(u"03:05"_s, u"Tea"_s);
-        desk.Calculate(ClockKind::Calculator, u"20/06/2026 9:30:00"_s);
+        desk.Add(u"00:02"_s, u"Tea"_s);
+        desk.Calculate(ClockKind::Calculator, u"20/06/2026 23:55:00"_s);
         desk.Dial.EditMessage(desk.Dial.Choose(1));
         QCOMPARE(desk.View.Log, QStringList{u"open Tea"_s});
         desk.Typing.FinishMessage();
-        QVERIFY(desk.Timers.Timer(1).OnDial);
+        QCOMPARE(desk.File(), QByteArray("20/06/2026 00:02=Tea\r\n"));
     }
 
     void AChangeIsSaved() {

@@ -27,6 +27,12 @@ struct DragDesk : DialDesk {
         mark.Top = 86;
         Host.Marks.clear();
     }
+    /// Another timer, which is dragged instead.
+    void Give(const QString& time) {
+        timers::ClockTimer timer = Timers.Timer(1);
+        timer.TimerTime = time;
+        Timers.ChangeTimer(1, timer);
+    }
 };
 
 }  // namespace
@@ -81,8 +87,70 @@ private Q_SLOTS:
     void AMirroredDialTurnsTheOtherWay() {
         DragDesk desk;
         desk.Set(u"Clock Special"_s, u"Analogue Backward"_s);
-        desk.Drag.Press(1, {234, 100});
-        QCOMPARE(desk.Drag.Move({66, 100}, 10), u"2:59"_s);  // its three o'clock is to the left
+        desk.Drag.Press(1, {66, 100});  // its three o'clock is to the left
+        QCOMPARE(desk.Drag.Move({149.2, 16}, 10), u"0:00"_s);
+        QCOMPARE(desk.Drag.Move({234, 98.5}, 10), u"9:00"_s);
+    }
+
+    // On a small surface its mark is kept inside, far from the ring.
+    void AMarkAtTheEdgeDoesNotJump() {
+        DragDesk desk;
+        desk.Set(u"Clock CentralX(%)"_s, u"90"_s);  // the ring goes to 354 of 300
+        desk.Controls.imgTimer(1).Left = 286;
+        desk.Drag.Press(1, {295, 96});
+        QCOMPARE(desk.Drag.Move({295, 80}, 10), u"2:38"_s);
+        QCOMPARE(desk.Drag.Move({295, 96}, 10), u"3:00"_s);
+        QVERIFY(desk.Drag.Drop());
+        QCOMPARE(desk.Timers.Timer(1).TimerTime, u"15:00"_s);
+        QCOMPARE(desk.File(), QByteArray());
+    }
+
+    void TheSameMinuteOfTheDialChangesNothing_data() {
+        QTest::addColumn<QString>("time");
+        QTest::newRow("afternoon") << u"15:14"_s;
+        QTest::newRow("twelve") << u"12:14"_s;
+        QTest::newRow("night") << u"00:14"_s;
+        QTest::newRow("last") << u"23:59"_s;
+    }
+
+    void TheSameMinuteOfTheDialChangesNothing() {
+        QFETCH(QString, time);
+        DragDesk desk;
+        desk.Give(time);
+        desk.Drag.Press(1, {230, 96});
+        QVERIFY(desk.Drag.Move({100, 20}, 10));
+        QVERIFY(desk.Drag.Move({230, 96}, 10));
+        QVERIFY(desk.Drag.Drop());
+        QCOMPARE(desk.Timers.Timer(1).TimerTime, time);
+        QCOMPARE(desk.File(), QByteArray());
+    }
+
+    // A clock that redraws itself places all its marks anew.
+    void ADraggedMarkStaysWhereItIs() {
+        DragDesk desk;
+        QVERIFY(!desk.Drag.Follow());
+        desk.Drag.Press(1, {230, 96});
+        QVERIFY(!desk.Drag.Follow());
+        desk.Drag.Move({145.6, 180}, 10);
+        desk.Timers.PlaceTimerMarks();
+        QCOMPARE(desk.Host.Marks.back(), (Mark{1, 15, 1}));
+        const int shows = desk.Canvas.Shows;
+        QVERIFY(desk.Drag.Follow());
+        QCOMPARE(desk.Host.Marks.back(), (Mark{1, 30, 1}));
+        QCOMPARE(desk.Canvas.Shows, shows + 1);
+        QVERIFY(desk.Drag.Drop());
+        QVERIFY(!desk.Drag.Follow());
+    }
+
+    void ATimerThatHasGoneIsNotFollowed() {
+        DragDesk desk;
+        desk.Drag.Press(1, {230, 96});
+        desk.Drag.Move({145.6, 180}, 10);
+        desk.Timers.CheckTimers(u"15/06/2026 15:00:01"_s);
+        desk.Host.Marks.clear();
+        QVERIFY(!desk.Drag.Follow());
+        QVERIFY(!desk.Drag.IsDragging());
+        QCOMPARE(desk.Host.Marks, std::vector<Mark>());
     }
 
     void AboutTwelve() {

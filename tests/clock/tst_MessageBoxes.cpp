@@ -93,6 +93,24 @@ private Q_SLOTS:
         QVERIFY2(ofLetters > 20, qPrintable(QString::number(ofLetters)));
     }
 
+    // Opened and closed it is as it was, whatever a hand would have been kept from typing.
+    void ALongMessageIsNotCut() {
+        const QString message(100'001, u'x');
+        BoxDesk desk(message);
+        desk.Open();
+        QCOMPARE(desk.Timers.Timer(1).Message.size(), 100'001);
+        QCOMPARE(desk.Line()->text().size(), 100'001);
+        desk.Keys.FinishMessage();
+        QCOMPARE(desk.Timers.Timer(1).Message, message);
+    }
+
+    void NobodyTypesMoreThanThat() {
+        BoxDesk desk;
+        desk.Open();
+        desk.Line()->insert(QString(100'001, u'x'));
+        QCOMPARE(desk.Timers.Timer(1).Message.size(), 100'000);
+    }
+
     void ItsOwnMenuAndAnotherWindowEndNothing() {
         BoxDesk desk;
         desk.Open();

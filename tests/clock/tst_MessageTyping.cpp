@@ -46,6 +46,14 @@ private Q_SLOTS:
         QCOMPARE(desk.File(), QByteArray());
     }
 
+    // As the file has them, so that it runs the same when it comes back.
+    void EndsOfLinesBecomeBlanks() {
+        DialDesk desk;
+        desk.Typing.OpenMessageBox(desk.Add(u"03:05"_s));
+        desk.Typing.Type(u"Tea\r\nis\nready\rnow"_s);
+        QCOMPARE(desk.Timers.Timer(1).Message, u"Tea is ready now"_s);
+    }
+
     void FinishingSavesAndPlacesTheMark() {
         DialDesk desk;
         desk.Typing.OpenMessageBox(desk.Add(u"03:05"_s));
@@ -254,14 +262,27 @@ private Q_SLOTS:
         }
     }
 
-    // Its day was told when it was made.
-    void AnOldTimerStaysOnTheDial() {
+    // Its time has nothing to do with the calculated one, so the day is that one's own. A day that
+    // has gone would drop it for good.
+    void AnOldTimerIsDeferred_data() {
+        QTest::addColumn<QString>("moment");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("days ahead") << u"20/06/2026 9:30:00"_s << u"20/06/2026 03:05=Tea"_s;
+        QTest::newRow("late on that day") << u"20/06/2026 23:55:00"_s << u"20/06/2026 03:05=Tea"_s;
+        QTest::newRow("a day ahead") << u"16/06/2026 12:00:00"_s << QString();
+        QTest::newRow("days ago") << u"10/06/2026 9:30:00"_s << QString();
+    }
+
+    void AnOldTimerIsDeferred() {
+        QFETCH(QString, moment);
+        QFETCH(QString, line);
         DialDesk desk;
-        desk.Calculate(ClockKind::Calculator, u"20/06/2026 9:30:00"_s);
-        desk.Typing.OpenMessageBox(desk.Add(u"09:34"_s, u"Tea"_s));
+        desk.Calculate(ClockKind::Calculator, moment);
+        desk.Typing.OpenMessageBox(desk.Add(u"03:05"_s, u"Tea"_s));
         desk.Typing.FinishMessage();
-        QVERIFY(desk.Timers.Timer(1).OnDial);
-        QCOMPARE(desk.Timers.DeferredTimerLines(), QStringList());
+        QCOMPARE(desk.Timers.Timer(1).OnDial, line.isEmpty());
+        QCOMPARE(desk.Timers.DeferredTimerLines(),
+                 line.isEmpty() ? QStringList() : QStringList{line});
         QVERIFY(desk.Data.Is(ClockKind::Calculator));
     }
 

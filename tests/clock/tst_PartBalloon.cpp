@@ -1,4 +1,8 @@
+#include <QScopeGuard>
+#include <QToolTip>
+
 #include "MouseDesk.h"
+#include "foundation/Contrast.h"
 #include "foundation/ui/BalloonWindow.h"
 
 namespace {
@@ -58,10 +62,25 @@ private Q_SLOTS:
         QCOMPARE(desk.Title(), u"Calculated Time Settings"_s);
     }
 
+    void ATimersMarkInItsColour_data() {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("blue") << QByteArray("Blue") << QColor(Qt::blue);
+        QTest::newRow("yellow") << QByteArray("Yellow") << QColor(Qt::yellow);
+    }
+
+    // In a shade of it that can be read on the desktop's paper.
     void ATimersMarkInItsColour() {
+        QFETCH(QByteArray, name);
+        QFETCH(QColor, colour);
+        const QPalette before = QToolTip::palette();
+        QPalette paper = before;
+        paper.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
+        QToolTip::setPalette(paper);
+        const auto restore = qScopeGuard([&] { QToolTip::setPalette(before); });
         HintDesk desk;
         desk.Base.Machine.WriteFile(u"tester/Timers/Nepal Standard TimeTimer.txt"_s,
-                                    "5,Blue,,,0#3:00@Tea\r\n");
+                                    "5," + name + ",,,0#3:00@Tea\r\n");
         desk.Clock = desk.Running(u"Nepal Standard Time"_s);
         desk.Frame()->setGeometry(QRect(QPoint(200, 150), QSize(300, 200) + desk.FrameSize()));
         desk.Base.Machine.Clock.Advance(2000);
@@ -69,7 +88,10 @@ private Q_SLOTS:
         desk.RestOn(HintDesk::MiddleOf(desk.Clock->Controls().imgTimer(1)));
         QCOMPARE(desk.Title(), u"Timer Message"_s);
         QVERIFY(desk.Text().startsWith(u"Tea\r\n"_s));
-        QCOMPARE(desk.Tip()->Look().Fore, QColor(0, 0, 255));
+        const BalloonLook look = desk.Tip()->Look();
+        QCOMPARE(look.Back, QColor(255, 255, 220));
+        QCOMPARE(look.Fore.hsvHue(), colour.hsvHue());
+        QVERIFY(mduUILib::ContrastRatio(look.Fore, look.Back) >= 4.5);
     }
 
     /// The digits are one part: the balloon stays from one to the next, clear of all of them.

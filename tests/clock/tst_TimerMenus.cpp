@@ -138,6 +138,32 @@ private Q_SLOTS:
         QVERIFY(!desk.Sub(u"SetSoundFile"_s).Children.empty());
     }
 
+    // Until it has answered, a machine is one without sounds.
+    void TheSoundsWaitForTheMachine() {
+        MenuDesk desk;
+        desk.Devices.Sound.AnswersLater = true;
+        QVERIFY(desk.Sub(u"SetSoundFile"_s).Children.empty());
+        desk.Devices.Sound.Answer();
+        QVERIFY(!desk.Sub(u"SetSoundFile"_s).Children.empty());
+    }
+
+    void CountedEarlyTheyAreThereAtOnce() {
+        MenuDesk desk;
+        desk.Devices.Sound.AnswersLater = true;
+        desk.Menus.CountSoundDevices();
+        desk.Devices.Sound.Answer();
+        QVERIFY(!desk.Sub(u"SetSoundFile"_s).Children.empty());
+    }
+
+    // A file may hold any number.
+    void AHugeDisplayTime() {
+        MenuDesk desk;
+        desk.Change([](ClockTimer& timer) { timer.DisplayMinutes = u"1e300"_s; });
+        QCOMPARE(desk.Sub(u"SetMessageDisplayTime"_s).Children[0].Caption, u"1000000000"_s);
+        desk.Change([](ClockTimer& timer) { timer.DisplayMinutes = u"-1e300"_s; });
+        QCOMPARE(desk.Sub(u"SetMessageDisplayTime"_s).Children[0].Caption, u"-1000000000"_s);
+    }
+
     void TheMessageIsEdited() {
         MenuDesk desk;
         desk.Choose(u"Edit Message"_s);

@@ -332,6 +332,29 @@ private Q_SLOTS:
         QVERIFY(desk.File().contains("#18:") || desk.File().contains("#17:"));
     }
 
+    void ATimerThatFiresTakesItsTimeFromThePointer() {
+        MouseDesk desk("5,Red,,None,0#12:1@Tea\r\n");
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(desk.Spot(30).Rect().center());
+        QVERIFY(QToolTip::isVisible());
+        desk.Base.Machine.Clock.Advance(61'000);
+        QVERIFY(!desk.Mark(1).Visible);
+        QTRY_VERIFY(!QToolTip::isVisible());
+        desk.Release(desk.Spot(30).Rect().center());
+    }
+
+    void ARedrawLeavesTheDraggedMark() {
+        MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
+        desk.Press(desk.Mark(1).Rect().center());
+        desk.DragTo(desk.Spot(30).Rect().center());
+        const QPointF there = desk.Mark(1).Rect().topLeft();
+        desk.Clock->LayOutAgain();
+        QVERIFY(desk.Mark(1).Rect().topLeft() != there);
+        desk.Base.Machine.Clock.Advance(2000);
+        QCOMPARE(desk.Mark(1).Rect().topLeft(), there);
+        desk.Release(desk.Spot(30).Rect().center());
+    }
+
     void EscapeTakesADragBack() {
         MouseDesk desk("5,Red,,None,0#15:30@Tea\r\n");
         const QPointF at = desk.Mark(1).Rect().center();

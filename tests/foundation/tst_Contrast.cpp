@@ -47,6 +47,39 @@ private Q_SLOTS:
         QTEST(mduUILib::ReadableOn(ground), "ink");
     }
 
+    // Yellow has a contrast of 1.05 with that ground, white of 1.02, red of 3.9.
+    void AShadeKeepsItsHue_data() {
+        QTest::addColumn<QColor>("text");
+        QTest::addColumn<QColor>("ground");
+        QTest::addColumn<bool>("changes");
+        const QColor paper(255, 255, 220);
+        QTest::newRow("yellow on paper") << QColor(255, 255, 0) << paper << true;
+        QTest::newRow("red on paper") << QColor(255, 0, 0) << paper << true;
+        QTest::newRow("cyan on white") << QColor(0, 255, 255) << QColor(Qt::white) << true;
+        QTest::newRow("blue on paper") << QColor(0, 0, 255) << paper << false;
+        QTest::newRow("blue on black") << QColor(0, 0, 255) << QColor(Qt::black) << true;
+        QTest::newRow("yellow on black") << QColor(255, 255, 0) << QColor(Qt::black) << false;
+    }
+
+    void AShadeKeepsItsHue() {
+        QFETCH(QColor, text);
+        QFETCH(QColor, ground);
+        QFETCH(bool, changes);
+        const QColor shade = mduUILib::ReadableShade(text, ground);
+        QCOMPARE(shade != text, changes);
+        QVERIFY(mduUILib::ContrastRatio(shade, ground) >= 4.5);
+        QVERIFY(!changes ||
+                mduUILib::ContrastRatio(shade, ground) < 5.5);  // no further than needed
+        QVERIFY(qAbs(shade.hsvHue() - text.hsvHue()) <= 2);
+    }
+
+    void WhiteOnPaperBecomesGrey() {
+        const QColor shade = mduUILib::ReadableShade(Qt::white, QColor(255, 255, 220));
+        QCOMPARE(shade.red(), shade.blue());
+        QCOMPARE(shade.red(), shade.green());
+        QVERIFY(shade.red() > 90 && shade.red() < 118);
+    }
+
     void EveryGroundIsReadable() {
         for (int red = 0; red < 256; red += 15) {
             for (int green = 0; green < 256; green += 15) {

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void ClearsASlot();
     void SetsTheTemplate();
     void SetsANewTimer();
+    void ANewTimerLeavesOutASoundThatBreaksItsLine();
     void ANewTimerHasNothingOfTheOldOne();
     void DefersATimer();
     void TakesFiveThousandLines();
@@ -326,6 +327,23 @@ void tst_ClockTimers::SetsANewTimer() {
     QVERIFY(desk.Controls.imgTimer(2).Visible);
     QCOMPARE(desk.Controls.imgTimer(2).Picture.get(), desk.Controls.imgTimer(1).Picture.get());
     QCOMPARE(desk.Host.Marks.back(), (Mark{2, 20, 11}));
+}
+
+// A line can't hold it, and would not be read again.
+void tst_ClockTimers::ANewTimerLeavesOutASoundThatBreaksItsLine() {
+    Loaded desk("");
+    mduLib::PutProperty(u"Message Colour"_s, u"Green"_s, desk.Host.Properties);
+    for (const QString& sound : {u"a#b.wav"_s, u"a@b.wav"_s}) {
+        mduLib::PutProperty(u"Timer Sound File"_s, sound, desk.Host.Properties);
+        desk.Host.TakeEvents();
+        const int slot = desk.Timers.SetNewTimer(u"04:10"_s);
+        QCOMPARE(desk.Timers.Timer(slot).SoundFile, QString());
+        QCOMPARE(desk.Host.TakeEvents(),
+                 QStringList{u"status:"_s + sound +
+                             u" has one of , # @ = in its name; no timer can keep it"_s});
+        desk.Timers.SetTemplate();
+        QCOMPARE(desk.Timers.Timer(1).SoundFile, QString());
+    }
 }
 
 void tst_ClockTimers::ANewTimerHasNothingOfTheOldOne() {

@@ -3,11 +3,17 @@
 #include <QMenu>
 
 #include "clock/ui/MenuView.h"
+#include "clock/ui/TimersOnDial.h"
 #include "drawing/StockPictures.h"
 
 using namespace Qt::StringLiterals;
 
 namespace clockcore {
+
+void ClockMenuHandlers::FillMenuArrays() {
+    parts_.Actions.FillActionMenu();
+    parts_.Timers.FillMenus();
+}
 
 void ClockMenuHandlers::ShowMenu(const ClockHit& hit, const QPoint& globalPosition) {
     if (const auto menu = parts_.Menus.MenuOf(hit)) {

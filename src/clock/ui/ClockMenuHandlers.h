@@ -10,6 +10,8 @@
 
 namespace clockcore {
 
+class TimersOnDial;
+
 /// What comes of clicks and keys on a clock, and the pop-up menus that show there. The menus of the
 /// parts are those of `PartMenus`; that of the whole clock is `FormPopup`.
 class ClockMenuHandlers final : public ClockMenus, public ClockClicks {
@@ -27,12 +29,14 @@ public:
         FormCommands& Commands;
         ClockKeys& Keys;
         const PartMenus& Menus;
+        TimersOnDial& Timers;
     };
 
     explicit ClockMenuHandlers(const Parts& parts) : parts_(parts) {}
 
-    /// Builds the list of actions with the programs that the user added. Called by the first tick.
-    void FillMenuArrays() override { parts_.Actions.FillActionMenu(); }
+    /// Builds the list of actions with the programs that the user added, and asks for what the
+    /// menus of timers have to know. Called by the first tick.
+    void FillMenuArrays() override;
 
     void ClickSpeaker() override { parts_.Voice.ClickSpeaker(parts_.Spoken); }
     /// Speaks the action that counts down; its mark shows that for as long as the voice speaks.

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QKeyEvent>
+#include <algorithm>
 #include <utility>
 
 #include "clock/ui/KeyEvents.h"
@@ -26,13 +27,15 @@ QString StyleOf(const QColor& back) {
 
 }  // namespace
 
-MessageLine::MessageLine(QWidget& form, MessageTyping& typing) : QLineEdit(&form), typing_(typing) {
+MessageLine::MessageLine(QWidget& form, MessageTyping& typing, const QString& text)
+    : QLineEdit(&form), typing_(typing) {
     setObjectName(u"txtMsg"_s);
     setAccessibleName(u"Timer message"_s);
     setPlaceholderText(u"Message"_s);
-    setMaxLength(MostLetters);
+    setMaxLength(std::max(MostLetters, static_cast<int>(text.size())));
+    setText(text);
     connect(this, &QLineEdit::textChanged, this,
-            [this](const QString& text) { typing_.Type(text); });
+            [this](const QString& typed) { typing_.Type(typed); });
 }
 
 bool MessageLine::event(QEvent* event) {
@@ -70,9 +73,8 @@ void MessageLine::focusOutEvent(QFocusEvent* event) {
 }
 
 void MessageBoxes::Open(const Look& look) {
-    line_ = new MessageLine(form_, *typing_);
+    line_ = new MessageLine(form_, *typing_, look.Text);
     line_->setStyleSheet(StyleOf(ToColour(look.Colour)));
-    line_->setText(look.Text);
     line_->setGeometry(OnForm(look.Place));
     line_->show();
     line_->setFocus(Qt::OtherFocusReason);

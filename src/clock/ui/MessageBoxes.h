@@ -15,7 +15,8 @@ namespace clockcore {
 class MessageLine final : public QLineEdit {
 public:
     /// @param typing is told of the keys; it outlives the line
-    MessageLine(QWidget& form, MessageTyping& typing);
+    /// @param text what it begins with; it is not cut, however long it is
+    MessageLine(QWidget& form, MessageTyping& typing, const QString& text);
 
 protected:
     /// Tab and Backtab finish the typing.

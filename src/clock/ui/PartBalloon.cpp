@@ -56,7 +56,7 @@ void PartBalloon::Rest(const QPointF& logical) {
     const PartHint hint = Hint();
     if (!hint.Text.isEmpty()) {
         balloonTip_.BalloonInfoSetup(&parts_.Form, hint.Title, hint.Text, CBalloonToolTip::Unset,
-                                     hint.Colour);
+                                     CBalloonToolTip::ReadableColor(hint.Colour));
         balloonTip_.SetDelayTime(RestTime);
         balloonTip_.AfterDelay([this] { Show(); });
     }

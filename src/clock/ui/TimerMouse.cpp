@@ -67,11 +67,21 @@ bool TimerMouse::Move(const QMouseEvent& event) {
         TakeBack();  // the button was let go where nobody saw it
         return false;
     }
+    const bool wasDragging = marks_.IsDragging();
     const double threshold = DragThreshold() * form_.devicePixelRatioF();
     if (const auto time = marks_.Move(SurfacePoint(event), threshold)) {
         QToolTip::showText(event.globalPosition().toPoint(), *time, &form_);
+    } else if (wasDragging) {
+        QToolTip::hideText();
     }
     return true;
+}
+
+void TimerMouse::Follow() {
+    const bool wasDragging = marks_.IsDragging();
+    if (!marks_.Follow() && wasDragging) {
+        QToolTip::hideText();
+    }
 }
 
 bool TimerMouse::Release(const QMouseEvent& event) {

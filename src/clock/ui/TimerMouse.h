@@ -35,6 +35,8 @@ public:
                MarkDrag& marks, Commands commands);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Keeps the mark that is dragged where it is, after each tick.
+    void Follow();
 
 private:
     bool Take(QEvent* event);

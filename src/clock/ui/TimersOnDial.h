@@ -31,8 +31,11 @@ public:
 
     /// Closes an open box and saves what was typed.
     void FinishMessage() { typing_.FinishMessage(); }
-    /// Brings an open box to where it belongs, after each tick and each change of size.
-    void Follow() { typing_.Follow(); }
+    /// Brings an open box and a mark that is dragged to where they belong, after each tick and each
+    /// change of size.
+    void Follow();
+    /// Asks, behind the first tick, for what the menus will have to know.
+    void FillMenus() { menus_.CountSoundDevices(); }
     /// What is to see the form's mouse and keys before the form itself does.
     QObject& EventFilter() { return mouse_; }
 

@@ -81,7 +81,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       timersOnDial_(data_, program,
                     {*this, controls_, canvas_, host_, calculator_, timers_, actions_, partMenus_}),
       menus_({*this, controls_, canvas_, messages_, actions_, voice_, spoken_, popup_, commands_,
-              keys_, partMenus_}),
+              keys_, partMenus_, timersOnDial_}),
       partDrag_(data_, PartsToMove()),
       partNudge_(data_, PartsToMove()),
       drag_({*this, area, placement_, data_, controls_, partDrag_, partNudge_}),

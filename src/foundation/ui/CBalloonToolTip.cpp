@@ -15,7 +15,20 @@ QColor FromColour(int colour) {
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
 }
 
+QColor DesktopsColour(QPalette::ColorRole role) {
+    return QToolTip::palette().color(QPalette::Inactive, role);
+}
+
 }  // namespace
+
+int CBalloonToolTip::ReadableColor(int colour) {
+    if (colour == Unset) {
+        return Unset;
+    }
+    const QColor shade =
+        mduUILib::ReadableShade(FromColour(colour), DesktopsColour(QPalette::ToolTipBase));
+    return shade.red() | shade.green() << 8 | shade.blue() << 16;
+}
 
 CBalloonToolTip::CBalloonToolTip(platform::WallClock& clock)
     : ticker_(clock.MakeTicker([this] { OnTicker(); })) {}
@@ -158,12 +171,11 @@ int CBalloonToolTip::ToolFlags() const {
 }
 
 BalloonLook CBalloonToolTip::Look() const {
-    const QPalette desktop = QToolTip::palette();
     BalloonLook look{title_,
                      tipText_.left(maxLength_).trimmed(),
                      icon_,
-                     desktop.color(QPalette::Inactive, QPalette::ToolTipBase),
-                     desktop.color(QPalette::Inactive, QPalette::ToolTipText),
+                     DesktopsColour(QPalette::ToolTipBase),
+                     DesktopsColour(QPalette::ToolTipText),
                      style_ == 1};
     if (backColor_ != Unset) {
         look.Back = FromColour(backColor_);

@@ -24,6 +24,10 @@ public:
     enum ToolIcon { NoIcon = 0, Information = 1, Warning = 2, Error = 3 };
     static constexpr int Unset = -1;  ///< a colour of the desktop's own
 
+    /// A colour in a shade that can be read on a tip of the desktop's colours, for `ForeColor`.
+    /// `Unset` stays as it is.
+    static int ReadableColor(int colour);
+
     explicit CBalloonToolTip(platform::WallClock& clock);
     ~CBalloonToolTip() override;
 
