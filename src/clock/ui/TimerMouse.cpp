@@ -19,7 +19,8 @@ TimerMouse::TimerMouse(QWidget& form, const ClockData& data,
       commands_(std::move(commands)) {}
 
 bool TimerMouse::eventFilter(QObject*, QEvent* event) {
-    if (EndsDrags(event->type())) {
+    // A menu that pops up takes the focus.
+    if (EndsDrags(event->type()) || event->type() == QEvent::FocusOut) {
         TakeBack();
     }
     return form_.isEnabled() && Take(event);
