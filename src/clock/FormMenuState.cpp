@@ -27,15 +27,22 @@ bool AutoStarts(const Program& program, const ClockData& data, bool isMDIChild) 
     return !value.isEmpty() && value != u"0"_s;
 }
 
-// What only holds ".ini", such as a copy with another ending, and a file that has gone, could not
-// be chosen.
+// What only holds ".ini", such as a copy with another ending, could not be chosen.
 QStringList Files(const Program& program, const QString& folder, const QString& current) {
     const platform::Files& files = program.Services.FileSystem;
     const QStringList names = files.FileNames(folder);
     const QSet<QString> there(names.begin(), names.end());
     QStringList captions = mduUILib::FillFileMenu(files, folder, u".ini"_s, current, 0);
-    captions.removeIf([&](const QString& name) { return !there.contains(name + u".ini"_s); });
+    captions.removeIf(
+        [&](const QString& name) { return name != current && !there.contains(name + u".ini"_s); });
     return captions.mid(0, MostFiles);
+}
+
+// Its file may have gone since.
+QString LastStyle(const Program& program, const ClockData& data) {
+    const QString& name = data.Dial.LastStyle;
+    const QString path = program.Module.Paths.StylesFolder + name + u".ini"_s;
+    return mduLib::FileExists(program.Services.FileSystem, path) ? name : QString();
 }
 
 }  // namespace
@@ -62,7 +69,7 @@ FormMenuState ReadFormMenuState(const Program& program, const ClockData& data,
             .WindowState = window.WindowState,
             .Kind = data.IsCalculator() ? ClockKind::Calculator : data.Tag.Kind,
             .Zones = Files(program, paths.ZoneFileFolder, PresentZone(data)),
-            .Styles = Files(program, paths.StylesFolder, data.Dial.LastStyle),
+            .Styles = Files(program, paths.StylesFolder, LastStyle(program, data)),
             .ScreenSaverTimes = mduLib::ScreenSaverTimes(settings, paths.AppEXEName()),
             .ScreenSaverTime = mduLib::ScreenSaverTimeOut(settings),
             .HiddenParts = HiddenParts(data, window.Showable)};

@@ -36,8 +36,8 @@ struct MenuDesk : FormDesk {
         Data,
         Controls,
         TheProgram,
-        {Screen, Parts.TheWindow, Parts.ThePlacement, Files, Styles, Look, Commands}};
-    clockcore::ClockMenuHandlers Menus{{Form, Controls, Canvas, Settings, Messages, Actions, Voice,
+        {Screen, Parts.TheWindow, Parts.ThePlacement, Files, Styles, Look, Commands, Voice}};
+    clockcore::ClockMenuHandlers Menus{{Form, Controls, Canvas, Messages, Actions, Voice,
                                         Parts.TheSpoken, Popup, Commands, Keys, OnParts, Dial}};
 
     MenuDesk() {

@@ -122,6 +122,8 @@ private Q_SLOTS:
         QCOMPARE(desk.State().Zones, QStringList(u"UTC"_s));
         desk.Data.Dial.LastStyle = u"Elm"_s;  // was deleted
         QCOMPARE(desk.State().Styles, QStringList(u"Oak"_s));
+        desk.Data.TakenZone = u"Away"_s;  // the clock's zone stands there, whatever became of it
+        QCOMPARE(desk.State().Zones, QStringList({u"Away"_s, u"UTC"_s}));
     }
 
     void FoldersMayBeEmptyGoneOrFull() {

@@ -114,7 +114,8 @@ private Q_SLOTS:
         companion.Write(u"India.ini"_s,
                         "Clock:Clocks=Digital,Analogue,Digital\r\nClock:Enable=No\r\n"
                         "Window:Window State=Maximized\r\n"
-                        "Window:Window Background Colour=Transparent\r\n");
+                        "Window:Window Background Colour=Transparent\r\n"
+                        "Time Zone:Time Zone Label Size=0\r\n");
         const CompanionAnswer answer =
             companion.Run({u"--app-folder"_s, u"app"_s, u"--user"_s, u"tester"_s, u"menus"_s,
                            u"clock"_s, u"India.ini"_s, u"--style-folder"_s, u"Styles"_s});
@@ -128,7 +129,8 @@ private Q_SLOTS:
                  u"Clocks ClockStyle WindowState windowPositionMenu ClockColour Restore - "
                  "SelectCountry ChooseTimeZones ShowTimeZoneDetails - "
                  "AutoStart ScreenSaverMenu EnableActive - Help About Close - "
-                 "SaveStyle SaveStyleAs PropertyMenu"_s);
+                 "SaveStyle SaveStyleAs PropertyMenu HiddenParts"_s);
+        QCOMPARE(Children(Entry(answer, u"HiddenParts"_s)), QStringList(u"Zone Name"_s));
         QCOMPARE(Children(Entry(answer, u"ClockStyle"_s)),
                  QStringList({u"Elm"_s, u"Oak"_s, u"More"_s}));
         QCOMPARE(Children(Entry(answer, u"SelectCountry"_s)),
