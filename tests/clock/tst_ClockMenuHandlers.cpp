@@ -28,9 +28,7 @@ struct MenuDesk : FormDesk {
     drawing::CalculatorClock Calculator;
     Program Sounding{Speaking, Module, Windows};
     clockcore::TimersOnDial Dial{
-        Data,
-        Sounding,
-        {Form, Controls, Canvas, TimerHost, Calculator, Timers, Actions, OnParts}};
+        Data, Sounding, {Form, Controls, Canvas, TimerHost, Calculator, Timers, Actions, OnParts}};
     clockcore::FormPopup Popup{
         Form,
         Data,

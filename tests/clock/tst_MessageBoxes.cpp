@@ -94,7 +94,7 @@ private Q_SLOTS:
     }
 
     // Opened and closed it is as it was, whatever a hand would have been kept from typing.
-    void ALongMessageIsNotCut() {
+    void ALongMessageOfTheFileIsNotCut() {
         const QString message(100'001, u'x');
         BoxDesk desk(message);
         desk.Open();
