@@ -65,6 +65,7 @@ private Q_SLOTS:
     void WaitsThroughNoCountdown();
     void CountsDownAnAction();
     void RunsAnActionWithoutMinutesOnce();
+    void FiresNotAgainAcrossTwelve();
     void FiresAgainInTheOtherHalf();
     void TellsOfAMissingSound();
     void PlaysASoundBelowTheProgram();
@@ -374,6 +375,17 @@ void tst_TimerFiring::RunsAnActionWithoutMinutesOnce() {
     QCOMPARE(desk.Fired, QList<int>({1}));
     QVERIFY(desk.Timers.Timer(1).OnDial);
     QCOMPARE(desk.Messages.MessageExpiry(), u"0"_s);
+}
+
+// The clock is set back a little, from the first minute of the dial to the last.
+void tst_TimerFiring::FiresNotAgainAcrossTwelve() {
+    FiringDesk desk;
+    desk.Add(u"11:59"_s, u"Bye"_s, u"Reboot"_s, u"0"_s);
+    for (const QString& time : {u"11:59:58"_s, u"11:59:59"_s, u"12:00:00"_s, u"11:59:59"_s}) {
+        desk.Tick(time);
+    }
+    QCOMPARE(desk.Fired, QList<int>({1}));
+    QVERIFY(desk.Timers.Timer(1).OnDial);
 }
 
 void tst_TimerFiring::FiresAgainInTheOtherHalf() {
