@@ -198,7 +198,7 @@ int ClockTimers::SetNewTimer(const QString& time) {
 
 // A sound that would break the timers' lines is left out.
 QString ClockTimers::NewTimersSound() const {
-    const QString sound = Property(u"Timer Sound File"_s);
+    QString sound = Property(u"Timer Sound File"_s);
     if (CanBeKept(sound)) {
         return sound;
     }
