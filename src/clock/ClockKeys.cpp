@@ -13,7 +13,6 @@ namespace clockcore {
 namespace {
 
 constexpr int F1 = 112;
-constexpr int F12 = 123;
 
 /// A picture tells its size in hundredths of a millimetre, at 96 pixels to the inch.
 double PictureUnits(int pixels) {
