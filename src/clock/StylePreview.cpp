@@ -53,8 +53,21 @@ void StylePreview::Show(const QString& style) {
         End();
         return;
     }
+    ShowLook(*look);
+}
+
+void StylePreview::ShowProperty(const QString& name, const QString& value) {
+    if (!IsPossible()) {
+        return;
+    }
+    ClockProperties look;
+    mduLib::AppendProperty({}, name, value, look);
+    ShowLook(look);
+}
+
+void StylePreview::ShowLook(const ClockProperties& look) {
     TakeBack();
-    Try(*look);
+    Try(look);
     look_.ApplyFace();
 }
 

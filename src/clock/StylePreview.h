@@ -27,6 +27,9 @@ public:
     /// its own look. A wrapper, a calculator that is typed into and a clock that is closing show
     /// none.
     void Show(const QString& style);
+    /// Shows one property with another value, in the place of what is shown already. A key that is
+    /// not of the face shows nothing.
+    void ShowProperty(const QString& name, const QString& value);
     /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
     /// else has changed meanwhile stays.
     void End();
@@ -39,6 +42,7 @@ private:
         QString Own;
         QString Shown;
     };
+    void ShowLook(const ClockProperties& look);
     void TakeBack();
     void Try(const ClockProperties& style);
     bool MayTry(const QString& name) const;

@@ -18,3 +18,12 @@ IForm* Forms::Find(int handle) const {
     }
     return nullptr;
 }
+
+void TellPropertyWindows(const Forms& windows, const QString& file) {
+    for (int i = 0; i < windows.Count(); ++i) {
+        IPropertyWindow* window = windows[i].AsPropertyWindow();
+        if (window != nullptr && window->PropertyFile() == file) {
+            window->SetPropertyChanged(true);
+        }
+    }
+}

@@ -8,6 +8,8 @@
 /// shell nor the clock knows the other's class.
 
 class IClock;
+class IEditTarget;
+class IPropertyWindow;
 
 /// Bits of a window's style that the menus filter on.
 namespace WindowStyle {
@@ -36,6 +38,10 @@ public:
 
     /// The window as a clock; null for any other window.
     virtual IClock* AsClock() { return nullptr; }
+    /// The window as one that edits a property file; null for any other window.
+    virtual IPropertyWindow* AsPropertyWindow() { return nullptr; }
+    /// The window as one that the menu "Edit" acts on; null for any other window.
+    virtual IEditTarget* AsEditTarget() { return nullptr; }
 
     /// Style bits made of the state and the enabled switch.
     std::uint32_t Style() const;
@@ -66,8 +72,40 @@ public:
     /// Lays the clock out again after it came back to its normal size.
     virtual void LayOutAgain() = 0;
 
+    virtual QString IniFile() const = 0;  ///< the full path of the clock's own file
+    /// Lays the clock's properties out for the property window, its place as it stands among them.
+    virtual void SetProperty() = 0;
+    /// Rewrites the time-zone keys of the clock's file from the zone's present rules, and publishes
+    /// the properties.
+    virtual void RefreshDefaultTimeZoneDetails(const QString& zoneName) = 0;
+    /// Shows a property with another value, in the place of one that is shown already; nothing is
+    /// stored. An empty name gives the clock its own look back.
+    virtual void PreviewProperty(const QString& name, const QString& value) = 0;
+
     virtual int DrawStyle() const = 0;  ///< 1 while the clock shows the shell behind itself
     virtual void SetBackColor(int colour) = 0;
+};
+
+/// A window that edits a property file.
+class IPropertyWindow {
+public:
+    virtual ~IPropertyWindow() = default;
+
+    virtual QString PropertyFile() const = 0;  ///< the full path; empty for a new one without name
+    /// Somebody else has written the file: the window asks when its grid next gets the focus.
+    virtual void SetPropertyChanged(bool state) = 0;
+};
+
+/// What the menu "Edit" can do.
+enum class EditAction { Undo, Redo, Cut, Copy, Paste, Delete, Clear, SelectAll, Find };
+
+/// A window that has something to edit beside its lines of text, which the menu knows by itself.
+class IEditTarget {
+public:
+    virtual ~IEditTarget() = default;
+
+    virtual bool CanEdit(EditAction action) const = 0;  ///< as it stands at this moment
+    virtual void Edit(EditAction action) = 0;           ///< nothing where it can't
 };
 
 /// The windows that the shell opens beside the clocks, for a clock that asks for one.
@@ -129,6 +167,9 @@ private:
     std::vector<IForm*> windows_;
     int lastHandle_ = 1000;
 };
+
+/// Tells the property windows of a file, if any, that somebody else has written it.
+void TellPropertyWindows(const Forms& windows, const QString& file);
 
 /// The name of every clock window.
 inline const QString ClockWindowName = QStringLiteral("frmTempolark");

@@ -82,6 +82,15 @@ public:
     void RefreshForm(const QString&) override { Note(QStringLiteral("refresh form")); }
     void Refresh() override { Note(QStringLiteral("refresh")); }
     void LayOutAgain() override { Note(QStringLiteral("lay out")); }
+    QString File;
+    QString IniFile() const override { return File; }
+    void SetProperty() override { Note(QStringLiteral("set property")); }
+    void RefreshDefaultTimeZoneDetails(const QString& zone) override {
+        Note(QLatin1String("zone details ") + zone);
+    }
+    void PreviewProperty(const QString& name, const QString& value) override {
+        Note(QStringLiteral("preview %1=%2").arg(name, value));
+    }
     int DrawStyle() const override { return Drawing; }
     void SetBackColor(int colour) override { Colour = colour; }
 };

@@ -102,12 +102,15 @@ public:
     /// Asks for a name and writes the clock's look there, without its zone.
     void SaveStyleAs();
     /// Gives the clock's properties to the property window.
-    void SetProperty();
+    void SetProperty() override;
     void RefreshForm(const QString& fileName) override { look_.RefreshForm(fileName); }
     /// Paints the face anew, background and all.
     void Refresh() override;
     /// At the next tick, and only for a clock that is running.
     void LayOutAgain() override;
+    void PreviewProperty(const QString& name, const QString& value) override {
+        popup_.PreviewProperty(name, value);
+    }
     /// 1 while the window's background colour is "Transparent".
     int DrawStyle() const override { return canvas_.IsTransparent() ? 1 : 0; }
     void SetBackColor(int colour) override { canvas_.SetBackColor(colour); }
@@ -115,7 +118,7 @@ public:
     /// Null takes the shell away: status texts then go nowhere.
     void SetParentForm(IShell* shell) { screen_.SetShell(shell); }
     /// The full path of the clock's own file.
-    QString IniFile() const { return data_.PropertyFileName; }
+    QString IniFile() const override { return data_.PropertyFileName; }
     /// The full path of the file that every new clock's file is a copy of.
     QString DefaultIniFile() const { return program_.Module.Paths.ZoneDefaultFile(); }
     QString AppEXEName() const;
@@ -123,7 +126,7 @@ public:
     QString GetLocation() const;
     /// Makes the zone keys of the clock's file anew from the present rules of the zone of that
     /// name.
-    void RefreshDefaultTimeZoneDetails(const QString& zoneName);
+    void RefreshDefaultTimeZoneDetails(const QString& zoneName) override;
     /// Turns the clock backward: stores the property and draws nothing itself.
     void SetBackward() { look_.SetBackward(); }
 
