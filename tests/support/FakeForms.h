@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "foundation/ClockProperty.h"
 #include "foundation/Forms.h"
 
 /// A window that writes down what is done to it. Closed, it leaves the list of windows.
@@ -88,8 +89,12 @@ public:
     void RefreshDefaultTimeZoneDetails(const QString& zone) override {
         Note(QLatin1String("zone details ") + zone);
     }
-    void PreviewProperty(const QString& name, const QString& value) override {
-        Note(QStringLiteral("preview %1=%2").arg(name, value));
+    void PreviewProperties(const ClockProperties& values) override {
+        QStringList pairs;
+        for (int row = 1; row <= values.UpperBound(); ++row) {
+            pairs += values[row].Name + QLatin1Char('=') + values[row].Value;
+        }
+        Note(QLatin1String("preview ") + pairs.join(QLatin1Char(';')));
     }
     int DrawStyle() const override { return Drawing; }
     void SetBackColor(int colour) override { Colour = colour; }

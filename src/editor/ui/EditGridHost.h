@@ -3,9 +3,10 @@
 /// What a grid tells the window that it stands in, before it acts itself. A window overrides what
 /// it is interested in.
 ///
-/// Codes of keys are those of `editor::KeyCode`, 112 to 123 for F1 to F12, else the code of the
-/// capital letter; the bits of @p shift are those of `mduUILib::KeyShift`. Places are in pixels of
-/// the grid. The numbers are those by which hosts know the events.
+/// Codes of keys are those of `editor::KeyCode`, 112 to 123 for F1 to F12, the code of the capital
+/// letter or the digit, 189 for "-" and "_", else `drawing::TypedKey` of the character; the bits of
+/// @p shift are those of `mduUILib::KeyShift`. Places are in pixels of the grid. The numbers are
+/// those by which hosts know the events.
 class EditGridHost {
 public:
     virtual ~EditGridHost() = default;
@@ -33,6 +34,8 @@ public:
     virtual void CellChanged(int /*row*/, int /*col*/) {}
     /// An entry of an open list stands highlighted; -1 when that list is closed without a choice.
     virtual void ItemHighlighted(int /*row*/, int /*col*/, int /*item*/) {}
+    /// The button "..." or the check box of a cell has been pressed, with the mouse or a key.
+    virtual void ButtonClicked(int /*row*/, int /*col*/) {}
     /// "Find" has been chosen in the chooser over a header.
     virtual void FindAsked() {}
 };
