@@ -58,6 +58,7 @@ public:
     bool Dirty() const { return !steps_.isClean(); }
     /// The steps, to undo and redo them; each brings the grid and the list in line.
     QUndoStack& Steps() { return steps_; }
+    const QUndoStack& Steps() const { return steps_; }
 
     /// The command of a row; empty for a row without one.
     QString Command(int row) const;
