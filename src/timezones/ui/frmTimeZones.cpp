@@ -173,12 +173,18 @@ void frmTimeZones::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
 }
 
+void frmTimeZones::Edit(EditAction action) {
+    if (action == EditAction::Find) {
+        txtSearch_->setFocus();
+        txtSearch_->selectAll();
+    }
+}
+
 void frmTimeZones::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && balloon_.Shown()) {
         balloon_.Destroy();
     } else if (event->matches(QKeySequence::Find)) {
-        txtSearch_->setFocus();
-        txtSearch_->selectAll();
+        Edit(EditAction::Find);
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -24,7 +24,7 @@
 ///     auto* window = new frmTimeZones(program, frame);
 ///     frame->setWidget(window);
 ///     window->ShowMe(shellForm, &shell, 0, 0);
-class frmTimeZones final : public QWidget, public IForm {
+class frmTimeZones final : public QWidget, public IForm, public IEditTarget {
 public:
     frmTimeZones(const Program& program, QWidget* parent);
     ~frmTimeZones() override;
@@ -67,6 +67,12 @@ public:
     void Show() override { ChildFrame::Show(*this); }
     void SetFocus() override { ChildFrame::SetFocus(*this); }
     void Unload() override { ChildFrame::Outer(*this).close(); }
+
+    IEditTarget* AsEditTarget() override { return this; }
+
+    // IEditTarget: it can find, which gives the focus to the field of the search.
+    bool CanEdit(EditAction action) const override { return action == EditAction::Find; }
+    void Edit(EditAction action) override;
 
     /// What is listed, in the order of the rows; the first has position 0.
     const mduTimeZones::ZoneList& List() const { return list_; }
