@@ -99,6 +99,25 @@ bool IsFileKey(const QString& name) {
     return EndsIn(name, "file"_L1);
 }
 
+bool IsColourText(const QString& text) {
+    return IsColourName(text) || IsNumber(text);
+}
+
+std::optional<QString> FittingText(const QString& name, const QString& value, const QString& text) {
+    const ValueForm form = FormOf(name, value);
+    if (form.Kind != EditorKind::Combo) {
+        return text;
+    }
+    const QString wanted = text.trimmed();
+    for (const QString& choice : ValueChoices(value)) {
+        if (choice.trimmed().compare(wanted, Qt::CaseInsensitive) == 0) {
+            return choice;
+        }
+    }
+    const bool isColour = form.Sort == ValueSort::Colour && IsColourText(wanted);
+    return isColour ? std::optional(wanted) : std::nullopt;
+}
+
 ValueForm FormOf(const QString& name, const QString& value) {
     const ValueSort sort = SortOf(name, PropertyCell(value), ValueChoices(value));
     if (IsPicked(value)) {
