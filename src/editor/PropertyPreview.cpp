@@ -15,38 +15,22 @@ QString StoredValue(const ClockProperty& record, int number, const ClockProperti
 
 }  // namespace
 
-void PropertyPreview::Highlight(int record, const QString& value) {
-    highlighted_ = record;
-    highlightedValue_ = value;
-    Show();
-}
-
-ClockProperties PropertyPreview::Values() const {
+// What the clock is to show in the place of what it has stored.
+ClockProperties PropertyPreview::Values(int highlighted, const QString& value) const {
     const ClockProperties& now = records_.Now();
     ClockProperties values;
     for (int number = 1; number <= now.UpperBound(); ++number) {
         const ClockProperty& record = now[number];
-        const bool isHighlighted = number == highlighted_;
-        const QString cell = isHighlighted ? highlightedValue_ : PropertyCell(record.Value);
-        if (isHighlighted ||
-            cell != PropertyCell(StoredValue(record, number, records_.Written()))) {
+        const QString cell = number == highlighted ? value : PropertyCell(record.Value);
+        if (cell != PropertyCell(StoredValue(record, number, records_.Written()))) {
             mduLib::AppendProperty(record.Category, record.Name, cell, values);
         }
     }
     return values;
 }
 
-void PropertyPreview::Show() {
-    Send(owner_.IsShell() ? ClockProperties() : Values());
-}
-
-void PropertyPreview::End() {
-    highlighted_ = 0;
-    Send({});
-}
-
 void PropertyPreview::Send(const ClockProperties& values) {
-    if (values != shown_) {
+    if (values != shown_ && !owner_.IsShell()) {
         shown_ = values;
         owner_.Preview(values);
     }

@@ -13,25 +13,20 @@ public:
     PropertyPreview(const PropertyOwner& owner, const PropertyRecords& records)
         : owner_(owner), records_(records) {}
 
-    /// Shows a record with another value, until the next call; 0 ends that.
-    void Highlight(int record, const QString& value);
-    /// Shows the records as they are. The clock is told only what it was not told last.
-    void Show();
-    /// The clock has been given all of it, or has its own look back.
+    /// Shows the records as they are, a record with another value, or the clock's own look. The
+    /// clock is told only what it was not told last.
+    void Show() { Send(Values(0, {})); }
+    void Highlight(int record, const QString& value) { Send(Values(record, value)); }
+    void End() { Send({}); }
+    /// The clock has taken all of it, or has given itself its own look back.
     void Forget() { shown_ = {}; }
-    /// Gives the clock its own look back.
-    void End();
-
-    /// What the clock is to show in the place of what it has stored.
-    ClockProperties Values() const;
 
 private:
+    ClockProperties Values(int highlighted, const QString& value) const;
     void Send(const ClockProperties& values);
 
     const PropertyOwner& owner_;
     const PropertyRecords& records_;
-    int highlighted_ = 0;
-    QString highlightedValue_;
     ClockProperties shown_;
 };
 
