@@ -14,6 +14,9 @@
 
 namespace editor {
 
+/// The key that takes a new zone's name.
+inline const QString ZoneNameKey = QStringLiteral("Time Zone Standard Name");
+
 /// What a window of properties is opened for.
 enum class SheetKind {
     Clock,
@@ -88,7 +91,7 @@ public:
     /// letter case alone is meant.
     QString PropertyFilePath() const;
     /// Whether this is the sheet of a file.
-    bool Edits(const QString& path) const { return !forNewFile_ && Path() == path; }
+    bool Edits(const QString& path) const { return !path.isEmpty() && Path() == path; }
 
     // --- the name of a new zone ----------------------------------------------------------------
     /// A key of the title (`drawing::EditTitleKey`, `NameKey`). @return true for the Enter that
@@ -142,10 +145,11 @@ public:
     std::optional<mduUILib::FilePicker> PickerOf(int record) const;
 
 private:
-    SheetOutcome Create(const ClockProperties& ownerNow);
+    QString PresentName() const;
+    SheetOutcome Create();
     SheetOutcome Apply(const ClockProperties& ownerNow);
     SheetOutcome Launch(const ClockProperties& ownerNow);
-    QString Write(const QString& path, const ClockProperties& ownerNow);
+    QString Write(const ClockProperties& ownerNow);
     void TakePlace(const ClockProperties& ownerNow);
     void Publish();
     void SetButton(int code) { button_ = ButtonState(code, forNewFile_, button_); }
@@ -163,7 +167,7 @@ private:
     QString nameBefore_;  ///< the zone's name in the records before one was typed
     ButtonTag button_ = ButtonTag::Apply;
     bool forNewFile_;
-    bool isLaunched_;  ///< false for a new file whose clock has not been launched yet
+    bool isShownByOwner_;  ///< false for a file that was made here and waits for its launch
     bool propertyChanged_ = false;
 };
 
