@@ -4,6 +4,7 @@
 
 #include "editor/CellText.h"
 #include "editor/PropertyRows.h"
+#include "foundation/FilePickers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 
@@ -64,7 +65,7 @@ bool IsColour(const QString& name, const QString& cell, const QStringList& choic
 }
 
 ValueSort SortOf(const QString& name, const QString& cell, const QStringList& choices) {
-    if (IsFileKey(name)) {
+    if (mduUILib::IsFileKey(name)) {
         return ValueSort::File;
     }
     if (IsColour(name, cell, choices)) {
@@ -94,10 +95,6 @@ bool IsSpun(ValueSort sort) {
 }
 
 }  // namespace
-
-bool IsFileKey(const QString& name) {
-    return EndsIn(name, "file"_L1);
-}
 
 bool IsColourText(const QString& text) {
     return IsColourName(text) || IsNumber(text);

@@ -50,7 +50,4 @@ std::optional<QString> FittingText(const QString& name, const QString& value, co
 /// Whether a text is a colour's name or number; "Random" and its like are none.
 bool IsColourText(const QString& text);
 
-/// Whether a key's value is the path of a file: its name ends in "file", letter case aside.
-bool IsFileKey(const QString& name);
-
 }  // namespace editor

@@ -39,7 +39,7 @@ private Q_SLOTS:
     void KnowsTheKeysOfAClock();
     void KnowsTheKeysOfTheShell_data();
     void KnowsTheKeysOfTheShell();
-    void KnowsFileKeys();
+    void TellsByTheKey();
     void TakesWhatFits_data();
     void TakesWhatFits();
 };
@@ -139,11 +139,11 @@ void tst_ValueForm::KnowsTheKeysOfTheShell() {
     TellsByTheValue();
 }
 
-void tst_ValueForm::KnowsFileKeys() {
-    QVERIFY(editor::IsFileKey(u"Flag File"_s));
-    QVERIFY(editor::IsFileKey(u"PROFILE "_s));
-    QVERIFY(!editor::IsFileKey(u"Flag Files"_s));
-    QVERIFY(!editor::IsFileKey(u"ile"_s));
+void tst_ValueForm::TellsByTheKey() {
+    QCOMPARE(editor::FormOf(u"PROFILE "_s, u"12"_s),
+             (ValueForm{ValueSort::File, EditorKind::Text}));
+    QCOMPARE(editor::FormOf(u"Flag Files"_s, u"12"_s),
+             (ValueForm{ValueSort::Number, EditorKind::UpDown}));
     QCOMPARE(editor::FormOf(u"Ink Colour"_s, u"4731430"_s),
              (ValueForm{ValueSort::Colour, EditorKind::Text}));
     QCOMPARE(editor::FormOf(u"COLOUR"_s, u""_s), (ValueForm{ValueSort::Colour, EditorKind::Text}));

@@ -6,6 +6,7 @@
 #include "editor/GridLines.h"
 #include "editor/ValueForm.h"
 #include "editor/ui/PropertyGrid.h"
+#include "foundation/FilePickers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/TextHelpers.h"
 #include "platform/Dialogs.h"
@@ -60,7 +61,7 @@ void PropertyGrid::DblClick() {
     if (!grdProperty_->Editing().Editable || CurrentRecord() == 0) {
         return;
     }
-    if (editor::IsFileKey(sheet_.Key(CurrentRecord()))) {
+    if (mduUILib::IsFileKey(sheet_.Key(CurrentRecord()))) {
         PickValue();
     } else {
         grdProperty_->OnCellKeyPress(editor::KeyCode::Enter);
