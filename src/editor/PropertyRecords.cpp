@@ -134,9 +134,10 @@ void PropertyRecords::Replace(const ClockProperties& properties, const QString& 
 }
 
 void PropertyRecords::PutQuietly(const QString& name, const QString& value) {
+    const int record = mduLib::FindPropertyRow(name, now_);
     mduLib::PutProperty(name, value, now_);
     mduLib::PutProperty(name, value, written_);
-    changed_(0);
+    changed_(record);
 }
 
 bool PropertyRecords::Follow(const ClockProperties& file) {

@@ -78,19 +78,10 @@ std::optional<mduUILib::FilePicker> PropertySheet::PickerOf(int record) const {
                                     : std::nullopt;
 }
 
-RowCommit PropertySheet::Commit(int record, const QString& cell) {
-    const RowCommit commit = records_.Commit(record, cell);
-    if (commit.Dirty) {
-        SetButton(0);
-    }
-    return commit;
-}
-
 void PropertySheet::BackToDefault(int record) {
     if (HasRecord(Properties(), record) && defaults_.RowOf(Properties()[record]) != 0) {
         const QString value = defaults_.ValueOf(Properties()[record]);
         records_.PutValue(record, value, Key(record).trimmed() + u" Back to Default"_s);
-        SetButton(0);
     }
 }
 
@@ -115,7 +106,6 @@ QString PropertySheet::RefreshFromDefault() {
     }
     defaults_ = PropertyDefaults(*defaults);
     records_.Replace(defaults_.MergedOver(Properties()), u"Refresh By Default"_s);
-    SetButton(0);
     ResetOrder();
     return {};
 }
@@ -146,7 +136,6 @@ void PropertySheet::RefreshTimeZoneDefaults(IClock* owner) {
     if (ownerWrites && isKnown) {
         OwnerHasTaken();
     }
-    SetButton(0);
     Publish();
     ResetOrder();
 }

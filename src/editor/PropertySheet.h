@@ -70,8 +70,8 @@ public:
     RowInfo Info(int record) const;
     bool DiffersFromDefault(int record) const;
 
-    /// Takes a cell's text into its record. A change makes the button "Apply".
-    RowCommit Commit(int record, const QString& cell);
+    /// Takes a cell's text into its record.
+    RowCommit Commit(int record, const QString& cell) { return records_.Commit(record, cell); }
     /// Gives a record the default's value and choices; nothing for a key that the default lacks.
     void BackToDefault(int record);
 
@@ -85,10 +85,11 @@ public:
     const QString& ZoneName() const { return zoneName_; }
     bool IsForNewFile() const { return forNewFile_; }  ///< the grid can't be edited then
     bool IsDirty() const { return records_.IsDirty(); }
-    ButtonTag Button() const { return button_; }
+    /// What a press does now: "Apply" while there is something to write.
+    ButtonTag Button() const { return !forNewFile_ && IsDirty() ? ButtonTag::Apply : button_; }
     const QString& Caption() const { return title_.Caption(); }
     /// Where a press of the button writes; in the new-file flow a file there whose name differs in
-    /// letter case alone is meant.
+    /// letter case alone is meant. Empty while the name can't be a file's.
     QString PropertyFilePath() const;
     /// Whether this is the sheet of a file.
     bool Edits(const QString& path) const { return !path.isEmpty() && Path() == path; }
@@ -147,7 +148,7 @@ public:
 private:
     QString PresentName() const;
     SheetOutcome Create();
-    SheetOutcome Apply(const ClockProperties& ownerNow);
+    SheetOutcome Apply(ButtonTag held, const ClockProperties& ownerNow);
     SheetOutcome Launch(const ClockProperties& ownerNow);
     QString Write(const ClockProperties& ownerNow);
     void TakePlace(const ClockProperties& ownerNow);
@@ -164,8 +165,8 @@ private:
     PropertyDefaults defaults_;
     PropertyView view_;
     ZoneTitle title_;
-    QString nameBefore_;  ///< the zone's name in the records before one was typed
-    ButtonTag button_ = ButtonTag::Apply;
+    QString nameBefore_;                   ///< the zone's name in the records before one was typed
+    ButtonTag button_ = ButtonTag::Apply;  ///< while nothing waits to be written
     bool forNewFile_;
     bool isShownByOwner_;  ///< false for a file that was made here and waits for its launch
     bool propertyChanged_ = false;

@@ -39,7 +39,10 @@ QString PropertySheet::PropertyFilePath() const {
     if (IsShellName(name)) {
         return paths.CentralFile;
     }
-    const QString file = mduLib::AddIniExtension(mduLib::ZoneFileStem(name));
+    if (!NameProblem().isEmpty()) {
+        return {};
+    }
+    const QString file = mduLib::AddIniExtension(name);
     return paths.ZoneFileFolder +
            NameOnDisk(program_.Services.FileSystem, paths.ZoneFileFolder, file);
 }
@@ -86,13 +89,13 @@ std::optional<SheetQuestion> PropertySheet::OverwriteQuestion() const {
 
 SheetOutcome PropertySheet::Press(int record, const QString& cell,
                                   const ClockProperties& ownerNow) {
-    const ButtonTag held = button_;
+    const ButtonTag held = Button();  // what the user has seen
     Commit(record, cell);
     if (forNewFile_) {
         return Create();
     }
-    button_ = held;  // the commit may have changed it
-    const SheetOutcome outcome = held == ButtonTag::Launch ? Launch(ownerNow) : Apply(ownerNow);
+    const SheetOutcome outcome =
+        held == ButtonTag::Launch ? Launch(ownerNow) : Apply(held, ownerNow);
     propertyChanged_ = propertyChanged_ && !outcome.Problem.isEmpty();
     return outcome;
 }
@@ -120,7 +123,7 @@ SheetOutcome PropertySheet::Create() {
     return {};
 }
 
-SheetOutcome PropertySheet::Apply(const ClockProperties& ownerNow) {
+SheetOutcome PropertySheet::Apply(ButtonTag held, const ClockProperties& ownerNow) {
     const QString problem = Write(ownerNow);
     if (!problem.isEmpty()) {
         return {problem, {}, {}};
@@ -129,6 +132,7 @@ SheetOutcome PropertySheet::Apply(const ClockProperties& ownerNow) {
         SetButton(2);
         return {};
     }
+    SetButton(held == ButtonTag::Save ? -1 : 0);
     Publish();
     return {{}, Path(), {}};
 }
