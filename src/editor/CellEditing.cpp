@@ -1,7 +1,5 @@
 #include "editor/CellEditing.h"
 
-#include <algorithm>
-
 #include "editor/CellText.h"
 #include "platform/WallClock.h"
 
@@ -33,7 +31,7 @@ bool CellEditing::OnCellKeyPress(int keyAscii) {
 bool CellEditing::EnterCell(const QString& typed) {
     const int row = grid_.Row();
     const bool isRowForEdits =
-        grid_.HasRow(row) && row >= grid_.FixedRows() && !grid_.IsStruckThrough(row);
+        grid_.HasRow(row) && row >= grid_.FixedRows() && grid_.IsRowEditable(row);
     if (!Editable || !isRowForEdits || IsEditing()) {
         return false;
     }
@@ -98,6 +96,15 @@ void CellEditing::OnKeyFromEditor(const EditKey& key) {
     }
 }
 
+int CellEditing::TakeTyped(const QString& character, const QString& text) {
+    if (EditColumnId() != EditorKind::ComboEdit) {
+        return -1;
+    }
+    const int item = typeAhead_.Typed(character, text, editor_->Items());
+    editor_->SetText(item < 0 ? text : editor_->Items()[item]);
+    return item;
+}
+
 void CellEditing::Spin(int step) {
     if (editor_) {
         editor_->Spin(step, PresentYear());
@@ -142,12 +149,23 @@ void CellEditing::MoveToNextCell() {
         ++first;
     }
     grid_.SetCol(first < grid_.Cols() ? first : 0);
-    grid_.SetRow(grid_.Row() + 1);
+    grid_.SetRow(NextRow(grid_.Row(), 1));
+}
+
+int CellEditing::NextRow(int row, int step) const {
+    int next = row + step;
+    while (grid_.HasRow(next) && grid_.RowHeight(next) == 0) {
+        next += step;
+    }
+    return grid_.HasRow(next) && next >= grid_.FixedRows() ? next : row;
 }
 
 void CellEditing::MoveByPage(int code) {
-    const int row = grid_.Row() + (code == KeyCode::PageUp ? -PageRows : PageRows);
-    grid_.SetRow(std::clamp(row, grid_.FixedRows(), std::max(grid_.Rows() - 1, grid_.FixedRows())));
+    int row = grid_.Row();
+    for (int moved = 0; moved < PageRows; ++moved) {
+        row = NextRow(row, code == KeyCode::PageUp ? -1 : 1);
+    }
+    grid_.SetRow(row);
 }
 
 }  // namespace editor

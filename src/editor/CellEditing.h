@@ -42,6 +42,12 @@ public:
     /// The open editor; null when there is none.
     CellEditor* Editor() { return editor_ ? &*editor_ : nullptr; }
     const CellEditor* Editor() const { return editor_ ? &*editor_ : nullptr; }
+    int EditColumn() const { return editColumn_; }  ///< of the open editor, or of the last one
+    /// A character has been typed at the end of an open line with a list, which a window keeps
+    /// itself and which holds @p text now.
+    /// @return the entry that begins with it, which is the editor's text then; -1 where there is
+    /// none
+    int TakeTyped(const QString& character, const QString& text);
     /// The editor of the column that is being edited.
     EditorKind EditColumnId() const { return editor_ ? editor_->Kind() : EditorKind::None; }
 
@@ -54,7 +60,8 @@ public:
     void CancelCellEdit();
 
     /// To the right; behind the last column to the first that can be edited of the next row, or
-    /// the first of all where none can. In the last row it stays in that row.
+    /// the first of all where none can. In the last row it stays in that row. Hidden rows are
+    /// passed over.
     void MoveToNextCell();
 
     void SetTypeCheckingTime(int milliseconds) { typeAhead_.SetTypeCheckingTime(milliseconds); }
@@ -64,6 +71,8 @@ private:
     bool EnterCell(const QString& typed);
     bool BeginCellEdit(const QString& typed);
     void MoveByPage(int code);
+    /// The next row from @p row that is seen, in steps of 1 or -1; @p row where there is none.
+    int NextRow(int row, int step) const;
     void WriteValue(const QString& text);
     int PresentYear() const;
 

@@ -148,6 +148,31 @@ bool EditGridData::SetStruckThrough(int row, bool state) {
     return true;
 }
 
+bool EditGridData::SetEditableRow(int row, bool state) {
+    if (!HasRow(row)) {
+        return false;
+    }
+    At(row).Locked = !state;
+    return true;
+}
+
+int EditGridData::CellForeColor(int row, int col) const {
+    const std::vector<int>& colors = RowAt(row).ForeColors;
+    const bool isGiven = col >= 0 && col < static_cast<int>(colors.size());
+    return isGiven ? colors[static_cast<std::size_t>(col)] : NoForeColor;
+}
+
+bool EditGridData::SetCellForeColor(int row, int col, int color) {
+    if (!HasRow(row) || !HasCol(col)) {
+        return false;
+    }
+    std::vector<int>& colors = At(row).ForeColors;
+    const auto index = static_cast<std::size_t>(col);
+    colors.resize(std::max(colors.size(), index + 1), NoForeColor);
+    colors[index] = color;
+    return true;
+}
+
 bool EditGridData::RemoveItem(int row) {
     if (!HasRow(row) || row < fixedRows_) {
         return false;

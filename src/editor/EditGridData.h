@@ -77,6 +77,11 @@ public:
     bool SetRowHeight(int row, int height);                     ///< 0 hides the row
     bool IsStruckThrough(int row) const { return RowAt(row).StrikeThrough; }
     bool SetStruckThrough(int row, bool state);
+    /// Whether a row takes an editor, as far as the row is concerned.
+    bool IsRowEditable(int row) const { return !RowAt(row).StrikeThrough && !RowAt(row).Locked; }
+    bool SetEditableRow(int row, bool state);
+    int CellForeColor(int row, int col) const;  ///< red in the low byte, or `NoForeColor`
+    bool SetCellForeColor(int row, int col, int color);
 
     /// The current cell, and the other end of the selection. A new current row or column ends the
     /// selection: it is then that one cell.

@@ -31,9 +31,9 @@ public:
     /// What is in the file now is what the window knows of.
     void Note();
 
-    /// The records as they are on disk, which are then noted. Nothing where the file is gone or
-    /// can't be read whole; an empty file has no rows.
-    std::optional<ClockProperties> Read();
+    /// The records as they are on disk. Nothing where the file is gone or can't be read whole; an
+    /// empty file has no rows.
+    std::optional<ClockProperties> Read() const;
     /// Writes the records, and notes them. A missing file is made.
     /// @return why it was not written, for the user; empty when it was
     QString Write(const ClockProperties& properties);
@@ -43,5 +43,8 @@ private:
     QString path_;
     std::optional<QByteArray> seen_;  ///< nothing where no file could be read
 };
+
+/// What is told of a file that can't be read whole.
+QString UnreadableText(const QString& path);
 
 }  // namespace editor

@@ -91,4 +91,20 @@ void SelectGridNone(EditGridData& grid) {
     grid.SetRow(grid.Row());
 }
 
+bool SetRowForeColor(EditGridData& grid, int row, int color) {
+    for (int col = 0; col < grid.Cols(); ++col) {
+        grid.SetCellForeColor(row, col, color);
+    }
+    return grid.HasRow(row);
+}
+
+void SetCellDefault(EditGridData& grid) {
+    const CellBlock block = grid.Selection();
+    for (int row = std::max(block.Top, grid.FixedRows()); row <= block.Bottom; ++row) {
+        for (int col = block.Left; col <= block.Right; ++col) {
+            grid.SetCellForeColor(row, col, NoForeColor);
+        }
+    }
+}
+
 }  // namespace editor

@@ -33,4 +33,9 @@ bool SelectOneRow(EditGridData& grid, int row);
 void SelectGridAll(EditGridData& grid);
 void SelectGridNone(EditGridData& grid);
 
+/// Colours the texts of a whole row, red in the low byte, or gives those of the selection, headings
+/// aside, the grid's own colour back.
+bool SetRowForeColor(EditGridData& grid, int row, int color);
+void SetCellDefault(EditGridData& grid);
+
 }  // namespace editor

@@ -12,6 +12,9 @@ namespace editor {
 inline constexpr int DefaultRowHeight = 240;
 inline constexpr int OpenedRowHeight = 285;
 
+/// The colour of a text that has none of its own.
+inline constexpr int NoForeColor = -1;
+
 /// One row of a grid.
 struct GridRow {
     /// The texts by column; those behind the last one that was written may be missing and count as
@@ -20,6 +23,10 @@ struct GridRow {
     int Data = 0;  ///< the host's own number, such as the place of a record
     int Height = DefaultRowHeight;
     bool StrikeThrough = false;  ///< the whole row is struck through and takes no editor
+    bool Locked = false;         ///< the row takes no editor
+    /// The colours of the texts by column, red in the low byte; those that are missing are
+    /// `NoForeColor`.
+    std::vector<int> ForeColors;
 };
 
 /// What a cut or a copy of a row keeps until it is pasted.

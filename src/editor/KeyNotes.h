@@ -37,10 +37,10 @@ struct RowInfo {
     QString Sentence;     ///< of the help; empty where there is none
     QStringList Choices;  ///< each once, as the editor offers them
     QString Unit;  ///< such as "percent", "twips", "seconds"; empty for a value that is no measure
-    bool ByItself = false;  ///< "-1" lets the program choose
+    bool ByItself = false;  ///< "-1" has a meaning of its own: the program chooses
 
-    /// All of it on one line: the sentence, then the choices, the unit and what -1 means. At most
-    /// 20 choices are listed.
+    /// On one line: the sentence, up to eight of the choices, the unit unless the sentence names
+    /// it.
     QString Text() const;
     bool operator==(const RowInfo&) const = default;
 };

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QHash>
+#include <QString>
+#include <utility>
+
 #include "foundation/ClockProperty.h"
 
 namespace editor {
@@ -8,7 +12,7 @@ namespace editor {
 class PropertyDefaults {
 public:
     PropertyDefaults() = default;
-    explicit PropertyDefaults(const ClockProperties& defaults) : defaults_(defaults) {}
+    explicit PropertyDefaults(const ClockProperties& defaults);
 
     /// The default's record of the same key and category, else of the same key; its number, 0 where
     /// there is none.
@@ -25,6 +29,8 @@ public:
 
 private:
     ClockProperties defaults_;
+    QHash<std::pair<QString, QString>, int> rows_;  ///< by category and key, in small letters
+    QHash<QString, int> rowsOfName_;
 };
 
 }  // namespace editor

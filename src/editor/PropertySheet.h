@@ -14,6 +14,9 @@
 
 namespace editor {
 
+/// The key that takes a new zone's name.
+inline const QString ZoneNameKey = QStringLiteral("Time Zone Standard Name");
+
 /// What a window of properties is opened for.
 enum class SheetKind {
     Clock,
@@ -67,8 +70,8 @@ public:
     RowInfo Info(int record) const;
     bool DiffersFromDefault(int record) const;
 
-    /// Takes a cell's text into its record. A change makes the button "Apply".
-    RowCommit Commit(int record, const QString& cell);
+    /// Takes a cell's text into its record.
+    RowCommit Commit(int record, const QString& cell) { return records_.Commit(record, cell); }
     /// Gives a record the default's value and choices; nothing for a key that the default lacks.
     void BackToDefault(int record);
 
@@ -82,13 +85,14 @@ public:
     const QString& ZoneName() const { return zoneName_; }
     bool IsForNewFile() const { return forNewFile_; }  ///< the grid can't be edited then
     bool IsDirty() const { return records_.IsDirty(); }
-    ButtonTag Button() const { return button_; }
+    /// What a press does now: "Apply" while there is something to write.
+    ButtonTag Button() const { return !forNewFile_ && IsDirty() ? ButtonTag::Apply : button_; }
     const QString& Caption() const { return title_.Caption(); }
     /// Where a press of the button writes; in the new-file flow a file there whose name differs in
-    /// letter case alone is meant.
+    /// letter case alone is meant. Empty while the name can't be a file's.
     QString PropertyFilePath() const;
     /// Whether this is the sheet of a file.
-    bool Edits(const QString& path) const { return !forNewFile_ && Path() == path; }
+    bool Edits(const QString& path) const { return !path.isEmpty() && Path() == path; }
 
     // --- the name of a new zone ----------------------------------------------------------------
     /// A key of the title (`drawing::EditTitleKey`, `NameKey`). @return true for the Enter that
@@ -142,10 +146,11 @@ public:
     std::optional<mduUILib::FilePicker> PickerOf(int record) const;
 
 private:
-    SheetOutcome Create(const ClockProperties& ownerNow);
-    SheetOutcome Apply(const ClockProperties& ownerNow);
+    QString PresentName() const;
+    SheetOutcome Create();
+    SheetOutcome Apply(ButtonTag held, const ClockProperties& ownerNow);
     SheetOutcome Launch(const ClockProperties& ownerNow);
-    QString Write(const QString& path, const ClockProperties& ownerNow);
+    QString Write(const ClockProperties& ownerNow);
     void TakePlace(const ClockProperties& ownerNow);
     void Publish();
     void SetButton(int code) { button_ = ButtonState(code, forNewFile_, button_); }
@@ -160,10 +165,10 @@ private:
     PropertyDefaults defaults_;
     PropertyView view_;
     ZoneTitle title_;
-    QString nameBefore_;  ///< the zone's name in the records before one was typed
-    ButtonTag button_ = ButtonTag::Apply;
+    QString nameBefore_;                   ///< the zone's name in the records before one was typed
+    ButtonTag button_ = ButtonTag::Apply;  ///< while nothing waits to be written
     bool forNewFile_;
-    bool isLaunched_;  ///< false for a new file whose clock has not been launched yet
+    bool isShownByOwner_;  ///< false for a file that was made here and waits for its launch
     bool propertyChanged_ = false;
 };
 

@@ -20,9 +20,7 @@ public:
 
     /// Words of which each must occur, letter case aside, in a record's category, key, value,
     /// choices or sentence. "hand colour" finds "Hour Hand Colour". No word shows all.
-    void SetFilter(const QString& words) {
-        words_ = words.simplified().split(u' ', Qt::SkipEmptyParts);
-    }
+    void SetFilter(const QString& words);
     bool IsFiltered() const { return !words_.isEmpty(); }
 
     /// The numbers of the records, without those that have no key.

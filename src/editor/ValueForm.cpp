@@ -4,6 +4,7 @@
 
 #include "editor/CellText.h"
 #include "editor/PropertyRows.h"
+#include "foundation/FilePickers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 
@@ -64,7 +65,7 @@ bool IsColour(const QString& name, const QString& cell, const QStringList& choic
 }
 
 ValueSort SortOf(const QString& name, const QString& cell, const QStringList& choices) {
-    if (IsFileKey(name)) {
+    if (mduUILib::IsFileKey(name)) {
         return ValueSort::File;
     }
     if (IsColour(name, cell, choices)) {
@@ -95,8 +96,23 @@ bool IsSpun(ValueSort sort) {
 
 }  // namespace
 
-bool IsFileKey(const QString& name) {
-    return EndsIn(name, "file"_L1);
+bool IsColourText(const QString& text) {
+    return IsColourName(text) || IsNumber(text);
+}
+
+std::optional<QString> FittingText(const QString& name, const QString& value, const QString& text) {
+    const ValueForm form = FormOf(name, value);
+    if (form.Kind != EditorKind::Combo) {
+        return text;
+    }
+    const QString wanted = text.trimmed();
+    for (const QString& choice : ValueChoices(value)) {
+        if (choice.trimmed().compare(wanted, Qt::CaseInsensitive) == 0) {
+            return choice;
+        }
+    }
+    const bool isColour = form.Sort == ValueSort::Colour && IsColourText(wanted);
+    return isColour ? std::optional(wanted) : std::nullopt;
 }
 
 ValueForm FormOf(const QString& name, const QString& value) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "editor/GridColumns.h"
 
@@ -39,7 +40,14 @@ struct ValueForm {
 /// @param value raw, with its choices
 ValueForm FormOf(const QString& name, const QString& value);
 
-/// Whether a key's value is the path of a file: its name ends in "file", letter case aside.
-bool IsFileKey(const QString& name);
+/// A text that was not picked from the list, such as one that is pasted, as the value can take it.
+/// One of words and colours takes its choices alone, letter case and blanks around them aside, a
+/// colour other names and numbers as well; anything else takes any text. Nothing where it can't.
+///
+///     FittingText("Clocks", "Analogue,Analogue,Digital", " digital")  // "Digital"
+std::optional<QString> FittingText(const QString& name, const QString& value, const QString& text);
+
+/// Whether a text is a colour's name or number; "Random" and its like are none.
+bool IsColourText(const QString& text);
 
 }  // namespace editor

@@ -37,4 +37,9 @@ QString PickerStart(const FilePicker& picker, const QString& value, const PathTa
 ///     StoredFile("/clocks/Images/a b.png", "/clocks")  // ".\Images\a b.png"
 QString StoredFile(const QString& path, const QString& appFolder);
 
+/// Why a picked file can't be kept in a value, to be told in a box titled `PickProblemTitle`: its
+/// path holds a comma, a "\" or a control character. Empty when it can.
+QString PickProblem(const QString& path);
+inline const QString PickProblemTitle = QStringLiteral("Set File Error");
+
 }  // namespace mduUILib

@@ -39,7 +39,9 @@ private Q_SLOTS:
     void KnowsTheKeysOfAClock();
     void KnowsTheKeysOfTheShell_data();
     void KnowsTheKeysOfTheShell();
-    void KnowsFileKeys();
+    void TellsByTheKey();
+    void TakesWhatFits_data();
+    void TakesWhatFits();
 };
 
 void tst_ValueForm::TellsByTheValue_data() {
@@ -137,11 +139,11 @@ void tst_ValueForm::KnowsTheKeysOfTheShell() {
     TellsByTheValue();
 }
 
-void tst_ValueForm::KnowsFileKeys() {
-    QVERIFY(editor::IsFileKey(u"Flag File"_s));
-    QVERIFY(editor::IsFileKey(u"PROFILE "_s));
-    QVERIFY(!editor::IsFileKey(u"Flag Files"_s));
-    QVERIFY(!editor::IsFileKey(u"ile"_s));
+void tst_ValueForm::TellsByTheKey() {
+    QCOMPARE(editor::FormOf(u"PROFILE "_s, u"12"_s),
+             (ValueForm{ValueSort::File, EditorKind::Text}));
+    QCOMPARE(editor::FormOf(u"Flag Files"_s, u"12"_s),
+             (ValueForm{ValueSort::Number, EditorKind::UpDown}));
     QCOMPARE(editor::FormOf(u"Ink Colour"_s, u"4731430"_s),
              (ValueForm{ValueSort::Colour, EditorKind::Text}));
     QCOMPARE(editor::FormOf(u"COLOUR"_s, u""_s), (ValueForm{ValueSort::Colour, EditorKind::Text}));
@@ -149,6 +151,33 @@ void tst_ValueForm::KnowsFileKeys() {
              (ValueForm{ValueSort::Text, EditorKind::Text}));
     QCOMPARE(editor::FormOf(u"Any Font"_s, u"Lato"_s),
              (ValueForm{ValueSort::Font, EditorKind::Text}));
+}
+
+void tst_ValueForm::TakesWhatFits_data() {
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("fits");
+    QTest::addColumn<QString>("taken");
+    QTest::newRow("a line takes all") << u"x"_s << u" any thing "_s << true << u" any thing "_s;
+    QTest::newRow("a number, too") << u"3,1,2,3"_s << u"4.5"_s << true << u"4.5"_s;
+    QTest::newRow("a choice") << u"A,A,Bold"_s << u" bOLD "_s << true << u"Bold"_s;
+    QTest::newRow("none of the choices") << u"A,A,Bold"_s << u"Bol"_s << false << QString();
+    QTest::newRow("nothing") << u"A,A,Bold"_s << QString() << false << QString();
+    QTest::newRow("no") << u"Yes,Yes,No"_s << u"no"_s << true << u"No"_s;
+    QTest::newRow("a colour's word") << u"Red,Red,Random"_s << u"random"_s << true << u"Random"_s;
+    QTest::newRow("another colour") << u"Red,Red,Random"_s << u"cyan"_s << true << u"cyan"_s;
+    QTest::newRow("a colour's number")
+        << u"Red,Red,Random"_s << u"4731430"_s << true << u"4731430"_s;
+    QTest::newRow("no colour") << u"Red,Red,Random"_s << u"Noon"_s << false << QString();
+    QTest::newRow("a number that is no choice") << u"A,A,B"_s << u"3"_s << false << QString();
+}
+
+void tst_ValueForm::TakesWhatFits() {
+    QFETCH(QString, value);
+    QFETCH(QString, text);
+    const std::optional<QString> taken = editor::FittingText(u"Any Key"_s, value, text);
+    QTEST(taken.has_value(), "fits");
+    QTEST(taken.value_or(QString()), "taken");
 }
 
 QTEST_APPLESS_MAIN(tst_ValueForm)

@@ -11,6 +11,7 @@
 class QComboBox;
 class QLineEdit;
 class QTableView;
+class GridPlaces;
 
 /// The grid that the windows of properties and shortcuts edit with. It shows an `EditGridData`,
 /// opens an editor over the current cell and tells its host what happens.
@@ -67,14 +68,20 @@ public:
     /// Closes the open editor without a trace.
     void CancelCellEdit();
 
+    /// The line, or the list, of the open editor; null where there is none.
+    QLineEdit* GetCellTextBox() const;
+    QComboBox* GetCellCombo() const;
+
     /// Which entries the chooser over the headings offers, see `editor::SetColComboOption`.
     void SetColComboOption(const QString& options);
+    /// Opens it over a column, as a click on the heading and Alt+Down do.
+    void ShowColChooser(int col);
 
     /// Fits the columns that have a format to their texts.
     void AutoColFit();
-    /// Makes the grid as wide as its columns and as high as its rows, as far as the widget that it
-    /// stands in allows.
-    void SetGridSize();
+    /// Makes the grid as wide as its columns and as high as its rows, but not larger than this, in
+    /// pixels.
+    void SetGridSize(const QSize& most);
     /// The width alone, not above @p most pixels.
     void SetGridWidthByCaller(int most);
 
@@ -85,18 +92,39 @@ public:
     /// The clip text of the selection, put on the clipboard of the desktop.
     void CopySelection() const;
 
-    /// The table itself, for places and scrolling.
+    /// What a screen reader calls the grid.
+    void SetName(const QString& name);
+
+    /// Where rows and columns are on the screen.
+    GridPlaces& Places();
+    /// The cell under the pointer, as the last event of the mouse told; -1 for none.
+    int MouseRow() const;
+    int MouseCol() const;
+    /// The table itself.
     QTableView& View();
 
     QString Tag;                 ///< the host's own
     bool CompactOnPress = true;  ///< a press closes the gaps of its column, `CompactColumn`
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    struct Inside;
+
+    void MakeInfo();
+    void PlaceInfo();
+    void ShowCursor();
+    void Compact();
+    void FocusWent(Qt::FocusReason reason);
+
     editor::EditGridData data_;
     editor::GridColumns columns_;
     editor::CellEditing editing_;
     editor::GridLook look_;
     EditGridHost& host_;
     CellLooks looks_;
-    QTableView* ctlGrid_ = nullptr;
+    std::unique_ptr<Inside> inside_;
+    bool applies_ = false;  ///< widths are being set by the look
 };

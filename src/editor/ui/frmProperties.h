@@ -3,9 +3,11 @@
 #include <QWidget>
 #include <memory>
 
+#include "editor/PropertySheet.h"
+#include "editor/ui/PropertyMenu.h"
 #include "foundation/Program.h"
 
-class PropertyWindowParts;
+struct PropertyWindowParts;
 
 /// The window that edits one property file: of a clock, of a clock that is to be made, or of the
 /// shell. It lists the keys with their values; what the file becomes is decided by
@@ -29,8 +31,9 @@ public:
     frmProperties(const Program& program, IShell* shell, QWidget* parent);
     ~frmProperties() override;
 
-    /// Opens it as a window of its own. @param zoneName the name of the zone, of
-    /// `mduMain::CentralExeName` for the shell's settings; empty for a zone that is to be made
+    /// Opens it as a window of its own, which is deleted once it is closed.
+    /// @param zoneName the name of the zone, `mduMain::CentralExeName` for the shell's settings;
+    /// empty for a zone that is to be made
     /// @param ownerHandle of the clock that opened it; 0 for the shell
     void ShowProperty(const QString& zoneName, int ownerHandle);
     /// Opens it as a child of the shell, at a place in twips that is clipped to the client area of
@@ -73,8 +76,48 @@ protected:
 private:
     QWidget& Outer();
     const QWidget& Outer() const;
+    void Open(const QString& zoneName, int ownerHandle);
+    void Place(const QRectF& twips);
+
+    // What is shown (frmProperties.cpp)
+    /// The line of information, which follows the current row.
+    void ShowRowInfo();
+    /// Title, button, name of a new zone, and whether the grid can be edited.
+    void ShowState();
+    void Search(const QString& words);
+    /// Tells why something was not done, in the line of information and by the owner.
+    void Tell(const QString& problem);
+
+    // What is done (frmPropertiesActions.cpp)
+    void PressButton();
+    void Follow(const editor::SheetOutcome& outcome);
+    /// Asks about a change that somebody else has made to the file.
+    /// @return whether the values are those that the user has seen
+    bool AskChange();
+    /// @return whether the window may close now
+    bool AskToSave();
+    bool SaveAtClose();
+    void RunItem(PropertyMenu::Item item);
+    void Sort(const QString& tag);
+    void Refill(const std::function<QString()>& action);
+    PropertyMenu::State MenuState() const;
+    void Copy();
+    void Cut();
+    void Paste();
+    void Find();
+
+    // The keys (frmPropertiesKeys.cpp)
+    /// A key that the window takes before the grid. @return whether it has been used
+    bool WindowKey(int code, int shift);
+    bool EditKey(int code, int shift);
+    /// A key while the name of a new zone is typed.
+    bool NameKey(const QKeyEvent& event);
+    bool SearchKey(const QKeyEvent& event);
+    void FlipNewFile();
 
     Program program_;
+    IShell* shell_;
     int handle_;
+    bool asking_ = false;  ///< a box of this window is open
     std::unique_ptr<PropertyWindowParts> parts_;
 };
