@@ -41,8 +41,10 @@ PropertyGrid::PropertyGrid(const Program& program, editor::PropertySheet& sheet,
     sheet_.Records().Watch([this](int record) { RecordChanged(record); });
 }
 
+// The control tells this of all that it does, and so goes first.
 PropertyGrid::~PropertyGrid() {
     sheet_.Records().Watch([](int) {});
+    delete grdProperty_;
 }
 
 void PropertyGrid::SetupPropertyGrid() {
@@ -55,9 +57,8 @@ void PropertyGrid::SetupPropertyGrid() {
     grdProperty_->SetLooks(
         [this](int row, int col) { return LookOf(row, col); },
         [this](int row, int, const QString& item) { return LookOfItem(row, item); });
-    QTableView& view = grdProperty_->View();
-    view.setAccessibleName(u"Properties"_s);
-    view.installEventFilter(this);
+    grdProperty_->SetName(u"Properties"_s);
+    grdProperty_->View().installEventFilter(this);
 }
 
 void PropertyGrid::SetupPropertyHeaders() {
