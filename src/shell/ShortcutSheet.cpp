@@ -208,7 +208,8 @@ bool ShortcutSheet::MayClose(int row) {
     }
     ClockProperties now;
     const bool isThere = mduLib::ReadPropertyFile(program_.Services.FileSystem, file_, now);
-    List() = isThere ? now : stored_;
+    ShowList(isThere ? now : stored_);
+    steps_.clear();
     return true;
 }
 
