@@ -69,6 +69,13 @@ KeyNotes::KeyNotes(const platform::Files& files, const QString& path, const QStr
     }
 }
 
+QString KeyNotes::Of(const QString& key) const {
+    static const QRegularExpression number(u"\\d+$"_s);
+    const QString folded = Folded(key);
+    const auto note = sentences_.find(folded);
+    return note != sentences_.end() ? *note : sentences_.value(QString(folded).remove(number));
+}
+
 QString KeyNotesPath(const QString& appFolder) {
     return appFolder + u"/Help/keys.txt"_s;
 }
@@ -81,7 +88,8 @@ RowInfo RowInfoOf(const ClockProperty& record, const KeyNotes& notes) {
     if (mduAPILib::IsNumeric(PropertyCell(record.Value).trimmed())) {
         info.Unit = UnitOf(record.Name, info.Sentence);
     }
-    info.ByItself = info.Sentence.contains("-1"_L1);
+    static const QRegularExpression minusOne(u"-1\\b"_s);
+    info.ByItself = info.Sentence.contains(minusOne);
     return info;
 }
 
