@@ -27,9 +27,9 @@ public:
     /// its own look. A wrapper, a calculator that is typed into and a clock that is closing show
     /// none.
     void Show(const QString& style);
-    /// Shows one property with another value, in the place of what is shown already. A key that is
-    /// not of the face shows nothing.
-    void ShowProperty(const QString& name, const QString& value);
+    /// Shows these values in the place of what is shown already; without any it is `End`. A key
+    /// that is not of the face, or that the clock does not have, shows nothing.
+    void ShowProperties(const ClockProperties& values);
     /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
     /// else has changed meanwhile stays.
     void End();
@@ -43,8 +43,10 @@ private:
         QString Shown;
     };
     void ShowLook(const ClockProperties& look);
+    bool TriesAny(const ClockProperties& look) const;
     void TakeBack();
     void Try(const ClockProperties& style);
+    bool IsKnown(const QString& name) const;
     bool MayTry(const QString& name) const;
 
     ClockData& data_;

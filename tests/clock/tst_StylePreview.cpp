@@ -63,6 +63,43 @@ private Q_SLOTS:
         QCOMPARE(desk.Data.Properties(), before);
     }
 
+    void ShowsSeveralValues() {
+        PreviewDesk desk;
+        const ClockProperties before = desk.Data.Properties();
+        const QString own = desk.Value(u"Hour Hand Colour"_s);
+        ClockProperties values;
+        mduLib::AppendProperty({}, u"Hour Hand Colour"_s, u"Red,Blue"_s, values);
+        mduLib::AppendProperty({}, u"Clocks"_s, u"Digital"_s, values);
+        mduLib::AppendProperty({}, u"No Such Key"_s, u"1"_s, values);
+        desk.Preview.ShowProperties(values);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Red"_s);
+        QVERIFY(desk.Data.Is(clockcore::ClockKind::Digital));
+        QCOMPARE(desk.Data.Properties().UpperBound(), before.UpperBound());
+        ClockProperties other;
+        mduLib::AppendProperty({}, u"Minute Hand Colour"_s, u"Cyan"_s, other);
+        desk.Preview.ShowProperties(other);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), own);
+        QCOMPARE(desk.Value(u"Minute Hand Colour"_s), u"Cyan"_s);
+        QVERIFY(desk.Data.Is(clockcore::ClockKind::Analogue));
+        desk.Preview.ShowProperties({});
+        QCOMPARE(desk.Data.Properties(), before);
+    }
+
+    void ValuesThatAreNotOfTheFaceDrawNothing() {
+        PreviewDesk desk;
+        ClockProperties values;
+        mduLib::AppendProperty({}, u"Stay Time"_s, u"3"_s, values);
+        desk.Preview.ShowProperties(values);
+        QCOMPARE(desk.Calls(), QString());
+        mduLib::AppendProperty({}, u"Hour Hand Colour"_s, u"Red"_s, values);
+        desk.Preview.ShowProperties(values);
+        QVERIFY(desk.Calls().contains(u"DrawClockFace"_s));
+        ClockProperties other;
+        mduLib::AppendProperty({}, u"Stay Time"_s, u"3"_s, other);
+        desk.Preview.ShowProperties(other);  // and the hand's own colour comes back
+        QVERIFY(desk.Calls().contains(u"DrawClockFace"_s));
+    }
+
     void OnlyTheFaceChanges_data() {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");

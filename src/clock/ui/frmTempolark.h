@@ -108,8 +108,8 @@ public:
     void Refresh() override;
     /// At the next tick, and only for a clock that is running.
     void LayOutAgain() override;
-    void PreviewProperty(const QString& name, const QString& value) override {
-        popup_.PreviewProperty(name, value);
+    void PreviewProperties(const ClockProperties& values) override {
+        popup_.PreviewProperties(values);
     }
     /// 1 while the window's background colour is "Transparent".
     int DrawStyle() const override { return canvas_.IsTransparent() ? 1 : 0; }

@@ -1,0 +1,135 @@
+#include "editor/ui/ValueLooks.h"
+
+#include <QBuffer>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QPainter>
+
+#include "editor/ValueForm.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/NamedValues.h"
+#include "foundation/TextHelpers.h"
+
+using namespace Qt::StringLiterals;
+using editor::ValueSort;
+
+namespace {
+
+constexpr qint64 LargestFile = 16'000'000;     // bytes; larger ones would be felt
+constexpr qint64 LargestPicture = 32'000'000;  // pixels
+
+/// Whether the name is that of a picture; sounds and music are not read for one.
+bool IsPicture(const QString& path) {
+    static const QStringList ends = {u"bmp"_s, u"gif"_s, u"ico"_s, u"jpeg"_s, u"jpg"_s, u"png"_s};
+    return ends.contains(path.section(u'.', -1).toLower());
+}
+
+QPixmap EmptyPicture() {
+    const double ratio = qGuiApp->devicePixelRatio();
+    QPixmap picture(QSize(ValueLooks::Side, ValueLooks::Side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
+/// A square of four fields, in reading order.
+QPixmap FourFields(const std::array<QColor, 4>& colours) {
+    QPixmap picture = EmptyPicture();
+    QPainter painter(&picture);
+    constexpr int Half = ValueLooks::Side / 2;
+    for (int field = 0; field < 4; ++field) {
+        painter.fillRect(field % 2 * Half, field / 2 * Half, Half, Half,
+                         colours[static_cast<std::size_t>(field)]);
+    }
+    painter.setPen(QColor(128, 128, 128));
+    painter.drawRect(0, 0, ValueLooks::Side - 1, ValueLooks::Side - 1);
+    return picture;
+}
+
+QPixmap Chequer() {
+    return FourFields({Qt::white, Qt::lightGray, Qt::lightGray, Qt::white});
+}
+
+QPixmap AllColours() {
+    return FourFields(
+        {QColor(214, 69, 65), QColor(240, 190, 60), QColor(80, 160, 90), QColor(70, 120, 200)});
+}
+
+/// A picture of a file's bytes within the side of a thumbnail; null where there is none.
+QPixmap ReadThumbnail(QByteArray content) {
+    QBuffer buffer(&content);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (!size.isEmpty() && qint64(size.width()) * size.height() > LargestPicture) {
+        return {};
+    }
+    const double ratio = qGuiApp->devicePixelRatio();
+    const QSize most = QSize(ValueLooks::Side, ValueLooks::Side) * ratio;
+    if (!size.isEmpty()) {
+        reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    }
+    QImage image = reader.read();
+    if (image.width() > most.width() || image.height() > most.height()) {
+        image = image.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    image.setDevicePixelRatio(ratio);
+    return QPixmap::fromImage(image);
+}
+
+}  // namespace
+
+CellLook ValueLooks::ColourLook(const QString& text) const {
+    CellLook look;
+    const QString word = mduUILib::ColourWord(text);
+    if (word == "transparent"_L1) {
+        look.Picture = Chequer();
+    } else if (word == "random"_L1 || mduUILib::IsCustomColour(text)) {
+        look.Picture = AllColours();
+    } else if (editor::IsColourText(text)) {
+        const mduLib::ColourParts parts =
+            mduLib::SplitColour(mduUILib::ColourValue(text, program_.Services.Random));
+        look.Swatch = QColor(parts.Red, parts.Green, parts.Blue);
+    }
+    return look;
+}
+
+CellLook ValueLooks::LookOf(const QString& name, const QString& value, const QString& text) const {
+    CellLook look;
+    switch (editor::FormOf(name, value).Sort) {
+        case ValueSort::Colour:
+            look = ColourLook(text);
+            look.Button = true;
+            break;
+        case ValueSort::Font:
+            look.FontFamily = QFontDatabase::hasFamily(text) ? text : QString();
+            break;
+        case ValueSort::File:
+            look.Picture = Thumbnail(text);
+            look.Button = true;
+            break;
+        case ValueSort::YesNo:
+            look.Check = mduUILib::YesNoToBool(text);
+            break;
+        default:
+            break;
+    }
+    return look;
+}
+
+QPixmap ValueLooks::Thumbnail(const QString& path) const {
+    const platform::Files& files = program_.Services.FileSystem;
+    const QString native = mduLib::ResolveAppPath(path.trimmed(), program_.Module.Paths.AppFolder);
+    const std::optional<qint64> size = IsPicture(native) ? files.Size(native) : std::nullopt;
+    if (!size || *size <= 0 || *size > LargestFile) {
+        return {};
+    }
+    const QString key = native + u'|' + QString::number(files.ModifiedSeconds(native).value_or(0));
+    if (const QPixmap* known = thumbnails_.object(key)) {
+        return *known;
+    }
+    const QPixmap made = ReadThumbnail(files.Read(native).value_or(QByteArray()));
+    thumbnails_.insert(key, new QPixmap(made));
+    return made;
+}
