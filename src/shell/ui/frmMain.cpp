@@ -13,6 +13,7 @@
 #include "shell/LateMenus.h"
 #include "shell/StartMessage.h"
 #include "shell/ui/ClockArea.h"
+#include "shell/ui/EditTargets.h"
 #include "shell/ui/ShellHeader.h"
 #include "shell/ui/ShellLook.h"
 #include "shell/ui/ShellMenus.h"

@@ -11,6 +11,7 @@
 #include "shell/ui/ShellPlacement.h"
 
 class ClockArea;
+class EditTargets;
 class ShellFrame;
 class ShellHeader;
 class ShellLook;
@@ -165,4 +166,5 @@ private:
     std::unique_ptr<ShellLook> look_;
     std::unique_ptr<ShellWindows> windows_;
     std::unique_ptr<ToolBarCommands> buttons_;
+    std::unique_ptr<EditTargets> edit_;
 };
