@@ -70,10 +70,13 @@ KeyNotes::KeyNotes(const platform::Files& files, const QString& path, const QStr
 }
 
 QString KeyNotes::Of(const QString& key) const {
-    static const QRegularExpression number(u"\\d+$"_s);
-    const QString folded = Folded(key);
-    const auto note = sentences_.find(folded);
-    return note != sentences_.end() ? *note : sentences_.value(QString(folded).remove(number));
+    QString name = Folded(key);
+    auto note = sentences_.find(name);
+    while (note == sentences_.end() && !name.isEmpty() && name.back().isDigit()) {
+        name.chop(1);
+        note = sentences_.find(name);
+    }
+    return note != sentences_.end() ? *note : QString();
 }
 
 QString KeyNotesPath(const QString& appFolder) {
