@@ -43,7 +43,7 @@ void frmMain::MakeInnerParts() {
         ShellLook::Parts{*area_, header_->Art(), *toolbar_, *statusBar_, *frame_});
     windows_ =
         std::make_unique<ShellWindows>(program_, ShellWindows::Owner{*this, *this, *this}, *area_,
-                                       settings_, [this] { SetHeaderVisible(false); });
+                                       settings_, menuState_, [this] { SetHeaderVisible(false); });
     buttons_ = std::make_unique<ToolBarCommands>(
         program_, ToolBarCommands::Parts{*toolbar_, *menus_, menuState_, commands_, settings_},
         tell);
