@@ -52,9 +52,14 @@ QRect WithinReach(QRect place, const std::vector<QRect>& screens, const QRect& p
     return place;
 }
 
+/// A window beside a clock covers it sooner than it becomes narrower than this, in pixels.
+constexpr int LeastBeside = 420;
+
 QRect PlaceBeside(const QRect& clock, const QSize& window, const QSize& room) {
-    const QSize size = window.boundedTo(room);
     const int behind = clock.x() + clock.width();
+    const int beside = std::max(room.width() - behind, clock.x());
+    const int width = std::min(window.width(), std::max(beside, LeastBeside));
+    const QSize size = QSize(width, window.height()).boundedTo(room);
     const int before = clock.x() - size.width();
     const bool fitsBehind = behind + size.width() <= room.width();
     const bool isMoreBehind = room.width() - behind >= clock.x();

@@ -25,7 +25,8 @@ QRect WithinReach(QRect place, const std::vector<QRect>& screens, const QRect& p
 
 /// Where a window of the shell opens for the clock that it is about, so that both are seen: to the
 /// clock's right, else to its left, else over it at the side that has more room; its upper edge at
-/// the clock's. It never leaves the room, and becomes smaller where that is too small for it.
+/// the clock's. It never leaves the room, and becomes smaller where that is too small for it; where
+/// the room beside the clock is, narrower, but not below 420 pixels.
 /// @param clock in the room, which begins at 0, 0; it may stand partly outside
 QRect PlaceBeside(const QRect& clock, const QSize& window, const QSize& room);
 

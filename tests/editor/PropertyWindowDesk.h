@@ -96,17 +96,36 @@ struct PropertyWindowDesk {
     }
     ctlEditGrid& Grid() { return *static_cast<ctlEditGrid*>(&Find<QWidget>(u"grdProperty"_s)); }
     QTableView& View() { return Grid().View(); }
+    QLabel& NameLine() { return Find<QLabel>(u"lblNewName"_s); }
     QLineEdit& Search() { return Find<QLineEdit>(u"txtSearch"_s); }
     QPushButton& Button() { return Find<QPushButton>(u"cmdButton0"_s); }
     QString Info() { return Find<QPlainTextEdit>(u"txtInfo"_s).toPlainText(); }
     void Run(const QString& menuItem) { Find<QAction>(menuItem).trigger(); }
-    void ClickButton() { QTest::mouseClick(&Button(), Qt::LeftButton); }
-    void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
-        QWidget* focus = QApplication::focusWidget();
-        QTest::keyClick(focus != nullptr ? focus : Window.get(), static_cast<Qt::Key>(key),
-                        modifiers);
+    /// Opens the menu with the right button over the current row.
+    void OpenMenu() {
+        const QPoint place = View().visualRect(View().currentIndex()).center();
+        QTest::mouseClick(View().viewport(), Qt::RightButton, {}, place);
     }
-    void Type(const QString& text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    void ClickButton() { QTest::mouseClick(&Button(), Qt::LeftButton); }
+    /// Who gets the keys: an open list, what has the focus, else the window.
+    QWidget* Focus() {
+        if (QWidget* popup = QApplication::activePopupWidget()) {
+            return popup->focusWidget() != nullptr ? popup->focusWidget() : popup;
+        }
+        QWidget* focus = QApplication::focusWidget();
+        return focus != nullptr ? focus : Window->focusWidget();
+    }
+    void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(Focus(), static_cast<Qt::Key>(key), modifiers);
+    }
+    /// The first character may open an editor that gets the others.
+    void Type(const QString& text) {
+        for (const QChar character : text) {
+            QTest::sendKeyEvent(QTest::Click, Focus(),
+                                static_cast<Qt::Key>(character.toUpper().unicode()),
+                                QString(character), Qt::NoModifier);
+        }
+    }
 
     /// The row of a key in the grid; 0 where it isn't listed.
     int RowOf(const QString& key) {

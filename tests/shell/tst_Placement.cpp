@@ -36,7 +36,13 @@ private Q_SLOTS:
         QTest::newRow("as much on both sides")
             << QRect(225, 0, 550, 500) << size << QRect(700, 0, 300, 400);
         QTest::newRow("too large")
-            << QRect(100, 50, 200, 200) << QSize(1200, 900) << QRect(0, 0, 1000, 600);
+            << QRect(0, 50, 1000, 200) << QSize(1200, 900) << QRect(580, 0, 420, 600);
+        QTest::newRow("narrower, right")
+            << QRect(100, 50, 200, 200) << QSize(1200, 900) << QRect(300, 0, 700, 600);
+        QTest::newRow("narrower, left")
+            << QRect(500, 50, 200, 200) << QSize(600, 400) << QRect(0, 50, 500, 400);
+        QTest::newRow("no narrower")
+            << QRect(375, 200, 250, 175) << QSize(587, 600) << QRect(580, 0, 420, 600);
     }
     void BesideAClock() {
         QFETCH(QRect, clock);

@@ -34,7 +34,8 @@ PropertyControls::PropertyControls(QWidget* window, QWidget* grid) {
     layout->addWidget(grid, 1);
     layout->addWidget(txtInfo_);
     layout->addWidget(buttons);
-    const QList<QWidget*> order = {txtSearch_, lblNewName_, grid, txtInfo_, cmdApply_, cmdClose_};
+    const QList<QWidget*> order = {txtSearch_, lblNewName_, grid->focusProxy(),
+                                   txtInfo_,   cmdApply_,   cmdClose_};
     for (qsizetype i = 1; i < order.size(); ++i) {
         QWidget::setTabOrder(order[i - 1], order[i]);
     }

@@ -10,6 +10,7 @@
 class PropertyControls {
 public:
     /// Lays them out in @p window, which owns them, in the order in which Tab walks through them.
+    /// @param grid has a focus proxy
     PropertyControls(QWidget* window, QWidget* grid);
 
     QLineEdit& Search() { return *txtSearch_; }

@@ -74,9 +74,6 @@ void frmProperties::Open(const QString& zoneName, int ownerHandle) {
     if (parts_) {
         return;
     }
-    const auto later = [this](auto action) {
-        QMetaObject::invokeMethod(this, action, Qt::QueuedConnection);
-    };
     const PropertyGrid::Events events = {
         [this] { ShowRowInfo(); },
         [this] {
@@ -85,7 +82,7 @@ void frmProperties::Open(const QString& zoneName, int ownerHandle) {
         },
         [this](int code, int shift) { return WindowKey(code, shift); },
         [this] { parts_->Controls.Search().clear(); },
-        [this, later] { later([this] { AskChange(); }); },
+        [this] { CheckPropertyChanged(); },
         [this](const QPoint& at) { parts_->Menu.Popup(MenuState(), at); }};
     parts_ = std::make_unique<PropertyWindowParts>(
         program_, shell_, ownerHandle, zoneName, events,
@@ -130,11 +127,10 @@ void frmProperties::ShowState() {
         controls.HideName();
         return;
     }
-    const bool isUntouched = sheet.Caption() == TitlePrefix + u"_"_s;
-    const QString problem = isUntouched ? QString() : sheet.NameProblem();
+    const QString typed = sheet.Caption().mid(TitlePrefix.size()).trimmed();
+    const QString problem = typed == u'_' ? QString() : sheet.NameProblem();
     const QString exists = u"There is a file of that name already"_s;
-    controls.ShowName(sheet.Caption().mid(TitlePrefix.size()),
-                      problem.isEmpty() && sheet.OverwriteQuestion() ? exists : problem);
+    controls.ShowName(typed, problem.isEmpty() && sheet.OverwriteQuestion() ? exists : problem);
 }
 
 void frmProperties::Search(const QString& words) {

@@ -90,7 +90,11 @@ private:
 
     // What is done (frmPropertiesActions.cpp)
     void PressButton();
+    /// Runs what writes the file, with the current record, its cell, and the owner's properties.
+    void Write(const std::function<void(int, const QString&, const ClockProperties&)>& writing);
     void Follow(const editor::SheetOutcome& outcome);
+    /// The grid has got the focus.
+    void CheckPropertyChanged();
     /// Asks about a change that somebody else has made to the file.
     /// @return whether the values are those that the user has seen
     bool AskChange();

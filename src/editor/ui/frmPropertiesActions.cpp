@@ -20,18 +20,24 @@ QString ClipboardText() {
 }  // namespace
 
 void frmProperties::PressButton() {
-    const QScopedValueRollback guard(asking_, true);
-    PropertyGrid& grid = parts_->Grid;
-    grid.EndEdit();
+    parts_->Grid.EndEdit();
     if (!AskChange() || !parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
         return;
     }
-    const ClockProperties present = parts_->Owner.Now();
-    grid.Preview().Forget();  // the owner has laid out its own look
     SheetOutcome outcome;
-    grid.InOneStep(
-        [&] { outcome = parts_->Sheet.Press(grid.CurrentRecord(), grid.CurrentCell(), present); });
+    Write([&](int record, const QString& cell, const ClockProperties& present) {
+        outcome = parts_->Sheet.Press(record, cell, present);
+    });
     Follow(outcome);
+}
+
+// The owner lays out its own look when it is asked for its properties.
+void frmProperties::Write(
+    const std::function<void(int, const QString&, const ClockProperties&)>& writing) {
+    PropertyGrid& grid = parts_->Grid;
+    const ClockProperties present = parts_->Owner.Now();
+    grid.Preview().Forget();
+    grid.InOneStep([&] { writing(grid.CurrentRecord(), grid.CurrentCell(), present); });
 }
 
 void frmProperties::Follow(const SheetOutcome& outcome) {
@@ -48,7 +54,17 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
     }
 }
 
+// The box comes behind the change of the focus.
+void frmProperties::CheckPropertyChanged() {
+    if (asking_ || !parts_->Sheet.ChangeQuestion()) {
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this, [this] { AskChange(); }, Qt::QueuedConnection);
+}
+
 bool frmProperties::AskChange() {
+    const QScopedValueRollback guard(asking_, true);
     const auto question = parts_->Sheet.ChangeQuestion();
     if (!question) {
         return true;
@@ -89,18 +105,15 @@ bool frmProperties::AskToSave() {
 }
 
 bool frmProperties::SaveAtClose() {
-    PropertyGrid& grid = parts_->Grid;
     if (!parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
         return false;
     }
-    const ClockProperties present = parts_->Owner.Now();
-    grid.Preview().Forget();
     SheetOutcome outcome;
-    grid.InOneStep([&] {
-        outcome = parts_->Sheet.SaveAtClose(grid.CurrentRecord(), grid.CurrentCell(), present);
+    Write([&](int record, const QString& cell, const ClockProperties& present) {
+        outcome = parts_->Sheet.SaveAtClose(record, cell, present);
     });
     if (!outcome.Problem.isEmpty()) {
-        grid.Preview().Show();
+        parts_->Grid.Preview().Show();
         Tell(outcome.Problem);
         return false;
     }

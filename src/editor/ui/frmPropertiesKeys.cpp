@@ -123,10 +123,11 @@ bool frmProperties::NameKey(const QKeyEvent& event) {
     for (const QChar character : types ? event.text() : QString()) {
         ended = parts_->Sheet.TitleKey(drawing::TypedKey(character)) || ended;
     }
-    ShowState();
     if (ended) {
+        parts_->Sheet.TitleKey(drawing::EndKey);  // the caret is back, should the name go on
         PressButton();
     }
+    ShowState();
     return true;
 }
 
