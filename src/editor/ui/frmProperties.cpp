@@ -120,10 +120,11 @@ void frmProperties::ShowState() {
     if (parts_->Grid.Control().isEnabled() == isNew) {
         parts_->Grid.SetEditable(!isNew);
         controls.Search().setEnabled(!isNew);
-        setFocusProxy(isNew ? static_cast<QWidget*>(&controls.NameLine())
-                            : &parts_->Grid.Control().View());
     }
     if (!isNew) {
+        if (controls.NameLine().hasFocus()) {
+            controls.Apply().setFocus();  // where another Enter launches the clock
+        }
         controls.HideName();
         return;
     }
@@ -180,7 +181,18 @@ void frmProperties::SetFocus() {
     } else {
         activateWindow();
     }
-    setFocus();
+    if (parts_) {
+        FocusStart();
+    }
+}
+
+// A proxy of the window would be a stop more for Tab.
+void frmProperties::FocusStart() {
+    if (parts_->Sheet.IsForNewFile()) {
+        parts_->Controls.NameLine().setFocus();
+    } else {
+        parts_->Grid.Control().View().setFocus();
+    }
 }
 
 void frmProperties::Unload() {
