@@ -98,13 +98,17 @@ bool SetRowForeColor(EditGridData& grid, int row, int color) {
     return grid.HasRow(row);
 }
 
-void SetCellDefault(EditGridData& grid) {
+void SetSelectionForeColor(EditGridData& grid, int color) {
     const CellBlock block = grid.Selection();
     for (int row = std::max(block.Top, grid.FixedRows()); row <= block.Bottom; ++row) {
         for (int col = block.Left; col <= block.Right; ++col) {
-            grid.SetCellForeColor(row, col, NoForeColor);
+            grid.SetCellForeColor(row, col, color);
         }
     }
+}
+
+void SetCellDefault(EditGridData& grid) {
+    SetSelectionForeColor(grid, NoForeColor);
 }
 
 }  // namespace editor

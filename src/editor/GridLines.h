@@ -33,9 +33,10 @@ bool SelectOneRow(EditGridData& grid, int row);
 void SelectGridAll(EditGridData& grid);
 void SelectGridNone(EditGridData& grid);
 
-/// Colours the texts of a whole row, red in the low byte, or gives those of the selection, headings
-/// aside, the grid's own colour back.
+/// Colours the texts of a whole row, or of the selection with headings aside, red in the low byte.
+/// `SetCellDefault` gives the selection the grid's own colour back.
 bool SetRowForeColor(EditGridData& grid, int row, int color);
+void SetSelectionForeColor(EditGridData& grid, int color);
 void SetCellDefault(EditGridData& grid);
 
 }  // namespace editor

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int MostColumns = 1'000;
 
-QVariant ColumnToBag(const ColumnLook& column) {
+QVariantList ColumnToBag(const ColumnLook& column) {
     return QVariantList{column.Width, static_cast<int>(column.Alignment),
                         static_cast<int>(column.FixedAlignment), column.Merge, column.Data};
 }
@@ -55,6 +55,15 @@ void VisitProperties(Look& look, const Visit& visit) {
     visit(u"TextStyleFixed"_s, look.TextStyleFixed);
     visit(u"MergeCells"_s, look.MergeCells);
     visit(u"FormatString"_s, look.FormatString);
+    visit(u"Enabled"_s, look.Enabled);
+    visit(u"Redraw"_s, look.Redraw);
+    visit(u"CausesValidation"_s, look.CausesValidation);
+    visit(u"MousePointer"_s, look.MousePointer);
+    visit(u"ToolTipText"_s, look.ToolTipText);
+    visit(u"Index"_s, look.Index);
+    visit(u"WhatsThisHelpID"_s, look.WhatsThisHelpID);
+    visit(u"OLEDropMode"_s, look.OLEDropMode);
+    visit(u"PictureType"_s, look.PictureType);
 }
 
 template <typename T>
@@ -98,7 +107,7 @@ QVariantMap GridLook::ToMap() const {
         *this, [&bag](const QString& name, const auto& value) { bag.insert(name, ToBag(value)); });
     QVariantList columns;
     for (const ColumnLook& column : Columns) {
-        columns.append(ColumnToBag(column));
+        columns.append(QVariant(ColumnToBag(column)));
     }
     bag.insert(u"Columns"_s, columns);
     return bag;

@@ -51,6 +51,16 @@ struct GridLook {
     int TextStyleFixed = 0;
     bool MergeCells = false;  ///< whether `ColumnLook::Merge` counts
     QString FormatString;     ///< see `FormatOf`
+    bool Enabled = true;
+    bool Redraw = true;            ///< false shows no change until it is true again
+    bool CausesValidation = true;  ///< the host is asked before the focus leaves
+    int MousePointer = 0;          ///< 0 arrow, 2 cross, 3 text, 11 waiting
+    QString ToolTipText;           ///< of cells that have none of their own
+    // These are only kept for the host.
+    int Index = 0;
+    int WhatsThisHelpID = 0;
+    int OLEDropMode = 0;
+    int PictureType = 0;
     std::vector<ColumnLook> Columns;
 
     /// The look of a column; columns behind the last one get one.

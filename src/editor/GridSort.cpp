@@ -1,7 +1,9 @@
 #include "editor/GridSort.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
+#include <span>
 
 #include "editor/GridRows.h"
 #include "foundation/Numbers.h"
@@ -67,47 +69,50 @@ bool IsOutOfOrder(const SortedRow& first, const SortedRow& second, int code) {
     return false;
 }
 
-/// Sorts the places in @p rows by merging. The generic order may run in a circle ("9", "10", "1a"),
+/// Tells whether the second of two places comes strictly before the first.
+using OutOfOrder = std::function<bool(int first, int second)>;
+
+/// Sorts places by merging. An order may run in a circle ("9", "10", "1a" in the generic one),
 /// which the library's sorts don't allow.
-void MergeSort(std::span<int> places, const std::vector<SortedRow>& rows, int code) {
+void MergeSort(std::span<int> places, const OutOfOrder& isOutOfOrder) {
     if (places.size() < 2) {
         return;
     }
     const std::size_t middle = places.size() / 2;
-    MergeSort(places.first(middle), rows, code);
-    MergeSort(places.subspan(middle), rows, code);
+    MergeSort(places.first(middle), isOutOfOrder);
+    MergeSort(places.subspan(middle), isOutOfOrder);
     const std::vector<int> halves(places.begin(), places.end());
     std::size_t left = 0;
     std::size_t right = middle;
-    const auto row = [&](std::size_t half) -> const SortedRow& {
-        return rows[static_cast<std::size_t>(halves[half])];
-    };
     for (int& place : places) {
         const bool takesRight =
-            left == middle || (right < halves.size() && IsOutOfOrder(row(left), row(right), code));
+            left == middle || (right < halves.size() && isOutOfOrder(halves[left], halves[right]));
         place = halves[takesRight ? right++ : left++];
     }
 }
 
-/// The rows from @p first to @p last as they come to lie.
-std::vector<int> SortedOrder(const EditGridData& grid, int first, int last, int code) {
-    std::vector<SortedRow> used;
-    std::vector<int> empty;
-    for (int row = first; row <= last; ++row) {
-        if (RowHasText(grid, row)) {
-            used.push_back(KeysOf(grid, row, grid.Selection()));
-        } else {
-            empty.push_back(row);
-        }
+/// Rows with text, and those without, which stay behind them.
+struct RowsToSort {
+    std::vector<int> Used, Empty;
+    int First = 0;
+
+    void PutInto(EditGridData& grid) {
+        Used.insert(Used.end(), Empty.begin(), Empty.end());
+        grid.Reorder(First, Used);
     }
-    std::vector<int> order(used.size());
-    std::iota(order.begin(), order.end(), 0);
-    MergeSort(order, used, code);
-    for (int& place : order) {
-        place = used[static_cast<std::size_t>(place)].Row;
+};
+
+/// The rows of a selection of several, else all that are not headings.
+RowsToSort RowsOf(const EditGridData& grid) {
+    const CellBlock block = grid.Selection();
+    const bool isBlock = grid.Row() != grid.RowSel();
+    RowsToSort rows;
+    rows.First = std::max(isBlock ? block.Top : 0, grid.FixedRows());
+    const int last = isBlock ? block.Bottom : grid.Rows() - 1;
+    for (int row = rows.First; row <= last; ++row) {
+        (RowHasText(grid, row) ? rows.Used : rows.Empty).push_back(row);
     }
-    order.insert(order.end(), empty.begin(), empty.end());
-    return order;
+    return rows;
 }
 
 }  // namespace
@@ -116,15 +121,33 @@ bool Sort(EditGridData& grid, int code) {
     if (code < 0 || code > LastCode) {
         return false;
     }
-    const CellBlock block = grid.Selection();
-    const bool isBlock = grid.Row() != grid.RowSel();
-    const int first = std::max(isBlock ? block.Top : 0, grid.FixedRows());
-    const int last = isBlock ? block.Bottom : grid.Rows() - 1;
-    if (code == 0 || first > last) {
+    RowsToSort rows = RowsOf(grid);
+    if (code == 0 || rows.Used.empty()) {
         return true;
     }
-    grid.Reorder(first, SortedOrder(grid, first, last, code));
+    std::vector<SortedRow> keys;
+    for (const int row : rows.Used) {
+        keys.push_back(KeysOf(grid, row, grid.Selection()));
+    }
+    std::vector<int> places(keys.size());
+    std::iota(places.begin(), places.end(), 0);
+    const auto key = [&keys](int place) -> const SortedRow& {
+        return keys[static_cast<std::size_t>(place)];
+    };
+    MergeSort(places,
+              [&](int first, int second) { return IsOutOfOrder(key(first), key(second), code); });
+    for (int& place : places) {
+        place = key(place).Row;
+    }
+    rows.Used = places;
+    rows.PutInto(grid);
     return true;
+}
+
+void SortBy(EditGridData& grid, const std::function<int(int, int)>& compare) {
+    RowsToSort rows = RowsOf(grid);
+    MergeSort(rows.Used, [&compare](int first, int second) { return compare(first, second) > 0; });
+    rows.PutInto(grid);
 }
 
 }  // namespace editor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "editor/EditGridData.h"
 
 namespace editor {
@@ -18,5 +20,9 @@ namespace editor {
 ///
 /// @return false for any other code
 bool Sort(EditGridData& grid, int code);
+
+/// The same rows by another order, which may run in a circle.
+/// @param compare tells of two rows, as they stand, below 0, 0 or above 0
+void SortBy(EditGridData& grid, const std::function<int(int row1, int row2)>& compare);
 
 }  // namespace editor

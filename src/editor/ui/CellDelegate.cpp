@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "foundation/Contrast.h"
+
 using Lines = editor::GridLook::Lines;
 
 namespace {
@@ -28,13 +30,17 @@ bool CellDelegate::IsCurrent(const QModelIndex& index) const {
     return model_.RowOf(index.row()) == parts_.Data.Row() && index.column() == parts_.Data.Col();
 }
 
-// A row's own colour counts where the host's look leaves it.
+// A cell's own colour counts where the host's look leaves it; it can be read on light and dark.
 CellLook CellDelegate::LookOf(const QModelIndex& index) const {
     const int row = model_.RowOf(index.row());
     CellLook look = parts_.LookOf(row, index.column());
     const int color = parts_.Data.CellForeColor(row, index.column());
     if (!look.ForeColor.isValid() && color != editor::NoForeColor) {
         look.ForeColor = FromNumber(color);
+    }
+    if (look.ForeColor.isValid()) {
+        const QColor ground = view_.palette().color(QPalette::Base);
+        look.ForeColor = mduUILib::ReadableShade(look.ForeColor, ground);
     }
     return look;
 }
@@ -82,6 +88,9 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
     painter->setClipRect(given.rect);
     if (!model_.HeadingOf(index.row()).isEmpty()) {
         option.rect.setTop(option.rect.top() + view_.HeadingHeight());
+        const QRect heading(given.rect.topLeft(),
+                            QPoint(given.rect.right(), option.rect.top() - 1));
+        painter->fillRect(heading, option.palette.brush(QPalette::Base));
     }
     PaintGround(*painter, option, index);
     PaintCell(*painter, option, PartsOf(option.rect, look, IsCurrent(index), option), look);
@@ -156,6 +165,7 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     if (text.isEmpty() && WidthAt(index) > view_.CellRect(index).width()) {
         text = OneLine(index.data().toString(), MostInTip);
     }
+    text = text.isEmpty() ? parts_.Look.ToolTipText : text;
     QToolTip::showText(event->globalPos(), text, view_.viewport(), view_.CellRect(index));
     return true;
 }

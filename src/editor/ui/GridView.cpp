@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int RowPadding = 6;      // pixels
+constexpr int RowPadding = 8;      // pixels
 constexpr int HeadingPadding = 8;  // pixels
 
 int Pixels(double twips) {
@@ -57,6 +57,19 @@ QAbstractItemView::SelectionBehavior BehaviorOf(editor::SelectionMode mode) {
     return QAbstractItemView::SelectItems;
 }
 
+Qt::CursorShape CursorOf(int pointer) {
+    switch (pointer) {
+        case 2:
+            return Qt::CrossCursor;
+        case 3:
+            return Qt::IBeamCursor;
+        case 11:
+            return Qt::WaitCursor;
+        default:
+            return Qt::ArrowCursor;
+    }
+}
+
 Qt::ScrollBarPolicy PolicyOf(bool isWanted) {
     return isWanted ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
 }
@@ -93,6 +106,10 @@ void GridView::Apply() {
         setFont(parts_.Look.Font);
     }
     setSelectionBehavior(BehaviorOf(parts_.Data.Mode));
+    setToolTip(parts_.Look.ToolTipText);
+    setEnabled(parts_.Look.Enabled);
+    setUpdatesEnabled(parts_.Look.Redraw);
+    viewport()->setCursor(CursorOf(parts_.Look.MousePointer));
     setLayoutDirection(parts_.Look.RightToLeft ? Qt::RightToLeft
                                                : parentWidget()->layoutDirection());
     ApplyFrame();

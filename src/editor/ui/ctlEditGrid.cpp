@@ -9,6 +9,8 @@
 #include <QScopedValueRollback>
 
 #include "editor/GridLines.h"
+#include "editor/GridSort.h"
+#include "editor/GridState.h"
 #include "editor/ui/GridInput.h"
 #include "foundation/Twips.h"
 
@@ -125,8 +127,9 @@ void ctlEditGrid::Compact() {
 // The focus stays in the grid while it goes to an editor or a list.
 void ctlEditGrid::FocusWent(Qt::FocusReason reason) {
     const QWidget* next = QApplication::focusWidget();
-    const bool leaves = reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
-                        next != nullptr && !isAncestorOf(next);
+    const bool leaves = look_.CausesValidation && reason != Qt::PopupFocusReason &&
+                        reason != Qt::ActiveWindowFocusReason && next != nullptr &&
+                        !isAncestorOf(next);
     if (!leaves) {
         return;
     }
@@ -234,6 +237,58 @@ QLineEdit* ctlEditGrid::GetCellTextBox() const {
 
 QComboBox* ctlEditGrid::GetCellCombo() const {
     return qobject_cast<QComboBox*>(inside_->Editors.Widget());
+}
+
+QComboBox* ctlEditGrid::GetComboCtl(int col) const {
+    const bool isOpen = editing_.EditColumnId() == editor::EditorKind::Combo;
+    return isOpen && editing_.EditColumn() == col ? GetCellCombo() : nullptr;
+}
+
+QComboBox* ctlEditGrid::GetComboEditCtl(int col) const {
+    const bool isOpen = editing_.EditColumnId() == editor::EditorKind::ComboEdit;
+    return isOpen && editing_.EditColumn() == col ? GetCellCombo() : nullptr;
+}
+
+QString ctlEditGrid::GetComboEditText() const {
+    return editing_.IsEditing() ? editing_.Editor()->Text() : QString();
+}
+
+void ctlEditGrid::SetComboEditText(const QString& text) {
+    if (editing_.IsEditing()) {
+        editing_.Editor()->SetText(text);
+        inside_->Editors.Mirror();
+    }
+}
+
+bool ctlEditGrid::Sort(int code) {
+    constexpr int byHost = 9;
+    inside_->Editors.End();
+    bool isKnown = true;
+    if (code == byHost) {
+        editor::SortBy(data_, [this](int row1, int row2) {
+            int order = 0;
+            host_.Compare(row1, row2, order);
+            return order;
+        });
+    } else {
+        isKnown = editor::Sort(data_, code);
+    }
+    Refresh();
+    return isKnown;
+}
+
+QVariantMap ctlEditGrid::SaveState() {
+    return editor::GridState{data_, columns_, editing_, look_}.Save();
+}
+
+void ctlEditGrid::LoadState(const QVariantMap& bag) {
+    inside_->Editors.End();
+    editor::GridState{data_, columns_, editing_, look_}.Load(bag);
+    Refresh();
+}
+
+QPixmap ctlEditGrid::Picture() {
+    return inside_->View.grab();
 }
 
 void ctlEditGrid::SetName(const QString& name) {

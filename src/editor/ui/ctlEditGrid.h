@@ -71,11 +71,24 @@ public:
     /// The line, or the list, of the open editor; null where there is none.
     QLineEdit* GetCellTextBox() const;
     QComboBox* GetCellCombo() const;
+    /// The same where the open editor is that of a column, and of that kind.
+    QComboBox* GetComboCtl(int col) const;
+    QComboBox* GetComboEditCtl(int col) const;
+    /// The text of the open editor; empty, and nothing happens, where none is open.
+    QString GetComboEditText() const;
+    void SetComboEditText(const QString& text);
 
     /// Which entries the chooser over the headings offers, see `editor::SetColComboOption`.
     void SetColComboOption(const QString& options);
     /// Opens it over a column, as a click on the heading and Alt+Down do.
     void ShowColChooser(int col);
+
+    /// Sorts by a code of `editor::Sort`, or with 9 by the host's `Compare`, and shows it.
+    bool Sort(int code);
+
+    /// Design-time state, see `editor::GridState`; loading it shows it.
+    QVariantMap SaveState();
+    void LoadState(const QVariantMap& bag);
 
     /// Fits the columns that have a format to their texts.
     void AutoColFit();
@@ -89,6 +102,8 @@ public:
     void ShowInfo(const QString& text);
     void HideInfo();
 
+    /// The grid as it is seen.
+    QPixmap Picture();
     /// The clip text of the selection, put on the clipboard of the desktop.
     void CopySelection() const;
 
