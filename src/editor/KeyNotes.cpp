@@ -69,6 +69,16 @@ KeyNotes::KeyNotes(const platform::Files& files, const QString& path, const QStr
     }
 }
 
+QString KeyNotes::Of(const QString& key) const {
+    QString name = Folded(key);
+    auto note = sentences_.find(name);
+    while (note == sentences_.end() && !name.isEmpty() && name.back().isDigit()) {
+        name.chop(1);
+        note = sentences_.find(name);
+    }
+    return note != sentences_.end() ? *note : QString();
+}
+
 QString KeyNotesPath(const QString& appFolder) {
     return appFolder + u"/Help/keys.txt"_s;
 }
@@ -81,7 +91,8 @@ RowInfo RowInfoOf(const ClockProperty& record, const KeyNotes& notes) {
     if (mduAPILib::IsNumeric(PropertyCell(record.Value).trimmed())) {
         info.Unit = UnitOf(record.Name, info.Sentence);
     }
-    info.ByItself = info.Sentence.contains("-1"_L1);
+    static const QRegularExpression minusOne(u"-1\\b"_s);
+    info.ByItself = info.Sentence.contains(minusOne);
     return info;
 }
 

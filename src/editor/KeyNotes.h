@@ -20,8 +20,9 @@ public:
     /// The notes of one default file, such as "Tempolark". A file that is missing has none.
     KeyNotes(const platform::Files& files, const QString& path, const QString& defaultFile);
 
-    /// Empty for a key that the help does not know. Letter case and blanks around it don't count.
-    QString Of(const QString& key) const { return sentences_.value(Folded(key)); }
+    /// Empty for a key that the help does not know. Letter case and blanks around it don't count,
+    /// nor does a number behind it: "Speech Day Pattern7" is told of as "Speech Day Pattern".
+    QString Of(const QString& key) const;
 
 private:
     static QString Folded(const QString& key) { return key.trimmed().toLower(); }

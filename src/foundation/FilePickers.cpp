@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/FileHelpers.h"
+#include "platform/Dialogs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,7 @@ struct Row {
     QStringView Below;  ///< a folder in that folder
 };
 
+constexpr int Exclamation = 48;  ///< the icon of a message box
 constexpr QStringView Pictures = u"*.bmp;*.gif;*.jpg";
 constexpr QStringView PicturesAndIcons = u"*.bmp;*.ico;*.gif;*.jpg";
 
@@ -37,6 +39,13 @@ constexpr Row Table[] = {
 FilePicker PickerOf(const Row& row, const PathTable& paths) {
     const QString filter = row.Filter.toString();
     return {filter, u"%1 (%2)"_s.arg(row.Kind, filter), paths.*row.Folder + row.Below.toString()};
+}
+
+// A value ends at its comma and its line, and "\\" parts the folders of a stored path.
+bool CanBeKept(const QString& path) {
+    return std::none_of(path.begin(), path.end(), [](QChar letter) {
+        return letter == u',' || letter == u'\\' || letter.category() == QChar::Other_Control;
+    });
 }
 
 }  // namespace
@@ -75,11 +84,25 @@ QString StoredFile(const QString& path, const QString& appFolder) {
     return mduLib::ToStoredPath(path.startsWith(folder) ? u"./"_s + path.mid(folder.size()) : path);
 }
 
-QString PickProblem(const QString& path) {
-    const bool isKept = std::none_of(path.begin(), path.end(), [](QChar letter) {
-        return letter == u',' || letter == u'\\' || letter.category() == QChar::Other_Control;
-    });
-    return isKept ? QString() : u"File is not set "_s + path;
+QString PickFile(platform::Dialogs& dialogs, const QString& title, const QString& key,
+                 const PathTable& paths) {
+    const std::optional<FilePicker> picker = FilePickerOf(key, paths);
+    return picker ? dialogs.OpenFile(title, picker->Folder, picker->DialogFilter()) : QString();
+}
+
+QString PickPropertyFile(platform::Dialogs& dialogs, const QString& key, const QString& value,
+                         const PathTable& paths) {
+    const std::optional<FilePicker> picker = FilePickerOf(key, paths);
+    if (!picker) {
+        return value;
+    }
+    const QString file =
+        dialogs.OpenFile(key.trimmed(), PickerStart(*picker, value, paths), picker->DialogFilter());
+    if (!CanBeKept(file)) {
+        dialogs.MessageBox(u"File is not set "_s + file, Exclamation, u"Set File Error"_s);
+        return value;
+    }
+    return file.isEmpty() ? value : StoredFile(file, paths.AppFolder);
 }
 
 }  // namespace mduUILib

@@ -5,6 +5,10 @@
 
 #include "foundation/ModuleState.h"
 
+namespace platform {
+class Dialogs;
+}
+
 /// Which files a key may name, and how they are asked for.
 namespace mduUILib {
 
@@ -37,9 +41,16 @@ QString PickerStart(const FilePicker& picker, const QString& value, const PathTa
 ///     StoredFile("/clocks/Images/a b.png", "/clocks")  // ".\Images\a b.png"
 QString StoredFile(const QString& path, const QString& appFolder);
 
-/// Why a picked file can't be kept in a value, to be told in a box titled `PickProblemTitle`: its
-/// path holds a comma, a "\" or a control character. Empty when it can.
-QString PickProblem(const QString& path);
-inline const QString PickProblemTitle = QStringLiteral("Set File Error");
+/// Asks for a file of a key's kind, which has to be in the table. @return its native path; empty
+/// when the picker is cancelled
+QString PickFile(platform::Dialogs& dialogs, const QString& title, const QString& key,
+                 const PathTable& paths);
+
+/// Asks for the file that a property names, beginning at the one that it has, in a picker titled
+/// with its key. A path that a value can't hold (it has a comma, a "\" or a control character) is
+/// refused: a box titled "Set File Error" says so.
+/// @return what the property's value becomes: @p value when nothing is picked
+QString PickPropertyFile(platform::Dialogs& dialogs, const QString& key, const QString& value,
+                         const PathTable& paths);
 
 }  // namespace mduUILib

@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include "support/FakeDialogs.h"
+
 using namespace Qt::StringLiterals;
 using mduUILib::FilePicker;
 using mduUILib::FilePickerOf;
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void StoresFiles();
     void RefusesWhatAValueCantHold_data();
     void RefusesWhatAValueCantHold();
+    void AsksForAProperty();
+    void AsksForAFileOfAKind();
 };
 
 void tst_FilePickers::PicksByKey_data() {
@@ -126,17 +130,50 @@ void tst_FilePickers::StoresFiles() {
 
 void tst_FilePickers::RefusesWhatAValueCantHold_data() {
     QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("problem");
-    QTest::newRow("good") << u"/a/b=c^ d.gif"_s << QString();
-    QTest::newRow("comma") << u"/a/b,c.gif"_s << u"File is not set /a/b,c.gif"_s;
-    QTest::newRow("backslash") << u"/a/b\\c.gif"_s << u"File is not set /a/b\\c.gif"_s;
-    QTest::newRow("line end") << u"/a/b\nc.gif"_s << u"File is not set /a/b\nc.gif"_s;
+    QTest::addColumn<QString>("value");
+    QTest::newRow("good") << u"/a/b=c^ d.gif"_s << u"\\a\\b=c^ d.gif"_s;
+    QTest::newRow("comma") << u"/a/b,c.gif"_s << u"old"_s;
+    QTest::newRow("backslash") << u"/a/b\\c.gif"_s << u"old"_s;
+    QTest::newRow("line end") << u"/a/b\nc.gif"_s << u"old"_s;
 }
 
 void tst_FilePickers::RefusesWhatAValueCantHold() {
     QFETCH(QString, path);
-    QTEST(mduUILib::PickProblem(path), "problem");
-    QCOMPARE(mduUILib::PickProblemTitle, u"Set File Error"_s);
+    QFETCH(QString, value);
+    FakeDialogs dialogs;
+    dialogs.FileAnswers = {path};
+    dialogs.BoxAnswers = {1};
+    QCOMPARE(mduUILib::PickPropertyFile(dialogs, u"Flag File"_s, u"old"_s, Paths()), value);
+    if (value == u"old"_s) {
+        QCOMPARE(dialogs.Boxes.size(), std::size_t(1));
+        QCOMPARE(dialogs.Boxes[0].Text, u"File is not set "_s + path);
+        QCOMPARE(dialogs.Boxes[0].Title, u"Set File Error"_s);
+        QCOMPARE(dialogs.Boxes[0].Flags, 48);
+    } else {
+        QVERIFY(dialogs.Boxes.empty());
+    }
+}
+
+void tst_FilePickers::AsksForAProperty() {
+    FakeDialogs dialogs;
+    dialogs.FileAnswers = {u"/app/Images/Flags/se.gif"_s, QString()};
+    QCOMPARE(mduUILib::PickPropertyFile(dialogs, u" Flag File"_s, u".\\Images\\no.gif"_s, Paths()),
+             u".\\Images\\Flags\\se.gif"_s);
+    QCOMPARE(mduUILib::PickPropertyFile(dialogs, u"Flag File"_s, u"old"_s, Paths()), u"old"_s);
+    QCOMPARE(dialogs.PickerTitles, (QStringList{u"Flag File"_s, u"Flag File"_s}));
+    QCOMPARE(dialogs.PickerFolders,
+             (QStringList{u"/app/Images/no.gif"_s, u"/app/Images/Flags/"_s}));
+    QCOMPARE(mduUILib::PickPropertyFile(dialogs, u"Size"_s, u"3"_s, Paths()), u"3"_s);
+    QCOMPARE(dialogs.PickerTitles.size(), 2);
+}
+
+void tst_FilePickers::AsksForAFileOfAKind() {
+    FakeDialogs dialogs;
+    dialogs.FileAnswers = {u"/b,c.ini"_s};
+    QCOMPARE(mduUILib::PickFile(dialogs, u"Launch"_s, u"Time Zone"_s, Paths()), u"/b,c.ini"_s);
+    QCOMPARE(dialogs.PickerTitles, QStringList{u"Launch"_s});
+    QCOMPARE(dialogs.PickerFolders, QStringList{u"/app/anna/TimeZones/"_s});
+    QCOMPARE(mduUILib::PickFile(dialogs, u"Launch"_s, u"Size"_s, Paths()), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_FilePickers)
