@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBrush>
 #include <QColor>
 #include <QPixmap>
 #include <QString>
@@ -11,7 +12,7 @@ struct CellLook {
     bool Bold = false;
     bool Quiet = false;            ///< in the colour of a placeholder
     QString Heading;               ///< a caption above the whole row; asked of column 0 alone
-    std::optional<QColor> Swatch;  ///< a square of this colour before the text
+    std::optional<QBrush> Swatch;  ///< a square of this colour, or pattern, before the text
     QString FontFamily;            ///< the text is drawn in it; empty for the grid's own
     QPixmap Picture;               ///< a small picture before the text
     std::optional<bool> Check;     ///< a check box before the text, which a click presses

@@ -64,8 +64,9 @@ void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, const QRe
     StyleOf(option)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
 }
 
-void PaintSwatch(QPainter& painter, const QRect& rect, const QColor& color, const QColor& line) {
-    painter.fillRect(rect, color);
+void PaintSwatch(QPainter& painter, const QRect& rect, const QBrush& fill, const QColor& line) {
+    painter.setBrushOrigin(rect.topLeft());
+    painter.fillRect(rect, fill);
     QColor edge = line;
     edge.setAlphaF(0.5F);
     painter.setPen(edge);
