@@ -53,8 +53,24 @@ private Q_SLOTS:
         QVERIFY(look.Swatch.has_value());
         QCOMPARE(look.Swatch->style(), Qt::SolidPattern);
         QTEST(look.Swatch->color(), "colour");
-        QVERIFY(look.Button);
+        QVERIFY(look.Button && look.Arrow);
         QVERIFY(look.Picture.isNull());
+    }
+
+    void WhatIsPickedHasAButton() {
+        const LooksDesk desk;
+        const auto button = [&desk](const QString& name, const QString& value) {
+            const CellLook look = desk.Looks.LookOf(name, value, u"1"_s);
+            return !look.Button ? u"none"_s : look.Arrow ? u"arrow"_s : u"dots"_s;
+        };
+        QCOMPARE(button(u"Style"_s, u"A,A,B"_s), u"arrow"_s);
+        QCOMPARE(button(u"Size"_s, u"1,1,2"_s), u"arrow"_s);
+        QCOMPARE(button(u"Any Font"_s, u"A,A,B"_s), u"arrow"_s);
+        QCOMPARE(button(u"Hand Colour"_s, u"1"_s), u"dots"_s);
+        QCOMPARE(button(u"Flag File"_s, u"1"_s), u"dots"_s);
+        QCOMPARE(button(u"Flag File"_s, u"1,1,2"_s), u"dots"_s);
+        QCOMPARE(button(u"Enable"_s, u"Yes,Yes,No"_s), u"none"_s);
+        QCOMPARE(button(u"Size"_s, u"1"_s), u"none"_s);
     }
 
     void WordsOfColoursHaveAPattern() {

@@ -17,6 +17,7 @@ struct CellLook {
     QPixmap Picture;               ///< a small picture before the text
     std::optional<bool> Check;     ///< a check box before the text, which a click presses
     bool Button = false;           ///< a button "..." while the cell is the current one
+    bool Arrow = false;            ///< the button shows an arrow, as one that opens a list
     QString ToolTip;               ///< empty shows the text where it is cut off
     QColor ForeColor;              ///< of the text; invalid for the grid's own
 };

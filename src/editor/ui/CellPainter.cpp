@@ -73,14 +73,21 @@ void PaintSwatch(QPainter& painter, const QRect& rect, const QBrush& fill, const
     painter.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
-void PaintButton(QPainter& painter, const QStyleOptionViewItem& option, const QRect& rect) {
+void PaintButton(QPainter& painter, const QStyleOptionViewItem& option, const QRect& rect,
+                 bool hasArrow) {
     QStyleOptionButton button;
     button.rect = rect;
-    button.text = u"..."_s;
+    button.text = hasArrow ? QString() : u"..."_s;
     button.palette = option.palette;
     button.fontMetrics = option.fontMetrics;
     button.state = QStyle::State_Enabled | QStyle::State_Raised;
     StyleOf(option)->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
+    if (hasArrow) {
+        const int side = rect.height() / 2;
+        button.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {side, side}, rect);
+        StyleOf(option)->drawPrimitive(QStyle::PE_IndicatorArrowDown, &button, &painter,
+                                       option.widget);
+    }
 }
 
 QColor TextColor(const QStyleOptionViewItem& option, const CellLook& look) {
@@ -156,7 +163,7 @@ void PaintCell(QPainter& painter, const QStyleOptionViewItem& option, const Cell
     painter.drawText(parts.Text, int(align) | Qt::TextSingleLine,
                      metrics.elidedText(text, Qt::ElideRight, parts.Text.width()));
     if (!parts.Button.isEmpty()) {
-        PaintButton(painter, option, parts.Button);
+        PaintButton(painter, option, parts.Button, look.Arrow);
     }
     painter.restore();
 }

@@ -88,18 +88,17 @@ CellLook ValueLooks::ColourLook(const QString& text) const {
 }
 
 CellLook ValueLooks::LookOf(const QString& name, const QString& value, const QString& text) const {
+    const editor::ValueForm form = editor::FormOf(name, value);
     CellLook look;
-    switch (editor::FormOf(name, value).Sort) {
+    switch (form.Sort) {
         case ValueSort::Colour:
             look = ColourLook(text);
-            look.Button = true;
             break;
         case ValueSort::Font:
             look.FontFamily = QFontDatabase::hasFamily(text) ? text : QString();
             break;
         case ValueSort::File:
             look.Picture = Thumbnail(text);
-            look.Button = true;
             break;
         case ValueSort::YesNo:
             look.Check = mduUILib::YesNoToBool(text);
@@ -107,6 +106,9 @@ CellLook ValueLooks::LookOf(const QString& name, const QString& value, const QSt
         default:
             break;
     }
+    const bool isPicked = form.Sort == ValueSort::File || form.Sort == ValueSort::Colour;
+    look.Arrow = form.HasList() && form.Sort != ValueSort::File;
+    look.Button = form.Sort != ValueSort::YesNo && (isPicked || look.Arrow);
     return look;
 }
 

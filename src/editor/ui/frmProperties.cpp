@@ -112,16 +112,21 @@ void frmProperties::ShowState() {
         return;
     }
     const editor::PropertySheet& sheet = parts_->Sheet;
-    PropertyControls& controls = parts_->Controls;
     setWindowTitle(sheet.Caption());
-    controls.Apply().setText(editor::ButtonCaption(sheet.Button()));
-    controls.Apply().setAccessibleName(controls.Apply().text());
-    const bool isNew = sheet.IsForNewFile();
-    if (parts_->Grid.Control().isEnabled() == isNew) {
-        parts_->Grid.SetEditable(!isNew);
-        controls.Search().setEnabled(!isNew);
+    QPushButton& button = parts_->Controls.Apply();
+    button.setText(editor::ButtonCaption(sheet.Button()));
+    button.setAccessibleName(button.text());
+    if (parts_->Grid.Control().isEnabled() == sheet.IsForNewFile()) {
+        parts_->Grid.SetEditable(!sheet.IsForNewFile());
+        parts_->Controls.Search().setEnabled(!sheet.IsForNewFile());
     }
-    if (!isNew) {
+    ShowNewName();
+}
+
+void frmProperties::ShowNewName() {
+    const editor::PropertySheet& sheet = parts_->Sheet;
+    PropertyControls& controls = parts_->Controls;
+    if (!sheet.IsForNewFile()) {
         if (controls.NameLine().hasFocus()) {
             controls.Apply().setFocus();  // where another Enter launches the clock
         }
