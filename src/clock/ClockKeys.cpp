@@ -44,9 +44,11 @@ int KeyCodeOf(int key) {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
         return F1 + key - Qt::Key_F1;
     }
+    // A brace has the code that stands for F12.
     constexpr int firstCharacter = 32;
     constexpr int lastCharacter = 126;
-    return key >= firstCharacter && key <= lastCharacter ? key : 0;
+    const bool isCharacter = key >= firstCharacter && key <= lastCharacter;
+    return isCharacter && key != Qt::Key_BraceLeft ? key : 0;
 }
 
 const ClockKeys::Row ClockKeys::Rows[] = {

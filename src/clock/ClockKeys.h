@@ -6,7 +6,7 @@
 namespace clockcore {
 
 /// The code of a key for `ClockKeys` and the list of shortcuts: 112 to 123 for F1 to F12, the
-/// character for one that is typed alone, in capitals; 0 for any other.
+/// character for one that is typed alone, in capitals; 0 for any other, and for "{".
 /// @param key one of `Qt::Key`
 int KeyCodeOf(int key);
 

@@ -80,14 +80,14 @@ bool StylePreview::IsKnown(const QString& name) const {
 }
 
 void StylePreview::ShowLook(const ClockProperties& look) {
-    TakeBack();
+    Forget();
     Try(look);
     look_.ApplyFace();
 }
 
 void StylePreview::End() {
     if (!tried_.empty() && data_.State != ClockState::Closing) {
-        TakeBack();
+        Forget();
         look_.ApplyFace();
     }
 }
@@ -104,13 +104,23 @@ void StylePreview::Try(const ClockProperties& style) {
     }
 }
 
-void StylePreview::TakeBack() {
+void StylePreview::Forget() {
+    TakeBack(data_.EditProperties());
+    tried_.clear();
+}
+
+ClockProperties StylePreview::OwnProperties() const {
+    ClockProperties own = data_.Properties();
+    TakeBack(own);
+    return own;
+}
+
+void StylePreview::TakeBack(ClockProperties& properties) const {
     for (auto each = tried_.rbegin(); each != tried_.rend(); ++each) {
-        if (mduLib::GetPropertyRaw(each->Name, data_.Properties()) == each->Shown) {
-            mduLib::PutPropertyRaw(each->Name, each->Own, data_.EditProperties());
+        if (mduLib::GetPropertyRaw(each->Name, properties) == each->Shown) {
+            mduLib::PutPropertyRaw(each->Name, each->Own, properties);
         }
     }
-    tried_.clear();
 }
 
 bool StylePreview::MayTry(const QString& name) const {

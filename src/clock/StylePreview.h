@@ -20,7 +20,11 @@ class StylePreview {
 public:
     StylePreview(ClockData& data, const Program& program, const StyleFiles& styles,
                  ClockScreen& screen, ClockLook& look)
-        : data_(data), program_(program), styles_(styles), screen_(screen), look_(look) {}
+        : data_(data), program_(program), styles_(styles), screen_(screen), look_(look) {
+        look_.SetPreview(this);
+    }
+    ~StylePreview() { look_.SetPreview(nullptr); }
+    Q_DISABLE_COPY_MOVE(StylePreview)
 
     /// Shows the style of that name in the folder of styles, in the place of one that is shown
     /// already. A file that is gone or is no style is told in the status bar; the clock then has
@@ -33,6 +37,10 @@ public:
     /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
     /// else has changed meanwhile stays.
     void End();
+    /// The same without drawing, for those who lay the whole clock out anew.
+    void Forget();
+    /// The clock's properties without what is shown for now.
+    ClockProperties OwnProperties() const;
 
 private:
     bool IsPossible() const;
@@ -44,7 +52,7 @@ private:
     };
     void ShowLook(const ClockProperties& look);
     bool TriesAny(const ClockProperties& look) const;
-    void TakeBack();
+    void TakeBack(ClockProperties& properties) const;
     void Try(const ClockProperties& style);
     bool IsKnown(const QString& name) const;
     bool MayTry(const QString& name) const;

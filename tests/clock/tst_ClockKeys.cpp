@@ -32,6 +32,8 @@ private Q_SLOTS:
         QTest::newRow("5") << int(Qt::Key_5) << 53;
         QTest::newRow("blank") << int(Qt::Key_Space) << 32;
         QTest::newRow("tilde") << int(Qt::Key_AsciiTilde) << 126;
+        QTest::newRow("the brace is not F12") << int(Qt::Key_BraceLeft) << 0;
+        QTest::newRow("bar") << int(Qt::Key_Bar) << 124;
         QTest::newRow("up") << int(Qt::Key_Up) << 0;
         QTest::newRow("Ctrl") << int(Qt::Key_Control) << 0;
     }

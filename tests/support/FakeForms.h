@@ -61,7 +61,7 @@ private:
 using FakeForm = RecordingForm<IForm>;
 
 /// The same as a clock.
-class FakeClock final : public RecordingForm<IClock> {
+class FakeClock : public RecordingForm<IClock> {
 public:
     FakeClock(Forms& windows, const QString& caption, QStringList& log)
         : RecordingForm(windows, ClockWindowName, caption, log) {}

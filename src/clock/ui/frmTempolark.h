@@ -98,11 +98,11 @@ public:
     void SetWindowBackColour(const QString& value, const QString& caption) override;
     /// Asks for a colour and makes it the window's.
     void PickWindowBackColour() { dialogs_.PickWindowBackColour(); }
-    void SaveCurrentStyle() override;
+    void SaveCurrentStyle() override { look_.SaveCurrentStyle(); }
     /// Asks for a name and writes the clock's look there, without its zone.
-    void SaveStyleAs();
+    void SaveStyleAs() { dialogs_.SaveStyleAs(); }
     /// Gives the clock's properties to the property window.
-    void SetProperty() override;
+    void SetProperty() override { look_.SetPropertyWithPlace(); }
     void RefreshForm(const QString& fileName) override { look_.RefreshForm(fileName); }
     /// Paints the face anew, background and all.
     void Refresh() override;
