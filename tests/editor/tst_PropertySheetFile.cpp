@@ -279,6 +279,7 @@ void tst_PropertySheetFile::AsksBeforeItWritesOver() {
     QCOMPARE(sheet->Press(0, {}, {}), Done);
     QVERIFY(desk.Zone(u"rome.ini"_s).contains("Time Zone Standard Name=Rome"));
     QCOMPARE(sheet->ZoneName(), u"rome"_s);
+    QCOMPARE(sheet->Caption(), u"Properties - rome"_s);
     QCOMPARE(sheet->OverwriteQuestion(), std::nullopt);
 }
 
