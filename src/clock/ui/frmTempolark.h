@@ -186,6 +186,7 @@ private:
     void Activate();
     /// For another size, and for another screen.
     void TakeSurface();
+    bool IsBound(const QKeyEvent& event) const;
     /// What timers and speech, each with its own kind of host, share.
     template <class Host>
     ClockContext<Host> Parts() {
