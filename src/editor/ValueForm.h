@@ -23,6 +23,7 @@ enum class ValueSort {
 struct ValueForm {
     ValueSort Sort = ValueSort::Text;
     EditorKind Kind = EditorKind::Text;  ///< never `None`
+    bool HasList() const { return Kind == EditorKind::Combo || Kind == EditorKind::ComboEdit; }
     bool operator==(const ValueForm&) const = default;
 };
 

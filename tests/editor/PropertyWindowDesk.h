@@ -101,6 +101,12 @@ struct PropertyWindowDesk {
     QPushButton& Button() { return Find<QPushButton>(u"cmdButton0"_s); }
     QString Info() { return Find<QPlainTextEdit>(u"txtInfo"_s).toPlainText(); }
     void Run(const QString& menuItem) { Find<QAction>(menuItem).trigger(); }
+    /// Presses the button at the end of a key's value.
+    void ClickCellButton(const QString& key) {
+        const QRect cell = View().visualRect(Index(key));
+        QTest::mouseClick(View().viewport(), Qt::LeftButton, {},
+                          QPoint(cell.right() - 8, cell.center().y()));
+    }
     /// Opens the menu with the right button over the current row.
     void OpenMenu() {
         const QPoint place = View().visualRect(View().currentIndex()).center();

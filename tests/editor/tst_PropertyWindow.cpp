@@ -1,3 +1,6 @@
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
 #include "editor/PropertyWindowDesk.h"
 
 using namespace Qt::StringLiterals;
@@ -217,6 +220,69 @@ private Q_SLOTS:
         desk.Run(u"ReloadProperties"_s);
         QCOMPARE(desk.Grid().Tag, u"2,0"_s);
         QCOMPARE(desk.Listed().first(), u"Hand Style"_s);
+    }
+
+    void StandsWithinTheShell_data() {
+        QTest::addColumn<QRectF>("twips");
+        QTest::addColumn<QRect>("pixels");
+        QTest::newRow("as told") << QRectF(150, 300, 7500, 6000) << QRect(10, 20, 500, 400);
+        QTest::newRow("beyond the corner")
+            << QRectF(9000, 9000, 7500, 6000) << QRect(300, 200, 500, 400);
+        QTest::newRow("before the corner")
+            << QRectF(-3000, -3000, 7500, 6000) << QRect(0, 0, 500, 400);
+        QTest::newRow("larger than the shell")
+            << QRectF(150, 150, 30000, 30000) << QRect(0, 0, 800, 600);
+    }
+    void StandsWithinTheShell() {
+        QFETCH(QRectF, twips);
+        PropertyWindowDesk desk;
+        QMdiArea area;
+        area.setFrameShape(QFrame::NoFrame);
+        area.resize(800, 600);
+        area.show();
+        auto* window = new frmProperties(desk.TheProgram, &desk.Shell, &area);
+        QMdiSubWindow* frame = area.addSubWindow(window);
+        window->ShowPropertyMDIChild(u"Oslo"_s, desk.Clock->hwnd(), twips.left(), twips.top(),
+                                     twips.width(), twips.height());
+        QTEST(frame->geometry(), "pixels");
+        QVERIFY(window->isVisible());
+        QCOMPARE(area.activeSubWindow(), frame);
+        QCOMPARE(frame->windowTitle(), u"Properties - Oslo"_s);
+        window->SetWindowState(2);
+        QCOMPARE(window->WindowState(), 2);
+        window->SetWindowState(1);
+        QCOMPARE(window->WindowState(), 1);
+        window->SetWindowState(0);
+        QCOMPARE(window->WindowState(), 0);
+        window->ShowProperty(u"Lima"_s, 0);  // it shows one file
+        QCOMPARE(window->Caption(), u"Properties - Oslo"_s);
+        window->Unload();
+        QVERIFY(!frame->isVisible());
+    }
+
+    void TakesItsUsualSizeWithoutAnother() {
+        PropertyWindowDesk desk;
+        QMdiArea area;
+        area.resize(1000, 900);
+        area.show();
+        auto* window = new frmProperties(desk.TheProgram, &desk.Shell, &area);
+        QMdiSubWindow* frame = area.addSubWindow(window);
+        window->ShowPropertyMDIChild(u"Oslo"_s, desk.Clock->hwnd(), 0, 0, 0, -1);
+        QCOMPARE(frame->size(), frame->sizeHint());
+        QVERIFY(window->width() >= 500);
+    }
+
+    void IsNoWindowOfAFileBeforeItIsOpened() {
+        PropertyWindowDesk desk;
+        frmProperties window(desk.TheProgram, &desk.Shell, nullptr);
+        QCOMPARE(window.PropertyFile(), QString());
+        window.SetPropertyChanged(true);
+        QVERIFY(!window.CanEdit(EditAction::Find));
+        window.Edit(EditAction::Find);
+        QCOMPARE(window.AsPropertyWindow(), &window);
+        QCOMPARE(window.AsEditTarget(), &window);
+        QVERIFY(window.hwnd() > 0);
+        QVERIFY(window.close());
     }
 
     void TheCurrentRecordStaysCurrentInAnotherOrder() {

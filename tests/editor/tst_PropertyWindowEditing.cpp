@@ -299,18 +299,50 @@ private Q_SLOTS:
                  u"Search properties, Close, Apply, About the property, Properties"_s);
     }
 
-    void TheButtonOfAColourAsksForOne() {
+    void TheButtonOfACellOpensItsListOrItsPicker() {
         PropertyWindowDesk desk;
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
+                               "Hand Colour=Red,Red,Blue\r\nDial Colour=Red\r\n");
+        desk.Publish(desk.Clock->File);
         desk.Open();
         desk.Machine.Dialogs.ColourAnswers = {-1, 0x00FF00};
+        desk.GoTo(u"Dial Colour"_s);
+        desk.ClickCellButton(u"Dial Colour"_s);
+        QCOMPARE(desk.Cell(u"Dial Colour"_s), u"Red"_s);
+        desk.ClickCellButton(u"Dial Colour"_s);
+        QCOMPARE(desk.Cell(u"Dial Colour"_s), u"65280"_s);
         desk.GoTo(u"Hand Colour"_s);
-        const QRect cell = desk.View().visualRect(desk.Index(u"Hand Colour"_s));
-        const QPoint button(cell.right() - 8, cell.center().y());
-        QTest::mouseClick(desk.View().viewport(), Qt::LeftButton, {}, button);
-        QCOMPARE(desk.Machine.Dialogs.ColourAnswers.size(), 1U);
-        QCOMPARE(desk.Cell(u"Hand Colour"_s), u"Red"_s);
-        QTest::mouseClick(desk.View().viewport(), Qt::LeftButton, {}, button);
-        QCOMPARE(desk.Cell(u"Hand Colour"_s), u"65280"_s);
+        QCOMPARE(desk.Grid().Columns().Items(1), (QStringList{u"Red"_s, u"Blue"_s, u"Custom"_s}));
+        desk.ClickCellButton(u"Hand Colour"_s);
+        QVERIFY(desk.Grid().Editing().IsEditing());
+        desk.Key(Qt::Key_Down);
+        QCOMPARE(desk.Log.last(), u"Oslo: preview Hand Colour=Blue;Dial Colour=65280"_s);
+        desk.Key(Qt::Key_Down);  // to mix one shows none
+        QCOMPARE(desk.Log.last(), u"Oslo: preview Dial Colour=65280"_s);
+        desk.Key(Qt::Key_Up);
+        desk.Key(Qt::Key_Return);
+        QCOMPARE(desk.Cell(u"Hand Colour"_s), u"Blue"_s);
+    }
+
+    void KeysOpenTheEditor_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifier");
+        QTest::addColumn<bool>("opens");
+        QTest::newRow("F2") << int(Qt::Key_F2) << int(Qt::NoModifier) << true;
+        QTest::newRow("F4") << int(Qt::Key_F4) << int(Qt::NoModifier) << true;
+        QTest::newRow("Enter") << int(Qt::Key_Return) << int(Qt::NoModifier) << true;
+        QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier) << true;
+        QTest::newRow("Down") << int(Qt::Key_Down) << int(Qt::NoModifier) << false;
+        QTest::newRow("F3") << int(Qt::Key_F3) << int(Qt::NoModifier) << false;
+    }
+    void KeysOpenTheEditor() {
+        QFETCH(int, key);
+        QFETCH(int, modifier);
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.GoTo(u"Title"_s);
+        desk.Key(key, static_cast<Qt::KeyboardModifier>(modifier));
+        QTEST(desk.Grid().Editing().IsEditing(), "opens");
     }
 
     void TheCheckBoxIsClicked() {

@@ -43,6 +43,7 @@ private Q_SLOTS:
         QVERIFY(desk.Grid().isEnabled());
         QVERIFY(desk.Search().isEnabled());
         QVERIFY(!desk.NameLine().isVisible());
+        QVERIFY(desk.Button().hasFocus());
         desk.Enter(u"Title"_s, u"Andes"_s);
         desk.Button().setFocus();
         while (desk.Button().text() != u"Launch"_s) {

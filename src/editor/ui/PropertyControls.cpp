@@ -21,9 +21,12 @@ QPushButton* MakeButton(QWidget* row, const QString& name, const QString& captio
 
 }  // namespace
 
-PropertyControls::PropertyControls(QWidget* window, QWidget* grid) {
+PropertyControls::PropertyControls(QWidget* window) {
     MakeSearch(window);
     MakeNameLine(window);
+}
+
+void PropertyControls::LayOut(QWidget* window, QWidget* grid) {
     MakeInfo(window);
     QWidget* buttons = MakeButtons(window);
     auto* layout = new QVBoxLayout(window);
@@ -34,11 +37,6 @@ PropertyControls::PropertyControls(QWidget* window, QWidget* grid) {
     layout->addWidget(grid, 1);
     layout->addWidget(txtInfo_);
     layout->addWidget(buttons);
-    const QList<QWidget*> order = {txtSearch_, lblNewName_, grid->focusProxy(),
-                                   txtInfo_,   cmdApply_,   cmdClose_};
-    for (qsizetype i = 1; i < order.size(); ++i) {
-        QWidget::setTabOrder(order[i - 1], order[i]);
-    }
 }
 
 void PropertyControls::MakeSearch(QWidget* window) {

@@ -9,9 +9,11 @@
 /// search in, the name of a new zone, the grid, what is known of the current row, the buttons.
 class PropertyControls {
 public:
-    /// Lays them out in @p window, which owns them, in the order in which Tab walks through them.
-    /// @param grid has a focus proxy
-    PropertyControls(QWidget* window, QWidget* grid);
+    /// Makes the controls above the grid, which is to be made next: Tab walks through all of them
+    /// in that order. @param window owns them
+    explicit PropertyControls(QWidget* window);
+    /// Makes those below the grid, and lays out all.
+    void LayOut(QWidget* window, QWidget* grid);
 
     QLineEdit& Search() { return *txtSearch_; }
     QPushButton& Apply() { return *cmdApply_; }  ///< `cmdButton(0)`

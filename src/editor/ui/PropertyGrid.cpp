@@ -3,7 +3,6 @@
 #include <QContextMenuEvent>
 #include <QTableView>
 
-#include "editor/ValueForm.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Twips.h"
 
@@ -168,7 +167,18 @@ void PropertyGrid::SetupRowEditor() {
     const editor::ValueForm form =
         editor::FormOf(sheet_.Key(record), sheet_.Properties()[record].Value);
     grdProperty_->SetCellCtl(ValueColumn, static_cast<int>(form.Kind));
-    for (const QString& choice : sheet_.Choices(record)) {
+    if (form.HasList()) {
+        FillValueChoices(form, sheet_.Choices(record));
+    }
+}
+
+// Any colour can be mixed, whether its list says so or not.
+void PropertyGrid::FillValueChoices(const editor::ValueForm& form, QStringList choices) {
+    const bool isColour = form.Sort == ValueSort::Colour;
+    if (isColour && std::none_of(choices.begin(), choices.end(), mduUILib::IsCustomColour)) {
+        choices += u"Custom"_s;
+    }
+    for (const QString& choice : choices) {
         if (form.Kind == EditorKind::Combo) {
             grdProperty_->Columns().AddCellComboItem(ValueColumn, choice);
         } else {

@@ -7,6 +7,7 @@
 #include "editor/PropertyClip.h"
 #include "editor/PropertyOwner.h"
 #include "editor/PropertyPreview.h"
+#include "editor/ValueForm.h"
 #include "editor/ui/ValueLooks.h"
 #include "editor/ui/ctlEditGrid.h"
 
@@ -55,7 +56,7 @@ public:
 
     /// Ends the edit that is open, if any, and commits the current row.
     void EndEdit();
-    /// Asks for the current record's file or colour, or turns its switch over; nothing for others.
+    /// Asks for the current record's file or colour, turns its switch over, or opens its list.
     void PickValue();
     /// Selects all rows.
     void SelectAll();
@@ -91,10 +92,13 @@ private:
     void FillPropertyGrid();
     void FillRow(int row, int record);
     void SetupRowEditor();
+    void FillValueChoices(const editor::ValueForm& form, QStringList choices);
     void ClearRowEditor();
     void CommitRow(int row);
     /// Puts a text into a record, as the end of an edit does.
     void PutCell(int record, const QString& text);
+    /// Opens the editor of the current value with its text.
+    void OpenEditor();
     void Commit(const std::vector<editor::PastedValue>& cells, const QString& commandText);
     void Step(void (QUndoStack::*step)());
     void PickColour(int record);

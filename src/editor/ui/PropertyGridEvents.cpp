@@ -4,10 +4,10 @@
 
 #include "editor/EditorKeys.h"
 #include "editor/GridLines.h"
-#include "editor/ValueForm.h"
 #include "editor/ui/PropertyGrid.h"
 #include "foundation/FilePickers.h"
 #include "foundation/NamedValues.h"
+#include "foundation/Shortcuts.h"
 #include "foundation/TextHelpers.h"
 #include "platform/Dialogs.h"
 
@@ -17,6 +17,8 @@ using editor::ValueSort;
 namespace {
 
 constexpr int ValueColumn = 1;
+constexpr int F2 = 113;
+constexpr int F4 = 115;
 constexpr int RightButton = 2;
 constexpr int Cancelled = -1;
 
@@ -28,8 +30,17 @@ bool WouldChange(const ClockProperty& record, const QString& text) {
 
 }  // namespace
 
+// The keys that open lists and cells elsewhere do so here.
 void PropertyGrid::KeyDown(int& code, int shift) {
-    if (!grdProperty_->Editing().IsEditing() && events_.Key(code, shift)) {
+    if (grdProperty_->Editing().IsEditing()) {
+        return;
+    }
+    const bool opens = ((code == F2 || code == F4) && shift == 0) ||
+                       (code == editor::KeyCode::Down && shift == mduUILib::KeyShift::Alt);
+    if (opens) {
+        OpenEditor();
+    }
+    if (opens || events_.Key(code, shift)) {
         code = 0;
     }
 }
@@ -64,7 +75,7 @@ void PropertyGrid::DblClick() {
     if (mduUILib::IsFileKey(sheet_.Key(CurrentRecord()))) {
         PickValue();
     } else {
-        grdProperty_->OnCellKeyPress(editor::KeyCode::Enter);
+        OpenEditor();
     }
 }
 
@@ -92,7 +103,7 @@ void PropertyGrid::CellChanged(int row, int col) {
 
 void PropertyGrid::ItemHighlighted(int row, int, int item) {
     const int record = grdProperty_->Data().RowData(row);
-    const QString value = sheet_.Choices(record).value(item);
+    const QString value = grdProperty_->Columns().Items(ValueColumn).value(item);
     if (item < 0 || mduUILib::IsCustomColour(value)) {
         preview_.Show();
     } else {
@@ -105,16 +116,22 @@ void PropertyGrid::PickValue() {
     if (record == 0 || !grdProperty_->Editing().Editable) {
         return;
     }
-    switch (editor::FormOf(sheet_.Key(record), sheet_.Properties()[record].Value).Sort) {
-        case ValueSort::File:
-            return PickFile(record);
-        case ValueSort::Colour:
-            return PickColour(record);
-        case ValueSort::YesNo:
-            return TurnOver(record);
-        default:
-            return;
+    const editor::ValueForm form =
+        editor::FormOf(sheet_.Key(record), sheet_.Properties()[record].Value);
+    if (form.Sort == ValueSort::File) {
+        PickFile(record);
+    } else if (form.Sort == ValueSort::YesNo) {
+        TurnOver(record);
+    } else if (form.HasList()) {
+        OpenEditor();
+    } else if (form.Sort == ValueSort::Colour) {
+        PickColour(record);
     }
+}
+
+void PropertyGrid::OpenEditor() {
+    grdProperty_->Data().SetCol(ValueColumn);
+    grdProperty_->OnCellKeyPress(editor::KeyCode::Enter);
 }
 
 void PropertyGrid::PickColour(int record) {

@@ -13,13 +13,15 @@ struct PropertyWindowParts {
                         const std::function<void(PropertyMenu::Item)>& onItem, QWidget* window)
         : Owner(program, shell, ownerHandle),
           Sheet(program, Owner.SourceOf(zoneName)),
+          Controls(window),
           Grid(program, Sheet, Owner, events, window),
-          Controls(window, &Grid.Control()),
-          Menu(window, onItem) {}
+          Menu(window, onItem) {
+        Controls.LayOut(window, &Grid.Control());
+    }
 
     editor::PropertyOwner Owner;
     editor::PropertySheet Sheet;
-    PropertyGrid Grid;
     PropertyControls Controls;
+    PropertyGrid Grid;
     PropertyMenu Menu;
 };

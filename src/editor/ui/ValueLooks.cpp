@@ -25,35 +25,27 @@ bool IsPicture(const QString& path) {
     return ends.contains(path.section(u'.', -1).toLower());
 }
 
-QPixmap EmptyPicture() {
-    const double ratio = qGuiApp->devicePixelRatio();
-    QPixmap picture(QSize(ValueLooks::Side, ValueLooks::Side) * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    return picture;
+/// What shows through: fields of two shades.
+QBrush Chequer() {
+    constexpr int Field = 4;
+    QImage fields(2 * Field, 2 * Field, QImage::Format_RGB32);
+    fields.fill(Qt::white);
+    QPainter painter(&fields);
+    painter.fillRect(Field, 0, Field, Field, Qt::lightGray);
+    painter.fillRect(0, Field, Field, Field, Qt::lightGray);
+    painter.end();
+    return fields;
 }
 
-/// A square of four fields, in reading order.
-QPixmap FourFields(const std::array<QColor, 4>& colours) {
-    QPixmap picture = EmptyPicture();
-    QPainter painter(&picture);
-    constexpr int Half = ValueLooks::Side / 2;
-    for (int field = 0; field < 4; ++field) {
-        painter.fillRect(field % 2 * Half, field / 2 * Half, Half, Half,
-                         colours[static_cast<std::size_t>(field)]);
-    }
-    painter.setPen(QColor(128, 128, 128));
-    painter.drawRect(0, 0, ValueLooks::Side - 1, ValueLooks::Side - 1);
-    return picture;
-}
-
-QPixmap Chequer() {
-    return FourFields({Qt::white, Qt::lightGray, Qt::lightGray, Qt::white});
-}
-
-QPixmap AllColours() {
-    return FourFields(
-        {QColor(214, 69, 65), QColor(240, 190, 60), QColor(80, 160, 90), QColor(70, 120, 200)});
+/// Any colour.
+QBrush AllColours() {
+    QLinearGradient colours(0, 0, 1, 1);
+    colours.setCoordinateMode(QGradient::ObjectMode);
+    colours.setStops({{0.0, QColor(214, 69, 65)},
+                      {0.35, QColor(240, 190, 60)},
+                      {0.65, QColor(80, 160, 90)},
+                      {1.0, QColor(70, 120, 200)}});
+    return colours;
 }
 
 /// A picture of a file's bytes within the side of a thumbnail; null where there is none.
@@ -84,30 +76,29 @@ CellLook ValueLooks::ColourLook(const QString& text) const {
     CellLook look;
     const QString word = mduUILib::ColourWord(text);
     if (word == "transparent"_L1) {
-        look.Picture = Chequer();
+        look.Swatch = Chequer();
     } else if (word == "random"_L1 || mduUILib::IsCustomColour(text)) {
-        look.Picture = AllColours();
+        look.Swatch = AllColours();
     } else if (editor::IsColourText(text)) {
         const mduLib::ColourParts parts =
             mduLib::SplitColour(mduUILib::ColourValue(text, program_.Services.Random));
-        look.Swatch = QColor(parts.Red, parts.Green, parts.Blue);
+        look.Swatch = QBrush(QColor(parts.Red, parts.Green, parts.Blue));
     }
     return look;
 }
 
 CellLook ValueLooks::LookOf(const QString& name, const QString& value, const QString& text) const {
+    const editor::ValueForm form = editor::FormOf(name, value);
     CellLook look;
-    switch (editor::FormOf(name, value).Sort) {
+    switch (form.Sort) {
         case ValueSort::Colour:
             look = ColourLook(text);
-            look.Button = true;
             break;
         case ValueSort::Font:
             look.FontFamily = QFontDatabase::hasFamily(text) ? text : QString();
             break;
         case ValueSort::File:
             look.Picture = Thumbnail(text);
-            look.Button = true;
             break;
         case ValueSort::YesNo:
             look.Check = mduUILib::YesNoToBool(text);
@@ -115,6 +106,9 @@ CellLook ValueLooks::LookOf(const QString& name, const QString& value, const QSt
         default:
             break;
     }
+    const bool isPicked = form.Sort == ValueSort::File || form.Sort == ValueSort::Colour;
+    look.Arrow = form.HasList() && form.Sort != ValueSort::File;
+    look.Button = form.Sort != ValueSort::YesNo && (isPicked || look.Arrow);
     return look;
 }
 

@@ -7,7 +7,8 @@
 #include "foundation/Program.h"
 
 /// How values look in a grid: a colour has a swatch, a picture's file a thumbnail, a font's name
-/// stands in that font, a switch has a check box, and what is picked elsewhere a button.
+/// stands in that font, a switch has a check box, and what is picked has a button: with an arrow
+/// for a list, else with "...".
 class ValueLooks {
 public:
     explicit ValueLooks(const Program& program) : program_(program) {}

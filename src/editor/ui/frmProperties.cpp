@@ -112,18 +112,24 @@ void frmProperties::ShowState() {
         return;
     }
     const editor::PropertySheet& sheet = parts_->Sheet;
-    PropertyControls& controls = parts_->Controls;
     setWindowTitle(sheet.Caption());
-    controls.Apply().setText(editor::ButtonCaption(sheet.Button()));
-    controls.Apply().setAccessibleName(controls.Apply().text());
-    const bool isNew = sheet.IsForNewFile();
-    if (parts_->Grid.Control().isEnabled() == isNew) {
-        parts_->Grid.SetEditable(!isNew);
-        controls.Search().setEnabled(!isNew);
-        setFocusProxy(isNew ? static_cast<QWidget*>(&controls.NameLine())
-                            : &parts_->Grid.Control().View());
+    QPushButton& button = parts_->Controls.Apply();
+    button.setText(editor::ButtonCaption(sheet.Button()));
+    button.setAccessibleName(button.text());
+    if (parts_->Grid.Control().isEnabled() == sheet.IsForNewFile()) {
+        parts_->Grid.SetEditable(!sheet.IsForNewFile());
+        parts_->Controls.Search().setEnabled(!sheet.IsForNewFile());
     }
-    if (!isNew) {
+    ShowNewName();
+}
+
+void frmProperties::ShowNewName() {
+    const editor::PropertySheet& sheet = parts_->Sheet;
+    PropertyControls& controls = parts_->Controls;
+    if (!sheet.IsForNewFile()) {
+        if (controls.NameLine().hasFocus()) {
+            controls.Apply().setFocus();  // where another Enter launches the clock
+        }
         controls.HideName();
         return;
     }
@@ -180,7 +186,18 @@ void frmProperties::SetFocus() {
     } else {
         activateWindow();
     }
-    setFocus();
+    if (parts_) {
+        FocusStart();
+    }
+}
+
+// A proxy of the window would be a stop more for Tab.
+void frmProperties::FocusStart() {
+    if (parts_->Sheet.IsForNewFile()) {
+        parts_->Controls.NameLine().setFocus();
+    } else {
+        parts_->Grid.Control().View().setFocus();
+    }
 }
 
 void frmProperties::Unload() {

@@ -84,6 +84,10 @@ private:
     void ShowRowInfo();
     /// Title, button, name of a new zone, and whether the grid can be edited.
     void ShowState();
+    /// The name of a new zone while it is typed, and why it can't be one.
+    void ShowNewName();
+    /// Gives the focus to the grid, or to the name that is typed.
+    void FocusStart();
     void Search(const QString& words);
     /// Tells why something was not done, in the line of information and by the owner.
     void Tell(const QString& problem);

@@ -13,6 +13,20 @@ using Item = PropertyMenu::Item;
 
 namespace {
 
+/// The entries of the menu that are those of the menu "Edit", too.
+std::optional<EditAction> EditActionOf(Item item) {
+    constexpr std::pair<Item, EditAction> Actions[] = {
+        {Item::Undo, EditAction::Undo},   {Item::Redo, EditAction::Redo},
+        {Item::Cut, EditAction::Cut},     {Item::Copy, EditAction::Copy},
+        {Item::Paste, EditAction::Paste}, {Item::Find, EditAction::Find}};
+    for (const auto& [entry, action] : Actions) {
+        if (entry == item) {
+            return action;
+        }
+    }
+    return std::nullopt;
+}
+
 QString ClipboardText() {
     return QGuiApplication::clipboard()->text();
 }
@@ -134,6 +148,9 @@ void frmProperties::RunItem(Item item) {
     if (!tag.isEmpty()) {
         return Sort(tag);
     }
+    if (const std::optional<EditAction> action = EditActionOf(item)) {
+        return Edit(*action);
+    }
     editor::PropertySheet& sheet = parts_->Sheet;
     switch (item) {
         case Item::ReloadProperties:
@@ -148,18 +165,6 @@ void frmProperties::RunItem(Item item) {
             });
         case Item::Close:
             return Unload();
-        case Item::Undo:
-            return Edit(EditAction::Undo);
-        case Item::Redo:
-            return Edit(EditAction::Redo);
-        case Item::Cut:
-            return Edit(EditAction::Cut);
-        case Item::Copy:
-            return Edit(EditAction::Copy);
-        case Item::Paste:
-            return Edit(EditAction::Paste);
-        case Item::Find:
-            return Edit(EditAction::Find);
         case Item::BackToDefault:
             parts_->Grid.EndEdit();
             return sheet.BackToDefault(parts_->Grid.CurrentRecord());

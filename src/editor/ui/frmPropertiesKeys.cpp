@@ -96,7 +96,7 @@ void frmProperties::FlipNewFile() {
     parts_->Grid.EndEdit();
     parts_->Grid.InOneStep([this] { parts_->Sheet.FlipNewFile(); });
     ShowState();
-    setFocus();
+    FocusStart();
 }
 
 void frmProperties::keyPressEvent(QKeyEvent* event) {
