@@ -146,12 +146,6 @@ void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
     program_.Module.CurrentProperties = data_.Properties();
 }
 
-void ClockFiles::StorePosition(const QRectF& twips) {
-    for (const auto& [name, value] : PlaceValues(twips)) {
-        mduLib::PutProperty(name, value, data_.EditProperties());
-    }
-}
-
 bool ClockFiles::SavePosition(const QRectF& twips) {
     ReadProperties();
     if (!mayWrite_) {
@@ -163,8 +157,7 @@ bool ClockFiles::SavePosition(const QRectF& twips) {
                                           data_.EditProperties(), data_.PropertyFileName) &&
                   written;
     }
-    ReportUnless(written);
-    return written;
+    return Told(written);
 }
 
 bool ClockFiles::SaveKeys(const QStringList& names) {
@@ -182,8 +175,19 @@ bool ClockFiles::SaveKeys(const QStringList& names) {
         mduLib::PutPropertyRaw(name, mduLib::GetPropertyRaw(name, data_.Properties()), stored);
     }
     const bool written = mduLib::WritePropertyFile(files, stored, path);
+    return Told(written);
+}
+
+bool ClockFiles::Told(bool written) const {
     ReportUnless(written);
+    if (written) {
+        TellPropertyWindows();
+    }
     return written;
+}
+
+void ClockFiles::TellPropertyWindows() const {
+    ::TellPropertyWindows(program_.Windows, data_.PropertyFileName);
 }
 
 void ClockFiles::ReportUnless(bool written) const {

@@ -49,9 +49,6 @@ public:
     /// properties.
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);
 
-    /// Stores the window's rectangle, in twips, into the properties in memory.
-    void StorePosition(const QRectF& twips);
-
     /// Stores the window's rectangle, in twips, into the file as it now stands on disk. @return
     /// false when it can't be written
     bool SavePosition(const QRectF& twips);
@@ -61,6 +58,10 @@ public:
     /// false when that failed, which is told.
     bool SaveKeys(const QStringList& names);
     bool SaveKey(const QString& name) { return SaveKeys({name}); }
+
+    /// Tells the windows that edit the clock's file that it has been saved. Those who save keys or
+    /// the place have told it.
+    void TellPropertyWindows() const;
 
     /// Names this clock's file and properties as the current ones.
     void MakeCurrent();
@@ -74,6 +75,8 @@ private:
     void WriteZone(const QString& zoneName);
     void ReadProperties();
     void ReportUnless(bool written) const;
+    /// Tells the user of a failure, else the windows that edit the file. @return @p written
+    bool Told(bool written) const;
 
     ClockData& data_;
     Program program_;

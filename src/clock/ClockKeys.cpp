@@ -1,5 +1,8 @@
 #include "clock/ClockKeys.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "foundation/MenuLists.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
@@ -44,9 +47,11 @@ int KeyCodeOf(int key) {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
         return F1 + key - Qt::Key_F1;
     }
+    // A brace has the code that stands for F12.
     constexpr int firstCharacter = 32;
     constexpr int lastCharacter = 126;
-    return key >= firstCharacter && key <= lastCharacter ? key : 0;
+    const bool isCharacter = key >= firstCharacter && key <= lastCharacter;
+    return isCharacter && key != Qt::Key_BraceLeft ? key : 0;
 }
 
 const ClockKeys::Row ClockKeys::Rows[] = {
@@ -82,6 +87,17 @@ bool ClockKeys::ClockKeyDown(int code, int shift) {
         return isOwn ? RunOwnKey(code, shift) : action == u"Disable"_s && RunAction(action);
     }
     return RunOwnKey(code, shift) || RunAction(action);
+}
+
+bool ClockKeys::IsBound(int code, int shift) const {
+    if (code == 0) {
+        return false;
+    }
+    const bool isOwn = code == F1 || IsCtrl('E', code, shift) || IsCtrl('W', code, shift) ||
+                       IsCtrl('R', code, shift);
+    const QString action = mduUILib::MatchShortcut(program_.Module.ShortcutList, code, shift);
+    return isOwn || std::any_of(std::begin(Rows), std::end(Rows),
+                                [&action](const Row& row) { return row.Name == action; });
 }
 
 bool ClockKeys::RunOwnKey(int code, int shift) {

@@ -6,7 +6,7 @@
 namespace clockcore {
 
 /// The code of a key for `ClockKeys` and the list of shortcuts: 112 to 123 for F1 to F12, the
-/// character for one that is typed alone, in capitals; 0 for any other.
+/// character for one that is typed alone, in capitals; 0 for any other, and for "{".
 /// @param key one of `Qt::Key`
 int KeyCodeOf(int key);
 
@@ -42,6 +42,9 @@ public:
     /// @param shift bits of `mduUILib::KeyShift`
     /// @return whether the key means something
     bool ClockKeyDown(int code, int shift);
+
+    /// Whether a key means something to the clock as it stands: then no menu gets it.
+    bool IsBound(int code, int shift) const;
 
     /// A command by the name that the list of shortcuts has for it. @return false for no such name
     bool RunAction(const QString& name);

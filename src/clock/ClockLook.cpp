@@ -1,5 +1,6 @@
 #include "clock/ClockLook.h"
 
+#include "clock/StylePreview.h"
 #include "drawing/ClockSpecial.h"
 #include "drawing/TimerMarks.h"
 #include "foundation/FileHelpers.h"
@@ -14,7 +15,28 @@ namespace clockcore {
 using drawing::DialParts;
 
 void ClockLook::SetProperty() {
-    program_.Module.CurrentProperties = data_.Properties();
+    program_.Module.CurrentProperties =
+        preview_ != nullptr ? preview_->OwnProperties() : data_.Properties();
+}
+
+void ClockLook::SetPropertyWithPlace() {
+    SetProperty();
+    // Before its first tick a clock has not taken the place that its file holds.
+    if (data_.State.HasBegun()) {
+        StoreWindow(program_.Module.CurrentProperties);
+    }
+}
+
+void ClockLook::ForgetPreview() {
+    if (preview_ != nullptr) {
+        preview_->Forget();
+    }
+}
+
+void ClockLook::EndPreview() {
+    if (preview_ != nullptr) {
+        preview_->End();
+    }
 }
 
 void ClockLook::SetClocks(ClockKind kind) {
@@ -78,6 +100,7 @@ void ClockLook::ApplyEnable() {
 }
 
 void ClockLook::ApplyClockStyle(const QString& styleFile) {
+    ForgetPreview();
     QString problem;
     const std::optional<ClockProperties> style =
         styles_.Read(styleFile, data_.PropertyFileName, data_.Properties(), problem);
@@ -124,6 +147,7 @@ void ClockLook::RecordProgramFolder() {
 }
 
 void ClockLook::RefreshForm(const QString& fileName) {
+    ForgetPreview();
     const bool loaded = data_.State != ClockState::FirstTickDue;
     data_.EditProperties() = program_.Module.CurrentProperties;
     if (!fileName.isEmpty()) {

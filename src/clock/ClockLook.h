@@ -14,6 +14,8 @@
 
 namespace clockcore {
 
+class StylePreview;
+
 /// The operations that change a clock's look as a whole, and those that keep it in a file. A tick
 /// comes here, so none of them asks; what went wrong is told in the status bar.
 class ClockLook final : public ClockStyles {
@@ -44,8 +46,13 @@ public:
           parts_(parts) {}
 
     /// Gives the clock's properties to the property window: a copy of them in
-    /// `ModuleState::CurrentProperties`.
+    /// `ModuleState::CurrentProperties`, without what is only shown for now.
     void SetProperty();
+    /// The same with the window's state and, in its normal state, its place, as
+    /// `SaveCurrentStyle` would store them. The clock's own properties stay.
+    void SetPropertyWithPlace();
+    /// What is shown for now and belongs to no save; null for nothing.
+    void SetPreview(StylePreview* preview) { preview_ = preview; }
     /// Makes the clock one of that kind, at once; nothing for `None` and the input state. The
     /// property "Clocks" changes in memory; no file is written. A wrapper becomes a clock.
     void SetClocks(ClockKind kind);
@@ -94,6 +101,12 @@ public:
     void TellSaved(const QString& what);
 
 private:
+    /// Gives the clock its own look back, drawn.
+    void EndPreview();
+    /// The same where all is drawn anyhow.
+    void ForgetPreview();
+    /// Puts state and place of the window there.
+    void StoreWindow(ClockProperties& properties) const;
     void StoreFontState();
     void RequestRedrawNow();
     void ReadWhatIsSpoken();
@@ -108,6 +121,7 @@ private:
     ClockFiles& files_;
     const StyleFiles& styles_;
     Parts parts_;
+    StylePreview* preview_ = nullptr;
 };
 
 }  // namespace clockcore

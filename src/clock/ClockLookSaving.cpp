@@ -37,32 +37,40 @@ void ClockLook::StoreFontState() {
     }
 }
 
+void ClockLook::StoreWindow(ClockProperties& properties) const {
+    mduLib::PutProperty(u"Window State"_s,
+                        mduUILib::WindowStateName(parts_.Placement.WindowState()), properties);
+    if (const std::optional<QRectF> place = parts_.Placement.PlaceToStore()) {
+        for (const auto& [name, value] : PlaceValues(*place)) {
+            mduLib::PutProperty(name, value, properties);
+        }
+    }
+}
+
 void ClockLook::SaveCurrentStyle() {
+    EndPreview();
     program_.Module.Paths.CurrentPropertyFile = data_.PropertyFileName;
     if (!files_.MayWrite()) {
         parts_.Screen.ShowStatus(data_.PropertyFileName +
                                  u" can't be read as a property file; it is left as it is"_s);
         return;
     }
-    mduLib::PutProperty(u"Window State"_s,
-                        mduUILib::WindowStateName(parts_.Placement.WindowState()),
-                        data_.EditProperties());
-    const std::optional<QRectF> place = parts_.Placement.PlaceToStore();
-    if (place) {
-        files_.StorePosition(*place);
-    }
+    StoreWindow(data_.EditProperties());
     StoreFontState();
     if (!mduLib::WritePropertyFile(program_.Services.FileSystem, data_.Properties(),
                                    data_.PropertyFileName)) {
         parts_.Screen.ShowStatus(data_.PropertyFileName + u" can't be written"_s);
         return;
     }
+    files_.TellPropertyWindows();
+    const std::optional<QRectF> place = parts_.Placement.PlaceToStore();
     if (!place || files_.SavePosition(*place)) {
         TellSaved(u"the style of "_s + parts_.Placement.Caption());
     }
 }
 
 void ClockLook::SaveStyle(const QString& chosen) {
+    EndPreview();
     const QString path = StyleFiles::SavePath(chosen);
     if (styles_.Write(path, data_.Properties(), parts_.Placement.PlaceToStore())) {
         TellSaved(u"the style "_s + mduLib::FileBaseName(path, false));

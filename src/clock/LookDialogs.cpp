@@ -1,17 +1,13 @@
 #include "clock/LookDialogs.h"
-#include "platform/Dialogs.h"
 
 #include <QPointer>
+
+#include "foundation/FilePickers.h"
+#include "platform/Dialogs.h"
 
 using namespace Qt::StringLiterals;
 
 namespace clockcore {
-
-namespace {
-
-const QString IniFilter = u"Ini File (*.ini)"_s;
-
-}  // namespace
 
 std::optional<int> LookDialogs::PickColour(int present) {
     const QPointer<const QObject> clock = &clock_;
@@ -30,8 +26,8 @@ void LookDialogs::SetClockStyle(const QString& styleFile) {
     QString name = styleFile;
     if (name.isEmpty() || name == u"More"_s) {
         const QPointer<const QObject> clock = &clock_;
-        name = program_.Services.Dialog.OpenFile(u"Clock Styles"_s,
-                                                 program_.Module.Paths.StylesFolder, IniFilter);
+        name = mduUILib::PickFile(program_.Services.Dialog, u"Clock Styles"_s, u"Clock Styles"_s,
+                                  program_.Module.Paths);
         if (!clock || state_ == ClockState::Closing) {
             return;
         }
@@ -48,7 +44,7 @@ bool LookDialogs::Confirms(const QString& question, const QString& title) {
 void LookDialogs::SaveStyleAs() {
     const QPointer<const QObject> clock = &clock_;
     const QString chosen = program_.Services.Dialog.SaveFile(
-        u"Save Style As"_s, program_.Module.Paths.StylesFolder, IniFilter);
+        u"Save Style As"_s, program_.Module.Paths.StylesFolder, u"Ini File (*.ini)"_s);
     if (clock && state_ != ClockState::Closing && !chosen.isEmpty()) {
         look_.SaveStyle(chosen);
     }

@@ -56,24 +56,38 @@ void StylePreview::Show(const QString& style) {
     ShowLook(*look);
 }
 
-void StylePreview::ShowProperty(const QString& name, const QString& value) {
-    if (!IsPossible()) {
-        return;
+// Most changes of a property window are of keys that show nothing: the face then stays as it is.
+void StylePreview::ShowProperties(const ClockProperties& values) {
+    if (IsPossible() && TriesAny(values)) {
+        ShowLook(values);
+    } else {
+        End();
     }
-    ClockProperties look;
-    mduLib::AppendProperty({}, name, value, look);
-    ShowLook(look);
+}
+
+bool StylePreview::TriesAny(const ClockProperties& look) const {
+    for (int row = 1; row <= look.UpperBound(); ++row) {
+        const QString name = look[row].Name.trimmed();
+        if (IsKnown(name) && MayTry(name)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool StylePreview::IsKnown(const QString& name) const {
+    return !name.isEmpty() && mduLib::FindPropertyRow(name, data_.Properties()) > 0;
 }
 
 void StylePreview::ShowLook(const ClockProperties& look) {
-    TakeBack();
+    Forget();
     Try(look);
     look_.ApplyFace();
 }
 
 void StylePreview::End() {
     if (!tried_.empty() && data_.State != ClockState::Closing) {
-        TakeBack();
+        Forget();
         look_.ApplyFace();
     }
 }
@@ -81,8 +95,7 @@ void StylePreview::End() {
 void StylePreview::Try(const ClockProperties& style) {
     for (int row = 1; row <= style.UpperBound(); ++row) {
         const QString name = style[row].Name.trimmed();
-        const bool known = mduLib::FindPropertyRow(name, data_.Properties()) > 0;
-        if (name.isEmpty() || !known || !MayTry(name)) {
+        if (!IsKnown(name) || !MayTry(name)) {
             continue;
         }
         const QString own = mduLib::GetPropertyRaw(name, data_.Properties());
@@ -91,13 +104,23 @@ void StylePreview::Try(const ClockProperties& style) {
     }
 }
 
-void StylePreview::TakeBack() {
+void StylePreview::Forget() {
+    TakeBack(data_.EditProperties());
+    tried_.clear();
+}
+
+ClockProperties StylePreview::OwnProperties() const {
+    ClockProperties own = data_.Properties();
+    TakeBack(own);
+    return own;
+}
+
+void StylePreview::TakeBack(ClockProperties& properties) const {
     for (auto each = tried_.rbegin(); each != tried_.rend(); ++each) {
-        if (mduLib::GetPropertyRaw(each->Name, data_.Properties()) == each->Shown) {
-            mduLib::PutPropertyRaw(each->Name, each->Own, data_.EditProperties());
+        if (mduLib::GetPropertyRaw(each->Name, properties) == each->Shown) {
+            mduLib::PutPropertyRaw(each->Name, each->Own, properties);
         }
     }
-    tried_.clear();
 }
 
 bool StylePreview::MayTry(const QString& name) const {

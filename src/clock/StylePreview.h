@@ -20,19 +20,27 @@ class StylePreview {
 public:
     StylePreview(ClockData& data, const Program& program, const StyleFiles& styles,
                  ClockScreen& screen, ClockLook& look)
-        : data_(data), program_(program), styles_(styles), screen_(screen), look_(look) {}
+        : data_(data), program_(program), styles_(styles), screen_(screen), look_(look) {
+        look_.SetPreview(this);
+    }
+    ~StylePreview() { look_.SetPreview(nullptr); }
+    Q_DISABLE_COPY_MOVE(StylePreview)
 
     /// Shows the style of that name in the folder of styles, in the place of one that is shown
     /// already. A file that is gone or is no style is told in the status bar; the clock then has
     /// its own look. A wrapper, a calculator that is typed into and a clock that is closing show
     /// none.
     void Show(const QString& style);
-    /// Shows one property with another value, in the place of what is shown already. A key that is
-    /// not of the face shows nothing.
-    void ShowProperty(const QString& name, const QString& value);
+    /// Shows these values in the place of what is shown already; without any it is `End`. A key
+    /// that is not of the face, or that the clock does not have, shows nothing.
+    void ShowProperties(const ClockProperties& values);
     /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
     /// else has changed meanwhile stays.
     void End();
+    /// The same without drawing, for those who lay the whole clock out anew.
+    void Forget();
+    /// The clock's properties without what is shown for now.
+    ClockProperties OwnProperties() const;
 
 private:
     bool IsPossible() const;
@@ -43,8 +51,10 @@ private:
         QString Shown;
     };
     void ShowLook(const ClockProperties& look);
-    void TakeBack();
+    bool TriesAny(const ClockProperties& look) const;
+    void TakeBack(ClockProperties& properties) const;
     void Try(const ClockProperties& style);
+    bool IsKnown(const QString& name) const;
     bool MayTry(const QString& name) const;
 
     ClockData& data_;

@@ -11,9 +11,9 @@ namespace editor {
 
 namespace {
 
-// A record is one line of its file.
+// A record is one line of its file, and a tab parts the cells of what is copied.
 QString OnOneLine(QString text) {
-    static const QRegularExpression lineEnds(u"\\r\\n|[\\r\\n\\x00]"_s);
+    static const QRegularExpression lineEnds(u"\\r\\n|[\\r\\n\\t\\x00]"_s);
     return text.replace(lineEnds, u" "_s);
 }
 

@@ -29,10 +29,10 @@ struct RowCommit {
     bool operator==(const RowCommit&) const = default;
 };
 
-/// Takes a cell's text over into its record, whose choices stay behind it. A line end in the text
-/// becomes a blank. A cell that shows what the record holds changes nothing, and so does an empty
-/// one of a record with choices, which gets its value back, unless the key holds "File". Nothing
-/// happens where there is no such record.
+/// Takes a cell's text over into its record, whose choices stay behind it. A line end or a tab in
+/// the text becomes a blank. A cell that shows what the record holds changes nothing, and so does
+/// an empty one of a record with choices, which gets its value back, unless the key holds "File".
+/// Nothing happens where there is no such record.
 RowCommit CommitRow(ClockProperties& properties, int record, const QString& cell);
 
 }  // namespace editor

@@ -7,6 +7,7 @@
 /// The application's list of loaded windows, and what windows may ask of each other. Neither the
 /// shell nor the clock knows the other's class.
 
+class ClockProperties;
 class IClock;
 class IEditTarget;
 class IPropertyWindow;
@@ -78,9 +79,9 @@ public:
     /// Rewrites the time-zone keys of the clock's file from the zone's present rules, and publishes
     /// the properties.
     virtual void RefreshDefaultTimeZoneDetails(const QString& zoneName) = 0;
-    /// Shows a property with another value, in the place of one that is shown already; nothing is
-    /// stored. An empty name gives the clock its own look back.
-    virtual void PreviewProperty(const QString& name, const QString& value) = 0;
+    /// Shows these values in place of its own, and of those that it was given before; nothing is
+    /// stored. Only the first part of a value counts. None gives the clock its own look back.
+    virtual void PreviewProperties(const ClockProperties& values) = 0;
 
     virtual int DrawStyle() const = 0;  ///< 1 while the clock shows the shell behind itself
     virtual void SetBackColor(int colour) = 0;

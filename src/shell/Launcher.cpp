@@ -1,6 +1,7 @@
 #include "shell/Launcher.h"
 
 #include "foundation/FileHelpers.h"
+#include "foundation/FilePickers.h"
 #include "foundation/OpenClocks.h"
 #include "platform/Dialogs.h"
 #include "shell/ClockCommands.h"
@@ -51,8 +52,8 @@ int Launcher::ShowOpen(IForm& clock, const QString& name) {
 }
 
 int Launcher::LaunchFromFileDialog() {
-    const QString file = program_.Services.Dialog.OpenFile(
-        u"Launch Tempolark"_s, program_.Module.Paths.ZoneFileFolder, u"Ini File (*.ini)"_s);
+    const QString file = mduUILib::PickFile(program_.Services.Dialog, u"Launch Tempolark"_s,
+                                            u"Time Zone"_s, program_.Module.Paths);
     if (file.right(4).toLower() != u".ini"_s) {
         return 0;
     }

@@ -17,6 +17,7 @@ struct MenuItem {
     bool Visible = true;
     bool Enabled = true;
     bool Checked = false;
+    QString Keys = {};  ///< keys that do the same, as the menu shows them; they are not bound by it
     bool operator==(const MenuItem&) const = default;
 };
 

@@ -73,7 +73,7 @@ MenuTable MainMenu() {
           {}}}};
 }
 
-// The entries alone: nothing in the shell can be edited.
+// What they do goes by their numbers, see `EditActionOf`.
 MenuTable EditMenu() {
     return {u"Edit"_s,
             u"&Edit"_s,

@@ -65,7 +65,6 @@ bool MenuCommands::DoMenuItem(float menuId, int index) const {
 const QStringList& MenuCommands::ThatDoNothing() {
     static const QStringList names = {
         u"Action"_s,                     // the title of a pop-up
-        u"EditItem"_s,                   // nothing in the shell can be edited
         u"Startup"_s,                    // tells how things are
         u"TempolarkAgentSpeakOption"_s,  // hidden: no agent runs
     };

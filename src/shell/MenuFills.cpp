@@ -7,6 +7,7 @@
 #include "foundation/SystemSettings.h"
 #include "shell/AutoStart.h"
 #include "shell/ClockCommands.h"
+#include "shell/EditMenu.h"
 #include "shell/FileList.h"
 #include "shell/OpenedMenu.h"
 #include "shell/ScreenSaver.h"
@@ -165,12 +166,8 @@ void MenuFills::RefreshViewMenu() const {
     startup.Enabled = false;  // tells how things are; it does nothing
 }
 
-// There is nothing in the shell to be edited.
 void MenuFills::RefreshEditMenu() const {
-    MenuArray& items = state_[u"EditItem"_s];
-    for (int i = 1; i <= items.Count(); ++i) {
-        items(i).Enabled = false;
-    }
+    RefreshEditItems(state_[u"EditItem"_s], sources_.CanEdit);
 }
 
 }  // namespace shell

@@ -20,6 +20,8 @@ public:
         std::function<CentralLook()> Look;
         std::function<int()> ActiveHandle;  ///< of the child window in front; 0: there is none
         std::function<bool()> HasMessage;   ///< whether the message line holds something
+        /// Whether what has the focus, or its window, can do that.
+        std::function<bool(EditAction)> CanEdit;
     };
 
     /// All but @p sources outlive this.

@@ -52,6 +52,23 @@ QRect WithinReach(QRect place, const std::vector<QRect>& screens, const QRect& p
     return place;
 }
 
+/// A window beside a clock covers it sooner than it becomes narrower than this, in pixels.
+constexpr int LeastBeside = 420;
+
+QRect PlaceBeside(const QRect& clock, const QSize& window, const QSize& room) {
+    const int behind = clock.x() + clock.width();
+    const int beside = std::max(room.width() - behind, clock.x());
+    const int width = std::min(window.width(), std::max(beside, LeastBeside));
+    const QSize size = QSize(width, window.height()).boundedTo(room);
+    const int before = clock.x() - size.width();
+    const bool fitsBehind = behind + size.width() <= room.width();
+    const bool isMoreBehind = room.width() - behind >= clock.x();
+    const int x = fitsBehind || (before < 0 && isMoreBehind) ? behind : before;
+    return {QPoint(std::clamp(x, 0, room.width() - size.width()),
+                   std::clamp(clock.y(), 0, room.height() - size.height())),
+            size};
+}
+
 void PutPlace(ShellSettings& settings, const QRect& place, const QRect& applied) {
     const bool known = !applied.isNull();
     const auto put = [&](const QString& key, int pixels, int before) {

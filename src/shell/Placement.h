@@ -23,6 +23,13 @@ QPoint StoredCorner(const ShellSettings& settings, const QRect& screen, const QS
 /// pixels of it each way, its upper edge among them. One that is out of reach moves to @p primary.
 QRect WithinReach(QRect place, const std::vector<QRect>& screens, const QRect& primary);
 
+/// Where a window of the shell opens for the clock that it is about, so that both are seen: to the
+/// clock's right, else to its left, else over it at the side that has more room; its upper edge at
+/// the clock's. It never leaves the room, and becomes smaller where that is too small for it; where
+/// the room beside the clock is, narrower, but not below 420 pixels.
+/// @param clock in the room, which begins at 0, 0; it may stand partly outside
+QRect PlaceBeside(const QRect& clock, const QSize& window, const QSize& room);
+
 /// Stores where a normal window stands, in memory. What nobody has changed since it was @p applied
 /// keeps its number, since a small screen may have cut it for this time; a null @p applied means
 /// that it has not been placed by the settings. "-1" always gets a number.

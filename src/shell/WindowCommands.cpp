@@ -1,5 +1,6 @@
 #include "shell/WindowCommands.h"
 
+#include "foundation/FilePickers.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "platform/Dialogs.h"
@@ -8,12 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace shell {
-
-namespace {
-
-const QString IniFilter = u"Ini File (*.ini)"_s;
-
-}  // namespace
 
 void AddWindowCommands(MenuCommands& commands, const Forms& windows, IForm& shellWindow,
                        const std::function<void(Arrangement)>& arrange) {
@@ -41,8 +36,8 @@ void AddClockCommands(MenuCommands& commands, const Program& program, const IShe
     commands.Handle(u"SaveSettings"_s, tell(Broadcast::SaveSettings));
     commands.Handle(u"ClockStyles"_s, [program, tell](int index, MenuItem item) {
         if (item.Tag.isEmpty()) {
-            item.Tag = program.Services.Dialog.OpenFile(
-                u"Clock Styles"_s, program.Module.Paths.StylesFolder, IniFilter);
+            item.Tag = mduUILib::PickFile(program.Services.Dialog, u"Clock Styles"_s,
+                                          u"Clock Styles"_s, program.Module.Paths);
         }
         if (!item.Tag.isEmpty()) {
             tell(Broadcast::ClockStyles)(index, item);

@@ -3,6 +3,7 @@
 #include "clock/ClockFiles.h"
 #include "foundation/PropertyLookup.h"
 #include "foundation/SetupPaths.h"
+#include "support/FakePropertyWindow.h"
 #include "support/MachineWithZones.h"
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,7 @@ private Q_SLOTS:
     void RenewsAnOpenClockInTheNextYear();
     void RenewsTheZoneAloneInOneWrite();
     void LeavesWhatItMayNotWrite();
+    void TellsTheWindowsThatEditItsFile();
 };
 
 void tst_ClockFiles::RenewsAFileThatWasThereBefore() {
@@ -169,6 +171,23 @@ void tst_ClockFiles::LeavesWhatItMayNotWrite() {
     desk.Files.FillZone(Eastern);
     QCOMPARE(desk.Machine.ReadFile(File), QByteArray("a\0b", 3));
     QCOMPARE(desk.Reports.size(), 1);
+}
+
+void tst_ClockFiles::TellsTheWindowsThatEditItsFile() {
+    Desk desk;
+    desk.Files.LoadForShell(Eastern);
+    QStringList log;
+    const FakePropertyWindow other(desk.Windows, desk.Machine.AppFolder() + u"/other.ini"_s, log);
+    const FakePropertyWindow window(desk.Windows, desk.Data.PropertyFileName, log);
+    desk.Files.SaveKey(u"Hour Hand Colour"_s);
+    QCOMPARE(log, QStringList{u"Properties: changed"_s});
+    desk.Files.SavePosition({15, 30, 300, 450});
+    QCOMPARE(log.size(), 2);
+    desk.Machine.Files.Unwritable += desk.Data.PropertyFileName;
+    mduLib::PutProperty(u"Hour Hand Colour"_s, u"Cyan"_s, desk.Data.EditProperties());
+    QVERIFY(!desk.Files.SaveKey(u"Hour Hand Colour"_s));
+    QVERIFY(!desk.Files.SavePosition({16, 30, 300, 450}));
+    QCOMPARE(log.size(), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_ClockFiles)

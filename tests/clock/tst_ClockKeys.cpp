@@ -32,12 +32,37 @@ private Q_SLOTS:
         QTest::newRow("5") << int(Qt::Key_5) << 53;
         QTest::newRow("blank") << int(Qt::Key_Space) << 32;
         QTest::newRow("tilde") << int(Qt::Key_AsciiTilde) << 126;
+        QTest::newRow("the brace is not F12") << int(Qt::Key_BraceLeft) << 0;
+        QTest::newRow("bar") << int(Qt::Key_Bar) << 124;
         QTest::newRow("up") << int(Qt::Key_Up) << 0;
         QTest::newRow("Ctrl") << int(Qt::Key_Control) << 0;
     }
     void Codes() {
         QFETCH(int, key);
         QTEST(clockcore::KeyCodeOf(key), "code");
+    }
+
+    void KeysThatMeanSomething_data() {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("shift");
+        QTest::addColumn<bool>("isBound");
+        QTest::newRow("bound") << 113 << 0 << true;
+        QTest::newRow("not so") << 113 << Ctrl << false;
+        QTest::newRow("to a command that no clock knows") << 75 << Ctrl << false;
+        QTest::newRow("help") << 112 << 0 << true;
+        QTest::newRow("enable") << int('E') << Ctrl << true;
+        QTest::newRow("normal") << int('W') << Ctrl << true;
+        QTest::newRow("size") << int('R') << Ctrl << true;
+        QTest::newRow("a letter") << int('E') << 0 << false;
+        QTest::newRow("no key") << 0 << Ctrl << false;
+    }
+    void KeysThatMeanSomething() {
+        QFETCH(int, code);
+        QFETCH(int, shift);
+        FormDesk desk;
+        Bind(desk, u"Clocks"_s);
+        mduLib::AppendProperty({}, u"Dance"_s, u"Ctrl+K"_s, desk.Module.ShortcutList);
+        QTEST(desk.Keys.IsBound(code, shift), "isBound");
     }
 
     void HelpIsOnF1() {

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "clock/LookDesk.h"
+#include "support/FakePropertyWindow.h"
 
 using namespace Qt::StringLiterals;
 using clockcore::ClockKind;
@@ -101,6 +102,48 @@ private Q_SLOTS:
         desk.Look.FitSurface();
         QCOMPARE(desk.Calls(), QString());
         QCOMPARE(desk.Controls.imgAction(1).Width, 14.0F);
+    }
+
+    void ThePropertyWindowGetsThePlaceAsItStands() {
+        LookDesk desk;
+        desk.Parts.ThePlacement.ToStore = QRectF(150, 300, 4500, 6000);
+        desk.Look.SetPropertyWithPlace();
+        const ClockProperties& slot = desk.Module.CurrentProperties;
+        QCOMPARE(mduLib::GetProperty(u"Window Left"_s, slot), u"150"_s);
+        QCOMPARE(mduLib::GetProperty(u"Window Top"_s, slot), u"300"_s);
+        QCOMPARE(mduLib::GetProperty(u"Window Width"_s, slot), u"4500"_s);
+        QCOMPARE(mduLib::GetProperty(u"Window Height"_s, slot), u"6000"_s);
+        QCOMPARE(mduLib::GetProperty(u"Window State"_s, slot), u"Normal"_s);
+        QVERIFY(desk.Value(u"Window Left"_s) != u"150"_s);
+        QCOMPARE(desk.Calls(), QString());
+    }
+
+    /// Its state is told, its normal place stays that of the file.
+    void AMaximisedWindowHasNoPlaceOfItsOwn() {
+        LookDesk desk;
+        desk.Set(u"Window Left"_s, u"75"_s);
+        desk.Parts.ThePlacement.State = 2;
+        desk.Look.SetPropertyWithPlace();
+        const ClockProperties& slot = desk.Module.CurrentProperties;
+        QCOMPARE(mduLib::GetProperty(u"Window Left"_s, slot), u"75"_s);
+        QCOMPARE(mduLib::GetProperty(u"Window State"_s, slot), u"Maximized"_s);
+    }
+
+    void BeforeTheFirstTickThePlaceIsThatOfTheFile() {
+        LookDesk desk;
+        desk.Set(u"Window Left"_s, u"75"_s);
+        desk.Data.State = ClockState::FirstTickDue;
+        desk.Parts.ThePlacement.ToStore = QRectF(150, 300, 4500, 6000);
+        desk.Look.SetPropertyWithPlace();
+        QCOMPARE(mduLib::GetProperty(u"Window Left"_s, desk.Module.CurrentProperties), u"75"_s);
+    }
+
+    void ASaveTellsThePropertyWindow() {
+        LookDesk desk;
+        QStringList log;
+        const FakePropertyWindow window(desk.Windows, desk.Data.PropertyFileName, log);
+        desk.Look.SaveCurrentStyle();
+        QCOMPARE(log, QStringList{u"Properties: changed"_s});
     }
 
     void EnablesByTheProperty() {

@@ -15,6 +15,11 @@ struct PreviewDesk : LookDesk {
         Module.Paths.StylesFolder = Machine.AppFolder() + u"/Styles/"_s;
         Parts.Log.clear();
     }
+    static ClockProperties HandColour(const QString& value) {
+        ClockProperties values;
+        mduLib::AppendProperty({}, u"Hour Hand Colour"_s, value, values);
+        return values;
+    }
     /// A style with several values of its own.
     void Style(const QString& name, const QMap<QString, QString>& values) {
         ClockProperties style;
@@ -61,6 +66,43 @@ private Q_SLOTS:
         QCOMPARE(desk.Value(u"Minute Hand Colour"_s), u"Cyan"_s);
         desk.Preview.End();
         QCOMPARE(desk.Data.Properties(), before);
+    }
+
+    void ShowsSeveralValues() {
+        PreviewDesk desk;
+        const ClockProperties before = desk.Data.Properties();
+        const QString own = desk.Value(u"Hour Hand Colour"_s);
+        ClockProperties values;
+        mduLib::AppendProperty({}, u"Hour Hand Colour"_s, u"Red,Blue"_s, values);
+        mduLib::AppendProperty({}, u"Clocks"_s, u"Digital"_s, values);
+        mduLib::AppendProperty({}, u"No Such Key"_s, u"1"_s, values);
+        desk.Preview.ShowProperties(values);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Red"_s);
+        QVERIFY(desk.Data.Is(clockcore::ClockKind::Digital));
+        QCOMPARE(desk.Data.Properties().UpperBound(), before.UpperBound());
+        ClockProperties other;
+        mduLib::AppendProperty({}, u"Minute Hand Colour"_s, u"Cyan"_s, other);
+        desk.Preview.ShowProperties(other);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), own);
+        QCOMPARE(desk.Value(u"Minute Hand Colour"_s), u"Cyan"_s);
+        QVERIFY(desk.Data.Is(clockcore::ClockKind::Analogue));
+        desk.Preview.ShowProperties({});
+        QCOMPARE(desk.Data.Properties(), before);
+    }
+
+    void ValuesThatAreNotOfTheFaceDrawNothing() {
+        PreviewDesk desk;
+        ClockProperties values;
+        mduLib::AppendProperty({}, u"Stay Time"_s, u"3"_s, values);
+        desk.Preview.ShowProperties(values);
+        QCOMPARE(desk.Calls(), QString());
+        mduLib::AppendProperty({}, u"Hour Hand Colour"_s, u"Red"_s, values);
+        desk.Preview.ShowProperties(values);
+        QVERIFY(desk.Calls().contains(u"DrawClockFace"_s));
+        ClockProperties other;
+        mduLib::AppendProperty({}, u"Stay Time"_s, u"3"_s, other);
+        desk.Preview.ShowProperties(other);  // and the hand's own colour comes back
+        QVERIFY(desk.Calls().contains(u"DrawClockFace"_s));
     }
 
     void OnlyTheFaceChanges_data() {
@@ -161,6 +203,60 @@ private Q_SLOTS:
         desk.Set(u"Hour Hand Colour"_s, u"Green"_s);
         desk.Preview.End();
         QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Green"_s);
+    }
+
+    void ASaveStoresTheClocksOwnValues() {
+        PreviewDesk desk;
+        desk.Preview.ShowProperties(PreviewDesk::HandColour(u"Cyan"_s));
+        desk.Look.SaveCurrentStyle();
+        QCOMPARE(desk.Stored(desk.Data.PropertyFileName, u"Hour Hand Colour"_s), u"4731430"_s);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"4731430"_s);
+        desk.Preview.ShowProperties(PreviewDesk::HandColour(u"Cyan"_s));
+        desk.Look.SaveStyle(desk.Module.Paths.StylesFolder + u"Mine.ini"_s);
+        QCOMPARE(desk.Stored(desk.Module.Paths.StylesFolder + u"Mine.ini"_s, u"Hour Hand Colour"_s),
+                 u"4731430"_s);
+        QVERIFY(desk.Calls().contains(u"DrawClockFace"_s));  // with its own look
+    }
+
+    /// It is asked for while the clock goes on to show the other value.
+    void ThePropertyWindowGetsTheClocksOwnValues() {
+        PreviewDesk desk;
+        desk.Preview.ShowProperties(PreviewDesk::HandColour(u"Cyan"_s));
+        desk.Calls();
+        desk.Look.SetProperty();
+        QCOMPARE(mduLib::GetProperty(u"Hour Hand Colour"_s, desk.Module.CurrentProperties),
+                 u"4731430"_s);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Cyan"_s);
+        QCOMPARE(desk.Calls(), QString());
+    }
+
+    /// What was shown is the clock's own from then on, so that nothing goes back.
+    void NewPropertiesEndIt() {
+        PreviewDesk desk;
+        desk.Preview.ShowProperties(PreviewDesk::HandColour(u"Cyan"_s));
+        mduLib::PutProperty(u"Hour Hand Colour"_s, u"Cyan"_s, desk.Module.CurrentProperties);
+        desk.Look.RefreshForm({});
+        desk.Preview.End();
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Cyan"_s);
+    }
+
+    void AStyleIsPutOnTheClocksOwnLook() {
+        PreviewDesk desk;
+        desk.Preview.ShowProperties(PreviewDesk::HandColour(u"Cyan"_s));
+        desk.Look.ApplyClockStyle(desk.Module.Paths.StylesFolder + u"no such style.ini"_s);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"4731430"_s);
+    }
+
+    void ALookWithoutAPreviewIsSavedAsItIs() {
+        LookDesk desk;
+        {
+            clockcore::StylePreview gone(desk.Data, desk.TheProgram, desk.Styles, desk.Screen,
+                                         desk.Look);
+        }
+        desk.Set(u"Hour Hand Colour"_s, u"Cyan"_s);
+        desk.Look.SaveCurrentStyle();
+        desk.Look.SetProperty();
+        QCOMPARE(desk.Stored(desk.Data.PropertyFileName, u"Hour Hand Colour"_s), u"Cyan"_s);
     }
 
     void AClockThatClosesIsNotDrawn() {

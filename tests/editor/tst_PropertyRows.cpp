@@ -81,8 +81,8 @@ void tst_PropertyRows::Commits_data() {
     row("an emptied file", u"Music File"_s, u",b,c"_s, none, u",b,c"_s, {none, false});
     row("a comma", u"Size"_s, u"A"_s, u"x,y"_s, u"x,y"_s, {u"x"_s, true});
     row("a comma before choices", u"Size"_s, u"A,A,B"_s, u"x,y"_s, u"x,y,A,B"_s, {u"x"_s, true});
-    row("line ends", u"Size"_s, u"A"_s, u"a\r\nb\rc\nd\te"_s, u"a b c d\te"_s,
-        {u"a b c d\te"_s, true});
+    row("line ends and a tab", u"Size"_s, u"A"_s, u"a\r\nb\rc\nd\te"_s, u"a b c d e"_s,
+        {u"a b c d e"_s, true});
     row("a nothing within", u"Size"_s, u"A"_s, u"a\u0000b"_s, u"a b"_s, {u"a b"_s, true});
     row("line ends alone", u"Size"_s, u"A,A,B"_s, u"\r\n"_s, u"A,A,B"_s, {u"A"_s, false});
     row("other letters", u"\u00c9"_s, u"A,A,B"_s, u"\u65e5"_s, u"\u65e5,A,B"_s,

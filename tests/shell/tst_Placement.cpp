@@ -20,6 +20,36 @@ private:
     }
 
 private Q_SLOTS:
+    void BesideAClock_data() {
+        QTest::addColumn<QRect>("clock");
+        QTest::addColumn<QSize>("window");
+        QTest::addColumn<QRect>("place");
+        const QSize size(300, 400);  // in a room of 1000 by 600
+        QTest::newRow("right") << QRect(100, 50, 200, 200) << size << QRect(300, 50, 300, 400);
+        QTest::newRow("just fits") << QRect(500, 50, 200, 200) << size << QRect(700, 50, 300, 400);
+        QTest::newRow("left") << QRect(501, 50, 200, 200) << size << QRect(201, 50, 300, 400);
+        QTest::newRow("low") << QRect(100, 500, 200, 200) << size << QRect(300, 200, 300, 400);
+        QTest::newRow("above") << QRect(100, -50, 200, 200) << size << QRect(300, 0, 300, 400);
+        QTest::newRow("over it, right")
+            << QRect(200, 0, 550, 500) << size << QRect(700, 0, 300, 400);
+        QTest::newRow("over it, left") << QRect(280, 0, 550, 500) << size << QRect(0, 0, 300, 400);
+        QTest::newRow("as much on both sides")
+            << QRect(225, 0, 550, 500) << size << QRect(700, 0, 300, 400);
+        QTest::newRow("too large")
+            << QRect(0, 50, 1000, 200) << QSize(1200, 900) << QRect(580, 0, 420, 600);
+        QTest::newRow("narrower, right")
+            << QRect(100, 50, 200, 200) << QSize(1200, 900) << QRect(300, 0, 700, 600);
+        QTest::newRow("narrower, left")
+            << QRect(500, 50, 200, 200) << QSize(600, 400) << QRect(0, 50, 500, 400);
+        QTest::newRow("no narrower")
+            << QRect(375, 200, 250, 175) << QSize(587, 600) << QRect(580, 0, 420, 600);
+    }
+    void BesideAClock() {
+        QFETCH(QRect, clock);
+        QFETCH(QSize, window);
+        QTEST(shell::PlaceBeside(clock, window, {1000, 600}), "place");
+    }
+
     void Sizes_data() {
         QTest::addColumn<QString>("width");
         QTest::addColumn<QString>("height");

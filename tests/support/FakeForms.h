@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 
+#include "foundation/ClockProperty.h"
 #include "foundation/Forms.h"
 
 /// A window that writes down what is done to it. Closed, it leaves the list of windows.
@@ -59,7 +61,7 @@ private:
 using FakeForm = RecordingForm<IForm>;
 
 /// The same as a clock.
-class FakeClock final : public RecordingForm<IClock> {
+class FakeClock : public RecordingForm<IClock> {
 public:
     FakeClock(Forms& windows, const QString& caption, QStringList& log)
         : RecordingForm(windows, ClockWindowName, caption, log) {}
@@ -79,17 +81,35 @@ public:
         Note(QStringLiteral("colour %1 %2").arg(value, caption));
     }
     void SaveCurrentStyle() override { Note(QStringLiteral("save")); }
-    void RefreshForm(const QString&) override { Note(QStringLiteral("refresh form")); }
+    std::function<void(const QString& file)> OnRefreshForm;
+    void RefreshForm(const QString& file) override {
+        Note(QStringLiteral("refresh form"));
+        if (OnRefreshForm) {
+            OnRefreshForm(file);
+        }
+    }
     void Refresh() override { Note(QStringLiteral("refresh")); }
     void LayOutAgain() override { Note(QStringLiteral("lay out")); }
     QString File;
     QString IniFile() const override { return File; }
-    void SetProperty() override { Note(QStringLiteral("set property")); }
+    std::function<void()> OnSetProperty;
+    void SetProperty() override {
+        Note(QStringLiteral("set property"));
+        if (OnSetProperty) {
+            OnSetProperty();
+        }
+    }
     void RefreshDefaultTimeZoneDetails(const QString& zone) override {
         Note(QLatin1String("zone details ") + zone);
     }
-    void PreviewProperty(const QString& name, const QString& value) override {
-        Note(QStringLiteral("preview %1=%2").arg(name, value));
+    void PreviewProperties(const ClockProperties& values) override {
+        QStringList pairs;
+        for (int row = 1; row <= values.UpperBound(); ++row) {
+            if (!values[row].Name.isEmpty()) {
+                pairs += values[row].Name + QLatin1Char('=') + values[row].Value;
+            }
+        }
+        Note(QLatin1String("preview ") + pairs.join(QLatin1Char(';')));
     }
     int DrawStyle() const override { return Drawing; }
     void SetBackColor(int colour) override { Colour = colour; }

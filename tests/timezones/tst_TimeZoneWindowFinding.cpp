@@ -25,6 +25,7 @@ class tst_TimeZoneWindowFinding : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void TheMenuEditFinds();
     void NarrowsAsOneTypes();
     void TellsThatNothingIsFound();
     void GoesOnFromTheField();
@@ -601,6 +602,22 @@ void tst_TimeZoneWindowFinding::OpensWithThousandsOfZoneFiles() {
     QCOMPARE(desk.Listed().size(), 2000);
     QTest::keyClicks(&desk.Search(), u"zone 1999"_s);
     QCOMPARE(desk.Listed(), QStringList{u"Zone 1999"_s});
+}
+
+void tst_TimeZoneWindowFinding::TheMenuEditFinds() {
+    ZoneWindowDesk desk;
+    desk.Open();
+    IEditTarget* target = desk.Window->AsEditTarget();
+    QVERIFY(target != nullptr);
+    QVERIFY(target->CanEdit(EditAction::Find));
+    QVERIFY(!target->CanEdit(EditAction::Undo));
+    QTest::keyClicks(&desk.Search(), u"Tok"_s);
+    desk.View().setFocus();
+    target->Edit(EditAction::Undo);
+    QVERIFY(desk.View().hasFocus());
+    target->Edit(EditAction::Find);
+    QVERIFY(desk.Search().hasFocus());
+    QCOMPARE(desk.Search().selectedText(), u"Tok"_s);
 }
 
 QTEST_MAIN(tst_TimeZoneWindowFinding)

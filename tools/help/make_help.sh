@@ -1,6 +1,6 @@
 #!/bin/bash
 # Makes the pages of the help: each chapter in one frame with the list of all, and the chapter of
-# properties from the default files.
+# properties from the default files; and the notes on each key as plain text, for the program.
 #
 #   tools/help/make_help.sh FOLDER-OF-DEFAULT-FILES PICTURE FOLDER
 #
@@ -54,6 +54,14 @@ Body() {
     fi
 }
 
+# Keys: a line for each note, "Tempolark:Clocks=What the clock shows", without the marks of a page.
+Keys() {
+    for name in TempolarkCentral Tempolark; do
+        sed -e 's/<[^>]*>//g' -e 's/&lt;/</g' -e 's/&gt;/>/g' -e 's/&amp;/\&/g' \
+            -e "s/^/$name:/" "$here/notes/$name.txt"
+    done
+}
+
 # Page PATH TITLE: the whole page.
 Page() {
     local path=$1 title
@@ -87,5 +95,6 @@ cp "$picture" "$out/common/clocks.jpg"
 while IFS='|' read -r path title; do
     Page "$path" "$title" >"$out/$path"
 done <"$here/contents.txt"
+Keys >"$out/keys.txt"
 # Each help file has its own way in.
 cp "$out/TempolarkCentral/index.html" "$out/Tempolark/index.html"

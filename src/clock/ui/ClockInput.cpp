@@ -51,19 +51,6 @@ bool IsOnAction(const mduUILib::ClockControls& controls, const QPointF& point) {
            ControlAt(controls.lblActionMsg, point) != nullptr;
 }
 
-/// The modifiers as the list of shortcuts counts them.
-int ShiftState(const QKeyEvent& event) {
-    constexpr std::pair<Qt::KeyboardModifier, int> bits[] = {
-        {Qt::ShiftModifier, mduUILib::KeyShift::Shift},
-        {Qt::ControlModifier, mduUILib::KeyShift::Ctrl},
-        {Qt::AltModifier, mduUILib::KeyShift::Alt}};
-    int state = 0;
-    for (const auto& [modifier, bit] : bits) {
-        state |= event.modifiers().testFlag(modifier) ? bit : 0;
-    }
-    return state;
-}
-
 }  // namespace
 
 bool ClockInput::PressKey(const QKeyEvent& event) {

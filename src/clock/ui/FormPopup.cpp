@@ -48,12 +48,4 @@ void FormPopup::RightClick(const QPointF& point) const {
     }
 }
 
-void FormPopup::PreviewProperty(const QString& name, const QString& value) {
-    if (name.isEmpty()) {
-        preview_.End();
-    } else {
-        preview_.ShowProperty(name, value);
-    }
-}
-
 }  // namespace clockcore

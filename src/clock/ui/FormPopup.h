@@ -40,11 +40,8 @@ public:
     /// Fills the menu and opens it at a point of the screen. The clock's file becomes the current
     /// one first. This does not wait for the menu.
     void FormRightClick(const QPoint& globalPosition);
-    /// Gives the clock its own look back, if it shows one that is highlighted: for those who keep
-    /// or tell its look meanwhile.
-    void EndPreview() { preview_.End(); }
-    /// See `IClock::PreviewProperty`.
-    void PreviewProperty(const QString& name, const QString& value);
+    /// See `IClock::PreviewProperties`.
+    void PreviewProperties(const ClockProperties& values) { preview_.ShowProperties(values); }
     /// Shows the text of `lblClock`, its tag, where a point of the surface, in device pixels, lies
     /// on it.
     void RightClick(const QPointF& point) const;

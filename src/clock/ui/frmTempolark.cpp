@@ -282,23 +282,6 @@ void frmTempolark::SetClocks(int mode) {
     look_.SetClocks(clockcore::NumberedClockKind(mode));
 }
 
-// A style that is only highlighted in the open menu is not the clock's look.
-
-void frmTempolark::SaveCurrentStyle() {
-    popup_.EndPreview();
-    look_.SaveCurrentStyle();
-}
-
-void frmTempolark::SaveStyleAs() {
-    popup_.EndPreview();
-    dialogs_.SaveStyleAs();
-}
-
-void frmTempolark::SetProperty() {
-    popup_.EndPreview();
-    look_.SetProperty();
-}
-
 void frmTempolark::SetWindowBackColour(const QString& value, const QString& caption) {
     look_.SetWindowBackColour(value, caption);
 }

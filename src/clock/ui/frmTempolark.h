@@ -98,18 +98,18 @@ public:
     void SetWindowBackColour(const QString& value, const QString& caption) override;
     /// Asks for a colour and makes it the window's.
     void PickWindowBackColour() { dialogs_.PickWindowBackColour(); }
-    void SaveCurrentStyle() override;
+    void SaveCurrentStyle() override { look_.SaveCurrentStyle(); }
     /// Asks for a name and writes the clock's look there, without its zone.
-    void SaveStyleAs();
+    void SaveStyleAs() { dialogs_.SaveStyleAs(); }
     /// Gives the clock's properties to the property window.
-    void SetProperty() override;
+    void SetProperty() override { look_.SetPropertyWithPlace(); }
     void RefreshForm(const QString& fileName) override { look_.RefreshForm(fileName); }
     /// Paints the face anew, background and all.
     void Refresh() override;
     /// At the next tick, and only for a clock that is running.
     void LayOutAgain() override;
-    void PreviewProperty(const QString& name, const QString& value) override {
-        popup_.PreviewProperty(name, value);
+    void PreviewProperties(const ClockProperties& values) override {
+        popup_.PreviewProperties(values);
     }
     /// 1 while the window's background colour is "Transparent".
     int DrawStyle() const override { return canvas_.IsTransparent() ? 1 : 0; }
@@ -186,6 +186,7 @@ private:
     void Activate();
     /// For another size, and for another screen.
     void TakeSurface();
+    bool IsBound(const QKeyEvent& event) const;
     /// What timers and speech, each with its own kind of host, share.
     template <class Host>
     ClockContext<Host> Parts() {

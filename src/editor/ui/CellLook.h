@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBrush>
 #include <QColor>
 #include <QPixmap>
 #include <QString>
@@ -11,11 +12,12 @@ struct CellLook {
     bool Bold = false;
     bool Quiet = false;            ///< in the colour of a placeholder
     QString Heading;               ///< a caption above the whole row; asked of column 0 alone
-    std::optional<QColor> Swatch;  ///< a square of this colour before the text
+    std::optional<QBrush> Swatch;  ///< a square of this colour, or pattern, before the text
     QString FontFamily;            ///< the text is drawn in it; empty for the grid's own
     QPixmap Picture;               ///< a small picture before the text
     std::optional<bool> Check;     ///< a check box before the text, which a click presses
     bool Button = false;           ///< a button "..." while the cell is the current one
+    bool Arrow = false;            ///< the button shows an arrow, as one that opens a list
     QString ToolTip;               ///< empty shows the text where it is cut off
     QColor ForeColor;              ///< of the text; invalid for the grid's own
 };

@@ -64,22 +64,30 @@ void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, const QRe
     StyleOf(option)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
 }
 
-void PaintSwatch(QPainter& painter, const QRect& rect, const QColor& color, const QColor& line) {
-    painter.fillRect(rect, color);
+void PaintSwatch(QPainter& painter, const QRect& rect, const QBrush& fill, const QColor& line) {
+    painter.setBrushOrigin(rect.topLeft());
+    painter.fillRect(rect, fill);
     QColor edge = line;
     edge.setAlphaF(0.5F);
     painter.setPen(edge);
     painter.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
-void PaintButton(QPainter& painter, const QStyleOptionViewItem& option, const QRect& rect) {
+void PaintButton(QPainter& painter, const QStyleOptionViewItem& option, const QRect& rect,
+                 bool hasArrow) {
     QStyleOptionButton button;
     button.rect = rect;
-    button.text = u"..."_s;
+    button.text = hasArrow ? QString() : u"..."_s;
     button.palette = option.palette;
     button.fontMetrics = option.fontMetrics;
     button.state = QStyle::State_Enabled | QStyle::State_Raised;
     StyleOf(option)->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
+    if (hasArrow) {
+        const int side = rect.height() / 2;
+        button.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {side, side}, rect);
+        StyleOf(option)->drawPrimitive(QStyle::PE_IndicatorArrowDown, &button, &painter,
+                                       option.widget);
+    }
 }
 
 QColor TextColor(const QStyleOptionViewItem& option, const CellLook& look) {
@@ -155,7 +163,7 @@ void PaintCell(QPainter& painter, const QStyleOptionViewItem& option, const Cell
     painter.drawText(parts.Text, int(align) | Qt::TextSingleLine,
                      metrics.elidedText(text, Qt::ElideRight, parts.Text.width()));
     if (!parts.Button.isEmpty()) {
-        PaintButton(painter, option, parts.Button);
+        PaintButton(painter, option, parts.Button, look.Arrow);
     }
     painter.restore();
 }

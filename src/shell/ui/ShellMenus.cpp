@@ -126,7 +126,8 @@ void ShellMenus::AddItems(QMenu& menu, const QString& name) {
             menu.addSeparator();
             continue;
         }
-        QAction* action = menu.addAction(Text(name, item.Caption));
+        const QString keys = item.Keys.isEmpty() ? QString() : u'\t' + item.Keys;
+        QAction* action = menu.addAction(Text(name, item.Caption) + keys);
         action->setObjectName(u"%1(%2)"_s.arg(name).arg(i));
         action->setEnabled(item.Enabled);
         action->setCheckable(item.Checked);

@@ -7,7 +7,10 @@
 #include "shell/ShellSettings.h"
 
 class ClockArea;
+class QMdiSubWindow;
 class QWidget;
+class frmShortcuts;
+class frmTimeZones;
 
 /// The windows that the shell opens beside the clocks: time zones, properties, shortcuts, help, the
 /// about box.
@@ -21,21 +24,28 @@ public:
         IShell& Shell;
     };
 
+    /// @param menus the menus of the shell, whose `NewClock` keeps that a clock is being made
     /// @param covered a window has been opened over the header
     ShellWindows(const Program& program, const Owner& owner, ClockArea& area,
-                 const shell::ShellSettings& settings, std::function<void()> covered);
+                 const shell::ShellSettings& settings, shell::MenuState& menus,
+                 std::function<void()> covered);
 
     /// "NewClock", "ChooseTimeZone", "SetShortcut", "Properties", "ActiveProperties", "Help",
     /// "About".
     void AddTo(shell::MenuCommands& commands);
 
-    /// Opens the shell's own settings, or the defaults of a new clock.
+    /// Opens the shell's own settings, or the defaults of a new clock whose name is to be typed.
+    /// Like all windows that edit a file it comes to the front where it is open already.
     void ShowCentralProperties(bool forNewClock);
 
-    /// The properties of the clock in front, or of the shell where none is.
+    /// The properties of the clock in front, beside it, or of the shell where none is.
     void OpenProperties();
-    void OpenShortcuts();
-    void OpenTimeZones();  ///< once: one that is open comes to the front
+    void OpenShortcuts();  ///< once: one that is open comes to the front
+    void OpenTimeZones();  ///< likewise
+
+    /// Closes the windows that edit something, each behind its question.
+    /// @return false when one stays, since what was to be saved could not be
+    bool CloseEditors();
 
     /// The help of the shell, or of the file @p name; the window in front tells the page.
     void ShowHelp(const QString& name = {});
@@ -45,12 +55,23 @@ public:
 private:
     void OpenHelp(const QString& name, int otherwise);
     void ShowAbout();
-    bool ShowOpenTimeZones();
+    void OpenClockProperties(IClock& clock);
+    /// @param clock where it stands in the area, in pixels; null for a window that is of none
+    void ShowProperties(const QString& zoneName, int ownerHandle, const QRect& clock);
+    /// Brings the window to the front that edits a file; empty for a new one. @return whether there
+    /// is one
+    bool ShowOpenEditor(const QString& file);
+    /// Gives a window a frame in the area.
+    QMdiSubWindow* AddChild(QWidget* window);
+    /// The place of a window beside a clock, or over the corner of the area.
+    QRect PlaceFor(const QRect& clock, const QSize& size) const;
 
     Program program_;
     Owner owner_;
     ClockArea& area_;
     const shell::ShellSettings& settings_;
+    shell::MenuState& menus_;
     std::function<void()> covered_;
-    QPointer<QWidget> timeZones_;
+    QPointer<frmTimeZones> timeZones_;
+    QPointer<frmShortcuts> shortcuts_;
 };

@@ -13,6 +13,7 @@
 #include "shell/LateMenus.h"
 #include "shell/StartMessage.h"
 #include "shell/ui/ClockArea.h"
+#include "shell/ui/EditTargets.h"
 #include "shell/ui/ShellHeader.h"
 #include "shell/ui/ShellLook.h"
 #include "shell/ui/ShellMenus.h"
@@ -192,7 +193,12 @@ void frmMain::ShowWindowMenu(const QPoint& onScreen) {
     menus_->Popup(u"Window"_s, onScreen);
 }
 
+// What could not be saved keeps the shell open.
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (!windows_->CloseEditors()) {
+        event->ignore();
+        return;
+    }
     shell::CloseAllChildren(program_.Windows);
     ExitShell();
     event->accept();

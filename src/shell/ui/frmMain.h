@@ -11,6 +11,7 @@
 #include "shell/ui/ShellPlacement.h"
 
 class ClockArea;
+class EditTargets;
 class ShellFrame;
 class ShellHeader;
 class ShellLook;
@@ -107,7 +108,8 @@ public:
     void SetAutoStart(const QString& name, bool on) override { lists_.SetAutoStart(name, on); }
 
 protected:
-    /// Closes all clocks, then saves the lists, the settings and the place of the window.
+    /// Closes the windows that edit something, one of which may refuse; then all clocks, and saves
+    /// the lists, the settings and the place of the window.
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     /// Of the area's inside: the header follows its size, and a right click opens the menu of
@@ -165,4 +167,5 @@ private:
     std::unique_ptr<ShellLook> look_;
     std::unique_ptr<ShellWindows> windows_;
     std::unique_ptr<ToolBarCommands> buttons_;
+    std::unique_ptr<EditTargets> edit_;
 };

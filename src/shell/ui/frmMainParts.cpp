@@ -2,8 +2,10 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 
+#include "shell/EditMenu.h"
 #include "shell/WindowCommands.h"
 #include "shell/ui/ClockArea.h"
+#include "shell/ui/EditTargets.h"
 #include "shell/ui/ShellFrame.h"
 #include "shell/ui/ShellHeader.h"
 #include "shell/ui/ShellLook.h"
@@ -41,10 +43,11 @@ void frmMain::MakeInnerParts() {
         ShellLook::Parts{*area_, header_->Art(), *toolbar_, *statusBar_, *frame_});
     windows_ =
         std::make_unique<ShellWindows>(program_, ShellWindows::Owner{*this, *this, *this}, *area_,
-                                       settings_, [this] { SetHeaderVisible(false); });
+                                       settings_, menuState_, [this] { SetHeaderVisible(false); });
     buttons_ = std::make_unique<ToolBarCommands>(
         program_, ToolBarCommands::Parts{*toolbar_, *menus_, menuState_, commands_, settings_},
         tell);
+    edit_ = std::make_unique<EditTargets>(*this, *area_);
     HandleCommands();
     area_->viewport()->installEventFilter(this);
     area_->WatchKeysOf(*this);
@@ -95,6 +98,11 @@ void frmMain::HandleCommands() {
     shell::AddWindowCommands(commands_, program_.Windows, *this,
                              [this](shell::Arrangement code) { area_->Arrange(code); });
     shell::AddClockCommands(commands_, program_, *this);
+    commands_.Handle(u"EditItem"_s, [this](int index, const shell::MenuItem&) {
+        if (const auto action = shell::EditActionOf(index)) {
+            edit_->Edit(*action);
+        }
+    });
     commands_.Handle(u"Exit"_s, [this] { Unload(); });
     commands_.Handle(u"WindowTitleBar"_s, [this] { ToggleTitleBar(); });
     commands_.Handle(u"ClearStatusMessage"_s, [this] { stages_.ClearMessages(); });
@@ -123,5 +131,6 @@ shell::MenuFills::Sources frmMain::MenuSources() {
         return active != nullptr ? active->hwnd() : 0;
     };
     return {[this] { return look_->Look(WindowState()); }, activeHandle,
-            [this] { return !stages_.Panel().isEmpty(); }};
+            [this] { return !stages_.Panel().isEmpty(); },
+            [this](EditAction action) { return edit_->CanEdit(action); }};
 }

@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMdiArea>
 
 #include "foundation/NamedValues.h"
 #include "foundation/RemovalQuestion.h"
@@ -46,44 +45,6 @@ void frmTimeZones::ShowMe(IForm& parentForm, IShell* shell, std::int16_t, std::i
     setWindowTitle(parentForm.Caption() + u" - Tempolark"_s);
     LoadZoneList(ShowFilter::All);
     Show();
-    setFocus();
-}
-
-QWidget& frmTimeZones::Outer() {
-    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
-    return frame != nullptr ? static_cast<QWidget&>(*frame) : *this;
-}
-
-const QWidget& frmTimeZones::Outer() const {
-    return const_cast<frmTimeZones*>(this)->Outer();
-}
-
-int frmTimeZones::WindowState() const {
-    return Outer().isMinimized() ? 1 : Outer().isMaximized() ? 2 : 0;
-}
-
-void frmTimeZones::SetWindowState(int state) {
-    if (state == 1) {
-        Outer().showMinimized();
-    } else if (state == 2) {
-        Outer().showMaximized();
-    } else {
-        Outer().showNormal();
-    }
-}
-
-void frmTimeZones::Show() {
-    show();
-    Outer().show();
-}
-
-void frmTimeZones::SetFocus() {
-    if (auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
-        frame != nullptr && frame->mdiArea() != nullptr) {
-        frame->mdiArea()->setActiveSubWindow(frame);
-    } else {
-        activateWindow();
-    }
     setFocus();
 }
 
@@ -212,12 +173,18 @@ void frmTimeZones::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
 }
 
+void frmTimeZones::Edit(EditAction action) {
+    if (action == EditAction::Find) {
+        txtSearch_->setFocus();
+        txtSearch_->selectAll();
+    }
+}
+
 void frmTimeZones::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && balloon_.Shown()) {
         balloon_.Destroy();
     } else if (event->matches(QKeySequence::Find)) {
-        txtSearch_->setFocus();
-        txtSearch_->selectAll();
+        Edit(EditAction::Find);
     } else {
         QWidget::keyPressEvent(event);
     }

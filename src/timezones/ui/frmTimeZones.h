@@ -2,13 +2,13 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QToolButton>
 #include <QWidget>
 
 #include "foundation/Program.h"
 #include "foundation/ui/CBalloonToolTip.h"
+#include "foundation/ui/ChildFrame.h"
 #include "timezones/ZoneFilesOfRows.h"
 #include "timezones/ZoneListModel.h"
 #include "timezones/ui/ZoneListView.h"
@@ -24,7 +24,7 @@
 ///     auto* window = new frmTimeZones(program, frame);
 ///     frame->setWidget(window);
 ///     window->ShowMe(shellForm, &shell, 0, 0);
-class frmTimeZones final : public QWidget, public IForm {
+class frmTimeZones final : public QWidget, public IForm, public IEditTarget {
 public:
     frmTimeZones(const Program& program, QWidget* parent);
     ~frmTimeZones() override;
@@ -60,13 +60,19 @@ public:
     QString Caption() const override { return windowTitle(); }
     int hwnd() const override { return handle_; }
     /// 0 normal, 1 minimised, 2 maximised: of the frame in the shell, where there is one.
-    int WindowState() const override;
-    void SetWindowState(int state) override;
+    int WindowState() const override { return ChildFrame::WindowState(*this); }
+    void SetWindowState(int state) override { ChildFrame::SetWindowState(*this, state); }
     bool IsEnabled() const override { return isEnabled(); }
     void EnableWindow(bool enabled) override { setEnabled(enabled); }
-    void Show() override;
-    void SetFocus() override;
-    void Unload() override { Outer().close(); }
+    void Show() override { ChildFrame::Show(*this); }
+    void SetFocus() override { ChildFrame::SetFocus(*this); }
+    void Unload() override { ChildFrame::Outer(*this).close(); }
+
+    IEditTarget* AsEditTarget() override { return this; }
+
+    // IEditTarget: it can find, which gives the focus to the field of the search.
+    bool CanEdit(EditAction action) const override { return action == EditAction::Find; }
+    void Edit(EditAction action) override;
 
     /// What is listed, in the order of the rows; the first has position 0.
     const mduTimeZones::ZoneList& List() const { return list_; }
@@ -84,9 +90,6 @@ protected:
 private:
     using Item = ZoneMenu::Item;
 
-    /// What is moved and closed: the frame in the shell, or this window where there is none.
-    QWidget& Outer();
-    const QWidget& Outer() const;
     /// Says something in the shell's status bar; nothing where there is no shell.
     void Tell(const QString& text);
     void TellOutcome(const mduTimeZones::RowsOutcome& outcome, const QString& done);

@@ -1,0 +1,78 @@
+#include "editor/PropertyClip.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+#include "editor/PropertyRows.h"
+
+using namespace Qt::StringLiterals;
+
+namespace editor {
+
+namespace {
+
+/// A key and its value, with as many tabs as it has.
+struct ClipLine {
+    QString Key;
+    QString Value;
+};
+
+/// Nothing for a line that does not begin with a key.
+std::optional<ClipLine> ReadLine(const QString& line) {
+    const qsizetype tab = line.indexOf(u'\t');
+    return tab < 1 ? std::nullopt
+                   : std::optional(ClipLine{line.left(tab).trimmed(), line.mid(tab + 1)});
+}
+
+/// The records of each key, in the order of the file.
+QHash<QString, std::vector<int>> RecordsByKey(const ClockProperties& properties) {
+    QHash<QString, std::vector<int>> records;
+    for (int record = 1; record <= properties.UpperBound(); ++record) {
+        const QString key = properties[record].Name.trimmed();
+        if (!key.isEmpty()) {
+            records[key].push_back(record);
+        }
+    }
+    return records;
+}
+
+QStringList LinesOf(const QString& text) {
+    static const QRegularExpression lineEnds(u"\\r\\n|\\r|\\n"_s);
+    return text.split(lineEnds, Qt::SkipEmptyParts);
+}
+
+}  // namespace
+
+QString ClipText(const ClockProperties& properties, const std::vector<int>& records) {
+    QStringList lines;
+    for (const int record : records) {
+        if (HasRecord(properties, record)) {
+            lines += properties[record].Name + u'\t' + PropertyCell(properties[record].Value);
+        }
+    }
+    return lines.join(u'\n');
+}
+
+std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties& properties,
+                                      int current) {
+    QHash<QString, std::vector<int>> records = RecordsByKey(properties);
+    std::vector<PastedValue> pasted;
+    const QStringList lines = LinesOf(text);
+    for (const QString& line : lines) {
+        const std::optional<ClipLine> read = ReadLine(line);
+        const auto found = read ? records.find(read->Key) : records.end();
+        if (found != records.end() && !found->empty()) {
+            pasted.push_back({found->front(), read->Value});
+            found->erase(found->begin());
+        }
+    }
+    if (lines.size() > 1 && !pasted.empty()) {
+        return pasted;
+    }
+    if (!HasRecord(properties, current) || lines.isEmpty()) {
+        return {};
+    }
+    return {{current, pasted.empty() ? lines.join(u' ') : pasted.front().Cell}};
+}
+
+}  // namespace editor

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "foundation/Forms.h"
+#include "shell/MenuArray.h"
+
+/// The menu "Edit": what its items do, each by its number from 1.
+namespace shell {
+
+/// Nothing for a separator, for "Check Spelling" and for numbers outside the menu.
+std::optional<EditAction> EditActionOf(int index);
+
+/// Greys the items that can't be done at this moment, and gives each the keys that do the same
+/// where one edits.
+void RefreshEditItems(MenuArray& items, const std::function<bool(EditAction)>& canEdit);
+
+}  // namespace shell
