@@ -222,8 +222,7 @@ private Q_SLOTS:
         desk.PressClock(Qt::Key_S, Qt::ControlModifier);
         desk.Machine.Dialogs.BoxAnswers = {6};
         desk.PressClock(Qt::Key_P, Qt::ControlModifier);
-        QCoreApplication::processEvents();
-        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 1U);
+        QTRY_COMPARE(desk.Machine.Dialogs.Boxes.size(), 1U);
         QCOMPARE(desk.Machine.Dialogs.Boxes[0].Text,
                  u"Property has been changed, do you want to refresh with the new values?"_s);
         desk.Stop();
