@@ -7,9 +7,9 @@
 #include "foundation/SetupPaths.h"
 #include "platform/Files.h"
 #include "platform/WallClock.h"
-#include "timezones/ZoneArithmetic.h"
+#include "timezones/ExactKeys.h"
+#include "timezones/ExactOffset.h"
 #include "timezones/ZoneKeys.h"
-#include "timezones/ZoneSources.h"
 #include "timezones/ZoneYear.h"
 
 using namespace Qt::StringLiterals;
@@ -106,10 +106,11 @@ void ClockFiles::RefreshZone() {
                                                 data_.PropertyFileName));
     } else {
         ClockProperties copy = data_.Properties();
+        const QString source = data_.Zone.KeyName;
         mduTimeZones::OverlayZoneKeys(data_.Zone, copy, services.Clock.Now());
+        mduTimeZones::OverlayExactKeys(services, source, data_.Zone, copy);
     }
-    mduTimeZones::ApplyCurrentOffset(data_.Zone, services.Clock.Now(),
-                                     mduTimeZones::GetLocalZone(services).CurrentGMTHours);
+    mduTimeZones::ApplyPresentOffset(services, data_.Zone);
 }
 
 // A file that has just been merged, or that a clock has held open over the turn of the year.

@@ -1,0 +1,93 @@
+#include "timezones/ExactKeys.h"
+
+#include <cmath>
+
+#include "foundation/PropertyFile.h"
+#include "foundation/PropertyLookup.h"
+#include "platform/Services.h"
+#include "platform/WallClock.h"
+#include "platform/ZoneDatabase.h"
+#include "timezones/ExactZone.h"
+#include "timezones/ZoneArithmetic.h"
+#include "timezones/ZoneKeys.h"
+#include "timezones/ZoneSources.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mduTimeZones {
+
+namespace {
+
+using platform::ZoneSpan;
+
+bool IsKnown(const platform::Services& services, const QString& id) {
+    return !id.isEmpty() && services.Zones.SpanAt(id, services.Clock.Instant()).has_value();
+}
+
+bool Shows(const ZoneSpan& span, const TimeZoneRecord& record, bool isDaylight) {
+    const std::int32_t bias = isDaylight ? record.DaylightBias : record.StandardBias;
+    return span.Daylight == isDaylight && -std::lround(span.Offset / 60.0) == bias;
+}
+
+/// Whether the zone has had the record's offsets, up to a year from now.
+bool HasKept(const platform::Services& services, const QString& id, const TimeZoneRecord& record) {
+    const ExactZone zone(services.Zones, id);
+    const qint64 end = services.Clock.Instant() + qint64{366} * 86400;
+    bool standard = false;
+    bool daylight = !HasDaylightRule(record);
+    ZoneSpan span = zone.At(QDateTime(QDate(2000, 1, 1), QTime(), Qt::UTC).toSecsSinceEpoch());
+    for (;; span = zone.At(span.Until)) {
+        standard = standard || Shows(span, record, false);
+        daylight = daylight || Shows(span, record, true);
+        if (span.Until > end) {
+            return standard && daylight;
+        }
+    }
+}
+
+QString IdOfProfile(const platform::Services& services, const QString& path) {
+    ClockProperties profile;
+    const bool isRead = path.endsWith(u".ini"_s, Qt::CaseInsensitive) &&
+                        mduLib::ReadPropertyFile(services.FileSystem, path, profile);
+    return isRead ? ZoneKeyValue(profile, ZoneIdKey) : QString();
+}
+
+/// Empty when no identifier is found.
+QString FindId(const platform::Services& services, const QString& source,
+               const TimeZoneRecord& record, const ClockProperties& properties) {
+    const QString city = ZoneKeyValue(properties, u"City"_s);
+    for (const QString& id :
+         {IdOfProfile(services, source), services.Zones.IdOf(record.StandardName),
+          city.isEmpty() ? QString() : services.Zones.IdOf(city)}) {
+        if (IsKnown(services, id) && HasKept(services, id, record)) {
+            return id;
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+bool OverlayExactKeys(const platform::Services& services, const QString& source,
+                      TimeZoneRecord& record, ClockProperties& properties) {
+    record.ExactId.clear();
+    record.LacksId = false;
+    if (ZoneKeyValue(properties, ZoneRulesKey) != u"Exact"_s) {
+        return false;
+    }
+    const QString stored = ZoneKeyValue(properties, ZoneIdKey);
+    const QString id =
+        stored.isEmpty() ? FindId(services, source, record, properties) : stored;
+    if (!IsKnown(services, id)) {
+        record.LacksId = true;
+        return false;
+    }
+    record.ExactId = id;
+    TakeTzi(services.Zones.TziOfId(id).value_or(QByteArray()), record);
+    if (stored != id) {
+        mduLib::PutProperty(ZoneIdKey, id, properties);
+    }
+    return RenewZoneRules(record, properties, services.Clock.Now().date()) || stored != id;
+}
+
+}  // namespace mduTimeZones
