@@ -104,10 +104,9 @@ void CalculatorLines::ShowPresentTime() {
     const QDateTime now = face_.Clock.Now();
     const QString local = mduAPILib::MomentText(now);
     ShowText(Side::Local, local);
-    ShowText(Side::Zone,
-             face_.Zone.ExactId.isEmpty()
-                 ? mduTimeZones::ConvertZoneTime(local, true, face_.Zone, now)
-                 : mduAPILib::MomentText(mduTimeZones::GetClockTime(face_.Zone, now)));
+    ShowText(Side::Zone, face_.Zone.ExactId.isEmpty()
+                             ? mduTimeZones::ConvertZoneTime(local, true, face_.Zone, now)
+                             : mduAPILib::MomentText(mduTimeZones::GetClockTime(face_.Zone, now)));
 }
 
 void CalculatorLines::ShowText(Side side, const QString& text) {
@@ -186,8 +185,8 @@ void CalculatorLines::ShowConverted(const mduTimeZones::ConvertedTime& converted
 void CalculatorLines::NameExactZoneAtTypedTime() {
     const auto typed = mduTimeZones::MomentOfText(Line(edited_).Tag, face_.Clock.Now());
     if (typed) {
-        face_.Controls.lblLocation(1).Caption = mduTimeZones::ExactNameAt(
-            face_.Zones, face_.Zone, *typed, edited_ == Side::Zone);
+        face_.Controls.lblLocation(1).Caption =
+            mduTimeZones::ExactNameAt(face_.Zones, face_.Zone, *typed, edited_ == Side::Zone);
     }
 }
 

@@ -80,8 +80,8 @@ std::vector<TzSpan> Neighbours(const QTimeZone& zone, const TzSpan& span) {
 bool IsLessThanStandard(const QTimeZone& zone, const TzSpan& daylight) {
     const std::vector<TzSpan> around = Neighbours(zone, daylight);
     const auto isStandard = [&](const TzSpan& other, bool later) {
-        return !other.IsDst && (later ? other.Offset > daylight.Offset
-                                      : other.Offset < daylight.Offset);
+        return !other.IsDst &&
+               (later ? other.Offset > daylight.Offset : other.Offset < daylight.Offset);
     };
     const auto any = [&](bool later) {
         return std::any_of(around.begin(), around.end(),

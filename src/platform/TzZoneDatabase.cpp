@@ -159,10 +159,9 @@ QByteArray TzZoneDatabase::IanaOfCity(const QString& city) const {
     if (!named.isEmpty()) {
         return named;
     }
-    const auto found =
-        std::find_if(zones_.begin(), zones_.end(), [&](const TzWindowsZone& zone) {
-            return zone.Cities.split(u", "_s).contains(city, Qt::CaseInsensitive);
-        });
+    const auto found = std::find_if(zones_.begin(), zones_.end(), [&](const TzWindowsZone& zone) {
+        return zone.Cities.split(u", "_s).contains(city, Qt::CaseInsensitive);
+    });
     return found == zones_.end() ? QByteArray() : TzDefaultIana(found->Name);
 }
 

@@ -66,10 +66,10 @@ struct ZonePlace {
 struct ZoneSpan {
     static constexpr std::int64_t Always = std::numeric_limits<std::int64_t>::max();
 
-    std::int32_t Offset = 0;        ///< seconds east of GMT; not always whole minutes
-    bool Daylight = false;          ///< the half of the year with the later clock
-    std::int64_t Since = -Always;   ///< its first second; `-Always` when there was none before
-    std::int64_t Until = Always;    ///< the first second of the next; `Always` when there is none
+    std::int32_t Offset = 0;       ///< seconds east of GMT; not always whole minutes
+    bool Daylight = false;         ///< the half of the year with the later clock
+    std::int64_t Since = -Always;  ///< its first second; `-Always` when there was none before
+    std::int64_t Until = Always;   ///< the first second of the next; `Always` when there is none
 
     bool operator==(const ZoneSpan&) const = default;
 };

@@ -12,7 +12,8 @@ struct ConvertedTime {
     /// "25/03/2008 9:05:07"; of two the earlier; empty for a text that is no time, and beyond the
     /// years 100 to 9999. A time that does not exist gives "does not exist".
     QString Text = {};
-    QStringList Texts = {};  ///< two, the earlier first, of a time that is lived through twice; else none
+    QStringList Texts =
+        {};  ///< two, the earlier first, of a time that is lived through twice; else none
     bool IsGap = false;  ///< the time asked for is left out by the clock that it is told of
 
     /// For a line of text: both readings, as "25/10/2026 1:30:00 or 2:30:00" where they lie in one

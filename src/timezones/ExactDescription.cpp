@@ -62,11 +62,11 @@ QString WordsOf(const ExactZone& zone, const ZoneChange& change, const QLocale& 
     const std::vector<QDate> dates = DatesOfRule(zone, change);
     const int occurrence = CommonOccurrence(dates);
     const QDate date = dates.front();
-    return occurrence == 0 ? QString()
-                           : OrdinalWord(occurrence).trimmed() + u' ' +
-                                 locale.standaloneDayName(date.dayOfWeek(), QLocale::LongFormat) +
-                                 u" in "_s +
-                                 locale.standaloneMonthName(date.month(), QLocale::LongFormat);
+    return occurrence == 0
+               ? QString()
+               : OrdinalWord(occurrence).trimmed() + u' ' +
+                     locale.standaloneDayName(date.dayOfWeek(), QLocale::LongFormat) + u" in "_s +
+                     locale.standaloneMonthName(date.month(), QLocale::LongFormat);
 }
 
 QString NameOf(const platform::ZoneSpan& span, const TimeZoneRecord& record) {
@@ -116,8 +116,8 @@ QString ExactDescription(const platform::Services& services, const TimeZoneRecor
     offsets.removeDuplicates();
     const QString head = changes.isEmpty() ? QString() : changes.join(LineEnd) + LineEnd;
     return head + LineEnd + offsets.join(LineEnd) + LineEnd + LineEnd + NameOf(present, record) +
-           u" is "_s + Difference(services, present.Offset, now) + LineEnd +
-           u"Exact rules of "_s + record.ExactId;
+           u" is "_s + Difference(services, present.Offset, now) + LineEnd + u"Exact rules of "_s +
+           record.ExactId;
 }
 
 }  // namespace

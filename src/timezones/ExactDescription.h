@@ -18,8 +18,9 @@ namespace mduTimeZones {
 QString RuleWords(const platform::Services& services, const QString& id, qint64 instant,
                   const QLocale& locale = QLocale());
 
-/// `ZoneDescription`; for a record with `ExactId` the next two changes, each with its rule, its date
-/// and the difference to the local time from then on; then the offsets and the present difference:
+/// `ZoneDescription`; for a record with `ExactId` the next two changes, each with its rule, its
+/// date and the difference to the local time from then on; then the offsets and the present
+/// difference:
 ///
 ///     Eastern Standard Time Begins on First Sunday in November (01/11/2026) at 2:00:00, then 5
 ///     hour(s) behind Local Time

@@ -68,16 +68,19 @@ QString FindId(const platform::Services& services, const QString& source,
 
 }  // namespace
 
+QStringList ZoneRulesNames() {
+    return {u"Exact"_s, u"As Stored"_s};
+}
+
 bool OverlayExactKeys(const platform::Services& services, const QString& source,
                       TimeZoneRecord& record, ClockProperties& properties) {
     record.ExactId.clear();
     record.LacksId = false;
-    if (ZoneKeyValue(properties, ZoneRulesKey) != u"Exact"_s) {
+    if (ZoneKeyValue(properties, ZoneRulesKey) != ZoneRulesNames().first()) {
         return false;
     }
     const QString stored = ZoneKeyValue(properties, ZoneIdKey);
-    const QString id =
-        stored.isEmpty() ? FindId(services, source, record, properties) : stored;
+    const QString id = stored.isEmpty() ? FindId(services, source, record, properties) : stored;
     if (!IsKnown(services, id)) {
         record.LacksId = true;
         return false;

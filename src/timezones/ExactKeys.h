@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include "foundation/ClockProperty.h"
 #include "timezones/TimeZoneRecord.h"
@@ -17,6 +17,9 @@ namespace mduTimeZones {
 
 inline const QString ZoneRulesKey = QStringLiteral("Time Zone Rules");
 inline const QString ZoneIdKey = QStringLiteral("Time Zone Id");
+
+/// The words of the first key.
+QStringList ZoneRulesNames();
 
 /// Reads them over @p record, which has read the six keys. Nothing happens unless the rules are
 /// "Exact". With an identifier that the database knows the record takes its offsets and transitions

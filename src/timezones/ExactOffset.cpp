@@ -32,9 +32,8 @@ QString TwoDigits(int number) {
 // database says of the machine.
 void ApplyPresentOffset(const platform::Services& services, TimeZoneRecord& record) {
     const qint64 now = services.Clock.Instant();
-    const auto span = record.ExactId.isEmpty()
-                          ? std::nullopt
-                          : services.Zones.SpanAt(record.ExactId, now);
+    const auto span =
+        record.ExactId.isEmpty() ? std::nullopt : services.Zones.SpanAt(record.ExactId, now);
     record.HoldsSince = -ZoneSpan::Always;
     record.HoldsUntil = ZoneSpan::Always;
     if (!span) {
@@ -50,8 +49,7 @@ void ApplyPresentOffset(const platform::Services& services, TimeZoneRecord& reco
 }
 
 QString ChangeText(const platform::Services& services, const TimeZoneRecord& record) {
-    const ZoneSpan present =
-        ExactZone(services.Zones, record.ExactId).At(services.Clock.Instant());
+    const ZoneSpan present = ExactZone(services.Zones, record.ExactId).At(services.Clock.Instant());
     const QString place = record.ExactId.section(u'/', -1).replace(u'_', u' ');
     return u"%1 has changed to %2 time, %3"_s.arg(
         place, present.Daylight ? u"daylight"_s : u"standard"_s, OffsetText(present.Offset));

@@ -28,7 +28,8 @@ public:
     /// @param id an identifier; an empty one is the machine's own zone. One that the database does
     /// not know is GMT.
     /// @param zones outlives this object
-    ExactZone(const platform::ZoneDatabase& zones, QString id) : zones_(zones), id_(std::move(id)) {}
+    ExactZone(const platform::ZoneDatabase& zones, QString id)
+        : zones_(zones), id_(std::move(id)) {}
 
     platform::ZoneSpan At(qint64 instant) const {
         return zones_.SpanAt(id_, instant).value_or(platform::ZoneSpan());

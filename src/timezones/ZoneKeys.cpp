@@ -78,8 +78,9 @@ void PutWhole(const QString& key, const QString& text, ClockProperties& properti
 
 /// A file that gets another zone is told its identifier anew.
 void ForgetIdOfAnother(const QString& standardName, ClockProperties& properties) {
-    const bool same = ZoneKeyValue(properties, ZoneKeys()[0]) == standardName;
-    if (!same && !ZoneKeyValue(properties, ZoneIdKey).isEmpty()) {
+    const QString before = ZoneKeyValue(properties, ZoneKeys()[0]);
+    const bool isAnother = !before.isEmpty() && before != standardName;
+    if (isAnother && !ZoneKeyValue(properties, ZoneIdKey).isEmpty()) {
         PutWhole(ZoneIdKey, {}, properties);
     }
 }

@@ -27,7 +27,8 @@ QStringList OverlayZoneKeys(
     TimeZoneRecord& record, ClockProperties& properties, const QDateTime& now,
     const std::function<void()>& onFilledIn = [] {});
 
-/// Brings offsets and transitions into their four keys, as far as these hold others; the names stay.
+/// Brings offsets and transitions into their four keys, as far as these hold others; the names
+/// stay.
 /// @return whether a key has been changed
 bool RenewZoneRules(const TimeZoneRecord& record, ClockProperties& properties, const QDate& today);
 

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void RefusesAnotherInstant();
     void AnswersQuestionsOfAFile();
     void RefusesQuestions();
+    void AgreesWithAnotherReader();
 };
 
 void tst_ExactZonesCommands::ShowsTheMoment_data() {
@@ -176,6 +177,20 @@ void tst_ExactZonesCommands::RefusesQuestions() {
     const CompanionAnswer answer = desk.Run({}, {u"instants"_s, questions});
     QCOMPARE(answer.Status, 1);
     QCOMPARE(answer.Output, QByteArray("null\n"));
+}
+
+// A sample: the script asks all zones of the machine's database and more years.
+void tst_ExactZonesCommands::AgreesWithAnotherReader() {
+    QProcess script;
+    script.setProcessChannelMode(QProcess::MergedChannels);
+    script.start(u"/usr/bin/python3"_s,
+                 {QStringLiteral(TEMPOLARK_SOURCE_DIR "/tools/check_exact_zones.py"),
+                  u"--companion"_s, QStringLiteral(TEMPOLARK_BIN_DIR "/tempolarkctl"), u"--from"_s,
+                  u"2010"_s, u"--to"_s, u"2014"_s, u"--zones"_s, u"7"_s});
+    QVERIFY(script.waitForFinished(300'000));
+    const QByteArray told = script.readAll();
+    QVERIFY2(script.exitCode() == 0, told);
+    QVERIFY2(told.trimmed().endsWith(" questions on 7 machines: 0 differ"), told);
 }
 
 QTEST_GUILESS_MAIN(tst_ExactZonesCommands)

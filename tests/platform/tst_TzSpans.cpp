@@ -42,8 +42,8 @@ void tst_TzSpans::TellsASpan_data() {
     QTest::addColumn<QByteArray>("since");
     QTest::addColumn<QByteArray>("until");
 
-    const auto row = [](const char* name, const char* iana, const char* at, int offset,
-                        bool summer, const char* since, const char* until) {
+    const auto row = [](const char* name, const char* iana, const char* at, int offset, bool summer,
+                        const char* since, const char* until) {
         QTest::newRow(name) << QByteArray(iana) << QByteArray(at) << offset << summer
                             << QByteArray(since) << QByteArray(until);
     };
@@ -71,8 +71,8 @@ void tst_TzSpans::TellsASpan_data() {
         "2014-06-26T21:00:00", "2014-07-31T22:00:00");
     row("before a day that was left out", "Pacific/Apia", "2011-12-30T09:59:59", -10 * Hour, true,
         "2011-09-24T14:00:00", "2011-12-30T10:00:00");
-    row("behind it", "Pacific/Apia", "2011-12-30T10:00:00", 14 * Hour, true,
-        "2011-12-30T10:00:00", "2012-03-31T14:00:00");
+    row("behind it", "Pacific/Apia", "2011-12-30T10:00:00", 14 * Hour, true, "2011-12-30T10:00:00",
+        "2012-03-31T14:00:00");
 }
 
 void tst_TzSpans::TellsASpan() {
@@ -102,8 +102,7 @@ void tst_TzSpans::KnowsZonesThatAreNoFile() {
 void tst_TzSpans::GoesOnBehindTheList() {
     QCOMPARE(SpanAt("Europe/London", "2037-10-25T01:00:00").Until, At("2038-03-28T01:00:00"));
     const ZoneSpan spring = SpanAt("Europe/London", "2038-03-28T01:00:00");
-    QCOMPARE(spring,
-             (ZoneSpan{Hour, true, At("2038-03-28T01:00:00"), At("2038-10-31T01:00:00")}));
+    QCOMPARE(spring, (ZoneSpan{Hour, true, At("2038-03-28T01:00:00"), At("2038-10-31T01:00:00")}));
     const ZoneSpan winter = SpanAt("Europe/Dublin", "2040-01-01T00:00:00");
     QCOMPARE(winter, (ZoneSpan{0, false, At("2039-10-30T01:00:00"), At("2040-03-25T01:00:00")}));
 }

@@ -78,7 +78,7 @@ struct FakeFace {
     /// What a part's constructor takes; valid for as long as this object lives.
     drawing::FaceContext Context() {
         return {Properties,    Zone,           Controls, Window, Machine.Clock,
-                Machine.Files, Machine.Random, Pictures, Paths,    *Zones};
+                Machine.Files, Machine.Random, Pictures, Paths,  *Zones};
     }
 
     void Set(const QString& key, const QString& value) {

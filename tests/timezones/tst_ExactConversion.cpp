@@ -52,8 +52,7 @@ void tst_ExactConversion::Converts_data() {
         {u"25/10/2026 1:30:00"_s, {u"25/10/2026 1:30:00"_s, u"25/10/2026 1:30:00"_s}});
     row("a day that was left out", u"Pacific/Apia"_s, u"30/12/2011 12:00"_s, false,
         {.Text = u"does not exist"_s, .IsGap = true});
-    row("seconds", u"Africa/Monrovia"_s, u"01/06/1971 12:00"_s, false,
-        {u"01/06/1971 12:44:30"_s});
+    row("seconds", u"Africa/Monrovia"_s, u"01/06/1971 12:00"_s, false, {u"01/06/1971 12:44:30"_s});
     row("no time", newYork, u"noon"_s, true, {});
     row("the last year", newYork, u"31/12/9999 23:00"_s, true, {u"31/12/9999 18:00:00"_s});
     row("behind it", newYork, u"31/12/9999 23:00"_s, false, {});

@@ -44,8 +44,7 @@ void tst_ExactDescription::PutsRulesIntoWords() {
     QFETCH(QByteArray, at);
     QFETCH(QString, words);
     const ExactMachine machine("2026-06-15T12:00:00");
-    QCOMPARE(mduTimeZones::RuleWords(machine.Services, id, ExactMachine::Instant(at),
-                                     QLocale::c()),
+    QCOMPARE(mduTimeZones::RuleWords(machine.Services, id, ExactMachine::Instant(at), QLocale::c()),
              words);
 }
 
@@ -68,19 +67,19 @@ void tst_ExactDescription::DescribesAZone() {
 // A week that begins on Sunday shifts no name.
 void tst_ExactDescription::DescribesAZoneAhead() {
     const ExactMachine machine("2026-06-15T12:00:00", "America/New_York");
-    QCOMPARE(mduTimeZones::PresentDescription(machine.Services,
-                                              machine.Record(u"Australia/Lord_Howe"_s),
-                                              QLocale(QLocale::English, QLocale::UnitedStates)),
-             u"Daylight Begins on First Sunday in October (04/10/2026) at 2:00:00, then 15 hour(s) "
-             "ahead of Local Time\r\n"
-             "Standard Begins on First Sunday in April (04/04/2027) at 2:00:00, then 14 hour(s) "
-             "and 30 Minutes ahead of Local Time\r\n"
-             "\r\n"
-             "Standard is 10 hour(s) and 30 Minutes after Greenwich Standard Time\r\n"
-             "Daylight is 11 hour(s) after Greenwich Standard Time\r\n"
-             "\r\n"
-             "Standard is 14 hour(s) and 30 Minutes ahead of Local Time\r\n"
-             "Exact rules of Australia/Lord_Howe"_s);
+    QCOMPARE(
+        mduTimeZones::PresentDescription(machine.Services, machine.Record(u"Australia/Lord_Howe"_s),
+                                         QLocale(QLocale::English, QLocale::UnitedStates)),
+        u"Daylight Begins on First Sunday in October (04/10/2026) at 2:00:00, then 15 hour(s) "
+        "ahead of Local Time\r\n"
+        "Standard Begins on First Sunday in April (04/04/2027) at 2:00:00, then 14 hour(s) "
+        "and 30 Minutes ahead of Local Time\r\n"
+        "\r\n"
+        "Standard is 10 hour(s) and 30 Minutes after Greenwich Standard Time\r\n"
+        "Daylight is 11 hour(s) after Greenwich Standard Time\r\n"
+        "\r\n"
+        "Standard is 14 hour(s) and 30 Minutes ahead of Local Time\r\n"
+        "Exact rules of Australia/Lord_Howe"_s);
 }
 
 void tst_ExactDescription::DescribesAZoneWithoutChanges() {

@@ -41,8 +41,9 @@ QByteArray Keys(const QByteArray& name, int standard, int daylight = 0,
                 const QByteArray& from = "0.0.0 0:00:00", const QByteArray& to = "0.0.0 0:00:00") {
     return "Time Zone Standard Name=" + name + "\r\nTime Zone Standard Start Time=" + to +
            "\r\nTime Zone Standard GMT (Minutes)=" + QByteArray::number(standard) +
-           "\r\nTime Zone Daylight Name=" + name + " Summer\r\nTime Zone Daylight Start Time=" +
-           from + "\r\nTime Zone Daylight GMT (Minutes)=" + QByteArray::number(daylight) + "\r\n";
+           "\r\nTime Zone Daylight Name=" + name +
+           " Summer\r\nTime Zone Daylight Start Time=" + from +
+           "\r\nTime Zone Daylight GMT (Minutes)=" + QByteArray::number(daylight) + "\r\n";
 }
 
 }  // namespace
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void KeepsAnUnknownIdentifier();
     void AnotherZoneHasAnotherIdentifier();
     void TheSameZoneKeepsItsIdentifier();
+    void AZoneWithoutANameKeepsItsIdentifier();
     void CopiesTheIdentifierWithTheZone();
 };
 
@@ -125,15 +127,15 @@ void tst_ExactKeys::FindsAnIdentifier_data() {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("keys");
     QTest::addColumn<QString>("id");
-    QTest::newRow("a zone's name") << u"Eastern Standard Time"_s << QByteArray()
-                                   << u"America/New_York"_s;
-    QTest::newRow("a renamed zone") << u"India Standard Time"_s << QByteArray()
-                                    << u"Asia/Kolkata"_s;
+    QTest::newRow("a zone's name")
+        << u"Eastern Standard Time"_s << QByteArray() << u"America/New_York"_s;
+    QTest::newRow("a renamed zone")
+        << u"India Standard Time"_s << QByteArray() << u"Asia/Kolkata"_s;
     QTest::newRow("a city that names a zone")
         << u"Oslo"_s << Keys("Oslo", -60, -120, "29/03/2026 2:00:00", "25/10/2026 3:00:00")
         << u"Europe/Oslo"_s;
-    QTest::newRow("a city that lies in one") << u"Mumbai"_s << Keys("Mumbai", -330)
-                                             << u"Asia/Kolkata"_s;
+    QTest::newRow("a city that lies in one")
+        << u"Mumbai"_s << Keys("Mumbai", -330) << u"Asia/Kolkata"_s;
     QTest::newRow("the city of a profile")
         << u"Head office"_s << QByteArray("Zone:City=Oslo\r\n") + Keys("Head office", -60)
         << u"Europe/Oslo"_s;
@@ -160,8 +162,8 @@ void tst_ExactKeys::LeavesOnesOwnNumbers_data() {
     QTest::addColumn<QByteArray>("keys");
     QTest::newRow("an unknown name") << Keys("Town", -345);
     QTest::newRow("another standard time") << Keys("Eastern Standard Time", 315);
-    QTest::newRow("another summer") << Keys("Eastern Standard Time", 300, 270,
-                                            "08/03/2026 2:00:00", "01/11/2026 2:00:00");
+    QTest::newRow("another summer")
+        << Keys("Eastern Standard Time", 300, 270, "08/03/2026 2:00:00", "01/11/2026 2:00:00");
 }
 
 void tst_ExactKeys::LeavesOnesOwnNumbers() {
@@ -208,6 +210,14 @@ void tst_ExactKeys::AnotherZoneHasAnotherIdentifier() {
 void tst_ExactKeys::TheSameZoneKeepsItsIdentifier() {
     ZoneFile file(Exact + "Time Zone Id=America/Vancouver\r\n" +
                   Keys("Pacific Standard Time", 480));
+    mduTimeZones::WriteZoneKeys(file.Machine.Services, file.Paths, file.Properties,
+                                u"Pacific Standard Time"_s, file.Path);
+    QCOMPARE(file.Load(u"Pacific Standard Time"_s).ExactId, u"America/Vancouver"_s);
+}
+
+// Nobody's but the user's own.
+void tst_ExactKeys::AZoneWithoutANameKeepsItsIdentifier() {
+    ZoneFile file(Exact + "Time Zone Id=America/Vancouver\r\n");
     mduTimeZones::WriteZoneKeys(file.Machine.Services, file.Paths, file.Properties,
                                 u"Pacific Standard Time"_s, file.Path);
     QCOMPARE(file.Load(u"Pacific Standard Time"_s).ExactId, u"America/Vancouver"_s);

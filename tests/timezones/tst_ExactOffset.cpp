@@ -34,19 +34,19 @@ void tst_ExactOffset::TellsThePresent_data() {
                              << QString::fromLatin1(name) << west << fromLocal;
     };
     // New York is four hours behind London while summer has begun there and not yet here.
-    row("both in winter", "Europe/London", "America/New_York", "2026-03-08T06:59:59", "Standard",
-        5, -5);
+    row("both in winter", "Europe/London", "America/New_York", "2026-03-08T06:59:59", "Standard", 5,
+        -5);
     row("only there in summer", "Europe/London", "America/New_York", "2026-03-08T07:00:00",
         "Daylight", 4, -4);
     row("still so", "Europe/London", "America/New_York", "2026-03-29T00:59:59", "Daylight", 4, -4);
-    row("both in summer", "Europe/London", "America/New_York", "2026-03-29T01:00:00", "Daylight",
-        4, -5);
+    row("both in summer", "Europe/London", "America/New_York", "2026-03-29T01:00:00", "Daylight", 4,
+        -5);
     row("only there again", "Europe/London", "America/New_York", "2026-10-25T01:00:00", "Daylight",
         4, -4);
     row("in Dublin's summer", "Europe/London", "Europe/Dublin", "2026-07-01T00:00:00", "Daylight",
         -1, 0);
-    row("in Dublin's winter", "Asia/Kolkata", "Europe/Dublin", "2026-01-01T00:00:00", "Standard",
-        0, -5.5F);
+    row("in Dublin's winter", "Asia/Kolkata", "Europe/Dublin", "2026-01-01T00:00:00", "Standard", 0,
+        -5.5F);
     row("half an hour", "Asia/Kathmandu", "Australia/Lord_Howe", "2026-06-01T00:00:00", "Standard",
         -10.5F, 4.75F);
     row("its summer", "Asia/Kathmandu", "Australia/Lord_Howe", "2026-12-01T00:00:00", "Daylight",
