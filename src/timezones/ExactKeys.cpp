@@ -1,5 +1,6 @@
 #include "timezones/ExactKeys.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "foundation/PropertyFile.h"
@@ -29,17 +30,20 @@ bool Shows(const ZoneSpan& span, const TimeZoneRecord& record, bool isDaylight) 
     return span.Daylight == isDaylight && -std::lround(span.Offset / 60.0) == bias;
 }
 
-/// Whether the zone has had the record's offsets, up to a year from now.
+/// Whether the zone has had the record's offsets since 2000, or in the last year before that, or
+/// will have them within a year.
 bool HasKept(const platform::Services& services, const QString& id, const TimeZoneRecord& record) {
     const ExactZone zone(services.Zones, id);
-    const qint64 end = services.Clock.Instant() + qint64{366} * 86400;
+    constexpr qint64 year = 366 * 86400;
+    constexpr qint64 begin = 946684800;  // 1 January 2000
+    const qint64 now = services.Clock.Instant();
     bool standard = false;
     bool daylight = !HasDaylightRule(record);
-    ZoneSpan span = zone.At(QDateTime(QDate(2000, 1, 1), QTime(), Qt::UTC).toSecsSinceEpoch());
+    ZoneSpan span = zone.At(std::min(begin, now - year));
     for (;; span = zone.At(span.Until)) {
         standard = standard || Shows(span, record, false);
         daylight = daylight || Shows(span, record, true);
-        if (span.Until > end) {
+        if (span.Until > now + year) {
             return standard && daylight;
         }
     }

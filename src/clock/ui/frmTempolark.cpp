@@ -219,7 +219,7 @@ void frmTempolark::Activate() {
 // The message and the action move after the face has been painted. A change of the zone's time
 // shows in this tick; what goes by the hour alone follows in the next.
 void frmTempolark::Tick() {
-    const bool zoneChanged = zoneFollow_.Follow();
+    const bool zoneChanged = data_.State.IsDrawn() && zoneFollow_.Follow();
     tick_.Tick();
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
