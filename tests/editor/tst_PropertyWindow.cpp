@@ -222,6 +222,26 @@ private Q_SLOTS:
         QCOMPARE(desk.Listed().first(), u"Hand Style"_s);
     }
 
+    void SwatchesArePainted() {
+        PropertyWindowDesk desk;
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
+                               "A Colour=Blue\r\nB Colour=Transparent\r\nC Colour=Random\r\n");
+        desk.Publish(desk.Clock->File);
+        desk.Open();
+        const QImage image = desk.View().viewport()->grab().toImage();
+        const auto pixel = [&](const QString& key, const QPoint& fromCentre) {
+            const QRect cell = desk.View().visualRect(desk.Index(key));
+            const QPoint centre(cell.left() + 5 + (cell.height() - 8) / 2, cell.center().y());
+            return image.pixelColor(centre + fromCentre);
+        };
+        const QPoint step(3, 3);
+        QCOMPARE(pixel(u"A Colour"_s, {}), QColor(Qt::blue));
+        QVERIFY(pixel(u"B Colour"_s, {}) != pixel(u"B Colour"_s, {4, 0}));
+        QCOMPARE(pixel(u"B Colour"_s, {}), pixel(u"B Colour"_s, {4, 4}));
+        QVERIFY(pixel(u"C Colour"_s, -step).red() > pixel(u"C Colour"_s, -step).blue());
+        QVERIFY(pixel(u"C Colour"_s, step).red() < pixel(u"C Colour"_s, step).blue());
+    }
+
     void StandsWithinTheShell_data() {
         QTest::addColumn<QRectF>("twips");
         QTest::addColumn<QRect>("pixels");

@@ -127,7 +127,9 @@ private Q_SLOTS:
         desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
                                desk.Content().replace("Old", "Other's"));
         desk.Shell.Answers = {6};
+        desk.Machine.Files.Writes.clear();
         desk.ClickButton();
+        QCOMPARE(desk.Machine.Files.Writes, QStringList());
         QCOMPARE(desk.Cell(u"Title"_s), u"Other's"_s);
         QCOMPARE(desk.Stored(u"Title"_s), u"Other's"_s);
         QCOMPARE(desk.Stored(u"Stay Time"_s), u"0"_s);

@@ -334,7 +334,7 @@ void tst_HelpContents::tellsOfEveryOption() {
         const QString text = found.next().captured(0).trimmed();
         QVERIFY2(PageOf(u"common/command-line.html"_s).Code.contains(text), qPrintable(text));
     }
-    QCOMPARE(options, 6);
+    QCOMPARE(options, 7);
 }
 
 QTEST_MAIN(tst_HelpContents)

@@ -17,6 +17,7 @@
 #include "clock/PartMenus.h"
 #include "clock/PropertyRedraw.h"
 #include "clock/StyleFiles.h"
+#include "clock/ZoneFollow.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
 #include "clock/ui/DragInput.h"
@@ -246,5 +247,6 @@ private:
     clockcore::PartBalloon hints_;
     clockcore::WalkInput walk_;
     clockcore::ClockInput input_;
+    clockcore::ZoneFollow zoneFollow_;
     clockcore::ClockTick tick_;
 };

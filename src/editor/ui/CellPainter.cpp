@@ -65,8 +65,9 @@ void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, const QRe
 }
 
 void PaintSwatch(QPainter& painter, const QRect& rect, const QBrush& fill, const QColor& line) {
-    painter.setBrushOrigin(rect.topLeft());
-    painter.fillRect(rect, fill);
+    painter.translate(rect.topLeft());  // where a pattern begins
+    painter.fillRect(QRect({}, rect.size()), fill);
+    painter.translate(-rect.topLeft());
     QColor edge = line;
     edge.setAlphaF(0.5F);
     painter.setPen(edge);

@@ -154,7 +154,10 @@ bool PropertyGrid::GoTo(int record) {
 void PropertyGrid::SetEditable(bool editable) {
     grdProperty_->Editing().Editable = editable;
     grdProperty_->setEnabled(editable);
+    using When = editor::GridLook::When;
+    grdProperty_->Look().HighLight = editable ? When::Always : When::Never;
     SetupRowEditor();
+    grdProperty_->Refresh();
 }
 
 // How the current row's value is edited.

@@ -101,6 +101,10 @@ void frmProperties::ShowRowInfo() {
     if (!parts_) {
         return;  // the first row becomes current while the parts are made
     }
+    if (parts_->Sheet.IsForNewFile()) {
+        parts_->Controls.ShowInfo({});  // no row is current
+        return;
+    }
     const QString words = parts_->Controls.Search().text().trimmed();
     parts_->Controls.ShowInfo(parts_->Grid.Count() == 0 && !words.isEmpty()
                                   ? u"No property matches \u201c%1\u201d"_s.arg(words)
