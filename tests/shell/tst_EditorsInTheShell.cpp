@@ -197,6 +197,20 @@ private Q_SLOTS:
         desk.Stop();
     }
 
+    void TheShellTakesWhatIsApplied() {
+        EditDesk desk;
+        desk.Shell->DoMenuItem(9, 9);
+        QCOMPARE(desk.Shell->Setting(u"Auto Show Balloon Tips"_s), u"Yes"_s);
+        auto* search = desk.In<QLineEdit>(u"txtSearch"_s);
+        QTest::keyClicks(search, u"auto show balloon"_s);
+        QTest::keyClick(search, Qt::Key_Down);
+        QCOMPARE(desk.Grid()->model()->index(0, 0).data().toString(), u"Auto Show Balloon Tips"_s);
+        QTest::keyClick(desk.Grid(), Qt::Key_Space);  // the box of Yes and No
+        desk.ClickOn(u"cmdButton0"_s);
+        QCOMPARE(desk.Shell->Setting(u"Auto Show Balloon Tips"_s), u"No"_s);
+        desk.Stop();
+    }
+
     void ANewClockIsNamedByTyping() {
         EditDesk desk;
         desk.ClickItem(u"NewClock"_s, 1);

@@ -70,7 +70,7 @@ private:
         }
         int Count() { return static_cast<int>(Area->subWindowList().size()); }
         /// The keys of the window in front go there.
-        QWidget* Grid() { return Frame()->findChild<QTableView*>(); }
+        QTableView* Grid() { return Frame()->findChild<QTableView*>(); }
     };
 
 private Q_SLOTS:
@@ -123,7 +123,9 @@ private Q_SLOTS:
     void PropertiesOfTheClockInFront() {
         Desk desk;
         const ClockChild* clock = desk.OpenClock();
+        desk.Machine.WriteFile(u"zones/UTC.ini"_s, "Clock:Clocks=Calculator\r\n");
         QVERIFY(desk.Commands.Run(u"ActiveProperties"_s));
+        QCOMPARE(desk.Grid()->model()->index(0, 1).data().toString(), u"Calculator"_s);
         QCOMPARE(desk.Module.Paths.CurrentPropertyFile, clock->File);
         QCOMPARE(desk.Front()->Caption(), u"Properties - UTC"_s);
         QCOMPARE(desk.Front()->AsPropertyWindow()->PropertyFile(), clock->File);

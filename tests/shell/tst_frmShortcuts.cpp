@@ -85,6 +85,9 @@ private Q_SLOTS:
         QVERIFY(desk.View().hasFocus());
         QCOMPARE(desk.Row(), 1);
         QVERIFY(!desk.Save().isEnabled());
+        const QRect info = desk.Window->findChild<QLabel*>(u"lblInfo"_s)->geometry();
+        QVERIFY(info.top() > desk.Grid().geometry().bottom());
+        QVERIFY(info.bottom() < desk.Save().geometry().top());
         QCOMPARE(desk.Info(),
                  u"Shows the next kind: a dial, digits, a calculator, dial and "
                  u"digits. Press the new key in the place of F2."_s);
