@@ -7,9 +7,9 @@
 #include "foundation/SetupPaths.h"
 #include "platform/Files.h"
 #include "platform/WallClock.h"
-#include "timezones/ZoneArithmetic.h"
+#include "timezones/ExactKeys.h"
+#include "timezones/ExactOffset.h"
 #include "timezones/ZoneKeys.h"
-#include "timezones/ZoneSources.h"
 #include "timezones/ZoneYear.h"
 
 using namespace Qt::StringLiterals;
@@ -82,7 +82,8 @@ void ClockFiles::ReadProperties() {
 void ClockFiles::FillZone(const QString& zoneName) {
     const QString name = mduLib::StripIniExtension(zoneName);
     if (HasOldZone()) {
-        WriteZone(name);
+        RenewZone(name);
+        SaveZone();
     }
     if (mayWrite_) {
         bool written = true;
@@ -98,18 +99,20 @@ void ClockFiles::FillZone(const QString& zoneName) {
 
 void ClockFiles::RefreshZone() {
     const platform::Services& services = program_.Services;
-    if (HasOldZone()) {
-        WriteZone(mduLib::FileBaseName(data_.PropertyFileName, false));
+    const bool isOld = HasOldZone();
+    if (isOld) {
+        RenewZone(mduLib::FileBaseName(data_.PropertyFileName, false));
     }
-    if (mayWrite_) {
-        ReportUnless(mduTimeZones::ReadZoneKeys(services, data_.Zone, data_.EditProperties(),
-                                                data_.PropertyFileName));
-    } else {
-        ClockProperties copy = data_.Properties();
-        mduTimeZones::OverlayZoneKeys(data_.Zone, copy, services.Clock.Now());
+    ClockProperties copy = data_.Properties();
+    ClockProperties& properties = mayWrite_ ? data_.EditProperties() : copy;
+    const QString source = data_.Zone.KeyName;
+    const QStringList filledIn =
+        mduTimeZones::OverlayZoneKeys(data_.Zone, properties, services.Clock.Now());
+    const bool changed = mduTimeZones::OverlayExactKeys(services, source, data_.Zone, properties);
+    if (isOld || changed || !filledIn.isEmpty()) {
+        SaveZone();
     }
-    mduTimeZones::ApplyCurrentOffset(data_.Zone, services.Clock.Now(),
-                                     mduTimeZones::GetLocalZone(services).CurrentGMTHours);
+    mduTimeZones::ApplyPresentOffset(services, data_.Zone);
 }
 
 // A file that has just been merged, or that a clock has held open over the turn of the year.
@@ -117,8 +120,22 @@ bool ClockFiles::HasOldZone() const {
     return mduTimeZones::IsOfAnotherYear(data_.Properties(), program_.Services.Clock.Now().date());
 }
 
+void ClockFiles::RenewZone(const QString& zoneName) {
+    const platform::Files& files = program_.Services.FileSystem;
+    const QString& path = data_.PropertyFileName;
+    if (!mayWrite_ || !mduLib::MayRewrite(files, path)) {
+        return;
+    }
+    ClockProperties renewed;
+    if (!mduLib::ReadPropertyFile(files, path, renewed)) {
+        renewed = data_.Properties();  // the file has gone
+    }
+    mduTimeZones::PutZoneKeys(program_.Services, program_.Module.Paths, renewed, zoneName);
+    mduTimeZones::CopyZoneKeys(renewed, data_.EditProperties());
+}
+
 // What else has been changed waits for its own save.
-void ClockFiles::WriteZone(const QString& zoneName) {
+void ClockFiles::SaveZone() {
     platform::Files& files = program_.Services.FileSystem;
     const QString& path = data_.PropertyFileName;
     if (!mayWrite_ || !mduLib::MayRewrite(files, path)) {
@@ -127,8 +144,7 @@ void ClockFiles::WriteZone(const QString& zoneName) {
     ClockProperties stored;
     const bool isThere = mduLib::ReadPropertyFile(files, path, stored);
     ClockProperties renewed = isThere ? stored : data_.Properties();
-    mduTimeZones::PutZoneKeys(program_.Services, program_.Module.Paths, renewed, zoneName);
-    mduTimeZones::CopyZoneKeys(renewed, data_.EditProperties());
+    mduTimeZones::CopyZoneKeys(data_.Properties(), renewed);
     if (renewed != stored) {
         ReportUnless(mduLib::WritePropertyFile(files, renewed, path));
     }

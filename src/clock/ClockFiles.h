@@ -72,7 +72,10 @@ public:
 
 private:
     bool HasOldZone() const;
-    void WriteZone(const QString& zoneName);
+    /// Makes the zone's keys anew, those of the zone that the file has, in memory; `SaveZone`
+    /// writes them.
+    void RenewZone(const QString& zoneName);
+    void SaveZone();
     void ReadProperties();
     void ReportUnless(bool written) const;
     /// Tells the user of a failure, else the windows that edit the file. @return @p written

@@ -1,5 +1,8 @@
 #include "clock/ClockKeys.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "foundation/MenuLists.h"
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
@@ -84,6 +87,17 @@ bool ClockKeys::ClockKeyDown(int code, int shift) {
         return isOwn ? RunOwnKey(code, shift) : action == u"Disable"_s && RunAction(action);
     }
     return RunOwnKey(code, shift) || RunAction(action);
+}
+
+bool ClockKeys::IsBound(int code, int shift) const {
+    if (code == 0) {
+        return false;
+    }
+    const bool isOwn = code == F1 || IsCtrl('E', code, shift) || IsCtrl('W', code, shift) ||
+                       IsCtrl('R', code, shift);
+    const QString action = mduUILib::MatchShortcut(program_.Module.ShortcutList, code, shift);
+    return isOwn || std::any_of(std::begin(Rows), std::end(Rows),
+                                [&action](const Row& row) { return row.Name == action; });
 }
 
 bool ClockKeys::RunOwnKey(int code, int shift) {

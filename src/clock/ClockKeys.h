@@ -43,6 +43,9 @@ public:
     /// @return whether the key means something
     bool ClockKeyDown(int code, int shift);
 
+    /// Whether a key means something to the clock as it stands: then no menu gets it.
+    bool IsBound(int code, int shift) const;
+
     /// A command by the name that the list of shortcuts has for it. @return false for no such name
     bool RunAction(const QString& name);
 

@@ -9,8 +9,7 @@
 #include "foundation/SystemSettings.h"
 #include "platform/Dialogs.h"
 #include "platform/HelpViewer.h"
-#include "platform/WallClock.h"
-#include "timezones/ZoneDescription.h"
+#include "timezones/ExactDescription.h"
 
 using namespace Qt::StringLiterals;
 
@@ -107,8 +106,7 @@ void FormCommands::ChooseZone(const FormEntry& entry) {
 }
 
 void FormCommands::ShowZoneDetails(const FormEntry&) {
-    const QString text =
-        mduTimeZones::ZoneDescription(data_.Zone, program_.Services.Clock.Now().date());
+    const QString text = mduTimeZones::PresentDescription(program_.Services, data_.Zone);
     program_.Services.Dialog.PostMessageBox(text, 0, u"Timezone Info"_s);
     if (mduUILib::YesNoToBool(
             mduLib::GetProperty(u"Speak Time Zone Details"_s, data_.Properties()))) {

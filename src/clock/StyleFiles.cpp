@@ -8,6 +8,7 @@
 #include "foundation/PropertyLookup.h"
 #include "foundation/PropertyMerge.h"
 #include "platform/Files.h"
+#include "timezones/ExactKeys.h"
 #include "timezones/ZoneKeys.h"
 
 using namespace Qt::StringLiterals;
@@ -70,6 +71,12 @@ std::optional<ClockProperties> StyleFiles::Read(const QString& styleFile, const 
     for (const QString& key : mduTimeZones::ZoneKeys()) {
         mduLib::PutProperty(key, mduLib::GetProperty(key, WhicheverHas(key, own, present)), *style);
     }
+    for (const QString& key : {mduTimeZones::ZoneRulesKey, mduTimeZones::ZoneIdKey}) {
+        const QString value = mduTimeZones::ZoneKeyValue(WhicheverHas(key, own, present), key);
+        if (!value.isEmpty() || mduLib::FindPropertyRow(key, *style) > 0) {
+            mduLib::PutProperty(key, value, *style);
+        }
+    }
     return style;
 }
 
@@ -83,7 +90,7 @@ QString StyleFiles::SavePath(const QString& chosen) {
 
 bool StyleFiles::Write(const QString& path, ClockProperties look,
                        const std::optional<QRectF>& twips) const {
-    for (const QString& key : mduTimeZones::ZoneKeys()) {
+    for (const QString& key : mduTimeZones::ZoneKeys() + QStringList{mduTimeZones::ZoneIdKey}) {
         mduLib::PutProperty(key, {}, look);
     }
     if (twips) {

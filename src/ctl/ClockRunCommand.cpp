@@ -129,6 +129,9 @@ int Run(Context& context) {
     }
     const platform::Services& machine = context.Services;
     platform::SimulatedClock clock(machine.Clock.Now(), platform::TzZone(context.Global.LocalZone));
+    if (context.Global.Utc) {
+        clock.SetInstant(*context.Global.Utc);
+    }
     platform::TzZoneDatabase zones(clock, context.Global.LocalZone);
     const EventLog log(clock);
     RecordingVoices voices(log.Teller());

@@ -15,6 +15,7 @@ QString Help(const std::vector<Command>& commands) {
         "  --app-folder DIR            the program folder\n"
         "  --user NAME                 the account name; empty when none is known\n"
         "  --now YYYY-MM-DDTHH:MM:SS   the local date and time\n"
+        "  --utc YYYY-MM-DDTHH:MM:SS   the instant, in GMT\n"
         "  --local-zone IANA           the machine's zone\n"
         "  --seed N                    seed of every random choice\n"
         "  --help, --version           this text; the version and the edition of the zone "

@@ -13,6 +13,11 @@ QString SetNow(const QString& text, GlobalOptions& options) {
     return options.Now ? QString() : u"--now wants YYYY-MM-DDTHH:MM:SS, not "_s + text;
 }
 
+QString SetUtc(const QString& text, GlobalOptions& options) {
+    options.Utc = ParseWallTime(text);
+    return options.Utc ? QString() : u"--utc wants YYYY-MM-DDTHH:MM:SS, not "_s + text;
+}
+
 QString SetLocalZone(const QString& text, GlobalOptions& options) {
     if (!platform::TzZone(text.toUtf8()).isValid()) {
         return u"--local-zone knows no zone "_s + text;
@@ -53,6 +58,7 @@ const OptionWithValue* FindOption(const QString& name) {
     static const OptionWithValue options[] = {{u"--app-folder"_s, SetAppFolder},
                                               {u"--user"_s, SetUser},
                                               {u"--now"_s, SetNow},
+                                              {u"--utc"_s, SetUtc},
                                               {u"--local-zone"_s, SetLocalZone},
                                               {u"--seed"_s, SetSeed}};
     for (const OptionWithValue& option : options) {

@@ -13,8 +13,10 @@ struct GlobalOptions {
     /// folder.
     std::optional<QString> AppFolder;
     std::optional<QString> User;  ///< an empty text: no user name is known
-    std::optional<QDateTime>
-        Now;               ///< local time; it carries `Qt::UTC` like every wall-clock reading
+    /// Local time; it carries `Qt::UTC` like every wall-clock reading.
+    std::optional<QDateTime> Now;
+    /// The instant, in GMT; `Now` then does not count.
+    std::optional<QDateTime> Utc;
     QByteArray LocalZone;  ///< IANA identifier; empty for the real zone
     /// Of every random choice. A number that 32 bits can't hold keeps its low 32 bits.
     std::optional<quint32> Seed;

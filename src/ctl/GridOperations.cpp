@@ -5,6 +5,7 @@
 
 #include "ctl/GridScript.h"
 #include "editor/ColChooser.h"
+#include "editor/GridFormat.h"
 #include "editor/GridLines.h"
 #include "editor/GridRows.h"
 #include "editor/GridSort.h"
@@ -92,6 +93,7 @@ QJsonValue Tell(GridScript& script, const GridArguments& given) {
 QJsonValue SetUp(GridScript& script, const GridArguments& given) {
     if (given.Line.size() > 1) {
         script.Grid = EditGridData({given.Int(0), given.Int(1), given.Int(2), given.Int(3)});
+        script.Look = {};
     }
     script.Columns.Setup(script.Grid.Cols());
     return {};
@@ -138,6 +140,37 @@ QJsonValue ChooserCaptions(GridScript&, const GridArguments& given) {
         captions += item.Caption;
     }
     return captions;
+}
+
+std::optional<int> CellForeColor(EditGridData& grid, int row, int col) {
+    const bool isThere = grid.HasRow(row) && grid.HasCol(col);
+    return isThere ? std::optional(grid.CellForeColor(row, col)) : std::nullopt;
+}
+
+// What concerns a column's look is kept for columns that there are.
+template <int editor::ColumnLook::*Value>
+QJsonValue TellOfColumn(GridScript& script, const GridArguments& given) {
+    const int col = given.Int(0);
+    return script.Grid.HasCol(col) ? QJsonValue(script.Look.ColumnAt(col).*Value) : QJsonValue();
+}
+
+template <int editor::ColumnLook::*Value>
+QJsonValue SetOfColumn(GridScript& script, const GridArguments& given) {
+    if (script.Grid.HasCol(given.Int(0))) {
+        script.Look.Column(given.Int(0)).*Value = given.Int(1);
+    }
+    return {};
+}
+
+QJsonValue SetFormat(GridScript& script, const GridArguments& given) {
+    script.Look.FormatString = given.Text(0);
+    editor::SetupColHeaders(script.Grid, script.Look);
+    return {};
+}
+
+QJsonValue MoveColumn(GridScript& script, const GridArguments& given) {
+    editor::SetColPosition(script.Grid, script.Look, given.Int(0), given.Int(1));
+    return {};
 }
 
 constexpr GridOperation Operations[] = {
@@ -222,6 +255,18 @@ constexpr GridOperation Operations[] = {
     {"RemoveComboEditItem", "it", Do<&GridColumns::RemoveComboEditItem>},
     {"ClearCellCombo", "i", Do<&GridColumns::ClearCellCombo>},
     {"ClearCellComboEdit", "i", Do<&GridColumns::ClearCellComboEdit>},
+    {"CellForeColor", "ii", Tell<CellForeColor>},
+    {"SetCellForeColor", "iii", Do<&EditGridData::SetCellForeColor>},
+    {"SetRowForeColor", "ii", Do<editor::SetRowForeColor>},
+    {"SetCellDefault", "", Do<editor::SetCellDefault>},
+    {"SetEditableRow", "ib", Do<&EditGridData::SetEditableRow>},
+    {"ColWidth", "i", TellOfColumn<&editor::ColumnLook::Width>},
+    {"ColWidth", "ii", SetOfColumn<&editor::ColumnLook::Width>},
+    {"ColData", "i", TellOfColumn<&editor::ColumnLook::Data>},
+    {"ColData", "ii", SetOfColumn<&editor::ColumnLook::Data>},
+    {"FormatString", "t", SetFormat},
+    {"RowPosition", "ii", Do<editor::SetRowPosition>},
+    {"ColPosition", "ii", MoveColumn},
     {"MoveToNextCell", "", Do<&CellEditing::MoveToNextCell>},
 };
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "editor/CellEditing.h"
+#include "editor/GridLook.h"
 
 namespace ctl {
 
@@ -23,6 +24,7 @@ public:
 
     editor::EditGridData Grid;
     editor::GridColumns Columns;
+    editor::GridLook Look;
     editor::CellEditing Editing;
 };
 

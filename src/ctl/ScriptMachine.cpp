@@ -18,10 +18,15 @@ QDateTime PresentTimeIn(const QTimeZone& zone) {
 
 // A moment or a zone of the script's choice makes a clock that stands still.
 std::unique_ptr<platform::WallClock> MakeClock(const GlobalOptions& options) {
+    const QTimeZone zone = platform::TzZone(options.LocalZone);
+    if (options.Utc) {
+        auto clock = std::make_unique<platform::SimulatedClock>(*options.Utc, zone);
+        clock->SetInstant(*options.Utc);
+        return clock;
+    }
     if (!options.Now && options.LocalZone.isEmpty()) {
         return std::make_unique<platform::SystemClock>();
     }
-    const QTimeZone zone = platform::TzZone(options.LocalZone);
     return std::make_unique<platform::SimulatedClock>(options.Now.value_or(PresentTimeIn(zone)),
                                                       zone);
 }

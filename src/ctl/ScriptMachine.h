@@ -30,10 +30,10 @@ public:
 
 /// The machine as the global options describe it: its files and zones, no devices.
 ///
-/// With `Now` or `LocalZone` given, the time stands still: at `Now`, or at the present moment as
-/// that zone's clocks show it. Without either the machine's own clock runs. A user's name that is
-/// given replaces the account's, and a seed makes all random choices the same at each run. Settings
-/// are kept in "Settings.ini" of the program folder.
+/// With `Now`, `Utc` or `LocalZone` given, the time stands still: at `Now` or `Utc`, or at the
+/// present moment as that zone's clocks show it. Without either the machine's own clock runs. A
+/// user's name that is given replaces the account's, and a seed makes all random choices the same
+/// at each run. Settings are kept in "Settings.ini" of the program folder.
 class ScriptMachine {
 public:
     /// @param options are read here and need not outlive the machine

@@ -4,14 +4,16 @@
 #include <QJsonArray>
 
 #include "ctl/ZoneByName.h"
+#include "ctl/ZoneInstants.h"
 #include "foundation/Numbers.h"
 #include "foundation/SetupPaths.h"
 #include "platform/Account.h"
 #include "platform/WallClock.h"
 #include "platform/ZoneDatabase.h"
+#include "timezones/ExactConversion.h"
+#include "timezones/ExactDescription.h"
+#include "timezones/ExactOffset.h"
 #include "timezones/ZoneArithmetic.h"
-#include "timezones/ZoneConversion.h"
-#include "timezones/ZoneDescription.h"
 #include "timezones/ZoneEdition.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
@@ -135,31 +137,49 @@ int Describe(Context& context) {
     }
     bool saved = true;
     const TimeZoneRecord record = RecordAskedFor(context, saved);
-    const QString text = mduTimeZones::ZoneDescription(record, context.Services.Clock.Now().date());
+    const QString text = mduTimeZones::PresentDescription(context.Services, record);
     PrintJson(QJsonDocument(QJsonObject{{u"text"_s, text}}));
     return saved ? Done : OperationFailed;
 }
 
 int NameAt(Context& context) {
     const std::optional<QDateTime> moment = ParseWallTime(context.Arguments[1]);
-    if (!moment) {
+    if (!moment || !NamesItsFile(context)) {
         return WrongArguments;
     }
-    TimeZoneRecord record = Find(context);
-    const QString name = mduTimeZones::ZoneNameAtTime(*moment, context.Services.Clock.Now(), record,
-                                                      LocalHours(context));
+    bool saved = true;
+    TimeZoneRecord record = RecordAskedFor(context, saved);
+    const QString name =
+        record.ExactId.isEmpty()
+            ? mduTimeZones::ZoneNameAtTime(*moment, context.Services.Clock.Now(), record,
+                                           LocalHours(context))
+            : mduTimeZones::ExactNameAt(context.Services.Zones, record, *moment, false);
     PrintJson(QJsonDocument(QJsonObject{{u"name"_s, name}}));
-    return Done;
+    return saved ? Done : OperationFailed;
+}
+
+QJsonObject ConvertedAsJson(const mduTimeZones::ConvertedTime& converted) {
+    QJsonObject object{{u"text"_s, converted.Text}};
+    if (converted.IsGap) {
+        object.insert(u"gap"_s, true);
+    }
+    if (!converted.Texts.isEmpty()) {
+        object.insert(u"texts"_s, QJsonArray::fromStringList(converted.Texts));
+    }
+    return object;
 }
 
 int Convert(Context& context) {
+    if (!NamesItsFile(context)) {
+        return WrongArguments;
+    }
     bool saved = true;
     const TimeZoneRecord record = RecordAskedFor(context, saved);
-    const QString text =
-        mduTimeZones::ConvertZoneTime(context.Arguments[1], !context.HasOption(u"--from-zone"_s),
-                                      record, context.Services.Clock.Now());
-    PrintJson(QJsonDocument(QJsonObject{{u"text"_s, text}}));
-    return Done;
+    const bool toZone = !context.HasOption(u"--from-zone"_s);
+    PrintJson(QJsonDocument(
+        ConvertedAsJson(mduTimeZones::ConvertTime(context.Services.Zones, context.Arguments[1],
+                                                  toZone, record, context.Services.Clock.Now()))));
+    return saved ? Done : OperationFailed;
 }
 
 std::optional<int> ShortInteger(const Context& context, int index) {
@@ -206,7 +226,7 @@ TimeZoneRecord RecordAskedFor(const Context& context, bool& saved) {
     if (context.HasOption(u"--file"_s)) {
         saved = OverlayFile(context, record);
     }
-    mduTimeZones::ApplyCurrentOffset(record, context.Services.Clock.Now(), LocalHours(context));
+    mduTimeZones::ApplyPresentOffset(context.Services, record);
     return record;
 }
 
@@ -217,8 +237,15 @@ std::vector<Command> ZonesCommands() {
         {group, u"local"_s, {}, 0, 0, {}, Local},
         {group, u"show"_s, u"NAME [--file INI]"_s, 1, 1, {u"--file="_s}, Show},
         {group, u"describe"_s, u"NAME [--file INI]"_s, 1, 1, {u"--file="_s}, Describe},
-        {group, u"name-at"_s, u"NAME DATETIME"_s, 2, 2, {}, NameAt},
-        {group, u"convert"_s, u"NAME TEXT [--from-zone]"_s, 2, 2, {u"--from-zone"_s}, Convert},
+        {group, u"name-at"_s, u"NAME DATETIME [--file INI]"_s, 2, 2, {u"--file="_s}, NameAt},
+        {group,
+         u"convert"_s,
+         u"NAME TEXT [--from-zone] [--file INI]"_s,
+         2,
+         2,
+         {u"--from-zone"_s, u"--file="_s},
+         Convert},
+        ZoneInstantsCommand(),
         {group, u"rule"_s, u"OCCURRENCE WEEKDAY MONTH"_s, 3, 3, {}, Rule},
     };
 }

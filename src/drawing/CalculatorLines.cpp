@@ -58,6 +58,7 @@ void CalculatorLines::HideCalculatorClock() {
 void CalculatorLines::BeginInput() {
     before_ = {Line(Side::Local).Tag, Line(Side::Zone).Tag, face_.Controls.lblLocation(1).Caption};
     caret_ = {};
+    inPlaceOfTag_.clear();
     isTyping_ = true;
     MoveCaretTo(Side::Local);
     SetCalculatorLayout();
@@ -103,7 +104,9 @@ void CalculatorLines::ShowPresentTime() {
     const QDateTime now = face_.Clock.Now();
     const QString local = mduAPILib::MomentText(now);
     ShowText(Side::Local, local);
-    ShowText(Side::Zone, mduTimeZones::ConvertZoneTime(local, true, face_.Zone, now));
+    ShowText(Side::Zone, face_.Zone.ExactId.isEmpty()
+                             ? mduTimeZones::ConvertZoneTime(local, true, face_.Zone, now)
+                             : mduAPILib::MomentText(mduTimeZones::GetClockTime(face_.Zone, now)));
 }
 
 void CalculatorLines::ShowText(Side side, const QString& text) {
@@ -119,6 +122,7 @@ void CalculatorLines::ShowText(Side side, const QString& text) {
 void CalculatorLines::MoveCaretTo(Side side) {
     ShowText(edited_, Line(edited_).Tag);
     edited_ = side;
+    inPlaceOfTag_.clear();
     Control& line = Line(side);
     caret_.Position = static_cast<int>(line.Tag.size());
     line.Caption = Prefix(side) + TextWithCaret(line.Tag, caret_.Position);
@@ -145,13 +149,44 @@ void CalculatorLines::EditLine(int keyCode) {
 
 void CalculatorLines::ConvertEdited() {
     const bool toZone = edited_ == Side::Local;
-    const QString converted =
-        mduTimeZones::ConvertZoneTime(Line(edited_).Tag, toZone, face_.Zone, face_.Clock.Now());
-    NameZoneAtTypedTime(toZone ? converted : Line(Side::Zone).Tag);
-    ShowText(Other(edited_), converted);
+    const mduTimeZones::ConvertedTime converted = mduTimeZones::ConvertTime(
+        face_.Zones, Line(edited_).Tag, toZone, face_.Zone, face_.Clock.Now());
+    if (face_.Zone.ExactId.isEmpty()) {
+        NameZoneAtTypedTime(toZone ? converted.Text : Line(Side::Zone).Tag);
+    } else {
+        NameExactZoneAtTypedTime();
+    }
+    ShowConverted(converted);
     if (edited_ == Side::Zone) {
         Line(Side::Zone).Caption =
             Prefix(Side::Zone) + TextWithCaret(Line(Side::Zone).Tag, caret_.Position);
+    }
+}
+
+// Lines of an automatic size make room for both readings; for others the times alone may do.
+void CalculatorLines::ShowConverted(const mduTimeZones::ConvertedTime& converted) {
+    const Side other = Other(edited_);
+    const QString before = inPlaceOfTag_;
+    ShowText(other, converted.IsGap ? QString() : converted.Text);
+    inPlaceOfTag_ = converted.IsGap || !converted.Texts.isEmpty() ? converted.Shown() : QString();
+    if (inPlaceOfTag_ != before) {
+        SetCalculatorLayout();
+    }
+    const double room = face_.Window.Surface().ScaleWidth();
+    if (!inPlaceOfTag_.isEmpty() && WidestText(other, Line(other).Font) > room) {
+        inPlaceOfTag_ = converted.ShownAsTimes();
+    }
+    if (!inPlaceOfTag_.isEmpty()) {
+        Line(other).Caption = Prefix(other) + inPlaceOfTag_;
+        PlaceAcross(other);
+    }
+}
+
+void CalculatorLines::NameExactZoneAtTypedTime() {
+    const auto typed = mduTimeZones::MomentOfText(Line(edited_).Tag, face_.Clock.Now());
+    if (typed) {
+        face_.Controls.lblLocation(1).Caption =
+            mduTimeZones::ExactNameAt(face_.Zones, face_.Zone, *typed, edited_ == Side::Zone);
     }
 }
 

@@ -5,11 +5,16 @@
 #include "drawing/FaceContext.h"
 #include "drawing/FaceParts.h"
 #include "drawing/TitleEdit.h"
+#include "timezones/ExactConversion.h"
 
 namespace drawing {
 
 /// The calculator: the local time and the same moment in the clock's zone, converted both ways.
 /// The plain date and time of a line, without its prefix and the caret, is in the line's `Tag`.
+///
+/// A clock with exact rules converts by those of the time that is typed. Of a time that is lived
+/// through twice the other line shows both readings, and its `Tag` holds the earlier; of one that
+/// is left out it says so, and its `Tag` is empty.
 ///
 /// While a line is typed into the clock stands still. A small hint below the lines, in `lblClock`,
 /// then tells the way back. The lines make room for it: those of an automatic size are smaller
@@ -68,12 +73,16 @@ private:
     void GiveBackTexts();
     void EditLine(int keyCode);
     void ConvertEdited();
+    void ShowConverted(const mduTimeZones::ConvertedTime& converted);
     void NameZoneAtTypedTime(const QString& zoneText);
+    void NameExactZoneAtTypedTime();
 
     FaceContext face_;
     bool isTyping_ = false;
     Side edited_ = Side::Local;
     TitleCaret caret_;
+    /// What the line that is not edited shows in place of its plain text; empty for that itself.
+    QString inPlaceOfTag_;
     struct {
         QString Local, Zone, Location;
     } before_;  ///< what the input state began with

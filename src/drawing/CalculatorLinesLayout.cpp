@@ -57,7 +57,9 @@ double CalculatorLines::WidestText(Side side, const QFont& font) const {
     const auto widthOf = [&](const QString& text) {
         return TextSize(font, Prefix(side) + text, ratio).width();
     };
-    return std::max(widthOf(WidestMoment()), widthOf(Line(side).Tag));
+    const bool isOther = isTyping_ && side != edited_;
+    return std::max(
+        {widthOf(WidestMoment()), widthOf(Line(side).Tag), isOther ? widthOf(inPlaceOfTag_) : 0});
 }
 
 // Laid out for the widest text, so that a line stands still while its figures change.

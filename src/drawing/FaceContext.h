@@ -36,6 +36,8 @@ struct FaceContext {
     mduUILib::PictureStore& Pictures;
     /// Where relative paths among the properties begin, and where the stock's pictures lie.
     const PathTable& Paths;
+    /// What the calculator asks for the rules of a moment.
+    const platform::ZoneDatabase& Zones;
 };
 
 }  // namespace drawing

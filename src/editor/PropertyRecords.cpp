@@ -113,7 +113,7 @@ RowCommit PropertyRecords::Commit(int record, const QString& cell) {
     }
     ClockProperties alone;
     alone[1] = now_[record];
-    const RowCommit commit = CommitRow(alone, 1, cell);
+    RowCommit commit = CommitRow(alone, 1, cell);
     if (commit.Dirty) {
         undo_.push(new ValueCommand(*this, record, alone[1].Value, visit_,
                                     u"Change "_s + alone[1].Name.trimmed()));

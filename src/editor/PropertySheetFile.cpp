@@ -24,6 +24,11 @@ QString NameOnDisk(const platform::Files& files, const QString& folder, const QS
     return name;
 }
 
+/// The name by which the launcher finds the file again.
+QString ZoneOf(const QString& path) {
+    return mduLib::StripIniExtension(mduLib::FileBaseName(path, true));
+}
+
 bool IsShellName(const QString& name) {
     return name.compare(mduMain::CentralExeName, Qt::CaseInsensitive) == 0;
 }
@@ -94,8 +99,7 @@ SheetOutcome PropertySheet::Press(int record, const QString& cell,
     if (forNewFile_) {
         return Create();
     }
-    const SheetOutcome outcome =
-        held == ButtonTag::Launch ? Launch(ownerNow) : Apply(held, ownerNow);
+    SheetOutcome outcome = held == ButtonTag::Launch ? Launch(ownerNow) : Apply(held, ownerNow);
     propertyChanged_ = propertyChanged_ && !outcome.Problem.isEmpty();
     return outcome;
 }
@@ -115,7 +119,7 @@ SheetOutcome PropertySheet::Create() {
     forNewFile_ = false;
     isShownByOwner_ = false;
     propertyChanged_ = false;
-    zoneName_ = mduLib::FileBaseName(Path(), false);
+    zoneName_ = ZoneOf(Path());
     title_.SetEdited(false);
     title_.SetName(zoneName_);
     SetButton(2);
@@ -143,12 +147,12 @@ SheetOutcome PropertySheet::Launch(const ClockProperties& ownerNow) {
         return {problem, {}, {}};
     }
     Publish();
-    return {{}, {}, mduLib::FileBaseName(Path(), false)};
+    return {{}, {}, ZoneOf(Path())};
 }
 
 QString PropertySheet::Write(const ClockProperties& ownerNow) {
     TakePlace(ownerNow);
-    const QString problem = file_.Write(Properties());
+    QString problem = file_.Write(Properties());
     if (problem.isEmpty()) {
         records_.MarkWritten();
     }

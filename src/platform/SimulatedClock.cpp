@@ -42,8 +42,9 @@ public:
 
 private:
     QDateTime NextShot() const {
-        const int wait = interval_ == 1000 ? 1000 - clock_.Now().time().msec() : interval_;
-        return interval_ > 0 ? clock_.Now().addMSecs(wait) : QDateTime();
+        const QDateTime& moment = clock_.moment_;
+        const int wait = interval_ == 1000 ? 1000 - moment.time().msec() : interval_;
+        return interval_ > 0 ? moment.addMSecs(wait) : QDateTime();
     }
 
     SimulatedClock& clock_;
@@ -56,9 +57,16 @@ SimulatedClock::SimulatedClock(const QDateTime& now, const QTimeZone& zone) : zo
     SetNow(now);
 }
 
+QDateTime SimulatedClock::Now() const {
+    return knowsInstant_ ? moment_.addSecs(OffsetFromGmt()) : moment_;
+}
+
 int SimulatedClock::OffsetFromGmt() const {
-    const QDateTime local(now_.date(), now_.time(), zone_);
-    return local.isValid() ? local.offsetFromUtc() : zone_.standardTimeOffset(now_);
+    if (knowsInstant_) {
+        return zone_.offsetFromUtc(moment_);
+    }
+    const QDateTime local(moment_.date(), moment_.time(), zone_);
+    return local.isValid() ? local.offsetFromUtc() : zone_.standardTimeOffset(moment_);
 }
 
 std::unique_ptr<Ticker> SimulatedClock::MakeTicker(std::function<void()> onTick) {
@@ -66,16 +74,28 @@ std::unique_ptr<Ticker> SimulatedClock::MakeTicker(std::function<void()> onTick)
 }
 
 void SimulatedClock::SetNow(const QDateTime& now) {
-    now_ = QDateTime(now.date(), now.time(), Qt::UTC);
+    const QDateTime reading(now.date(), now.time(), Qt::UTC);
+    moment_ = knowsInstant_ ? QDateTime(now.date(), now.time(), zone_).toUTC() : reading;
+}
+
+void SimulatedClock::SetInstant(const QDateTime& gmt) {
+    if (!knowsInstant_) {
+        const int ahead = OffsetFromGmt();
+        for (SimulatedTicker* ticker : tickers_) {
+            ticker->Due = ticker->Due.addSecs(-ahead);
+        }
+    }
+    knowsInstant_ = true;
+    moment_ = gmt.toUTC();
 }
 
 void SimulatedClock::Advance(qint64 milliseconds) {
-    const QDateTime until = now_.addMSecs(milliseconds);
+    const QDateTime until = moment_.addMSecs(milliseconds);
     while (SimulatedTicker* ticker = NextDue(until)) {
-        now_ = std::max(now_, ticker->Due);
+        moment_ = std::max(moment_, ticker->Due);
         ticker->Fire();
     }
-    now_ = until;
+    moment_ = until;
 }
 
 SimulatedClock::SimulatedTicker* SimulatedClock::NextDue(const QDateTime& until) const {

@@ -15,6 +15,10 @@ namespace platform {
 ///     auto ticker = clock.MakeTicker(tick);
 ///     ticker->SetInterval(1000);
 ///     clock.Advance(3000);  // calls `tick` at 12:00:01, 12:00:02 and 12:00:03
+///
+/// It begins with a reading, and runs on without a jump whatever the zone does. Once it has been
+/// told an instant it goes by that: its reading jumps where the zone's clock is changed, and is
+/// exact in the hour that is lived through twice.
 class SimulatedClock final : public WallClock {
 public:
     /// @param now the local wall-clock reading to begin with (its own zone is
@@ -23,7 +27,7 @@ public:
     SimulatedClock(const QDateTime& now, const QTimeZone& zone);
     Q_DISABLE_COPY_MOVE(SimulatedClock)
 
-    QDateTime Now() const override { return now_; }
+    QDateTime Now() const override;
     /// That of the zone at the present reading; its standard offset where the zone's clock is put
     /// forward over that reading.
     int OffsetFromGmt() const override;
@@ -32,7 +36,9 @@ public:
     /// Sets the reading without calling anyone. Tickers keep their moments: those that have been
     /// jumped over are called by the next `Advance`.
     void SetNow(const QDateTime& now);
-    /// Another zone of the machine; the reading stays.
+    /// Sets the instant, in GMT, without calling anyone; tickers keep their moments, as ever.
+    void SetInstant(const QDateTime& gmt);
+    /// Another zone of the machine; the reading stays, or the instant where that is known.
     void SetZone(const QTimeZone& zone) { zone_ = zone; }
 
     /// Lets @p milliseconds pass. Each callback finds the reading at the moment that it was due
@@ -43,7 +49,9 @@ private:
     class SimulatedTicker;
     SimulatedTicker* NextDue(const QDateTime& until) const;
 
-    QDateTime now_;
+    /// The reading, or the instant once that is known. Tickers fall due by it.
+    QDateTime moment_;
+    bool knowsInstant_ = false;
     QTimeZone zone_;
     std::vector<SimulatedTicker*> tickers_;
 };

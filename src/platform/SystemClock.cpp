@@ -99,6 +99,10 @@ int SystemClock::OffsetFromGmt() const {
     return localtime_r(&now, &local) != nullptr ? static_cast<int>(local.tm_gmtoff) : 0;
 }
 
+qint64 SystemClock::Instant() const {
+    return QDateTime::currentSecsSinceEpoch();
+}
+
 std::unique_ptr<Ticker> SystemClock::MakeTicker(std::function<void()> onTick) {
     return std::make_unique<SystemTicker>(*this, std::move(onTick));
 }

@@ -25,6 +25,7 @@ public:
     QDateTime Now() const override;
     /// Daylight time included; 0 where the machine can't tell.
     int OffsetFromGmt() const override;
+    qint64 Instant() const override;
     std::unique_ptr<Ticker> MakeTicker(std::function<void()> onTick) override;
 
 private:

@@ -1,6 +1,7 @@
 #include "platform/TzPlaces.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/TzFolder.h"
@@ -40,6 +41,17 @@ QStringList CountryNames(const QByteArray& codes) {
         }
     }
     return names;
+}
+
+/// The letters alone, in small ones: "Sao_Paulo" and "São Paulo" give "saopaulo".
+QString PlainName(const QString& name) {
+    QString plain;
+    for (const QChar character : name.normalized(QString::NormalizationForm_D)) {
+        if (character.isLetter()) {
+            plain += character.toLower();
+        }
+    }
+    return plain;
 }
 
 }  // namespace
@@ -92,6 +104,14 @@ const TzPlaces::Row* TzPlaces::Find(const QByteArray& iana) const {
 std::optional<ZonePlace> TzPlaces::PlaceOf(const QByteArray& iana) const {
     const Row* row = Find(iana);
     return row == nullptr ? std::nullopt : std::optional(row->Place);
+}
+
+QByteArray TzPlaces::IanaOfCity(const QString& city) const {
+    const QString wanted = PlainName(city);
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) {
+        return PlainName(QString::fromUtf8(row.Iana).section(u'/', -1)) == wanted;
+    });
+    return found == rows_.end() ? QByteArray() : found->Iana;
 }
 
 QStringList TzPlaces::CountriesOfIana(const QByteArray& iana) const {

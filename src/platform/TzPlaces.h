@@ -31,6 +31,10 @@ public:
     /// Nothing for an identifier that the table does not hold, such as "UTC".
     std::optional<ZonePlace> PlaceOf(const QByteArray& iana) const;
 
+    /// The identifier that has its name from a city, whatever the case and the accents of its
+    /// letters; empty when there is none. "São Paulo" gives "America/Sao_Paulo".
+    QByteArray IanaOfCity(const QString& city) const;
+
     /// The English names of the countries that keep a zone of that CLDR name, in order.
     QStringList CountriesOf(const QString& windowsName) const;
     /// Those of one identifier.

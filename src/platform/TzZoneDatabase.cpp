@@ -6,6 +6,7 @@
 
 #include "platform/TzAliases.h"
 #include "platform/TzFolder.h"
+#include "platform/TzSpans.h"
 
 using namespace Qt::StringLiterals;
 
@@ -143,6 +144,43 @@ QStringList TzZoneDatabase::Countries(const QString& subkey) const {
     return isOwn ? Places().CountriesOfIana(IanaOf(subkey)) : Places().CountriesOf(subkey);
 }
 
+// "Local time" is no identifier: such a zone keeps the offset that the clock has.
+std::optional<ZoneSpan> TzZoneDatabase::SpanAt(const QString& id, std::int64_t instant) const {
+    const QByteArray iana = id.isEmpty() ? Local().Iana : id.toUtf8();
+    if (id.isEmpty() && iana == namelessZone) {
+        return ZoneSpan{.Offset = clock_.OffsetFromGmt()};
+    }
+    const QTimeZone zone = TzZone(iana);
+    return zone.isValid() ? std::optional(TzSpanAt(zone, instant)) : std::nullopt;
+}
+
+QByteArray TzZoneDatabase::IanaOfCity(const QString& city) const {
+    const QByteArray named = Places().IanaOfCity(city);
+    if (!named.isEmpty()) {
+        return named;
+    }
+    const auto found = std::find_if(zones_.begin(), zones_.end(), [&](const TzWindowsZone& zone) {
+        return zone.Cities.split(u", "_s).contains(city, Qt::CaseInsensitive);
+    });
+    return found == zones_.end() ? QByteArray() : TzDefaultIana(found->Name);
+}
+
+QString TzZoneDatabase::IdOf(const QString& name) const {
+    QByteArray iana = IanaOf(name);
+    iana = iana.isEmpty() ? IanaOfCity(name) : iana;
+    const QByteArray present = TzPresentId(iana);
+    iana = !present.isEmpty() && TzZone(present).isValid() ? present : iana;
+    return !iana.isEmpty() && iana != namelessZone && TzZone(iana).isValid()
+               ? QString::fromUtf8(iana)
+               : QString();
+}
+
+std::optional<QByteArray> TzZoneDatabase::TziOfId(const QString& id) const {
+    const QByteArray iana = id.toUtf8();
+    return !iana.isEmpty() && TzZone(iana).isValid() ? std::optional(TziBytes(RuleOf(iana)))
+                                                     : std::nullopt;
+}
+
 TimeZoneInformation TzZoneDatabase::GetTimeZoneInformation() const {
     const QByteArray iana = Local().Iana;
     const TzRule rule = RuleOf(iana);
@@ -167,7 +205,7 @@ QString TzZoneDatabase::LocalStandardName() const {
 }
 
 qint64 TzZoneDatabase::Present() const {
-    return clock_.Now().toSecsSinceEpoch() - clock_.OffsetFromGmt();
+    return clock_.Instant();
 }
 
 const TzYear& TzZoneDatabase::YearOf(const QByteArray& iana) const {

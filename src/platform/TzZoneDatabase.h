@@ -41,6 +41,13 @@ public:
 
     /// Result 0 for a zone that keeps one offset through the present year, else 1 or 2; 1 for
     /// "Local time". Both names are those of the machine's subkey.
+    std::optional<ZoneSpan> SpanAt(const QString& id, std::int64_t instant) const override;
+    /// "America/New_York" for "Eastern Standard Time", and the present spelling where the database
+    /// has renamed a zone ("Asia/Kolkata"). A city is one that names a zone ("Oslo"), or one of
+    /// those that "Display" tells ("Mumbai").
+    QString IdOf(const QString& name) const override;
+    std::optional<QByteArray> TziOfId(const QString& id) const override;
+
     TimeZoneInformation GetTimeZoneInformation() const override;
     QString LocalStandardName() const override;
     QString Edition() const override;
@@ -64,6 +71,7 @@ private:
     QByteArray LocalIana() const;
     TzRule RuleOf(const QByteArray& iana) const;
     QString CitiesOf(const QString& subkey) const;
+    QByteArray IanaOfCity(const QString& city) const;
     const TzPlaces& Places() const;
 
     const WallClock& clock_;

@@ -33,6 +33,9 @@ public:
     /// The offset of the machine's local time from GMT at this moment, in seconds; east positive.
     virtual int OffsetFromGmt() const = 0;
 
+    /// The present instant: seconds since 1970 in GMT. Unlike a reading it is never ambiguous.
+    virtual qint64 Instant() const { return Now().toSecsSinceEpoch() - OffsetFromGmt(); }
+
     /// A stopped ticker that calls @p onTick once an interval has been set.
     virtual std::unique_ptr<Ticker> MakeTicker(std::function<void()> onTick) = 0;
 };

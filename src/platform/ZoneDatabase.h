@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <optional>
 
 namespace platform {
@@ -60,6 +61,19 @@ struct ZonePlace {
     bool operator==(const ZonePlace&) const = default;
 };
 
+/// How long a zone's clock runs with one offset. Instants are whole seconds since 1970 in GMT. The
+/// span that follows may have the same offset: a change of the law that no clock showed.
+struct ZoneSpan {
+    static constexpr std::int64_t Always = std::numeric_limits<std::int64_t>::max();
+
+    std::int32_t Offset = 0;       ///< seconds east of GMT; not always whole minutes
+    bool Daylight = false;         ///< the half of the year with the later clock
+    std::int64_t Since = -Always;  ///< its first second; `-Always` when there was none before
+    std::int64_t Until = Always;   ///< the first second of the next; `Always` when there is none
+
+    bool operator==(const ZoneSpan&) const = default;
+};
+
 /// The system's zone database: subkeys (one a zone) with text values and the binary "TZI".
 class ZoneDatabase {
 public:
@@ -89,6 +103,21 @@ public:
 
     /// The subkey of the machine's own zone; empty if there is none.
     virtual QString LocalStandardName() const = 0;
+
+    /// The span that holds @p instant in the zone of an identifier such as "America/New_York"; an
+    /// empty one is the machine's own zone. Nothing where the database does not know it.
+    virtual std::optional<ZoneSpan> SpanAt(const QString& id, std::int64_t instant) const {
+        Q_UNUSED(id)
+        Q_UNUSED(instant)
+        return std::nullopt;
+    }
+
+    /// The identifier behind a subkey, or of a city's zone ("Oslo"); empty where none is known. A
+    /// city that lends its name to no zone gives that of the zone that it lies in.
+    virtual QString IdOf(const QString&) const { return {}; }
+
+    /// What `TziValue` is for a subkey, for an identifier and the present year.
+    virtual std::optional<QByteArray> TziOfId(const QString&) const { return std::nullopt; }
 
     /// The edition of the database: a year, and a letter that tells the editions of one year apart,
     /// as in "2025b". Empty when it does not tell.

@@ -43,18 +43,22 @@ public:
         return true;
     }
     void redo() override {
-        sheet_.grid_.SetTextMatrix(row_, 1, after_);
         if (isDone_) {
-            sheet_.CommitShortcutRow(row_);
+            Put(after_);
+        } else {
+            sheet_.grid_.SetTextMatrix(row_, 1, after_);
         }
         isDone_ = true;
     }
-    void undo() override {
-        sheet_.grid_.SetTextMatrix(row_, 1, before_);
+    void undo() override { Put(before_); }
+
+private:
+    void Put(const QString& text) {
+        sheet_.grid_.SetRow(row_);
+        sheet_.grid_.SetTextMatrix(row_, 1, text);
         sheet_.CommitShortcutRow(row_);
     }
 
-private:
     ShortcutSheet& sheet_;
     int row_;
     QString before_;
@@ -204,7 +208,8 @@ bool ShortcutSheet::MayClose(int row) {
     }
     ClockProperties now;
     const bool isThere = mduLib::ReadPropertyFile(program_.Services.FileSystem, file_, now);
-    List() = isThere ? now : stored_;
+    ShowList(isThere ? now : stored_);
+    steps_.clear();
     return true;
 }
 

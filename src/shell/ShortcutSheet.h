@@ -56,7 +56,8 @@ public:
 
     /// Whether something differs from what was last read or written.
     bool Dirty() const { return !steps_.isClean(); }
-    /// The steps, to undo and redo them; each brings the grid and the list in line.
+    /// The steps, to undo and redo them; each brings the grid and the list in line,
+    /// and makes the row that it changes the current one.
     QUndoStack& Steps() { return steps_; }
     const QUndoStack& Steps() const { return steps_; }
 

@@ -9,6 +9,8 @@
 #include "platform/Services.h"
 #include "platform/WallClock.h"
 #include "platform/ZoneDatabase.h"
+#include "timezones/ExactKeys.h"
+#include "timezones/ExactOffset.h"
 #include "timezones/TransitionText.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneSources.h"
@@ -74,6 +76,15 @@ void PutWhole(const QString& key, const QString& text, ClockProperties& properti
     properties[mduLib::FindPropertyRow(key, properties)].Value = text;
 }
 
+/// A file that gets another zone is told its identifier anew.
+void ForgetIdOfAnother(const QString& standardName, ClockProperties& properties) {
+    const QString before = ZoneKeyValue(properties, ZoneKeys()[0]);
+    const bool isAnother = !before.isEmpty() && before != standardName;
+    if (isAnother && !ZoneKeyValue(properties, ZoneIdKey).isEmpty()) {
+        PutWhole(ZoneIdKey, {}, properties);
+    }
+}
+
 /// Reads the texts of the six keys over a record, in the order of the table.
 class KeyReader {
 public:
@@ -132,6 +143,7 @@ QString ProfilePath(const PathTable& paths, const QString& zoneName) {
 bool WriteFromRecord(platform::Files& files, const TimeZoneRecord& record, const QDate& today,
                      ClockProperties& properties, const QString& path) {
     bool saved = true;
+    ForgetIdOfAnother(record.StandardName, properties);
     for (qsizetype key = 0; key < ZoneKeys().size(); ++key) {
         const QString text = KeyText(record, key, today);
         saved = mduLib::SavePropertyNow(files, ZoneKeys()[key], text, properties, path) && saved;
@@ -173,13 +185,29 @@ QStringList OverlayZoneKeys(TimeZoneRecord& record, ClockProperties& properties,
     return KeyReader(record, properties, now, onFilledIn).Read();
 }
 
+bool RenewZoneRules(const TimeZoneRecord& record, ClockProperties& properties, const QDate& today) {
+    bool changed = false;
+    for (const qsizetype key : {1, 2, 4, 5}) {
+        const QString text = KeyText(record, key, today);
+        if (ZoneKeyValue(properties, ZoneKeys()[key]) != text) {
+            PutWhole(ZoneKeys()[key], text, properties);
+            changed = true;
+        }
+    }
+    return changed;
+}
+
 bool ReadZoneKeys(const platform::Services& services, TimeZoneRecord& record,
                   ClockProperties& properties, const QString& path) {
     bool saved = true;
     const auto save = [&] {
         saved = mduLib::WritePropertyFile(services.FileSystem, properties, path) && saved;
     };
+    const QString source = record.KeyName;
     OverlayZoneKeys(record, properties, services.Clock.Now(), save);
+    if (OverlayExactKeys(services, source, record, properties)) {
+        save();
+    }
     return saved;
 }
 
@@ -228,13 +256,17 @@ void PutZoneKeys(const platform::Services& services, const PathTable& paths,
         return;
     }
     const QDate today = services.Clock.Now().date();
+    ForgetIdOfAnother(record.StandardName, properties);
     for (qsizetype key = 0; key < ZoneKeys().size(); ++key) {
         PutWhole(ZoneKeys()[key], KeyText(record, key, today), properties);
     }
 }
 
 void CopyZoneKeys(const ClockProperties& source, ClockProperties& target) {
-    for (const QString& key : ZoneKeys()) {
+    if (mduLib::FindPropertyRow(ZoneKeys()[0], source) != 0) {
+        ForgetIdOfAnother(ZoneKeyValue(source, ZoneKeys()[0]), target);
+    }
+    for (const QString& key : ZoneKeys() + QStringList{ZoneRulesKey, ZoneIdKey}) {
         if (mduLib::FindPropertyRow(key, source) != 0) {
             mduLib::PutPropertyRaw(key, mduLib::GetPropertyRaw(key, source), target);
         }
@@ -255,7 +287,7 @@ TimeZoneRecord LoadZone(const platform::Services& services, const PathTable& pat
     if (record.KeyName.isEmpty()) {
         record.KeyName = zoneName;
     }
-    ApplyCurrentOffset(record, services.Clock.Now(), GetLocalZone(services).CurrentGMTHours);
+    ApplyPresentOffset(services, record);
     return record;
 }
 

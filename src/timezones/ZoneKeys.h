@@ -27,8 +27,13 @@ QStringList OverlayZoneKeys(
     TimeZoneRecord& record, ClockProperties& properties, const QDateTime& now,
     const std::function<void()>& onFilledIn = [] {});
 
-/// `OverlayZoneKeys`, with the file saved after each key that was filled in. @return false when the
-/// file could not be written.
+/// Brings offsets and transitions into their four keys, as far as these hold others; the names
+/// stay.
+/// @return whether a key has been changed
+bool RenewZoneRules(const TimeZoneRecord& record, ClockProperties& properties, const QDate& today);
+
+/// `OverlayZoneKeys`, with the file saved after each key that was filled in, and then
+/// `OverlayExactKeys`. @return false when the file could not be written.
 bool ReadZoneKeys(const platform::Services& services, TimeZoneRecord& record,
                   ClockProperties& properties, const QString& path);
 
@@ -52,7 +57,8 @@ bool LoadZoneFile(const platform::Files& files, const QString& path, ClockProper
 bool ApplyZoneToFile(const platform::Services& services, const PathTable& paths,
                      const QString& path, const QString& zoneName);
 
-/// Copies every one of the six keys that has a line in @p source.
+/// Copies every one of the six keys that has a line in @p source, and those of exact rules. An
+/// identifier that belongs to another zone than the new one does not stay.
 void CopyZoneKeys(const ClockProperties& source, ClockProperties& target);
 
 /// The whole of a clock's loading: `FindTimeZone`, `ReadZoneKeys` over it, the name where there is

@@ -125,7 +125,10 @@ TimeZoneRecords ListWindowsTimeZones(const platform::Services& services) {
 }
 
 void ReadZoneTZI(const ZoneDatabase& zones, const QString& subkey, TimeZoneRecord& record) {
-    QByteArray tzi = zones.TziValue(subkey).value_or(QByteArray());
+    TakeTzi(zones.TziValue(subkey).value_or(QByteArray()), record);
+}
+
+void TakeTzi(QByteArray tzi, TimeZoneRecord& record) {
     if (tzi.size() != TziSize) {
         tzi = QByteArray(TziSize, '\0');
     }

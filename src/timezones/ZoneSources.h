@@ -18,6 +18,9 @@ TimeZoneRecords ListWindowsTimeZones(const platform::Services& services);
 void ReadZoneTZI(const platform::ZoneDatabase& zones, const QString& subkey,
                  TimeZoneRecord& record);
 
+/// The same from the 44 bytes themselves; zeros from any other number of bytes.
+void TakeTzi(QByteArray tzi, TimeZoneRecord& record);
+
 /// Three text values of a subkey, in the order asked for; blank where they can't be read.
 std::array<QString, 3> ReadZoneValues(const platform::ZoneDatabase& zones, const QString& subkey,
                                       const std::array<QString, 3>& names);

@@ -42,6 +42,29 @@ private Q_SLOTS:
         QTEST(clockcore::KeyCodeOf(key), "code");
     }
 
+    void KeysThatMeanSomething_data() {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("shift");
+        QTest::addColumn<bool>("isBound");
+        QTest::newRow("bound") << 113 << 0 << true;
+        QTest::newRow("not so") << 113 << Ctrl << false;
+        QTest::newRow("to a command that no clock knows") << 75 << Ctrl << false;
+        QTest::newRow("help") << 112 << 0 << true;
+        QTest::newRow("enable") << int('E') << Ctrl << true;
+        QTest::newRow("normal") << int('W') << Ctrl << true;
+        QTest::newRow("size") << int('R') << Ctrl << true;
+        QTest::newRow("a letter") << int('E') << 0 << false;
+        QTest::newRow("no key") << 0 << Ctrl << false;
+    }
+    void KeysThatMeanSomething() {
+        QFETCH(int, code);
+        QFETCH(int, shift);
+        FormDesk desk;
+        Bind(desk, u"Clocks"_s);
+        mduLib::AppendProperty({}, u"Dance"_s, u"Ctrl+K"_s, desk.Module.ShortcutList);
+        QTEST(desk.Keys.IsBound(code, shift), "isBound");
+    }
+
     void HelpIsOnF1() {
         FormDesk desk;
         QVERIFY(desk.Keys.ClockKeyDown(112, 0));

@@ -17,6 +17,7 @@
 #include "platform/LocalFiles.h"
 #include "speech/SpeechPatterns.h"
 #include "timers/SystemActions.h"
+#include "timezones/ExactKeys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +82,7 @@ std::vector<Expected> WordRows() {
         {u"Speaker"_s, Kind::Words, YesNo},
         {u"Speak Timer Message"_s, Kind::Words, YesNo},
         {u"Speak Action Message"_s, Kind::Words, YesNo},
+        {u"Time Zone Rules"_s, Kind::Words, mduTimeZones::ZoneRulesNames()},
         {u"Speak Time Zone Details"_s, Kind::Words, YesNo},
         {u"Message Colour"_s, Kind::Words, Colours({})},
     };
@@ -146,6 +148,7 @@ std::vector<Expected> OtherRows() {
                      u"Time Zone Daylight Name"_s,
                      u"Time Zone Daylight Start Time"_s,
                      u"Time Zone Daylight GMT (Minutes)"_s,
+                     u"Time Zone Id"_s,
                      u"Hour Sound File"_s,
                      u"Second Sound File"_s,
                      u"Music File"_s,

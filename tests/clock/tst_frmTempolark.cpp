@@ -273,6 +273,7 @@ private Q_SLOTS:
     void RefreshTakesTheExchangeSlot() {
         Desk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);
+        mduLib::PutProperty(u"Time Zone Rules"_s, u"As Stored"_s, desk.Module.CurrentProperties);
         mduLib::PutProperty(u"Time Zone Standard GMT (Minutes)"_s, u"-90"_s,
                             desk.Module.CurrentProperties);
         mduLib::PutProperty(u"Window Background Colour"_s, u"Red"_s, desk.Module.CurrentProperties);

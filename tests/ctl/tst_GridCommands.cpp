@@ -233,6 +233,45 @@ void tst_GridCommands::runsEachOperation_data() {
     row("SetColComboOption", R"(["SetColComboOption","10"])",
         R"(["Sort None","Generic Ascending","Find"])");
     row("SetColComboOption without any", R"(["SetColComboOption",""])", "[]");
+    row("CellForeColor", R"(["CellForeColor",1,1])", "-1");
+    row("CellForeColor of no cell", R"(["CellForeColor",1,9])", "null");
+    row("SetCellForeColor", R"(["SetCellForeColor",1,1,255]
+["CellForeColor",1,1])",
+        "255");
+    row("SetRowForeColor", R"(["SetRowForeColor",2,7]
+["CellForeColor",2,2])",
+        "7");
+    row("SetCellDefault", R"(["SetRowForeColor",1,7]
+["SetCellDefault"]
+["CellForeColor",1,0])",
+        "-1");
+    row("SetEditableRow", R"(["SetEditableRow",1,false])", "null");
+    row("ColWidth", R"(["ColWidth",1,900]
+["ColWidth",1])",
+        "900");
+    row("ColWidth of no column", R"(["ColWidth",3,900]
+["ColWidth",3])",
+        "null");
+    row("ColData", R"(["ColData",2,5]
+["ColData",2])",
+        "5");
+    row("FormatString", R"(["FormatString","No|>Text"]
+["TextMatrix",0,1])",
+        R"("Text")");
+    row("RowPosition", R"(["RowPosition",1,3]
+["TextMatrix",3,1])",
+        R"("a")");
+    row("RowPosition of a heading", R"(["RowPosition",0,3]
+["TextMatrix",0,1])",
+        R"("T")");
+    row("ColPosition", R"(["ColData",1,5]
+["ColPosition",1,2]
+["RowToStr",1])",
+        R"("1,x,a")");
+    row("ColPosition and its data", R"(["ColData",1,5]
+["ColPosition",1,2]
+["ColData",2])",
+        "5");
     row("CompactColumn", R"(["TextMatrix",1,1,""]
 ["Col",1]
 ["CompactColumn"]

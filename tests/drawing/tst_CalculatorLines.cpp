@@ -3,6 +3,7 @@
 
 #include "drawing/CalculatorLines.h"
 #include "drawing/LabelText.h"
+#include "support/ExactMachine.h"
 #include "support/FakeFace.h"
 
 using namespace Qt::StringLiterals;
@@ -103,6 +104,12 @@ private Q_SLOTS:
     void AHintThatJustFits();
     void EnterTellsOfEscAgain();
     void TellsOfEscInTheStatusBarWithoutRoom();
+    void ConvertsByTheRulesOfTheTimeTyped();
+    void ShowsBothReadingsOfATimeLivedTwice();
+    void ShowsBothReadingsWhereThereIsLittleRoom();
+    void TellsATimeThatDoesNotExist();
+    void NamesAnExactZoneAtTheTypedTime();
+    void ShowsThePresentTimeInTheHourLivedTwice();
     void SurvivesBadInput_data();
     void SurvivesBadInput();
 };
@@ -567,6 +574,109 @@ void tst_CalculatorLines::TellsOfEscInTheStatusBarWithoutRoom() {
     lines.Face.Window.Resize(300, 300);
     lines.Calculator.SetCalculatorLayout();
     QVERIFY(hint.Visible);
+}
+
+namespace {
+
+/// A calculator with the exact rules of New York on a machine in London, in January.
+struct ExactLines {
+    explicit ExactLines(const QByteArray& gmt = "2026-01-20T12:00:00", int width = 900)
+        : Machine(gmt),
+          Controls(),
+          Window(width, 200, 1),
+          Zone(Machine.Record(u"America/New_York"_s)),
+          Calculator({Properties, Zone, Controls, Window, Machine.Machine.Clock,
+                      Machine.Machine.Files, Machine.Machine.Random, Pictures, Paths,
+                      Machine.Zones}) {
+        Controls.lblLocation(1).Caption = Zone.CurrentName;
+        for (const QString& line : {u"Calculator Local Time "_s, u"Calculator Time "_s}) {
+            mduLib::PutProperty(line + u"Font"_s, u"Liberation Sans"_s, Properties);
+            mduLib::PutProperty(line + u"Font Size"_s, u"12"_s, Properties);
+        }
+        Calculator.SetCalculatorClock(drawing::CalculatorTexts::Blank);
+        Calculator.BeginInput();
+    }
+    Q_DISABLE_COPY_MOVE(ExactLines)
+
+    void Type(const QString& text) {
+        for (const QChar character : text) {
+            Calculator.EditCalculatorKey(character.unicode());
+        }
+    }
+    void TypeIntoTheZone(const QString& text) {
+        Calculator.EditCalculatorKey(9);
+        Type(text);
+    }
+    const mduUILib::Control& Local() { return Controls.lblTimeInput(1); }
+    const mduUILib::Control& InZone() { return Controls.lblTimeOutput(1); }
+
+    ExactMachine Machine;
+    ClockProperties Properties;
+    mduUILib::ClockControls Controls;
+    FakeCanvas Window;
+    mduUILib::PictureStore Pictures;
+    PathTable Paths;
+    TimeZoneRecord Zone;
+    CalculatorLines Calculator;
+};
+
+}  // namespace
+
+void tst_CalculatorLines::ConvertsByTheRulesOfTheTimeTyped() {
+    ExactLines lines;
+    lines.Type(u"15/03/2026 12:00"_s);
+    QCOMPARE(lines.InZone().Tag, u"15/03/2026 8:00:00"_s);
+    QCOMPARE(lines.InZone().Caption, u"Daylight: 15/03/2026 8:00:00"_s);
+}
+
+void tst_CalculatorLines::ShowsBothReadingsOfATimeLivedTwice() {
+    ExactLines lines;
+    lines.Type(u"25/10/2026 1:30"_s);
+    QCOMPARE(lines.InZone().Caption, u"Daylight: 24/10/2026 20:30:00 or 21:30:00"_s);
+    QCOMPARE(lines.InZone().Tag, u"24/10/2026 20:30:00"_s);
+    const double right = static_cast<double>(lines.InZone().Left + lines.InZone().Width);
+    QVERIFY2(right <= 900, qPrintable(QString::number(right)));
+    lines.Calculator.EditCalculatorKey(9);  // the plain text is what can be edited
+    QCOMPARE(lines.InZone().Caption, u"Daylight: 24/10/2026 20:30:00 _"_s);
+}
+
+void tst_CalculatorLines::ShowsBothReadingsWhereThereIsLittleRoom() {
+    ExactLines lines("2026-01-20T12:00:00", 260);
+    lines.Type(u"25/10/2026 1:30"_s);
+    QCOMPARE(lines.InZone().Caption, u"Daylight: 20:30:00 or 21:30:00"_s);
+    mduLib::PutProperty(u"Calculator Time Font Size"_s, u"-1"_s, lines.Properties);
+    lines.Type(u":0"_s);
+    QCOMPARE(lines.InZone().Caption, u"Daylight: 24/10/2026 20:30:00 or 21:30:00"_s);
+    QVERIFY(static_cast<double>(lines.InZone().Left + lines.InZone().Width) <= 260);
+}
+
+void tst_CalculatorLines::TellsATimeThatDoesNotExist() {
+    ExactLines lines;
+    lines.TypeIntoTheZone(u"08/03/2026 2:30"_s);
+    QCOMPARE(lines.Local().Caption, u"Local Time: does not exist"_s);
+    QCOMPARE(lines.Local().Tag, QString());
+    lines.Calculator.EditCalculatorKey(27);
+    lines.Calculator.BeginInput();
+    lines.Type(u"29/03/2026 1:00"_s);
+    QCOMPARE(lines.InZone().Caption, u"Daylight: does not exist"_s);
+}
+
+void tst_CalculatorLines::NamesAnExactZoneAtTheTypedTime() {
+    ExactLines lines;
+    lines.TypeIntoTheZone(u"01/11/2026 1:59:59"_s);
+    QCOMPARE(lines.Controls.lblLocation(1).Caption, u"Daylight"_s);
+    QCOMPARE(lines.Local().Caption, u"Local Time: 01/11/2026 5:59:59 or 6:59:59"_s);
+    lines.Calculator.EditCalculatorKey(27);
+    lines.Calculator.BeginInput();
+    lines.TypeIntoTheZone(u"01/11/2026 2:00"_s);
+    QCOMPARE(lines.Controls.lblLocation(1).Caption, u"Standard"_s);
+}
+
+void tst_CalculatorLines::ShowsThePresentTimeInTheHourLivedTwice() {
+    ExactLines lines("2026-10-25T01:30:00");
+    lines.Calculator.SetCalculatorClock(drawing::CalculatorTexts::PresentTime);
+    QCOMPARE(lines.Local().Caption, u"Local Time: 25/10/2026 1:30:00"_s);
+    QCOMPARE(lines.InZone().Caption, u"Daylight: 24/10/2026 21:30:00"_s);
 }
 
 void tst_CalculatorLines::SurvivesBadInput_data() {

@@ -84,6 +84,8 @@ private Q_SLOTS:
     void WritesNothingToARowThatHasGone();
     void EndsTheBurst();
     void TakesAWholeCharacter();
+    void PassesHiddenRows();
+    void TakesWhatAWindowHasTyped();
 };
 
 void tst_CellEditing::EntersByKey_data() {
@@ -431,6 +433,40 @@ void tst_CellEditing::TakesAWholeCharacter() {
     desk.GoTo(1, 3);
     QVERIFY(desk.Editing.OnGridKey({0, u"e\u0301"_s}));
     QCOMPARE(desk.Editing.Editor()->Text(), u"e\u0301"_s);
+}
+
+void tst_CellEditing::PassesHiddenRows() {
+    Desk desk;
+    desk.Grid.SetRowHeight(2, 0);
+    desk.GoTo(1, 4);
+    desk.Editing.MoveToNextCell();
+    QCOMPARE(desk.Grid.Row(), 3);
+    desk.Editing.PageRows = 1;
+    desk.Type(u"x"_s);
+    desk.Press(KeyCode::PageUp);
+    QCOMPARE(desk.Grid.Row(), 1);
+    desk.Grid.SetRowHeight(3, 0);
+    desk.GoTo(1, 4);
+    desk.Editing.MoveToNextCell();  // none is seen below
+    QCOMPARE(desk.Grid.Row(), 1);
+}
+
+void tst_CellEditing::TakesWhatAWindowHasTyped() {
+    Desk desk;
+    QCOMPARE(desk.Editing.TakeTyped(u"g"_s, u"g"_s), -1);
+    desk.GoTo(1, 3);
+    desk.Type(u"x"_s);
+    QCOMPARE(desk.Editing.TakeTyped(u"g"_s, u"g"_s), -1);
+    QCOMPARE(desk.Editing.Editor()->Text(), u"x"_s);
+    desk.Press(KeyCode::Escape);
+    desk.GoTo(1, 4);
+    desk.Type(u"x"_s);
+    QCOMPARE(desk.Editing.EditColumn(), 4);
+    QCOMPARE(desk.Editing.TakeTyped(u"g"_s, u"g"_s), 1);
+    QCOMPARE(desk.Editing.Editor()->Text(), u"Green"_s);
+    QCOMPARE(desk.Editing.TakeTyped(u"q"_s, u"gq"_s), -1);
+    QCOMPARE(desk.Editing.Editor()->Text(), u"gq"_s);
+    QCOMPARE(desk.Editing.Burst().TypedText(), u"gq"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_CellEditing)

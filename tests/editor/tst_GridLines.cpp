@@ -3,6 +3,8 @@
 #include <QTest>
 
 #include "editor/GridOf.h"
+#include "editor/GridRows.h"
+#include "editor/GridSort.h"
 
 using namespace Qt::StringLiterals;
 using editor::EditGridData;
@@ -25,6 +27,9 @@ private Q_SLOTS:
     void AddsUp_data();
     void AddsUp();
     void SelectsRows();
+    void ColoursTexts();
+    void ColoursGoWithTheirRow();
+    void LocksRows();
 };
 
 void tst_GridLines::NumbersRows() {
@@ -180,6 +185,57 @@ void tst_GridLines::SelectsRows() {
     QCOMPARE(grid.RowSel(), 1);
     QCOMPARE(grid.Col(), 1);
     QCOMPARE(grid.ColSel(), 1);
+}
+
+void tst_GridLines::ColoursTexts() {
+    EditGridData grid = GridOf({u"A|B|C"_s, u"1|2|3"_s, u"4|5|6"_s}, 3);
+    QCOMPARE(grid.CellForeColor(1, 1), editor::NoForeColor);
+    QVERIFY(grid.SetCellForeColor(1, 1, 0x0000FF));
+    QCOMPARE(grid.CellForeColor(1, 1), 255);
+    QCOMPARE(grid.CellForeColor(1, 0), -1);
+    QCOMPARE(grid.CellForeColor(1, 2), -1);
+    QVERIFY(!grid.SetCellForeColor(3, 0, 1));
+    QVERIFY(!grid.SetCellForeColor(1, 3, 1));
+    QVERIFY(editor::SetRowForeColor(grid, 2, 7));
+    QCOMPARE(grid.CellForeColor(2, 0), 7);
+    QCOMPARE(grid.CellForeColor(2, 2), 7);
+    QVERIFY(!editor::SetRowForeColor(grid, 3, 7));
+    grid.SetRow(1);
+    grid.SetCol(1);
+    grid.SetRowSel(2);
+    grid.SetColSel(2);
+    editor::SetCellDefault(grid);
+    QCOMPARE(grid.CellForeColor(1, 1), -1);
+    QCOMPARE(grid.CellForeColor(2, 2), -1);
+    QCOMPARE(grid.CellForeColor(2, 0), 7);
+    grid.SetRow(0);
+    grid.SetRowSel(1);
+    editor::SetSelectionForeColor(grid, 9);
+    QCOMPARE(grid.CellForeColor(0, 1), -1);
+    QCOMPARE(grid.CellForeColor(1, 1), 9);
+}
+
+void tst_GridLines::ColoursGoWithTheirRow() {
+    EditGridData grid = GridOf({u"A"_s, u"b"_s, u"a"_s}, 1);
+    grid.SetCellForeColor(1, 0, 5);
+    editor::Sort(grid, 7);
+    QCOMPARE(grid.CellForeColor(1, 0), -1);
+    QCOMPARE(grid.CellForeColor(2, 0), 5);
+    editor::ClearRow(grid, 2);
+    QCOMPARE(grid.CellForeColor(2, 0), -1);
+}
+
+void tst_GridLines::LocksRows() {
+    EditGridData grid = GridOf({u"A"_s, u"b"_s, u"a"_s}, 1);
+    QVERIFY(grid.IsRowEditable(1));
+    QVERIFY(grid.SetEditableRow(1, false));
+    QVERIFY(!grid.IsRowEditable(1));
+    QVERIFY(grid.IsRowEditable(2));
+    QVERIFY(grid.SetEditableRow(1, true));
+    QVERIFY(grid.IsRowEditable(1));
+    grid.SetStruckThrough(1, true);
+    QVERIFY(!grid.IsRowEditable(1));
+    QVERIFY(!grid.SetEditableRow(3, false));
 }
 
 QTEST_GUILESS_MAIN(tst_GridLines)

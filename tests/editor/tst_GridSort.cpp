@@ -24,6 +24,7 @@ private Q_SLOTS:
     void SortsNothing();
     void SortsWhatRunsInACircle();
     void SortsManyRows();
+    void SortsByAnotherOrder();
 };
 
 void tst_GridSort::Sorts_data() {
@@ -175,6 +176,21 @@ void tst_GridSort::SortsManyRows() {
     for (int row = 2; row <= count; ++row) {
         QVERIFY(grid.TextMatrix(row - 1, 0).toInt() < grid.TextMatrix(row, 0).toInt());
     }
+}
+
+void tst_GridSort::SortsByAnotherOrder() {
+    EditGridData grid = GridOf({u"T"_s, u"ccc"_s, u""_s, u"a"_s, u"bb"_s, u"d"_s, u"eeee"_s}, 1);
+    const auto byLength = [&grid](int row1, int row2) {
+        return int(grid.TextMatrix(row1, 0).size() - grid.TextMatrix(row2, 0).size());
+    };
+    editor::SortBy(grid, byLength);
+    QCOMPARE(RowsOf(grid), QStringList({u"a"_s, u"d"_s, u"bb"_s, u"ccc"_s, u"eeee"_s, u""_s}));
+    grid.SetRow(4);
+    grid.SetRowSel(2);
+    editor::SortBy(grid, [](int row1, int row2) { return row2 - row1; });
+    QCOMPARE(RowsOf(grid), QStringList({u"a"_s, u"ccc"_s, u"bb"_s, u"d"_s, u"eeee"_s, u""_s}));
+    editor::SortBy(grid, [](int, int) { return 1; });  // no order at all
+    QCOMPARE(grid.Rows(), 7);
 }
 
 QTEST_GUILESS_MAIN(tst_GridSort)

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void NeedsADefaultToRefreshFrom();
     void CanRefreshAZoneItKnows();
     void RefreshesTheZoneByItsOwner();
+    void ARefreshOfTheZoneHidesNoChange();
     void RefreshesTheZoneByItself();
     void OneOfManyRecords();
 };
@@ -289,6 +290,17 @@ void tst_PropertySheet::RefreshesTheZoneByItsOwner() {
     QCOMPARE(sheet->Cell(2), u"3"_s);
     QCOMPARE(sheet->Cell(4), u"London"_s);
     QVERIFY(sheet->IsDirty());
+}
+
+void tst_PropertySheet::ARefreshOfTheZoneHidesNoChange() {
+    SheetDesk desk;
+    const auto sheet = desk.Open(London);
+    ZoneClock owner(desk, sheet->Path());
+    desk.WriteZone(u"London.ini"_s, QByteArray(London).replace("Size=3", "Size=9"));
+    sheet->RefreshTimeZoneDefaults(&owner);
+    QCOMPARE(sheet->Cell(4), u"Renewed"_s);
+    QCOMPARE(sheet->Cell(2), u"3"_s);
+    QVERIFY(sheet->ChangeQuestion());
 }
 
 void tst_PropertySheet::RefreshesTheZoneByItself() {

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void TellsWhyItCantCreate();
     void ANewFileNeverTakesTheShellsPlace();
     void LaunchesWhatItMade();
+    void LaunchesByTheNameOfTheFile();
     void AChangeComesBeforeTheLaunch();
     void LaunchesTheCellThatIsOpen();
     void FlipsToANewFileAndBack();
@@ -204,6 +205,7 @@ void tst_PropertySheetFile::NamesANewZone_data() {
     QTest::newRow("plain") << u"Rome"_s << QString() << u"Rome.ini"_s;
     QTest::newRow("blanks") << u" Rome "_s << QString() << u"Rome.ini"_s;
     QTest::newRow("an ending") << u"Rome.ini"_s << QString() << u"Rome.ini"_s;
+    QTest::newRow("an ending within") << u"a.ini.b"_s << QString() << u"a.ini.b"_s;
     QTest::newRow("on disk in small letters") << u"Oslo"_s << QString() << u"oslo.ini"_s;
     QTest::newRow("on disk in both") << u"Bern"_s << QString() << u"Bern.ini"_s;
     QTest::newRow("none") << QString() << u"The time zone has no name"_s << QString();
@@ -277,6 +279,7 @@ void tst_PropertySheetFile::AsksBeforeItWritesOver() {
     QCOMPARE(sheet->Press(0, {}, {}), Done);
     QVERIFY(desk.Zone(u"rome.ini"_s).contains("Time Zone Standard Name=Rome"));
     QCOMPARE(sheet->ZoneName(), u"rome"_s);
+    QCOMPARE(sheet->Caption(), u"Properties - rome"_s);
     QCOMPARE(sheet->OverwriteQuestion(), std::nullopt);
 }
 
@@ -316,6 +319,15 @@ void tst_PropertySheetFile::LaunchesWhatItMade() {
     QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.ZoneFile(u"rome.ini"_s));
     QCOMPARE(Current(desk, u"Time Zone Standard Name"_s), u"Rome"_s);
     QCOMPARE(sheet->CloseQuestion(), std::nullopt);
+}
+
+void tst_PropertySheetFile::LaunchesByTheNameOfTheFile() {
+    SheetDesk desk;
+    const auto sheet = desk.OpenNew();
+    TypeName(*sheet, u"a.ini.b"_s);
+    sheet->Press(0, {}, {});
+    QCOMPARE(sheet->ZoneName(), u"a.ini.b"_s);
+    QCOMPARE(sheet->Press(0, {}, {}).Launch, u"a.ini.b"_s);
 }
 
 void tst_PropertySheetFile::AChangeComesBeforeTheLaunch() {

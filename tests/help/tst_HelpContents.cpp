@@ -4,13 +4,16 @@
 
 #include "clock/FormMenu.h"
 #include "clock/PartMenuCatalogue.h"
+#include "editor/ui/PropertyMenu.h"
 #include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "help/HelpPages.h"
 #include "platform/LocalFiles.h"
 #include "shell/MenuCatalogue.h"
 #include "shell/ToolCommands.h"
+#include "shell/ui/frmShortcuts.h"
 #include "speech/SpeechPatterns.h"
+#include "support/FakeServices.h"
 #include "timers/SystemActions.h"
 #include "timezones/ui/ZoneMenu.h"
 
@@ -28,6 +31,8 @@ private Q_SLOTS:
     void tellsOfTheMenusOfParts_data();
     void tellsOfTheMenusOfParts();
     void tellsOfTheZonesMenus();
+    void tellsOfThePropertyMenu();
+    void tellsOfTheShortcutMenu();
     void tellsOfEveryProperty_data();
     void tellsOfEveryProperty();
     void showsAPropertyAsItsFileHasIt();
@@ -43,6 +48,8 @@ namespace {
 
 const QString ShellPage = u"TempolarkCentral/100.html"_s;
 const QString ZonesPage = u"TempolarkCentral/200.html"_s;
+const QString ShortcutsPage = u"TempolarkCentral/300.html"_s;
+const QString EditorPage = u"TempolarkCentral/400.html"_s;
 const QString ClockPage = u"Tempolark/600.html"_s;
 const QString PropertiesPage = u"common/properties.html"_s;
 
@@ -213,6 +220,31 @@ void tst_HelpContents::tellsOfTheZonesMenus() {
     QCOMPARE(Missing(captions, ZonesPage), QStringList());
 }
 
+void tst_HelpContents::tellsOfThePropertyMenu() {
+    QWidget owner;
+    const PropertyMenu menu(&owner, {});
+    QStringList captions;
+    for (const QAction* action : owner.findChild<QMenu*>()->findChildren<QAction*>()) {
+        captions += action->text().section(u'\t', 0, 0).simplified();
+    }
+    QVERIFY(captions.contains(u"Sort by Default"_s) && captions.contains(u"Descending"_s));
+    captions += {u"Apply"_s, u"Launch"_s, u"Close"_s};
+    QCOMPARE(Missing(captions, EditorPage), QStringList());
+}
+
+void tst_HelpContents::tellsOfTheShortcutMenu() {
+    const FakeServices machine;
+    ModuleState module;
+    Forms windows;
+    const frmShortcuts window({machine.Services, module, windows}, nullptr, nullptr);
+    QStringList captions = Captions(*window.findChild<QMenu*>(u"Menu"_s));
+    QCOMPARE(captions.size(), 5);
+    QCOMPARE(captions.takeAt(1).simplified(), u"Refresh By Default (F5)"_s);
+    captions +=
+        {u"Refresh By Default (F5)"_s, u"Save"_s, u"Close"_s, u"Used"_s, u"Invalid"_s, u"Value"_s};
+    QCOMPARE(Missing(captions, ShortcutsPage), QStringList());
+}
+
 void tst_HelpContents::tellsOfEveryProperty_data() {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("prefix");
@@ -302,7 +334,7 @@ void tst_HelpContents::tellsOfEveryOption() {
         const QString text = found.next().captured(0).trimmed();
         QVERIFY2(PageOf(u"common/command-line.html"_s).Code.contains(text), qPrintable(text));
     }
-    QCOMPARE(options, 6);
+    QCOMPARE(options, 7);
 }
 
 QTEST_MAIN(tst_HelpContents)

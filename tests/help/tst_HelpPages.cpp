@@ -40,6 +40,7 @@ void tst_HelpPages::thereAreAllChapters() {
     }
     QCOMPARE(paths, (QStringList{u"Tempolark/600.html"_s, u"Tempolark/index.html"_s,
                                  u"TempolarkCentral/100.html"_s, u"TempolarkCentral/200.html"_s,
+                                 u"TempolarkCentral/300.html"_s, u"TempolarkCentral/400.html"_s,
                                  u"TempolarkCentral/index.html"_s, u"common/command-line.html"_s,
                                  u"common/files.html"_s, u"common/keyboard.html"_s,
                                  u"common/looks.html"_s, u"common/music.html"_s,

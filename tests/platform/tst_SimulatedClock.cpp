@@ -19,6 +19,11 @@ private Q_SLOTS:
     void stops();
     void isNotReentered();
     void mayDieInsideItsCall();
+    void goesByTheInstantOnceItIsTold();
+    void livesThroughAnHourTwice();
+    void leavesAnHourOut();
+    void keepsTheMomentsOfItsTickers();
+    void takesAReadingWhileItKnowsTheInstant();
 
 private:
     std::unique_ptr<platform::Ticker> Ticker(const QString& name) {
@@ -116,6 +121,60 @@ void tst_SimulatedClock::mayDieInsideItsCall() {
     ticker->SetInterval(100);
     clock_->Advance(1000);
     QCOMPARE(calls_, QStringList{u"a 00.350"_s});
+}
+
+namespace {
+
+QDateTime Gmt(int month, int day, int hour, int minute, int second = 0) {
+    return {QDate(2026, month, day), QTime(hour, minute, second), Qt::UTC};
+}
+
+}  // namespace
+
+void tst_SimulatedClock::goesByTheInstantOnceItIsTold() {
+    QCOMPARE(clock_->Instant(), Gmt(6, 15, 10, 0).toSecsSinceEpoch());
+    clock_->SetInstant(Gmt(1, 15, 12, 0));
+    QCOMPARE(clock_->Instant(), Gmt(1, 15, 12, 0).toSecsSinceEpoch());
+    QCOMPARE(clock_->Now(), Gmt(1, 15, 13, 0));
+    QCOMPARE(clock_->Now().timeSpec(), Qt::UTC);
+    clock_->SetZone(platform::TzZone("Asia/Tokyo"));
+    QCOMPARE(clock_->Now(), Gmt(1, 15, 21, 0));
+}
+
+void tst_SimulatedClock::livesThroughAnHourTwice() {
+    clock_->SetInstant(Gmt(10, 25, 0, 59, 59));
+    QCOMPARE(clock_->Now(), Gmt(10, 25, 2, 59, 59));
+    clock_->Advance(1000);
+    QCOMPARE(clock_->Now(), Gmt(10, 25, 2, 0));
+    QCOMPARE(clock_->OffsetFromGmt(), 3600);
+    clock_->Advance(3'600'000);
+    QCOMPARE(clock_->Now(), Gmt(10, 25, 3, 0));
+}
+
+void tst_SimulatedClock::leavesAnHourOut() {
+    clock_->SetInstant(Gmt(3, 29, 0, 59, 58));
+    const auto ticker = Ticker(u"a"_s);
+    ticker->SetInterval(1000);
+    clock_->Advance(3000);
+    QCOMPARE(clock_->Now(), Gmt(3, 29, 3, 0, 1));
+    QCOMPARE(calls_, (QStringList{u"a 59.000"_s, u"a 00.000"_s, u"a 01.000"_s}));
+}
+
+void tst_SimulatedClock::keepsTheMomentsOfItsTickers() {
+    const auto ticker = Ticker(u"a"_s);
+    ticker->SetInterval(1000);  // due at 12:00:01
+    clock_->SetInstant(Gmt(6, 15, 10, 0));
+    clock_->Advance(999);
+    QCOMPARE(calls_, QStringList());
+    clock_->Advance(1);
+    QCOMPARE(calls_, QStringList{u"a 01.000"_s});
+}
+
+void tst_SimulatedClock::takesAReadingWhileItKnowsTheInstant() {
+    clock_->SetInstant(Gmt(1, 15, 12, 0));
+    clock_->SetNow(Gmt(6, 15, 12, 0));
+    QCOMPARE(clock_->Now(), Gmt(6, 15, 12, 0));
+    QCOMPARE(clock_->Instant(), Gmt(6, 15, 10, 0).toSecsSinceEpoch());
 }
 
 QTEST_GUILESS_MAIN(tst_SimulatedClock)

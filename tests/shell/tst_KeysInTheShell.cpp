@@ -62,15 +62,6 @@ private Q_SLOTS:
         QCOMPARE(mduLib::GetPropertyRaw(u"UTC"_s, list), u"UTC"_s);
         desk.Stop();
     }
-
-    void WindowsThatAreStillToComeAreTold() {
-        Desk desk;
-        frmTempolark* clock = Launch(desk);
-        QTest::keyClick(clock, Qt::Key_K, Qt::ControlModifier);
-        desk.Machine.Clock.Advance(3000);
-        QCOMPARE(desk.Module.Paths.CurrentPropertyFile, clock->IniFile());
-        desk.Stop();
-    }
 };
 
 QTEST_MAIN(tst_KeysInTheShell)

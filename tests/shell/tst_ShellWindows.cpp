@@ -230,7 +230,7 @@ private Q_SLOTS:
         desk.Opened.OpenShortcuts();
         desk.Opened.ShowHelp();
         desk.Opened.ShowCentralProperties(false);
-        desk.Opened.ShowHelp();
+        desk.Opened.ShowClockHelp();
         const std::vector<FakeHelp::Page> pages = {{folder + u"TempolarkCentral.chm"_s, 100},
                                                    {folder + u"Tempolark.chm"_s, 600},
                                                    {folder + u"Other.chm"_s, 100},

@@ -305,7 +305,9 @@ private Q_SLOTS:
         QVERIFY(desk.Sheet.MayClose(2));
         QCOMPARE(desk.Asked, QStringList{SaveQuestion});
         QCOMPARE(desk.Listed(2), u"Ctrl+D"_s);
+        QCOMPARE(desk.Cell(2), u"Ctrl+D"_s);
         QVERIFY(desk.Stored().contains("Disable=Ctrl+D"));
+        QVERIFY(desk.Sheet.MayClose(2));  // there is nothing left to ask for
     }
 
     void NoAndTheFileIsGone() {

@@ -72,11 +72,13 @@ struct FakeFace {
     FakeCanvas Window;
     mduUILib::PictureStore Pictures;
     PathTable Paths;
+    /// A test may put a database of its own here before it asks for the context.
+    const platform::ZoneDatabase* Zones = &Machine.Zones;
 
     /// What a part's constructor takes; valid for as long as this object lives.
     drawing::FaceContext Context() {
         return {Properties,    Zone,           Controls, Window, Machine.Clock,
-                Machine.Files, Machine.Random, Pictures, Paths};
+                Machine.Files, Machine.Random, Pictures, Paths,  *Zones};
     }
 
     void Set(const QString& key, const QString& value) {

@@ -3,6 +3,7 @@
 #include "foundation/PropertyLookup.h"
 #include "platform/TzFolder.h"
 #include "platform/TzRule.h"
+#include "timezones/ExactKeys.h"
 #include "timezones/TransitionText.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneKeys.h"
@@ -52,6 +53,9 @@ ClockProperties MakeProfile(const City& city, const QDateTime& now, const QStrin
     const QStringList texts = ZoneTexts(city, now);
     for (qsizetype key = 0; key < keys.size(); ++key) {
         mduLib::PutPropertyRaw(keys[key], texts[key], profile, u"Time Zone"_s);
+    }
+    if (mduLib::FindPropertyRow(mduTimeZones::ZoneIdKey, profile) > 0) {
+        mduLib::PutProperty(mduTimeZones::ZoneIdKey, QString::fromUtf8(city.Iana), profile);
     }
     if (!flag.isEmpty()) {
         mduLib::PutProperty(u"Flag File"_s, flag, profile, u"Time Zone"_s);

@@ -88,6 +88,7 @@ frmTempolark::frmTempolark(const Program& program, IShell* shell, QMdiArea* area
       hints_({*this, data_, controls_, timers_, menus_}, program.Services.Clock),
       walk_({*this, data_, controls_, canvas_, timers_, menus_, partNudge_}),
       input_(*this, data_, controls_, calculator_, menus_),
+      zoneFollow_(data_, controls_, screen_, program.Services),
       tick_(data_,
             {window_, placement_, face_, dial_, digital_, calculator_, background_, heldOverlays_,
              timers_, messages_, sounds_, voice_, spoken_, music_, menus_, look_},
@@ -121,7 +122,8 @@ drawing::FaceContext frmTempolark::Context() {
             program_.Services.FileSystem,
             program_.Services.Random,
             program_.Module.Pictures,
-            program_.Module.Paths};
+            program_.Module.Paths,
+            program_.Services.Zones};
 }
 
 clockcore::HeldPart::Parts frmTempolark::PartsToMove() {
@@ -214,12 +216,17 @@ void frmTempolark::Activate() {
     }
 }
 
-// The message and the action move after the face has been painted.
+// The message and the action move after the face has been painted. A change of the zone's time
+// shows in this tick; what goes by the hour alone follows in the next.
 void frmTempolark::Tick() {
+    const bool zoneChanged = data_.State.IsDrawn() && zoneFollow_.Follow();
     tick_.Tick();
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
         timersOnDial_.Follow();
+        if (zoneChanged) {
+            tick_.RequestRedraw();
+        }
     }
 }
 

@@ -17,6 +17,7 @@
 #include "clock/PartMenus.h"
 #include "clock/PropertyRedraw.h"
 #include "clock/StyleFiles.h"
+#include "clock/ZoneFollow.h"
 #include "clock/ui/ClockInput.h"
 #include "clock/ui/ClockMenuHandlers.h"
 #include "clock/ui/DragInput.h"
@@ -186,6 +187,7 @@ private:
     void Activate();
     /// For another size, and for another screen.
     void TakeSurface();
+    bool IsBound(const QKeyEvent& event) const;
     /// What timers and speech, each with its own kind of host, share.
     template <class Host>
     ClockContext<Host> Parts() {
@@ -245,5 +247,6 @@ private:
     clockcore::PartBalloon hints_;
     clockcore::WalkInput walk_;
     clockcore::ClockInput input_;
+    clockcore::ZoneFollow zoneFollow_;
     clockcore::ClockTick tick_;
 };

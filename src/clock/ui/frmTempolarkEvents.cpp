@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "clock/ui/DisabledVeil.h"
+#include "clock/ui/KeyEvents.h"
 #include "clock/ui/frmTempolark.h"
 
 using clockcore::ClockState;
@@ -53,6 +54,10 @@ bool frmTempolark::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && area_ == nullptr && data_.State.HasBegun()) {
         Activate();
     }
+    if (event->type() == QEvent::ShortcutOverride && IsBound(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     // A disabled clock's come from the shell.
     if (event->type() == QEvent::KeyPress && input_.PressKey(*static_cast<QKeyEvent*>(event))) {
         event->accept();
@@ -63,6 +68,11 @@ bool frmTempolark::event(QEvent* event) {
         return true;
     }
     return QWidget::event(event);
+}
+
+// A key that the user has put on a command of the clock goes before the menus of the shell.
+bool frmTempolark::IsBound(const QKeyEvent& event) const {
+    return keys_.IsBound(clockcore::KeyCodeOf(event.key()), clockcore::ShiftState(event));
 }
 
 void frmTempolark::mousePressEvent(QMouseEvent* event) {

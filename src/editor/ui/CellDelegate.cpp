@@ -104,12 +104,11 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given,
 void CellDelegate::PaintGround(QPainter& painter, const QStyleOptionViewItem& option,
                                const QModelIndex& index) const {
     const bool isFixed = parts_.IsFixed(model_.RowOf(index.row()), index.column());
-    if (isFixed) {
-        painter.fillRect(option.rect, Either(parts_.Look.BackColorFixed,
-                                             option.palette.color(QPalette::Button)));
-    } else if (option.state.testFlag(QStyle::State_Selected)) {
-        painter.fillRect(option.rect, option.palette.brush(QPalette::Highlight));
-    }
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const QColor ground =
+        isFixed ? Either(parts_.Look.BackColorFixed, option.palette.color(QPalette::Button))
+                : option.palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
+    painter.fillRect(option.rect, ground);
 }
 
 void CellDelegate::PaintLines(QPainter& painter, const QRect& rect, bool isFixed) const {

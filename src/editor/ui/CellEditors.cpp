@@ -1,5 +1,7 @@
 #include "editor/ui/CellEditors.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -56,9 +58,11 @@ bool CellEditors::ShowOpened() {
     data_ = parts_.Data.RowData(row_);
     highlighted_ = -1;
     index_ = model_.index(model_.LineOf(row_), col_);
-    view_->scrollTo(index_);
-    view_->openPersistentEditor(index_);
-    if (widget_ == nullptr) {
+    if (index_.isValid()) {
+        view_->scrollTo(index_);
+        view_->openPersistentEditor(index_);
+    }
+    if (widget_ == nullptr) {  // the row is hidden
         parts_.Editing.CancelCellEdit();
         return false;
     }
@@ -177,7 +181,6 @@ void CellEditors::Mirror() {
     if (QLineEdit* line = LineOf(widget_); line != nullptr) {
         line->setText(editor->Text());
         line->setCursorPosition(static_cast<int>(editor->Text().size()));
-        typed_ = editor->Text().size();
     }
 }
 
@@ -190,13 +193,12 @@ void CellEditors::TakeText(const QString& text) {
 
 // A character at the end of a line with a list completes it, the rest standing selected behind.
 void CellEditors::TakeEdited(const QString& text) {
-    const qsizetype before = std::exchange(typed_, text.size());
+    const QString typed = std::exchange(typed_, QString());
     QLineEdit* line = LineOf(widget_);
-    const bool isTyped = text.size() > before && line->cursorPosition() == text.size();
-    if (!isTyped) {
+    if (typed.isEmpty() || line->cursorPosition() != text.size()) {
         return;
     }
-    const int item = parts_.Editing.TakeTyped(text.mid(before), text);
+    const int item = parts_.Editing.TakeTyped(typed, text);
     if (item < 0) {
         return;
     }
@@ -216,11 +218,12 @@ bool CellEditors::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::KeyPress:
             return PressKey(static_cast<QKeyEvent&>(*event));
+        case QEvent::InputMethod:
+            typed_ = static_cast<QInputMethodEvent*>(event)->commitString();
+            return false;
         case QEvent::FocusOut: {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-            const bool hasLeft = watched == widget_ && !IsPopupReason(reason) &&
-                                 (List() == nullptr || !List()->IsOpen());
-            if (hasLeft) {
+            if (watched == widget_ && HasLeft(reason)) {
                 End();
                 handlers_.FocusLeft(reason);
             }
@@ -231,12 +234,19 @@ bool CellEditors::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
+// The editor waits while another program, or its own menu or list, has the keyboard.
+bool CellEditors::HasLeft(Qt::FocusReason reason) const {
+    const bool isOwnList = List() != nullptr && List()->IsOpen();
+    return !IsPopupReason(reason) && !isOwnList && QApplication::focusWidget() != nullptr;
+}
+
 bool CellEditors::PressKey(QKeyEvent& event) {
     const int code = editor::HostCode(event);
     if (code != 0) {
         parts_.Host.KeyInCell(code, row_, col_);
     }
     const EditKey key = editor::EditKeyOf(event);
+    typed_ = key.Typed;
     const bool isShifted = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool isForTheLine = isShifted && key.Code != KeyCode::Tab && key.Typed.isEmpty();
     if ((key.Code == 0 && key.Typed.isEmpty()) || isForTheLine) {

@@ -47,6 +47,7 @@ private:
     QWidget* MakeSpin(QWidget* parent);
     QWidget* MakeList(QWidget* parent, bool hasLine);
     void Watch(QLineEdit& line);
+    bool HasLeft(Qt::FocusReason reason) const;
     bool PressKey(QKeyEvent& event);
     bool ActOn(const editor::EditKey& key, editor::EditorAction action);
     bool StayWith(const editor::EditKey& key);
@@ -70,7 +71,7 @@ private:
     int row_ = 0;
     int col_ = 0;
     int data_ = 0;          ///< the row's number when the edit began
-    qsizetype typed_ = 0;   ///< how long the text was before the last change
+    QString typed_;         ///< what the event that is on its way types
     int highlighted_ = -1;  ///< the entry that the host knows as highlighted
     bool mirrors_ = false;
 };

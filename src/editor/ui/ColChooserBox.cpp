@@ -1,7 +1,9 @@
 #include "editor/ui/ColChooserBox.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QFocusEvent>
+#include <utility>
 
 #include "editor/EditorPlace.h"
 #include "foundation/Twips.h"
@@ -44,16 +46,24 @@ void ColChooserBox::ShowColChooser(int col, const QRect& heading) {
     showPopup();
 }
 
+void ColChooserBox::showPopup() {
+    isOpen_ = true;  // the list takes the focus while it opens
+    QComboBox::showPopup();
+}
+
 // Whether there has been a choice is known once what closed the list has done its work.
 void ColChooserBox::hidePopup() {
     QComboBox::hidePopup();
-    QMetaObject::invokeMethod(this, &ColChooserBox::Leave, Qt::QueuedConnection);
+    if (std::exchange(isOpen_, false)) {
+        QMetaObject::invokeMethod(this, &ColChooserBox::Leave, Qt::QueuedConnection);
+    }
 }
 
 void ColChooserBox::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason) {
-        Leave();
+    const bool isElsewhere = QApplication::focusWidget() != nullptr;
+    if (!isOpen_ && isElsewhere) {
+        hide();
     }
 }
 
@@ -81,12 +91,8 @@ void ColChooserBox::Choose(int entry) {
 }
 
 void ColChooserBox::Leave() {
-    if (!isVisible()) {
-        return;
-    }
-    const bool hadFocus = hasFocus();
-    hide();
-    if (hadFocus) {
+    if (!isHidden()) {
+        hide();
         handlers_.Done();
     }
 }

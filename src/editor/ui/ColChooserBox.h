@@ -23,6 +23,7 @@ public:
     /// Opens over a heading, in pixels of the parent. Nothing happens where it offers nothing.
     void ShowColChooser(int col, const QRect& heading);
 
+    void showPopup() override;
     void hidePopup() override;
 
 protected:
@@ -30,6 +31,7 @@ protected:
 
 private:
     void Choose(int entry);
+    /// Hides it and gives the focus back.
     void Leave();
 
     const GridParts& parts_;
@@ -37,4 +39,5 @@ private:
     QString options_;
     std::vector<editor::ColComboItem> items_;
     int col_ = 0;
+    bool isOpen_ = false;  ///< its list is seen
 };

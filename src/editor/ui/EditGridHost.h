@@ -4,9 +4,9 @@
 /// it is interested in.
 ///
 /// Codes of keys are those of `editor::KeyCode`, 112 to 123 for F1 to F12, the code of the capital
-/// letter or the digit, else `drawing::TypedKey` of the character; the bits of
-/// @p shift are those of `mduUILib::KeyShift`. Places are in pixels of the grid. The numbers are
-/// those by which hosts know the events.
+/// letter or the digit, else `drawing::TypedKey` of the character; keys without one, such as Shift,
+/// are not told. The bits of @p shift are those of `mduUILib::KeyShift`. Places are in pixels of
+/// the grid. The numbers are those by which hosts know the events.
 class EditGridHost {
 public:
     virtual ~EditGridHost() = default;

@@ -28,14 +28,15 @@ bool GridInput::KeyPress(QKeyEvent& event) {
     if (parts_.Editing.IsEditing()) {
         return false;
     }
-    const int code = editor::HostCode(event);
-    int left = code;
-    parts_.Host.KeyDown(left, editor::HostShift(event.modifiers()));
-    if (left == 0 && code != 0) {
-        return true;
+    int code = editor::HostCode(event);
+    if (code != 0) {
+        parts_.Host.KeyDown(code, editor::HostShift(event.modifiers()));
+        if (code == 0) {
+            return true;
+        }
     }
     const int character = editor::TypedCode(event);
-    return character != 0 ? Type(character) : PressControl(event, left);
+    return character != 0 ? Type(character) : PressControl(event, code);
 }
 
 bool GridInput::Type(int character) {
@@ -83,8 +84,8 @@ bool GridInput::MoveOn() {
 
 bool GridInput::IsAtTheEnd() const {
     const int lastLine = actors_.Model.rowCount() - 1;
-    return parts_.Data.Col() >= parts_.Data.Cols() - 1 &&
-           parts_.Data.Row() >= actors_.Model.RowOf(lastLine);
+    const bool isLastCol = parts_.Data.Col() >= parts_.Data.Cols() - 1;
+    return lastLine < 0 || (isLastCol && parts_.Data.Row() >= actors_.Model.RowOf(lastLine));
 }
 
 bool GridInput::Enter(const EditKey& key) {
@@ -104,7 +105,9 @@ bool GridInput::PressButton() {
 }
 
 void GridInput::KeyRelease(QKeyEvent& event) {
-    parts_.Host.KeyUp(editor::HostCode(event), editor::HostShift(event.modifiers()));
+    if (const int code = editor::HostCode(event); code != 0) {
+        parts_.Host.KeyUp(code, editor::HostShift(event.modifiers()));
+    }
 }
 
 // What is composed begins in place of the cell's text; what is committed at once is typed.

@@ -118,6 +118,7 @@ void GridView::Apply() {
     ApplyHeights();
     ApplyWidths();
     ApplySpans();
+    updateGeometries();
 }
 
 void GridView::ApplyFrame() {
@@ -318,6 +319,15 @@ void GridView::focusInEvent(QFocusEvent* event) {
 void GridView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
     events_.FocusWent(event->reason());
+}
+
+void GridView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    const bool isOtherFont =
+        event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    if (isOtherFont && !acts_) {
+        ApplyHeights();
+    }
 }
 
 void GridView::scrollContentsBy(int dx, int dy) {

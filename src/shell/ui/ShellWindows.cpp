@@ -193,8 +193,14 @@ void ShellWindows::ShowHelp(const QString& name) {
     OpenHelp(name.isEmpty() ? u"TempolarkCentral.chm"_s : name, HelpContext::Shell);
 }
 
+// A window that asks for it without being a clock has its page in the shell's book.
 void ShellWindows::ShowClockHelp() {
-    OpenHelp(u"Tempolark.chm"_s, HelpContext::Clock);
+    const IForm* active = area_.ActiveChild();
+    if (active != nullptr && HelpContext::OfWindow(active->Name()) != 0) {
+        ShowHelp();
+    } else {
+        OpenHelp(u"Tempolark.chm"_s, HelpContext::Clock);
+    }
 }
 
 // The window in front may have a page of its own; @p otherwise is the page of a window without one.

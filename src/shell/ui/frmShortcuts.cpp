@@ -66,7 +66,8 @@ void frmShortcuts::ShowMe(const QString& title, const QString& file) {
 
 void frmShortcuts::MakeControls() {
     grid_.setObjectName(u"grdShortcut"_s);
-    grid_.View().setAccessibleName(u"Shortcuts"_s);
+    grid_.SetName(u"Shortcuts"_s);
+    grid_.CompactOnPress = false;
     grid_.Data() = editor::EditGridData({2, 2, 1, 0});
     grid_.Setup();
     grid_.View().installEventFilter(this);
@@ -124,6 +125,7 @@ void frmShortcuts::MakeMenu() {
 }
 
 void frmShortcuts::ShowSheet() {
+    lastRow_ = Row();
     grid_.Refresh();
     ShowRow();
 }
@@ -140,9 +142,9 @@ void frmShortcuts::RowColChange() {
     }
 }
 
-void frmShortcuts::MouseUp(int button, int, double, double) {
+void frmShortcuts::MouseUp(int button, int, double x, double y) {
     if (button == RightButton) {
-        menu_.popup(QCursor::pos());
+        menu_.popup(grid_.mapToGlobal(QPointF(x, y).toPoint()));
     }
 }
 

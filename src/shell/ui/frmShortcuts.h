@@ -88,5 +88,5 @@ private:
     QLabel* lblInfo_ = nullptr;
     QPushButton* cmdSave_ = nullptr;
     QPushButton* cmdClose_ = nullptr;
-    QMenu menu_;
+    QMenu menu_{this};
 };

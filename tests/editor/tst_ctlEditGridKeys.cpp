@@ -1,0 +1,516 @@
+#include <QInputMethodEvent>
+
+#include "editor/GridDesk.h"
+
+/// What keys do on the grid and in its editors.
+class tst_ctlEditGridKeys : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OpensByAKey_data();
+    void OpensByAKey();
+    void StaysShut_data();
+    void StaysShut();
+    void EndsByEnter_data();
+    void EndsByEnter();
+    void CancelsByEscape_data();
+    void CancelsByEscape();
+    void DoesNothingByTab_data();
+    void DoesNothingByTab();
+    void StaysInTheLine_data();
+    void StaysInTheLine();
+    void EndsByThePageKeys_data();
+    void EndsByThePageKeys();
+    void ClearsTheChoiceByDelete_data();
+    void ClearsTheChoiceByDelete();
+    void MovesOnAtEnter();
+    void OpensAtEnterWhereItDoesNotMoveOn();
+    void MovesOnAtTab();
+    void LetsTheFocusGoOnBehindTheLastCell();
+    void MovesByTheKeysOfTheTable();
+    void SelectsWithShift();
+    void LeavesOtherKeysToTheWindow();
+    void TellsKeysInOrder();
+    void TellsCodes_data();
+    void TellsCodes();
+    void SwallowsKeys();
+    void TellsKeysInCells();
+    void TypesWhatTheHostMakesOfIt();
+    void TakesWhatIsCommitted();
+    void TakesWhatIsComposed();
+    void TakesDeadKeysInTheLine();
+};
+
+void tst_ctlEditGridKeys::OpensByAKey_data() {
+    QTest::addColumn<int>("col");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a letter on a line") << 3 << u"x"_s << u"ctlText"_s << u"x"_s;
+    QTest::newRow("a blank on a line") << 3 << u" "_s << u"ctlText"_s << u" "_s;
+    QTest::newRow("an umlaut on a line") << 3 << u"\u00E4"_s << u"ctlText"_s << u"\u00E4"_s;
+    QTest::newRow("a percent sign, whose code is an arrow's")
+        << 3 << u"%"_s << u"ctlText"_s << u"%"_s;
+    QTest::newRow("enter on a line") << 3 << QString() << u"ctlText"_s << u"abc"_s;
+    QTest::newRow("a digit on a number") << 2 << u"7"_s << u"ctlUpDown"_s << u"7"_s;
+    QTest::newRow("enter on a number") << 2 << QString() << u"ctlUpDown"_s << u"1.50"_s;
+    QTest::newRow("a letter on a line with a list") << 4 << u"q"_s << u"ctlComboEdit"_s << u"q"_s;
+    QTest::newRow("enter on a line with a list")
+        << 4 << QString() << u"ctlComboEdit"_s << u"Blue"_s;
+    QTest::newRow("a letter on a list") << 1 << u"g"_s << u"ctlCombo"_s << u"Red"_s;
+}
+
+void tst_ctlEditGridKeys::OpensByAKey() {
+    QFETCH(int, col);
+    QFETCH(QString, typed);
+    QFETCH(QString, text);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    if (typed.isEmpty()) {
+        desk.Press(Qt::Key_Return);
+    } else {
+        desk.Type(typed);
+    }
+    QVERIFY(desk.Editor() != nullptr);
+    QTEST(desk.Editor()->objectName(), "widget");
+    QCOMPARE(desk.Grid.Editing().Editor()->Text(), text);
+    if (desk.Line() != nullptr) {
+        QCOMPARE(desk.Line()->text(), text);
+        QCOMPARE(desk.Line()->cursorPosition(), text.size());
+        QVERIFY(!desk.Line()->hasSelectedText());
+    }
+    QCOMPARE(desk.List() != nullptr && desk.List()->IsOpen(), col == GridDesk::Combo);
+    QVERIFY(desk.Editor()->hasFocus() || col == GridDesk::Combo);
+}
+
+void tst_ctlEditGridKeys::StaysShut_data() {
+    QTest::addColumn<int>("which");
+    QTest::newRow("a column without an editor") << 0;
+    QTest::newRow("a row that is struck through") << 1;
+    QTest::newRow("a row that is locked") << 2;
+    QTest::newRow("a grid that is not editable") << 3;
+    QTest::newRow("a column whose editor is hidden") << 4;
+    QTest::newRow("a list without entries") << 5;
+}
+
+void tst_ctlEditGridKeys::StaysShut() {
+    QFETCH(int, which);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, which == 0 ? 0 : which == 5 ? 1 : 3);
+    desk.Grid.Data().SetStruckThrough(1, which == 1);
+    desk.Grid.Data().SetEditableRow(1, which != 2);
+    desk.Grid.Editing().Editable = which != 3;
+    desk.Grid.Columns().SetCellCtlVisible(3, which != 4);
+    desk.Grid.Columns().ClearCellCombo(1);
+    const QString before = desk.Grid.Data().Clip();
+    desk.Type(u"x"_s);
+    desk.Press(Qt::Key_Return);
+    QVERIFY(desk.Editor() == nullptr);
+    QVERIFY(!desk.Grid.Editing().IsEditing());
+    QCOMPARE(desk.Grid.Data().Clip(), before);
+    QVERIFY(desk.View().hasFocus());
+}
+
+void tst_ctlEditGridKeys::EndsByEnter_data() {
+    QTest::addColumn<int>("col");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("cell");
+    QTest::newRow("list") << 1 << u"gg"_s << u"Green"_s;
+    QTest::newRow("spin") << 2 << u"12"_s << u"12"_s;
+    QTest::newRow("line") << 3 << u"xyz"_s << u"xyz"_s;
+    QTest::newRow("line with a list") << 4 << u"mine"_s << u"mine"_s;
+}
+
+void tst_ctlEditGridKeys::EndsByEnter() {
+    QFETCH(int, col);
+    QFETCH(QString, typed);
+    QFETCH(QString, cell);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    desk.Type(typed);
+    desk.Press(Qt::Key_Return);
+    QVERIFY(desk.Editor() == nullptr);
+    QCOMPARE(desk.Cell(1, col), cell);
+    QVERIFY(desk.Host.Events.contains(u"CellChanged 1 %1"_s.arg(col)));
+    QVERIFY(desk.Grid.Editing().RowChanges);
+    QCOMPARE(desk.Grid.Data().Row(), 1);
+    QCOMPARE(desk.Grid.Data().Col(), col);
+    QTRY_VERIFY(desk.View().hasFocus());
+}
+
+void tst_ctlEditGridKeys::CancelsByEscape_data() {
+    EndsByEnter_data();
+}
+
+void tst_ctlEditGridKeys::CancelsByEscape() {
+    QFETCH(int, col);
+    QFETCH(QString, typed);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    desk.Grid.Data().LastEditRow = 3;
+    const QString before = desk.Cell(1, col);
+    desk.Type(typed);
+    desk.Press(Qt::Key_Escape);
+    QVERIFY(desk.Editor() == nullptr);
+    QCOMPARE(desk.Cell(1, col), before);
+    QCOMPARE(desk.Grid.Data().LastEditRow, 3);
+    QVERIFY(!desk.Grid.Editing().RowChanges);
+    QVERIFY(!desk.Host.Events.contains(u"CellChanged 1 %1"_s.arg(col)));
+    QTRY_VERIFY(desk.View().hasFocus());
+}
+
+void tst_ctlEditGridKeys::DoesNothingByTab_data() {
+    EndsByEnter_data();
+}
+
+void tst_ctlEditGridKeys::DoesNothingByTab() {
+    QFETCH(int, col);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    desk.Press(Qt::Key_Return);
+    const QString before = desk.Grid.Editing().Editor()->Text();
+    desk.Press(Qt::Key_Tab);
+    QVERIFY(desk.Editor() != nullptr);
+    QCOMPARE(desk.Grid.Editing().Editor()->Text(), before);
+    QCOMPARE(desk.Grid.Data().Col(), col);
+}
+
+void tst_ctlEditGridKeys::StaysInTheLine_data() {
+    QTest::addColumn<int>("col");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("caret");
+    QTest::newRow("left in a line") << 3 << int(Qt::Key_Left) << u"abc"_s << 2;
+    QTest::newRow("home in a line") << 3 << int(Qt::Key_Home) << u"abc"_s << 0;
+    QTest::newRow("up in a line") << 3 << int(Qt::Key_Up) << u"abc"_s << 3;
+    QTest::newRow("down in a line") << 3 << int(Qt::Key_Down) << u"abc"_s << 3;
+    QTest::newRow("backspace in a line") << 3 << int(Qt::Key_Backspace) << u"ab"_s << 2;
+    QTest::newRow("delete in a line") << 3 << int(Qt::Key_Delete) << u"abc"_s << 3;
+    QTest::newRow("left in a spin") << 2 << int(Qt::Key_Left) << u"1.50"_s << 3;
+    QTest::newRow("up in a spin") << 2 << int(Qt::Key_Up) << u"2.50"_s << 4;
+    QTest::newRow("down in a spin") << 2 << int(Qt::Key_Down) << u"0.50"_s << 4;
+    QTest::newRow("left in a line with a list") << 4 << int(Qt::Key_Left) << u"Blue"_s << 3;
+    QTest::newRow("up in a line with a list") << 4 << int(Qt::Key_Up) << u"Green"_s << 5;
+    QTest::newRow("backspace in a line with a list")
+        << 4 << int(Qt::Key_Backspace) << u"Blu"_s << 3;
+}
+
+void tst_ctlEditGridKeys::StaysInTheLine() {
+    QFETCH(int, col);
+    QFETCH(int, key);
+    QFETCH(QString, text);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    desk.Press(Qt::Key_Return);
+    desk.Press(Qt::Key(key));
+    QVERIFY(desk.Line() != nullptr);
+    QCOMPARE(desk.Line()->text(), text);
+    QTEST(desk.Line()->cursorPosition(), "caret");
+    QCOMPARE(desk.Grid.Editing().Editor()->Text(), text);
+    QCOMPARE(desk.Grid.Data().Row(), 1);
+}
+
+void tst_ctlEditGridKeys::EndsByThePageKeys_data() {
+    EndsByEnter_data();
+}
+
+void tst_ctlEditGridKeys::EndsByThePageKeys() {
+    QFETCH(int, col);
+    QFETCH(QString, typed);
+    QFETCH(QString, cell);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    desk.Type(typed);
+    desk.Press(Qt::Key_PageDown);
+    QVERIFY(desk.Editor() == nullptr);
+    QCOMPARE(desk.Cell(1, col), cell);
+    QCOMPARE(desk.Grid.Data().Row(), 3);
+    QCOMPARE(desk.View().currentIndex().row(), 2);
+    QVERIFY(desk.Host.Events.contains(u"RowColChange"_s));
+}
+
+void tst_ctlEditGridKeys::ClearsTheChoiceByDelete_data() {
+    QTest::addColumn<int>("col");
+    QTest::newRow("list") << 1;
+    QTest::newRow("line with a list") << 4;
+}
+
+void tst_ctlEditGridKeys::ClearsTheChoiceByDelete() {
+    QFETCH(int, col);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, col);
+    desk.Press(Qt::Key_Return);
+    desk.Press(Qt::Key_Delete);
+    QCOMPARE(desk.List()->currentIndex(), -1);
+    QCOMPARE(desk.List()->currentText(), QString());
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Cell(1, col), QString());
+}
+
+void tst_ctlEditGridKeys::MovesOnAtEnter() {
+    GridDesk desk;
+    desk.Show();
+    desk.Grid.Editing().MoveToNextOnEnter = true;
+    desk.GoTo(1, GridDesk::Text);
+    desk.Type(u"x"_s);
+    desk.Press(Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(desk.Cell(1, 3), u"x"_s);
+    QCOMPARE(desk.Grid.Data().Col(), 4);
+    desk.Press(Qt::Key_Return);  // on the grid itself: behind the last column
+    QCOMPARE(desk.Grid.Data().Row(), 2);
+    QCOMPARE(desk.Grid.Data().Col(), 1);
+    QCOMPARE(desk.View().currentIndex(), desk.View().model()->index(1, 1));
+    QVERIFY(desk.Editor() == nullptr);
+}
+
+void tst_ctlEditGridKeys::OpensAtEnterWhereItDoesNotMoveOn() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    desk.Press(Qt::Key_Return);
+    QVERIFY(desk.Editor() != nullptr);
+    QCOMPARE(desk.Grid.Data().Col(), 3);
+}
+
+void tst_ctlEditGridKeys::MovesOnAtTab() {
+    GridDesk desk;
+    desk.Show();
+    desk.Grid.Data().SetRowHeight(2, 0);
+    desk.GoTo(1, GridDesk::Text);
+    desk.Press(Qt::Key_Tab);
+    QCOMPARE(desk.Grid.Data().Col(), 4);
+    QCOMPARE(desk.Host.Events.filter(u"RowColChange"_s).size(), 1);
+    desk.Press(Qt::Key_Tab);
+    QCOMPARE(desk.Grid.Data().Row(), 3);  // the second row is hidden
+    QCOMPARE(desk.Grid.Data().Col(), 1);
+    QVERIFY(desk.View().hasFocus());
+}
+
+void tst_ctlEditGridKeys::LetsTheFocusGoOnBehindTheLastCell() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(3, GridDesk::ComboEdit);
+    desk.Press(Qt::Key_Tab);
+    QVERIFY(desk.Beside.hasFocus());
+    QCOMPARE(desk.Grid.Data().Row(), 3);
+    QCOMPARE(desk.Host.Events.filter(u"KeyDown"_s), QStringList{u"KeyDown 9 0"_s});
+    desk.Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(desk.View().hasFocus());
+    QCOMPARE(desk.Grid.Data().Col(), 4);
+}
+
+void tst_ctlEditGridKeys::MovesByTheKeysOfTheTable() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, 1);
+    const auto place = [&desk] {
+        return std::pair(desk.Grid.Data().Row(), desk.Grid.Data().Col());
+    };
+    desk.Press(Qt::Key_Right);
+    QCOMPARE(place(), std::pair(1, 2));
+    desk.Press(Qt::Key_Down);
+    QCOMPARE(place(), std::pair(2, 2));
+    desk.Press(Qt::Key_Left);
+    QCOMPARE(place(), std::pair(2, 1));
+    desk.Press(Qt::Key_Up);
+    desk.Press(Qt::Key_Up);
+    QCOMPARE(place(), std::pair(1, 1));  // not into the heading
+    desk.Press(Qt::Key_End);
+    QCOMPARE(place(), std::pair(1, 4));
+    desk.Press(Qt::Key_PageDown);
+    QCOMPARE(place(), std::pair(3, 4));
+    desk.Press(Qt::Key_Delete);
+    QCOMPARE(place(), std::pair(3, 4));
+    QVERIFY(desk.Editor() == nullptr);
+}
+
+void tst_ctlEditGridKeys::SelectsWithShift() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(2, 3);
+    desk.Press(Qt::Key_Left, Qt::ShiftModifier);
+    desk.Press(Qt::Key_Up, Qt::ShiftModifier);
+    QCOMPARE(desk.Grid.Data().Row(), 2);
+    QCOMPARE(desk.Grid.Data().Col(), 3);
+    QCOMPARE(desk.Grid.Data().RowSel(), 1);
+    QCOMPARE(desk.Grid.Data().ColSel(), 2);
+    QCOMPARE(desk.Grid.Data().Clip(), u"1.50\tabc\r3\td"_s);
+    QVERIFY(!desk.Host.Events.contains(u"RowColChange"_s));
+    QCOMPARE(desk.Host.Events.filter(u"SelChange"_s).size(), 2);
+}
+
+void tst_ctlEditGridKeys::LeavesOtherKeysToTheWindow() {
+    struct Listener final : QObject {
+        QList<int> Keys;
+        bool eventFilter(QObject*, QEvent* event) override {
+            const bool isKey = event->type() == QEvent::KeyPress;
+            if (isKey && static_cast<QKeyEvent*>(event)->key() != Qt::Key_Control) {
+                Keys += static_cast<QKeyEvent*>(event)->key();
+            }
+            return false;
+        }
+    } listener;
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    desk.Window.installEventFilter(&listener);
+    desk.Press(Qt::Key_C, Qt::ControlModifier);
+    desk.Press(Qt::Key_F5);
+    QVERIFY(desk.Editor() == nullptr);
+    desk.Press(Qt::Key_Return);
+    desk.Press(Qt::Key_F5);
+    QCOMPARE(listener.Keys, QList<int>({Qt::Key_C, Qt::Key_F5, Qt::Key_F5}));
+    QVERIFY(desk.Editor() != nullptr);
+}
+
+void tst_ctlEditGridKeys::TellsKeysInOrder() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    desk.Press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(desk.Host.Events.first(), u"KeyDown 39 3"_s);
+    QCOMPARE(desk.Host.Events.last(), u"KeyUp 39 3"_s);
+    desk.GoTo(1, GridDesk::Number);
+    QTest::keyClick(&desk.View(), Qt::Key_X, Qt::NoModifier);
+    QCOMPARE(desk.Host.Events,
+             QStringList({u"KeyDown 88 0"_s, u"KeyPress 120"_s, u"KeyUp 88 0"_s}));
+    desk.GoTo(1, GridDesk::Text);
+    desk.Press(Qt::Key_Right);
+    QCOMPARE(desk.Host.Events, QStringList({u"KeyDown 39 0"_s, u"LeaveCell"_s, u"EnterCell"_s,
+                                            u"RowColChange"_s, u"SelChange"_s, u"KeyUp 39 0"_s}));
+}
+
+void tst_ctlEditGridKeys::TellsCodes_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QStringList>("events");
+    const auto row = [](const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers,
+                        const QStringList& events) {
+        QTest::newRow(name) << int(key) << int(modifiers) << events;
+    };
+    row("enter", Qt::Key_Return, {}, {u"KeyDown 13 0"_s, u"KeyPress 13"_s, u"KeyUp 13 0"_s});
+    row("backspace", Qt::Key_Backspace, {}, {u"KeyDown 8 0"_s, u"KeyPress 8"_s, u"KeyUp 8 0"_s});
+    row("escape", Qt::Key_Escape, {}, {u"KeyDown 27 0"_s, u"KeyPress 27"_s, u"KeyUp 27 0"_s});
+    row("delete", Qt::Key_Delete, {}, {u"KeyDown 46 0"_s, u"KeyUp 46 0"_s});
+    row("F12", Qt::Key_F12, Qt::AltModifier, {u"KeyDown 123 4"_s, u"KeyUp 123 4"_s});
+    row("ctrl and a letter", Qt::Key_K, Qt::ControlModifier, {u"KeyDown 75 2"_s, u"KeyUp 75 2"_s});
+    row("a digit", Qt::Key_5, {}, {u"KeyDown 53 0"_s, u"KeyPress 53"_s, u"KeyUp 53 0"_s});
+    row("another character", Qt::Key_Minus, {},
+        {u"KeyDown 16777261 0"_s, u"KeyPress 45"_s, u"KeyUp 16777261 0"_s});
+}
+
+void tst_ctlEditGridKeys::TellsCodes() {
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Number);
+    desk.Press(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QTEST(desk.Host.Events, "events");
+}
+
+void tst_ctlEditGridKeys::SwallowsKeys() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    desk.Host.SwallowedCode = 40;
+    desk.Press(Qt::Key_Down);
+    QCOMPARE(desk.Grid.Data().Row(), 1);
+    desk.Host.SwallowedCode = 9;
+    desk.Press(Qt::Key_Tab);
+    QCOMPARE(desk.Grid.Data().Col(), 3);
+    QVERIFY(desk.View().hasFocus());
+    desk.Host.SwallowedCode = 88;
+    desk.Host.Events.clear();
+    QTest::keyClick(&desk.View(), Qt::Key_X);
+    QVERIFY(!desk.Host.Events.contains(u"KeyPress 120"_s));
+    desk.Host.SwallowedCode = -1;
+    desk.Host.SwallowedChar = 'x';
+    desk.Type(u"x"_s);
+    QVERIFY(desk.Editor() == nullptr);
+    desk.Host.SwallowedChar = 13;
+    desk.Press(Qt::Key_Return);
+    QVERIFY(desk.Editor() == nullptr);
+    desk.Type(u"y"_s);
+    QVERIFY(desk.Editor() != nullptr);
+}
+
+void tst_ctlEditGridKeys::TypesWhatTheHostMakesOfIt() {
+    struct Capitals final : EditGridHost {
+        void KeyPress(int& ascii) override { ascii = QChar::toUpper(static_cast<char32_t>(ascii)); }
+    } host;
+    FakeServices machine;
+    ctlEditGrid grid(machine.Clock, host, nullptr);
+    grid.SetCellCtl(1, 3);
+    grid.Data().SetCol(1);
+    grid.Refresh();
+    grid.show();
+    QTest::keyClick(&grid.View(), Qt::Key_Q);
+    QCOMPARE(grid.GetComboEditText(), u"Q"_s);
+}
+
+void tst_ctlEditGridKeys::TellsKeysInCells() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(2, GridDesk::Text);
+    desk.Press(Qt::Key_Return);
+    QVERIFY(desk.Host.KeysInCells.isEmpty());
+    desk.Press(Qt::Key_Home);
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Host.KeysInCells, QStringList({u"36 2 3"_s, u"13 2 3"_s}));
+    QCOMPARE(desk.Host.Events.filter(u"KeyDown"_s), QStringList{u"KeyDown 13 0"_s});
+}
+
+// Input methods bring what they have made of several keys.
+void tst_ctlEditGridKeys::TakesWhatIsCommitted() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    QVERIFY(desk.View().testAttribute(Qt::WA_InputMethodEnabled));
+    QInputMethodEvent event;
+    event.setCommitString(u"\u6642\u8A08"_s);
+    QApplication::sendEvent(&desk.View(), &event);
+    QCOMPARE(desk.Host.Events.filter(u"KeyPress"_s), QStringList{u"KeyPress 26178"_s});
+    QCOMPARE(desk.Line()->text(), u"\u6642\u8A08"_s);
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Cell(1, 3), u"\u6642\u8A08"_s);
+}
+
+void tst_ctlEditGridKeys::TakesWhatIsComposed() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    QInputMethodEvent composing(u"to"_s, {});
+    QApplication::sendEvent(&desk.View(), &composing);
+    QVERIFY(desk.Editor() != nullptr);
+    QCOMPARE(desk.Line()->text(), QString());  // nothing is fixed yet, and "abc" is replaced
+    QInputMethodEvent done;
+    done.setCommitString(u"\u3068"_s);
+    QApplication::sendEvent(desk.Keyboard(), &done);
+    QCOMPARE(desk.Line()->text(), u"\u3068"_s);
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Cell(1, 3), u"\u3068"_s);
+}
+
+void tst_ctlEditGridKeys::TakesDeadKeysInTheLine() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    desk.Type(u"caf"_s);
+    QTest::sendKeyEvent(QTest::Click, desk.Keyboard(), Qt::Key_Dead_Acute, QString(), {});
+    QTest::sendKeyEvent(QTest::Click, desk.Keyboard(), Qt::Key_E, u"\u00E9"_s, {});
+    QCOMPARE(desk.Line()->text(), u"caf\u00E9"_s);
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Cell(1, 3), u"caf\u00E9"_s);
+}
+
+QTEST_MAIN(tst_ctlEditGridKeys)
+#include "tst_ctlEditGridKeys.moc"
