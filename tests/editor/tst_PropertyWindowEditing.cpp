@@ -148,6 +148,9 @@ private Q_SLOTS:
         QCOMPARE(desk.Cell(u"Hand Style"_s), u"3D"_s);
         QCOMPARE(desk.Info(), u"Not a value of Hand Style"_s);
         QVERIFY(!desk.Window->CanEdit(EditAction::Undo));
+        SetClipboard(u"3d"_s);  // what it has already
+        desk.Key(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(!desk.Window->CanEdit(EditAction::Undo));
         SetClipboard(u" frame\n"_s);
         desk.Key(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(desk.Cell(u"Hand Style"_s), u"Frame"_s);

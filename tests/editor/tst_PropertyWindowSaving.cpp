@@ -43,6 +43,22 @@ private Q_SLOTS:
         QCOMPARE(desk.Windows.Find(desk.Window->hwnd()), nullptr);
     }
 
+    void ClosingWhileANameIsTypedAsksForTheFile() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Key(Qt::Key_A, Qt::ControlModifier | Qt::AltModifier);
+        desk.Shell.Answers = {6, 7};
+        QVERIFY(!desk.Window->close());  // the name is that of a file
+        QCOMPARE(desk.Shell.Boxes.size(), 2);
+        QCOMPARE(desk.Stored(u"Title"_s), u"Old"_s);
+        desk.Type(u"2"_s);
+        desk.Shell.Answers = {6};
+        QVERIFY(desk.Window->close());
+        QCOMPARE(desk.Stored(u"Title"_s, u"TimeZones/Oslo2.ini"_s), u"New"_s);
+        QCOMPARE(desk.Stored(u"Title"_s), u"Old"_s);
+    }
+
     void AnOpenEditorIsTakenAlong() {
         PropertyWindowDesk desk;
         desk.Open();
