@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 #include "editor/GridDesk.h"
 #include "editor/GridLines.h"
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void SortsByTheHost();
     void SavesItsState();
     void CopiesTheSelection();
+    void ShowsOneRowAnew();
     void AppliesSwitches();
 };
 
@@ -225,6 +227,21 @@ void tst_ctlEditGridState::AppliesSwitches() {
     look.Redraw = false;
     desk.Grid.Refresh();
     QVERIFY(!desk.View().updatesEnabled());
+}
+
+void tst_ctlEditGridState::ShowsOneRowAnew() {
+    GridDesk desk;
+    desk.Grid.Data().SetRowHeight(2, 0);
+    desk.Grid.Refresh();
+    QSignalSpy changed(desk.View().model(), &QAbstractItemModel::dataChanged);
+    desk.Grid.RefreshRow(1);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed[0][0].toModelIndex(), desk.View().model()->index(0, 0));
+    QCOMPARE(changed[0][1].toModelIndex(), desk.View().model()->index(0, 4));
+    desk.Grid.RefreshRow(0);  // the heading
+    desk.Grid.RefreshRow(2);  // hidden
+    desk.Grid.RefreshRow(9);
+    QCOMPARE(changed.size(), 1);
 }
 
 QTEST_MAIN(tst_ctlEditGridState)
