@@ -104,6 +104,11 @@ void tst_ctlEditGridState::TakesItsSize() {
     QCOMPARE(desk.Grid.size(), QSize(300, 90));
     desk.Grid.SetGridWidthByCaller(450);
     QCOMPARE(desk.Grid.size(), QSize(450, 90));
+    desk.Grid.Look().BorderStyle = editor::GridLook::Frame::Single;
+    desk.Grid.Refresh();
+    QVERIFY(desk.View().frameWidth() > 0);
+    desk.Grid.SetGridSize({2'000, 2'000});
+    QCOMPARE(desk.View().viewport()->width(), 500);
 }
 
 void tst_ctlEditGridState::ShowsInfo() {
@@ -117,6 +122,10 @@ void tst_ctlEditGridState::ShowsInfo() {
     QCOMPARE(info->textFormat(), Qt::PlainText);
     QCOMPARE(info->geometry().bottom(), desk.Grid.rect().bottom());
     desk.Grid.resize(640, 200);
+    QCOMPARE(info->geometry().bottom(), 199);
+    const int oneLine = info->height();
+    desk.Grid.ShowInfo(QString(u"word "_s).repeated(60));
+    QVERIFY(info->height() > oneLine + 10);
     QCOMPARE(info->geometry().bottom(), 199);
     desk.Grid.HideInfo();
     QVERIFY(info->isHidden());
