@@ -108,7 +108,7 @@ void tst_ctlEditGridState::TakesItsSize() {
     desk.Grid.Refresh();
     QVERIFY(desk.View().frameWidth() > 0);
     desk.Grid.SetGridSize({2'000, 2'000});
-    QCOMPARE(desk.View().viewport()->width(), 500);
+    QTRY_COMPARE(desk.View().viewport()->width(), 500);
 }
 
 void tst_ctlEditGridState::ShowsInfo() {
