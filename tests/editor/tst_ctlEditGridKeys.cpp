@@ -19,6 +19,7 @@ private Q_SLOTS:
     void StaysInTheLine();
     void EndsByThePageKeys_data();
     void EndsByThePageKeys();
+    void MovesByAsManyRowsAsAreSeen();
     void ClearsTheChoiceByDelete_data();
     void ClearsTheChoiceByDelete();
     void MovesOnAtEnter();
@@ -224,6 +225,23 @@ void tst_ctlEditGridKeys::EndsByThePageKeys() {
     QVERIFY(desk.Host.Events.contains(u"RowColChange"_s));
 }
 
+void tst_ctlEditGridKeys::MovesByAsManyRowsAsAreSeen() {
+    GridDesk desk;
+    desk.Grid.Look().BorderStyle = editor::GridLook::Frame::None;
+    desk.Grid.Look().RowHeightMin = 600;  // 40 pixels
+    desk.Grid.Data().SetRows(50);
+    desk.Show();
+    desk.Grid.resize(640, 200 + desk.View().horizontalHeader()->height());
+    desk.GoTo(1, GridDesk::Text);
+    QCOMPARE(desk.View().viewport()->height(), 200);
+    desk.Press(Qt::Key_Return);
+    desk.Press(Qt::Key_PageDown);
+    QCOMPARE(desk.Grid.Data().Row(), 5);  // one of the five stays in sight
+    desk.Press(Qt::Key_Return);
+    desk.Press(Qt::Key_PageUp);
+    QCOMPARE(desk.Grid.Data().Row(), 1);
+}
+
 void tst_ctlEditGridKeys::ClearsTheChoiceByDelete_data() {
     QTest::addColumn<int>("col");
     QTest::newRow("list") << 1;
@@ -284,6 +302,7 @@ void tst_ctlEditGridKeys::MovesOnAtTab() {
 
 void tst_ctlEditGridKeys::LetsTheFocusGoOnBehindTheLastCell() {
     GridDesk desk;
+    QLineEdit last(&desk.Window);  // behind the one beside the grid
     desk.Show();
     desk.GoTo(3, GridDesk::ComboEdit);
     desk.Press(Qt::Key_Tab);

@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 #include "editor/GridDesk.h"
 #include "editor/GridLines.h"
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void SortsByTheHost();
     void SavesItsState();
     void CopiesTheSelection();
+    void ShowsOneRowAnew();
     void AppliesSwitches();
 };
 
@@ -102,6 +104,11 @@ void tst_ctlEditGridState::TakesItsSize() {
     QCOMPARE(desk.Grid.size(), QSize(300, 90));
     desk.Grid.SetGridWidthByCaller(450);
     QCOMPARE(desk.Grid.size(), QSize(450, 90));
+    desk.Grid.Look().BorderStyle = editor::GridLook::Frame::Single;
+    desk.Grid.Refresh();
+    QVERIFY(desk.View().frameWidth() > 0);
+    desk.Grid.SetGridSize({2'000, 2'000});
+    QTRY_COMPARE(desk.View().viewport()->width(), 500);
 }
 
 void tst_ctlEditGridState::ShowsInfo() {
@@ -115,6 +122,10 @@ void tst_ctlEditGridState::ShowsInfo() {
     QCOMPARE(info->textFormat(), Qt::PlainText);
     QCOMPARE(info->geometry().bottom(), desk.Grid.rect().bottom());
     desk.Grid.resize(640, 200);
+    QCOMPARE(info->geometry().bottom(), 199);
+    const int oneLine = info->height();
+    desk.Grid.ShowInfo(QString(u"word "_s).repeated(60));
+    QVERIFY(info->height() > oneLine + 10);
     QCOMPARE(info->geometry().bottom(), 199);
     desk.Grid.HideInfo();
     QVERIFY(info->isHidden());
@@ -225,6 +236,21 @@ void tst_ctlEditGridState::AppliesSwitches() {
     look.Redraw = false;
     desk.Grid.Refresh();
     QVERIFY(!desk.View().updatesEnabled());
+}
+
+void tst_ctlEditGridState::ShowsOneRowAnew() {
+    GridDesk desk;
+    desk.Grid.Data().SetRowHeight(2, 0);
+    desk.Grid.Refresh();
+    QSignalSpy changed(desk.View().model(), &QAbstractItemModel::dataChanged);
+    desk.Grid.RefreshRow(1);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed[0][0].toModelIndex(), desk.View().model()->index(0, 0));
+    QCOMPARE(changed[0][1].toModelIndex(), desk.View().model()->index(0, 4));
+    desk.Grid.RefreshRow(0);  // the heading
+    desk.Grid.RefreshRow(2);  // hidden
+    desk.Grid.RefreshRow(9);
+    QCOMPARE(changed.size(), 1);
 }
 
 QTEST_MAIN(tst_ctlEditGridState)
