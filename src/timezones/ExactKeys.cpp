@@ -38,7 +38,7 @@ bool Shows(const ZoneSpan& span, const TimeZoneRecord& record, bool isDaylight) 
 /// will have them within a year.
 bool HasKept(const platform::Services& services, const QString& id, const TimeZoneRecord& record) {
     const ExactZone zone(services.Zones, id);
-    constexpr qint64 year = 366 * 86400;
+    constexpr qint64 year = qint64{366} * 86400;
     constexpr qint64 begin = 946684800;  // 1 January 2000
     const qint64 now = services.Clock.Instant();
     bool standard = false;
