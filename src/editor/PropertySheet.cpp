@@ -79,7 +79,7 @@ std::optional<mduUILib::FilePicker> PropertySheet::PickerOf(int record) const {
 }
 
 void PropertySheet::BackToDefault(int record) {
-    if (HasRecord(Properties(), record) && defaults_.RowOf(Properties()[record]) != 0) {
+    if (HasRecord(Properties(), record) && defaults_.Gives(Properties()[record])) {
         const QString value = defaults_.ValueOf(Properties()[record]);
         records_.PutValue(record, value, Key(record).trimmed() + u" Back to Default"_s);
     }

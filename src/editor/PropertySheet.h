@@ -72,7 +72,7 @@ public:
 
     /// Takes a cell's text into its record.
     RowCommit Commit(int record, const QString& cell) { return records_.Commit(record, cell); }
-    /// Gives a record the default's value and choices; nothing for a key that the default lacks.
+    /// Gives a record the default's value and choices, where it has any (`PropertyDefaults::Gives`).
     void BackToDefault(int record);
 
     // --- what is shown -----------------------------------------------------------------------

@@ -107,6 +107,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Told(), u"Oslo: preview New=1;Face=Black"_s);
     }
 
+    void TheFirstOfTwoCounts() {
+        PreviewDesk desk;
+        ClockProperties twice = PreviewDesk::Properties();
+        mduLib::AppendProperty({}, u"Hand"_s, u"Red"_s, twice);
+        desk.Records.Replace(twice, u"Twice"_s);
+        desk.Records.MarkWritten();
+        desk.Records.Commit(3, u"Green"_s);
+        desk.Preview.Show();
+        QCOMPARE(desk.Told(), QString());
+        desk.Records.Commit(1, u"Blue"_s);
+        desk.Preview.Show();
+        QCOMPARE(desk.Told(), u"Oslo: preview Hand=Blue"_s);
+    }
+
     void AClosedClockAndTheShellAreToldNothing() {
         PreviewDesk desk;
         desk.Records.Commit(1, u"Blue"_s);

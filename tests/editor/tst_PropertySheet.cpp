@@ -49,7 +49,7 @@ public:
     void Refresh() override {}
     void LayOutAgain() override {}
     void SetProperty() override {}
-    void PreviewProperty(const QString&, const QString&) override {}
+    void PreviewProperties(const ClockProperties&) override {}
     int DrawStyle() const override { return 0; }
     void SetBackColor(int) override {}
 
@@ -183,8 +183,11 @@ void tst_PropertySheet::TheButtonFollowsWhatIsDirty() {
 
 void tst_PropertySheet::GoesBackToTheDefault() {
     SheetDesk desk;
-    desk.WriteDefault("Hands:Colour=^Red,Red,White\r\nHands:Size=3\r\n");
+    desk.WriteDefault(
+        "Hands:Colour=^Red,Red,White\r\nHands:Size=3\r\nTime Zone:Time Zone Standard Name=\r\n");
     const auto sheet = desk.Open(London);
+    sheet->BackToDefault(4);
+    QCOMPARE(sheet->Cell(4), u"London"_s);  // the default leaves it to each clock
     sheet->BackToDefault(1);
     QCOMPARE(sheet->Properties()[1].Value, u"Red,Red,White"_s);
     QCOMPARE(sheet->Records().Undo().undoText(), u"Colour Back to Default"_s);

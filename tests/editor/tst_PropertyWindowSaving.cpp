@@ -123,6 +123,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Shell.Boxes.size(), 1);
     }
 
+    void AFailureForgetsNoChange() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Clock->OnSetProperty = [&desk] { desk.Window->SetPropertyChanged(true); };
+        desk.Machine.Files.Unwritable = {desk.Clock->File};
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Boxes, QStringList());
+        desk.Machine.Files.Unwritable.clear();
+        desk.Shell.Answers = {7};
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Boxes, QStringList{QString::fromLatin1(ChangedBox)});
+    }
+
     void NoGoesOnWithWhatIsThere() {
         PropertyWindowDesk desk;
         desk.Open();

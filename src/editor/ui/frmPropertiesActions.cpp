@@ -59,7 +59,9 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
         parts_->Owner.RefreshForm(*outcome.RefreshOwner);
         parts_->Grid.InOneStep([this] { parts_->Sheet.OwnerHasTaken(); });
     }
-    parts_->Sheet.SetPropertyChanged(false);
+    if (outcome.Problem.isEmpty()) {
+        parts_->Sheet.SetPropertyChanged(false);
+    }
     parts_->Grid.Preview().Show();
     ShowState();
     Tell(outcome.Problem);
