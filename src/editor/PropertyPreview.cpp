@@ -32,7 +32,13 @@ ClockProperties PropertyPreview::Values(int highlighted, const QString& value) c
 }
 
 void PropertyPreview::Send(const ClockProperties& values) {
-    if (values != shown_ && !owner_.IsShell()) {
+    const IClock* clock = owner_.Clock();
+    const int handle = clock == nullptr ? 0 : clock->hwnd();
+    if (handle != shownBy_) {
+        shownBy_ = handle;
+        shown_ = {};
+    }
+    if (clock != nullptr && values != shown_) {
         shown_ = values;
         owner_.Preview(values);
     }

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void CanRefreshAZoneItKnows();
     void RefreshesTheZoneByItsOwner();
     void ARefreshOfTheZoneHidesNoChange();
+    void RefreshesNoZoneThatCantBeRead();
     void RefreshesTheZoneByItself();
     void OneOfManyRecords();
 };
@@ -304,6 +305,17 @@ void tst_PropertySheet::ARefreshOfTheZoneHidesNoChange() {
     QCOMPARE(sheet->Cell(4), u"Renewed"_s);
     QCOMPARE(sheet->Cell(2), u"3"_s);
     QVERIFY(sheet->ChangeQuestion());
+}
+
+void tst_PropertySheet::RefreshesNoZoneThatCantBeRead() {
+    SheetDesk desk;
+    const auto sheet = desk.Open(London);
+    ZoneClock owner(desk, sheet->Path());
+    desk.WriteZone(u"London.ini"_s, QByteArray("a\0b", 3));
+    QCOMPARE(sheet->RefreshTimeZoneDefaults(&owner),
+             sheet->Path() + u" can't be read as a property file; it is left as it is"_s);
+    QCOMPARE(owner.Log, QStringList());
+    QVERIFY(!sheet->IsDirty());
 }
 
 void tst_PropertySheet::RefreshesTheZoneByItself() {

@@ -100,8 +100,9 @@ private:
     /// The grid has got the focus.
     void CheckPropertyChanged();
     /// Asks about a change that somebody else has made to the file.
-    /// @return whether the values are those that the user has seen
+    /// @return whether the values are those that the user has seen, and may be written
     bool AskChange();
+    void RefreshTimeZone();
     /// @return whether the window may close now
     bool AskToSave();
     bool SaveAtClose();
