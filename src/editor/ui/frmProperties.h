@@ -20,8 +20,8 @@ struct PropertyWindowParts;
 ///     frame->setWidget(window);
 ///     window->ShowPropertyMDIChild("Tokyo Standard Time", clock.hwnd(), 0, 0, 9000, 7500);
 ///
-/// The owner is told by its handle and looked up at each use: a clock that has been closed in the
-/// meantime is simply no more there, and its file is still saved.
+/// A clock is looked up by the file at each use: one that has been closed in the meantime is simply
+/// no more there, and its file is still saved; one that is opened again goes on taking it over.
 class frmProperties final : public QWidget,
                             public IForm,
                             public IPropertyWindow,
