@@ -41,6 +41,15 @@ QStringList LinesOf(const QString& text) {
     return text.split(lineEnds, Qt::SkipEmptyParts);
 }
 
+/// A value alone goes to the current record of its key, where it is that.
+std::vector<PastedValue> AtCurrent(const PastedValue& pasted, const ClockProperties& properties,
+                                   int current) {
+    const bool isIts =
+        HasRecord(properties, current) &&
+        properties[current].Name.trimmed() == properties[pasted.Record].Name.trimmed();
+    return {{isIts ? current : pasted.Record, pasted.Cell}};
+}
+
 }  // namespace
 
 QString ClipText(const ClockProperties& properties, const std::vector<int>& records) {
@@ -66,13 +75,13 @@ std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties
             found->erase(found->begin());
         }
     }
-    if (lines.size() > 1 && !pasted.empty()) {
-        return pasted;
+    if (!pasted.empty()) {
+        return lines.size() > 1 ? pasted : AtCurrent(pasted.front(), properties, current);
     }
     if (!HasRecord(properties, current) || lines.isEmpty()) {
         return {};
     }
-    return {{current, pasted.empty() ? lines.join(u' ') : pasted.front().Cell}};
+    return {{current, lines.join(u' ')}};
 }
 
 }  // namespace editor

@@ -140,7 +140,7 @@ void frmProperties::ShowNewName() {
     const QString typed = sheet.Caption().mid(TitlePrefix.size()).trimmed();
     const QString problem = typed == u'_' ? QString() : sheet.NameProblem();
     const QString exists = u"There is a file of that name already"_s;
-    controls.ShowName(typed, problem.isEmpty() && sheet.OverwriteQuestion() ? exists : problem);
+    controls.ShowName(typed, sheet.NamesAFile() ? exists : problem);
 }
 
 void frmProperties::Search(const QString& words) {
@@ -209,7 +209,7 @@ void frmProperties::Unload() {
 }
 
 QString frmProperties::PropertyFile() const {
-    return parts_ && !parts_->Sheet.IsForNewFile() ? parts_->Sheet.Path() : QString();
+    return parts_ ? parts_->Sheet.Path() : QString();
 }
 
 void frmProperties::SetPropertyChanged(bool state) {

@@ -8,6 +8,7 @@
 #include "editor/ui/frmProperties.h"
 
 using namespace Qt::StringLiterals;
+using editor::SheetAnswer;
 using editor::SheetOutcome;
 using Item = PropertyMenu::Item;
 
@@ -35,7 +36,7 @@ QString ClipboardText() {
 
 void frmProperties::PressButton() {
     parts_->Grid.EndEdit();
-    if (!AskChange() || !parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
+    if (!AskChange() || !parts_->Owner.Ask(parts_->Sheet.WriteQuestion())) {
         return;
     }
     SheetOutcome outcome;
@@ -50,6 +51,9 @@ void frmProperties::Write(
     const std::function<void(int, const QString&, const ClockProperties&)>& writing) {
     PropertyGrid& grid = parts_->Grid;
     const ClockProperties present = parts_->Owner.Now();
+    if (parts_->Sheet.IsForNewFile()) {
+        grid.Preview().End();  // another file is open behind it
+    }
     grid.Preview().Forget();
     grid.InOneStep([&] { writing(grid.CurrentRecord(), grid.CurrentCell(), present); });
 }
@@ -59,7 +63,9 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
         parts_->Owner.RefreshForm(*outcome.RefreshOwner);
         parts_->Grid.InOneStep([this] { parts_->Sheet.OwnerHasTaken(); });
     }
-    parts_->Sheet.SetPropertyChanged(false);
+    if (outcome.Problem.isEmpty()) {
+        parts_->Sheet.SetPropertyChanged(false);
+    }
     parts_->Grid.Preview().Show();
     ShowState();
     Tell(outcome.Problem);
@@ -70,7 +76,7 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
 
 // The box comes behind the change of the focus.
 void frmProperties::CheckPropertyChanged() {
-    if (asking_ || !parts_->Sheet.ChangeQuestion()) {
+    if (asking_ || !parts_->Sheet.FocusQuestion()) {
         return;
     }
     QMetaObject::invokeMethod(
@@ -83,9 +89,9 @@ bool frmProperties::AskChange() {
     if (!question) {
         return true;
     }
-    const bool refresh = parts_->Owner.Ask(question);
-    Refill([&] { return parts_->Sheet.AnswerChange(refresh); });
-    return !refresh;
+    const SheetAnswer answer = parts_->Owner.AnswerTo(*question);
+    Refill([&] { return parts_->Sheet.AnswerChange(answer); });
+    return answer == SheetAnswer::No;
 }
 
 void frmProperties::Refill(const std::function<QString()>& action) {
@@ -111,15 +117,18 @@ bool frmProperties::AskToSave() {
     const QScopedValueRollback guard(asking_, true);
     parts_->Grid.EndEdit();
     const auto question = parts_->Sheet.CloseQuestion();
-    if (question && parts_->Owner.Ask(question)) {
-        return SaveAtClose();
+    const SheetAnswer answer = question ? parts_->Owner.AnswerTo(*question) : SheetAnswer::No;
+    if (answer == SheetAnswer::Yes) {
+        return AskChange() && SaveAtClose();
     }
-    parts_->Grid.Preview().End();
-    return true;
+    if (answer == SheetAnswer::No) {
+        parts_->Grid.Preview().End();
+    }
+    return answer == SheetAnswer::No;
 }
 
 bool frmProperties::SaveAtClose() {
-    if (!parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
+    if (!parts_->Owner.Ask(parts_->Sheet.WriteQuestion())) {
         return false;
     }
     SheetOutcome outcome;
@@ -158,11 +167,7 @@ void frmProperties::RunItem(Item item) {
         case Item::RefreshByDefault:
             return Refill([&] { return sheet.RefreshFromDefault(); });
         case Item::RefreshTimeZoneDefaults:
-            parts_->Grid.Preview().End();  // what is only shown must not be written
-            return Refill([&] {
-                sheet.RefreshTimeZoneDefaults(parts_->Owner.Clock());
-                return QString();
-            });
+            return RefreshTimeZone();
         case Item::Close:
             return Unload();
         case Item::BackToDefault:
@@ -174,6 +179,15 @@ void frmProperties::RunItem(Item item) {
         default:
             return;
     }
+}
+
+void frmProperties::RefreshTimeZone() {
+    if (!AskChange() ||
+        (parts_->Owner.Clock() != nullptr && !parts_->Owner.Ask(parts_->Sheet.WriteQuestion()))) {
+        return;
+    }
+    parts_->Grid.Preview().End();  // what is only shown must not be written
+    Refill([this] { return parts_->Sheet.RefreshTimeZoneDefaults(parts_->Owner.Clock()); });
 }
 
 PropertyMenu::State frmProperties::MenuState() const {
