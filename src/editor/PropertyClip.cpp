@@ -50,6 +50,21 @@ std::vector<PastedValue> AtCurrent(const PastedValue& pasted, const ClockPropert
     return {{isIts ? current : pasted.Record, pasted.Cell}};
 }
 
+/// The values of the lines that begin with a key of the file.
+std::vector<PastedValue> ValuesOfKeys(const QStringList& lines, const ClockProperties& properties) {
+    QHash<QString, std::vector<int>> records = RecordsByKey(properties);
+    std::vector<PastedValue> pasted;
+    for (const QString& line : lines) {
+        const std::optional<ClipLine> read = ReadLine(line);
+        const auto found = read ? records.find(read->Key) : records.end();
+        if (found != records.end() && !found->empty()) {
+            pasted.push_back({found->front(), read->Value});
+            found->erase(found->begin());
+        }
+    }
+    return pasted;
+}
+
 }  // namespace
 
 QString ClipText(const ClockProperties& properties, const std::vector<int>& records) {
@@ -64,17 +79,8 @@ QString ClipText(const ClockProperties& properties, const std::vector<int>& reco
 
 std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties& properties,
                                       int current) {
-    QHash<QString, std::vector<int>> records = RecordsByKey(properties);
-    std::vector<PastedValue> pasted;
     const QStringList lines = LinesOf(text);
-    for (const QString& line : lines) {
-        const std::optional<ClipLine> read = ReadLine(line);
-        const auto found = read ? records.find(read->Key) : records.end();
-        if (found != records.end() && !found->empty()) {
-            pasted.push_back({found->front(), read->Value});
-            found->erase(found->begin());
-        }
-    }
+    const std::vector<PastedValue> pasted = ValuesOfKeys(lines, properties);
     if (!pasted.empty()) {
         return lines.size() > 1 ? pasted : AtCurrent(pasted.front(), properties, current);
     }
@@ -82,6 +88,12 @@ std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties
         return {};
     }
     return {{current, lines.join(u' ')}};
+}
+
+int LinesWithoutRecord(const QString& text, const ClockProperties& properties) {
+    const QStringList lines = LinesOf(text);
+    const auto pasted = static_cast<int>(ValuesOfKeys(lines, properties).size());
+    return pasted == 0 ? 0 : static_cast<int>(lines.size()) - pasted;
 }
 
 }  // namespace editor

@@ -33,4 +33,8 @@ struct PastedValue {
 std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties& properties,
                                       int current);
 
+/// How many lines of such a text go nowhere: those without a key of the file, where another line
+/// has one, and those of a key that comes more often than the file has it.
+int LinesWithoutRecord(const QString& text, const ClockProperties& properties);
+
 }  // namespace editor

@@ -106,7 +106,7 @@ public:
     bool Edits(const QString& path) const { return !path.isEmpty() && Path() == path; }
 
     // --- the name of a new zone ----------------------------------------------------------------
-    /// A key of the title (`drawing::EditTitleKey`, `NameKey`). @return true for the Enter that
+    /// A key of the title, see `drawing::EditTitleKey`. @return true for the Enter that
     /// ends a name: the button is to be pressed.
     bool TitleKey(int keyCode);
     /// Turns the flow of a new file over, or back to the file that was open: the default file in a
@@ -126,7 +126,9 @@ public:
     /// @param ownerNow the owner's properties as they stand (`IClock::SetProperty`): what the user
     /// has not edited of the window's place is taken from there, or from the file for an empty
     /// array
-    SheetOutcome Press(int record, const QString& cell, const ClockProperties& ownerNow);
+    /// @param seen what the button has told before an edit ended with this press
+    SheetOutcome Press(int record, const QString& cell, const ClockProperties& ownerNow,
+                       std::optional<ButtonTag> seen = std::nullopt);
     /// Asked before the window closes; nothing when there is nothing to save.
     std::optional<SheetQuestion> CloseQuestion() const;
     /// The answer Yes. With a `Problem` the window had better stay.

@@ -113,9 +113,9 @@ std::optional<SheetQuestion> PropertySheet::WriteQuestion() const {
     return std::nullopt;
 }
 
-SheetOutcome PropertySheet::Press(int record, const QString& cell,
-                                  const ClockProperties& ownerNow) {
-    const ButtonTag held = Button();  // what the user has seen
+SheetOutcome PropertySheet::Press(int record, const QString& cell, const ClockProperties& ownerNow,
+                                  std::optional<ButtonTag> seen) {
+    const ButtonTag held = seen.value_or(Button());  // what the user has seen
     Commit(record, cell);
     if (forNewFile_) {
         return Create();

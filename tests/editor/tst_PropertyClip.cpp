@@ -76,6 +76,20 @@ private Q_SLOTS:
         QTEST(Pasted(text, current), "pasted");
     }
 
+    void CountsWhatGoesNowhere_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("lost");
+        QTest::newRow("a value") << u"Blue"_s << 0;
+        QTest::newRow("lines that are one value") << u"one\ntwo"_s << 0;
+        QTest::newRow("rows") << u"Face\tBlack\nNote\tc"_s << 0;
+        QTest::newRow("a key that is not there") << u"Face\tBlack\nno key\tc"_s << 1;
+        QTest::newRow("a key too often") << u"Note\ta\nd\nNote\tb\n"_s << 2;
+    }
+    void CountsWhatGoesNowhere() {
+        QFETCH(QString, text);
+        QTEST(editor::LinesWithoutRecord(text, Properties()), "lost");
+    }
+
     void WhatIsCopiedComesBack() {
         const QString text = editor::ClipText(Properties(), {1, 2, 3, 4});
         QCOMPARE(Pasted(text, 2), u"1=Red;2=White;3=Green;4=a\tb"_s);

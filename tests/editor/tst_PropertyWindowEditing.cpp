@@ -76,6 +76,34 @@ private Q_SLOTS:
         QVERIFY(desk.Window->CanEdit(EditAction::Redo));
     }
 
+    void AnOpenLineKeepsItsOwnUndo() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Stay Time"_s, u"7"_s);
+        desk.GoTo(u"Title"_s);
+        desk.Key(Qt::Key_Backspace);
+        QVERIFY(desk.Grid().Editing().IsEditing());
+        for (const int key : {Qt::Key_Y, Qt::Key_Z, Qt::Key_F}) {
+            QTest::keyClick(desk.Window.get(), static_cast<Qt::Key>(key), Qt::ControlModifier);
+            QVERIFY(desk.Grid().Editing().IsEditing());
+        }
+        QCOMPARE(desk.Cell(u"Stay Time"_s), u"7"_s);
+        QVERIFY(desk.View().isAncestorOf(desk.Focus()));
+    }
+
+    void ADefaultBringsItsListAlong() {
+        PropertyWindowDesk desk;
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile), "Hand Style=Flat\r\n");
+        desk.Publish(desk.Clock->File);
+        desk.Open();
+        desk.GoTo(u"Hand Style"_s);
+        desk.Run(u"BackToDefault"_s);
+        QCOMPARE(desk.Cell(u"Hand Style"_s), u"3D"_s);
+        desk.Key(Qt::Key_Return);
+        QCOMPARE(desk.Grid().Columns().Items(1), QStringList({u"Line"_s, u"Frame"_s, u"3D"_s}));
+        QVERIFY(desk.Grid().GetComboCtl(1) != nullptr);
+    }
+
     void ApplyKeepsWhatCanBeUndone() {
         PropertyWindowDesk desk;
         desk.Open();

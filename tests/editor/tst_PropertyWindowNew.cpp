@@ -56,6 +56,43 @@ private Q_SLOTS:
         QCOMPARE(desk.Shell.Boxes, QStringList());
     }
 
+    void LaunchTakesAnOpenEditAlong_data() {
+        QTest::addColumn<bool>("takesFocus");
+        QTest::newRow("by the focus that goes to the button") << true;
+        QTest::newRow("by the press") << false;
+    }
+    void LaunchTakesAnOpenEditAlong() {
+        QFETCH(bool, takesFocus);
+        PropertyWindowDesk desk;
+        desk.OpenForNew();
+        desk.Type(u"Lima"_s);
+        desk.Key(Qt::Key_Return);
+        desk.GoTo(u"Title"_s);
+        desk.Type(u"Andes"_s);
+        QVERIFY(desk.Grid().Editing().IsEditing());
+        if (!takesFocus) {
+            desk.Button().setFocusPolicy(Qt::NoFocus);
+        }
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Launched, QStringList{u"Lima"_s});
+        QCOMPARE(desk.Stored(u"Title"_s, u"TimeZones/Lima.ini"_s), u"Andes"_s);
+        QVERIFY(!desk.Window->isVisible());
+    }
+
+    void TheKeyOfTheMinusTypesALine() {
+        PropertyWindowDesk desk;
+        desk.OpenForNew();
+        desk.Type(u"a"_s);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Minus, u"-"_s, Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Underscore, u"_"_s,
+                            Qt::ShiftModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Minus, u"-"_s, Qt::KeypadModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_B, u"B"_s, Qt::ShiftModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Udiaeresis, u"\u00fc"_s,
+                            Qt::NoModifier);
+        QCOMPARE(desk.Window->windowTitle(), u"Properties - a_--B\u00fc _"_s);
+    }
+
     void AClockThatCannotBeLaunchedLeavesTheWindow() {
         PropertyWindowDesk desk;
         desk.Shell.LaunchHandle = 0;

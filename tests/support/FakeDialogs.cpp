@@ -18,6 +18,7 @@ QString FakeDialogs::OpenFile(const QString& title, const QString& folder, const
     if (FileAnswers.isEmpty()) {
         qFatal("a file picker that the test did not expect: %s", qPrintable(title));
     }
+    OnPicker();
     return FileAnswers.takeFirst();
 }
 
@@ -29,6 +30,7 @@ int FakeDialogs::PickColour(int) {
     if (ColourAnswers.empty()) {
         qFatal("a colour picker that the test did not expect");
     }
+    OnPicker();
     const int answer = ColourAnswers.front();
     ColourAnswers.erase(ColourAnswers.begin());
     return answer;

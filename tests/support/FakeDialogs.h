@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 #include "platform/Dialogs.h"
@@ -19,7 +20,8 @@ public:
     QStringList FileAnswers;      ///< taken from the front, by both file pickers
     QStringList PickerFolders;    ///< the folders the pickers began in
     QStringList PickerTitles;
-    std::vector<int> ColourAnswers;  ///< taken from the front
+    std::vector<int> ColourAnswers;          ///< taken from the front
+    std::function<void()> OnPicker = [] {};  ///< while a picker stands open
 
     int MessageBox(const QString& text, int flags, const QString& title) override;
     QString OpenFile(const QString& title, const QString& folder, const QString& filter) override;

@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QScopedValueRollback>
 
 #include "editor/ui/PropertyWindowParts.h"
@@ -35,15 +36,35 @@ QString ClipboardText() {
 }  // namespace
 
 void frmProperties::PressButton() {
+    const editor::ButtonTag seen = shown_;
     parts_->Grid.EndEdit();
-    if (!AskChange() || !parts_->Owner.Ask(parts_->Sheet.WriteQuestion())) {
+    if (!AskChange() || !Ask(parts_->Sheet.WriteQuestion())) {
         return;
     }
     SheetOutcome outcome;
     Write([&](int record, const QString& cell, const ClockProperties& present) {
-        outcome = parts_->Sheet.Press(record, cell, present);
+        outcome = parts_->Sheet.Press(record, cell, present, seen);
     });
     Follow(outcome);
+}
+
+// A window that is closed from within its own box would be gone when that is answered.
+void frmProperties::RunBox(const std::function<void()>& box) {
+    if (asking_) {
+        return;
+    }
+    const QPointer<QWidget> standing(this);
+    asking_ = true;
+    box();
+    if (standing) {
+        asking_ = false;
+    }
+}
+
+bool frmProperties::Ask(const std::optional<editor::SheetQuestion>& question) {
+    bool isYes = false;
+    RunBox([&] { isYes = parts_->Owner.Ask(question); });
+    return isYes;
 }
 
 // The owner lays out its own look when it is asked for its properties.
@@ -84,7 +105,12 @@ void frmProperties::CheckPropertyChanged() {
 }
 
 bool frmProperties::AskChange() {
-    const QScopedValueRollback guard(asking_, true);
+    bool goesOn = false;
+    RunBox([&] { goesOn = SettleChange(); });
+    return goesOn;
+}
+
+bool frmProperties::SettleChange() {
     const auto question = parts_->Sheet.ChangeQuestion();
     if (!question) {
         return true;
@@ -119,7 +145,7 @@ bool frmProperties::AskToSave() {
     const auto question = parts_->Sheet.CloseQuestion();
     const SheetAnswer answer = question ? parts_->Owner.AnswerTo(*question) : SheetAnswer::No;
     if (answer == SheetAnswer::Yes) {
-        return AskChange() && SaveAtClose();
+        return SettleChange() && SaveAtClose();
     }
     if (answer == SheetAnswer::No) {
         parts_->Grid.Preview().End();
@@ -265,17 +291,32 @@ void frmProperties::Cut() {
     for (const int record : parts_->Grid.SelectedRecords()) {
         empty.push_back({record, {}});
     }
-    parts_->Grid.PutCells(empty, u"Cut"_s);
+    const QStringList kept = parts_->Grid.PutCells(empty, u"Cut"_s);
+    if (!kept.isEmpty()) {
+        Tell(u"Not cut, since it can't be empty: "_s + kept.join(u", "_s));
+    }
 }
 
 void frmProperties::Paste() {
     parts_->Grid.EndEdit();
-    const auto cells = editor::PastedValues(ClipboardText(), parts_->Sheet.Properties(),
-                                            parts_->Grid.CurrentRecord());
+    const QString text = ClipboardText();
+    const auto cells =
+        editor::PastedValues(text, parts_->Sheet.Properties(), parts_->Grid.CurrentRecord());
+    const int lost = editor::LinesWithoutRecord(text, parts_->Sheet.Properties());
     const QStringList refused = parts_->Grid.PutCells(cells, u"Paste"_s);
+    QStringList problems;
     if (!refused.isEmpty()) {
-        Tell(u"Not a value of "_s + refused.join(u", "_s));
+        problems += u"Not a value of "_s + refused.join(u", "_s);
     }
+    if (lost > 0) {
+        problems +=
+            lost == 1 ? u"1 line has no row here"_s : u"%1 lines have no row here"_s.arg(lost);
+    }
+    if (std::any_of(cells.begin(), cells.end(),
+                    [](const auto& c) { return c.Cell.contains(u','); })) {
+        problems += editor::CommaProblem;
+    }
+    Tell(problems.join(u"; "_s));
 }
 
 void frmProperties::Find() {
