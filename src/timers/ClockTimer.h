@@ -43,6 +43,9 @@ struct ClockTimer {
     TimerDue Due = {};
 
     bool IsPermanent() const { return Permanent == QLatin1StringView("P"); }
+    bool HasAction() const {
+        return !TimerAction.isEmpty() && TimerAction != QLatin1StringView("None");
+    }
     /// Whether a new timer may take the slot.
     bool IsFree() const { return !OnDial && !IsPermanent(); }
 
