@@ -88,6 +88,8 @@ public:
     QString ClockName() const;  ///< as the timer file is named; empty without one
     /// Whether the last save failed, so that the file tells of other timers than these.
     bool IsUnsaved() const { return unsaved_; }
+    /// Whether that is to be asked about before they are lost: of timers that are kept as instants.
+    bool AsksBeforeItLoses() const { return unsaved_ && lateTimers_.IsOn(); }
     /// False when `LoadTimers` found a file that it could not read as a text.
     bool FileWasRead() const { return unreadPath_.isEmpty(); }
 

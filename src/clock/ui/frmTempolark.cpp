@@ -10,6 +10,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
 #include "foundation/PropertyLookup.h"
+#include "platform/Dialogs.h"
 #include "platform/ZoneDatabase.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
@@ -20,6 +21,8 @@ using clockcore::ClockState;
 namespace {
 
 constexpr int FirstShot = 10;  // milliseconds until the first tick
+constexpr int YesNoExclamation = 4 + 48 + 256;
+constexpr int YesPressed = 6;
 
 void LayOutTimerMarks(mduUILib::ControlArray& marks) {
     marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
@@ -220,7 +223,9 @@ void frmTempolark::Activate() {
 // shows in this tick; what goes by the hour alone follows in the next.
 void frmTempolark::Tick() {
     const bool zoneChanged = data_.State.IsDrawn() && zoneFollow_.Follow();
+    ticks_ = true;
     tick_.Tick();
+    ticks_ = false;
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
         timersOnDial_.Follow();
@@ -230,7 +235,24 @@ void frmTempolark::Tick() {
     }
 }
 
+// A tick asks nobody.
+bool frmTempolark::MayEnd() {
+    if (data_.State == ClockState::Closing || ticks_ || !timers_.AsksBeforeItLoses()) {
+        return true;
+    }
+    timersOnDial_.FinishMessage();
+    timers_.SaveTimer(data_.TimerFile);
+    return !timers_.AsksBeforeItLoses() ||
+           program_.Services.Dialog.MessageBox(
+               data_.TimerFile + u" can't be written.\n\nClose the clock and lose its timers?"_s,
+               YesNoExclamation, placement_.Caption()) == YesPressed;
+}
+
 void frmTempolark::closeEvent(QCloseEvent* event) {
+    if (!MayEnd()) {
+        event->ignore();
+        return;
+    }
     const ClockState before = data_.State;
     data_.State = ClockState::Closing;
     if (before == ClockState::Closing) {
