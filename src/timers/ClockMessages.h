@@ -56,8 +56,9 @@ public:
     void PostponeAction(int minutes);
     /// Forgets the pending action and hides its marks. The message runs on.
     void CancelAction();
-    /// Asks, when a countdown has ended, whether its action is to run; without an asker it is.
-    void AskBeforeActions(std::function<bool()> mayRun) { mayRun_ = std::move(mayRun); }
+    /// Tells, when a countdown has ended, somebody who may see to its action: where that gives true
+    /// nothing more is done for it.
+    void HandEndsTo(std::function<bool()> seesToIt) { seesToIt_ = std::move(seesToIt); }
     /// Carries an action out at once, without a countdown.
     void RunAction(const QString& action);
     /// Gives the text of the action that counts down a colour, by its name, and the action that
@@ -103,7 +104,7 @@ private:
 
     TimerContext context_;
     std::function<void(const QString&)> runAction_;
-    std::function<bool()> mayRun_;
+    std::function<bool()> seesToIt_;
     Watcher watcher_;
     QString pendingMessage_;
     QString messageExpiry_ = QStringLiteral("0");

@@ -126,7 +126,7 @@ void ClockMessages::SpeakNumber(qint64 left) {
 void ClockMessages::FinishAction() {
     const QString action = pendingAction_;
     CancelAction();
-    if (!mayRun_ || mayRun_()) {
+    if (!seesToIt_ || !seesToIt_()) {
         RunAction(action);
     }
 }

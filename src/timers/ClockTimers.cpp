@@ -175,6 +175,7 @@ void ClockTimers::PlaceTimerMark(int slot, const QString& time) {
     if (!parsed) {
         return;
     }
+    lateTimers_.FollowClock();
     ClockTimer timer = Timer(slot);
     timer.TimerTime = HourMinute(*parsed);
     ChangeTimer(slot, timer);
@@ -191,6 +192,7 @@ void ClockTimers::PlaceTimerMarks() {
 }
 
 int ClockTimers::SetNewTimer(const QString& time) {
+    lateTimers_.FollowClock();
     const int slot = GetFreeTimerSlot();
     ClockTimer timer;
     timer.SoundFile = NewTimersSound();

@@ -45,6 +45,7 @@ void ClockTimers::TakeDeferredLines() {
 
 void ClockTimers::SetMoment(int slot, const QDateTime& reading) {
     if (lateTimers_.IsOn()) {
+        lateTimers_.FollowClock();
         ClockTimer timer = Timer(slot);
         timer.TimerTime = HourMinute(reading.time());
         timer.Due = {InstantOf(reading, lateTimers_.Times().Offset()), true, false};

@@ -88,11 +88,10 @@ ClockTimer KeptTimes::Completed(const ClockTimer& before, const ClockTimer& time
     return result;
 }
 
-// What was due already stays so.
 QDateTime KeptTimes::Anew(const ClockTimer& timer) const {
     const QDateTime& due = timer.Due.At;
     const std::optional<QTime> time = TimeOfText(timer.TimerTime, due.date().year());
-    if (!time || timer.Due.Acting || due <= Present().Instant) {
+    if (!time || timer.Due.Acting) {
         return due;
     }
     const ClockOffset offset = Offset();

@@ -17,7 +17,7 @@ LateActions::LateActions(const TimerContext& context, ClockTimers& timers, Clock
       messages_(messages),
       times_(times),
       tell_(std::move(tell)) {
-    messages_.AskBeforeActions([this] { return MayRun(); });
+    messages_.HandEndsTo([this] { return SeeToTheEnd(); });
 }
 
 void LateActions::Check(const ClockMoment& now) {
@@ -58,7 +58,7 @@ void LateActions::Follow() {
         counting_ = 0;
         messages_.CancelAction();
     } else if (messages_.PendingAction().isEmpty()) {
-        End(std::exchange(counting_, 0), TimerHappening::ActionRefused);
+        End(std::exchange(counting_, 0), false);
     } else if (messages_.ActionDeadline() != deadline_) {
         deadline_ = messages_.ActionDeadline();
         const auto end = mduAPILib::ParseMoment(deadline_, 0);
@@ -85,15 +85,14 @@ void LateActions::Start(int slot) {
 }
 
 // The end was lived through, or it was not: then the next check asks.
-bool LateActions::MayRun() {
+bool LateActions::SeeToTheEnd() {
     const int slot = std::exchange(counting_, 0);
     if (slot == 0) {
-        return true;
-    }
-    if (timers_.Timer(slot).Due.At.secsTo(times_.Present().Instant) >= SecondsOfMinute) {
         return false;
     }
-    End(slot, TimerHappening::ActionRun);
+    if (timers_.Timer(slot).Due.At.secsTo(times_.Present().Instant) < SecondsOfMinute) {
+        End(slot, true);
+    }
     return true;
 }
 
@@ -117,17 +116,19 @@ void LateActions::Answer(int slot, const ClockTimer& timer, bool yes) {
     if (timers_.Timer(slot) != timer || context_.Host.IsClosing()) {
         return;
     }
-    End(slot, yes ? TimerHappening::ActionRun : TimerHappening::ActionRefused);
-    if (yes) {
-        messages_.RunAction(timer.TimerAction);
-    }
+    End(slot, yes);
 }
 
-void LateActions::End(int slot, TimerHappening happening) {
+// Nothing is written between the save and the action, so that a program that is killed has done
+// both or will do both.
+void LateActions::End(int slot, bool runs) {
     const ClockTimer timer = timers_.Timer(slot);
     timers_.SpendTimer(slot);
     timers_.SaveTimer(timers_.Path());
-    tell_(happening, timer);
+    if (runs) {
+        messages_.RunAction(timer.TimerAction);
+    }
+    tell_(runs ? TimerHappening::ActionRun : TimerHappening::ActionRefused, timer);
 }
 
 QDateTime LateActions::ReadingAt(const QDateTime& instant) const {

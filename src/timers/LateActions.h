@@ -40,8 +40,8 @@ private:
     void Start(int slot);
     void Ask(int slot, const ClockMoment& now);
     void Answer(int slot, const ClockTimer& timer, bool yes);
-    bool MayRun();
-    void End(int slot, TimerHappening happening);
+    bool SeeToTheEnd();
+    void End(int slot, bool runs);
     QDateTime ReadingAt(const QDateTime& instant) const;
 
     TimerContext context_;

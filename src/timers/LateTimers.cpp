@@ -48,7 +48,11 @@ LateTimers::LateTimers(const TimerContext& context, ClockTimers& timers, ClockMe
 
 void LateTimers::ReadKeys() {
     const bool wasOn = IsOn();
-    if (times_.ReadKeys() && IsOn() != wasOn) {
+    const bool isNew = times_.ReadKeys();
+    if (IsOn()) {
+        FollowOffset(times_.Present());
+    }
+    if (isNew && IsOn() != wasOn) {
         timers_.KeepAnew();
     }
     mustLook_ = true;

@@ -32,6 +32,8 @@ public:
 
     /// Fires what has come due by now, and looks after the actions.
     void Check();
+    /// Brings all timers up to the clock's present offset, before one is given another time.
+    void FollowClock();
     /// A timer has been changed: the next check looks at all of them.
     void Changed() { mustLook_ = true; }
     /// A line is kept for a later day, which is due then.

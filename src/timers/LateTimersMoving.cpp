@@ -15,6 +15,12 @@ constexpr int LargestChange = 10'800;
 
 }  // namespace
 
+void LateTimers::FollowClock() {
+    if (IsOn() && last_.isValid()) {
+        FollowOffset(times_.Present());
+    }
+}
+
 // The order matters: what has moved is looked at by the moment of the last check.
 void LateTimers::FollowOffset(const ClockMoment& now) {
     const int ahead = static_cast<int>(now.Instant.secsTo(now.Reading));
@@ -48,7 +54,8 @@ void LateTimers::MoveAll(const ClockMoment& now, bool isOtherZone) {
 // put forward over a timer, that is the moment of the change.
 QDateTime LateTimers::Moved(const ClockTimer& timer, const ClockMoment& now,
                             bool isOtherZone) const {
-    if (timer.Due.At <= last_) {
+    const QDateTime lived = std::min(last_, now.Instant);
+    if (timer.Due.At <= lived) {
         return timer.Due.At;
     }
     const qint64 ahead = now.Instant.secsTo(now.Reading);
@@ -56,7 +63,7 @@ QDateTime LateTimers::Moved(const ClockTimer& timer, const ClockMoment& now,
     if (isOtherZone && at < now.Instant) {
         return times_.NextDue(timer, now.Instant).At;
     }
-    return std::max(at, last_);
+    return std::max(at, lived);
 }
 
 // The clock was set back. A permanent timer comes each day (or each half of it), so one that would

@@ -53,7 +53,7 @@ struct LateDesk {
     FakeServices Machine;
     TrueClock Clock;
     StandingQuestions Questions;
-    platform::Services Services = Machine.Services.With(Clock, Questions);
+    platform::Services Services;
     ModuleState Module;
     TimeZoneRecord Zone;
     FakeTimerHost Host;
@@ -75,8 +75,11 @@ struct LateDesk {
     };
     std::unique_ptr<Program> Running;
 
+    /// @param files those of the machine; its own where none are given
     explicit LateDesk(const QString& late = QStringLiteral("Show"),
-                      const QString& clock = QStringLiteral("24")) {
+                      const QString& clock = QStringLiteral("24"), platform::Files* files = nullptr)
+        : Services(Machine.Services.With(Clock, Questions,
+                                         files == nullptr ? Machine.Services.FileSystem : *files)) {
         Module.Paths.AppFolder = Machine.AppFolder();
         Zone.StandardName = QStringLiteral("London");
         Set(QStringLiteral("Speak Timer Message"), QStringLiteral("No"));

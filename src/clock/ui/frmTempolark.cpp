@@ -10,7 +10,6 @@
 #include "foundation/NamedValues.h"
 #include "foundation/OpenClocks.h"
 #include "foundation/PropertyLookup.h"
-#include "platform/Dialogs.h"
 #include "platform/ZoneDatabase.h"
 #include "timezones/ZoneKeys.h"
 #include "timezones/ZoneSources.h"
@@ -21,8 +20,6 @@ using clockcore::ClockState;
 namespace {
 
 constexpr int FirstShot = 10;  // milliseconds until the first tick
-constexpr int YesNoExclamation = 4 + 48 + 256;
-constexpr int YesPressed = 6;
 
 void LayOutTimerMarks(mduUILib::ControlArray& marks) {
     marks(1).Picture = drawing::GetStockPicture(drawing::StockPicture::TimerMark);
@@ -243,9 +240,7 @@ bool frmTempolark::MayEnd() {
     timersOnDial_.FinishMessage();
     timers_.SaveTimer(data_.TimerFile);
     return !timers_.AsksBeforeItLoses() ||
-           program_.Services.Dialog.MessageBox(
-               data_.TimerFile + u" can't be written.\n\nClose the clock and lose its timers?"_s,
-               YesNoExclamation, placement_.Caption()) == YesPressed;
+           timersOnDial_.Dialogs().MayLoseTimers(data_.TimerFile, placement_.Caption());
 }
 
 void frmTempolark::closeEvent(QCloseEvent* event) {
