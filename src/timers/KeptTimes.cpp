@@ -2,6 +2,7 @@
 
 #include "foundation/PropertyLookup.h"
 #include "timers/TimerTail.h"
+#include "timezones/ExactZone.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,12 +47,19 @@ bool KeptTimes::ReadKeys() {
 }
 
 ClockMoment KeptTimes::Present() const {
-    const platform::WallClock& clock = context_.Services.Clock;
-    const qint64 instant = clock.Now().toSecsSinceEpoch() - clock.OffsetFromGmt();
-    return {context_.ClockTime(), QDateTime::fromSecsSinceEpoch(instant, Qt::UTC)};
+    return {context_.ClockTime(),
+            QDateTime::fromSecsSinceEpoch(context_.Services.Clock.Instant(), Qt::UTC)};
+}
+
+bool KeptTimes::KnowsItsZone() const {
+    return !context_.Zone.ExactId.isEmpty();
 }
 
 ClockOffset KeptTimes::Offset() const {
+    if (KnowsItsZone()) {
+        return [zone = mduTimeZones::ExactZone(context_.Services.Zones, context_.Zone.ExactId)](
+                   const QDateTime& instant) { return zone.At(instant.toSecsSinceEpoch()).Offset; };
+    }
     const ClockMoment now = Present();
     return [ahead = static_cast<int>(now.Instant.secsTo(now.Reading))](const QDateTime&) {
         return ahead;

@@ -29,7 +29,10 @@ public:
 
     /// What the clock shows, and the instant.
     ClockMoment Present() const;
-    /// How far the clock is ahead of GMT: as far as at present, at every instant.
+    /// Whether the clock's zone is exact, so that its offset is known at every instant.
+    bool KnowsItsZone() const;
+    /// How far the clock is ahead of GMT; where its zone is not exact, as far as at present at
+    /// every instant.
     ClockOffset Offset() const;
 
     /// What a time means that was picked on the twelve hours of the dial: with 24 hours its next

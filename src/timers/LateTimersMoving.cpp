@@ -27,7 +27,8 @@ void LateTimers::FollowOffset(const ClockMoment& now) {
     const QString& zone = context_.Zone.StandardName;
     if (last_.isValid() && ahead != ahead_) {
         const bool isOtherZone = zone != zone_;
-        if (isOtherZone || std::abs(ahead - ahead_) <= LargestChange) {
+        const bool isItsOwn = !times_.KnowsItsZone() && std::abs(ahead - ahead_) <= LargestChange;
+        if (isOtherZone || isItsOwn) {
             MoveAll(now, isOtherZone);
         }
         actions_.FollowOffset();

@@ -132,7 +132,10 @@ struct History {
         const QTime time(Below(24), Below(60));
         const ClockOffset offset = Desk.Clock.Ahead;
         const ClockMoment next = NextComing(time, TimerDay::Whole, now, offset);
-        if (next.Instant <= now.addSecs(Minute)) {
+        // A clock that does not know its zone takes the second coming of an hour for the first.
+        const ClockOffset asNow = [ahead = offset(now)](const QDateTime&) { return ahead; };
+        if (next.Instant <= now.addSecs(Minute) ||
+            NextComing(time, TimerDay::Whole, now, asNow).Reading != next.Reading) {
             return;
         }
         const QString name = u"t%1"_s.arg(Timers.size());
