@@ -195,11 +195,10 @@ void frmMain::ShowWindowMenu(const QPoint& onScreen) {
 
 // What could not be saved keeps the shell open.
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!windows_->CloseEditors()) {
+    if (!windows_->CloseEditors() || !shell::CloseAllChildren(program_.Windows)) {
         event->ignore();
         return;
     }
-    shell::CloseAllChildren(program_.Windows);
     ExitShell();
     event->accept();
 }
