@@ -28,6 +28,8 @@ private Q_SLOTS:
     void LetsTheFocusGoOnBehindTheLastCell();
     void MovesByTheKeysOfTheTable();
     void SelectsWithShift();
+    void StepsBackAndForthInTheLine_data();
+    void StepsBackAndForthInTheLine();
 };
 
 void tst_ctlEditGridKeys::OpensByAKey_data() {
@@ -352,6 +354,41 @@ void tst_ctlEditGridKeys::SelectsWithShift() {
     QCOMPARE(desk.Grid.Data().Clip(), u"1.50\tabc\r3\td"_s);
     QVERIFY(!desk.Host.Events.contains(u"RowColChange"_s));
     QCOMPARE(desk.Host.Events.filter(u"SelChange"_s).size(), 2);
+}
+
+void tst_ctlEditGridKeys::StepsBackAndForthInTheLine_data() {
+    QTest::addColumn<int>("col");
+    QTest::newRow("spin buttons") << 2;
+    QTest::newRow("a line") << 3;
+    QTest::newRow("a line with a list") << 4;
+}
+
+void tst_ctlEditGridKeys::StepsBackAndForthInTheLine() {
+    QFETCH(int, col);
+    struct Behind final : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            const bool isKey = event->type() == QEvent::KeyPress;
+            Redos += isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Y ? 1 : 0;
+            return false;
+        }
+        int Redos = 0;
+    } behind;
+    GridDesk desk;
+    desk.Window.installEventFilter(&behind);
+    desk.Show();
+    desk.GoTo(2, col);
+    desk.Press(Qt::Key_Return);
+    const QString before = desk.Line()->text();
+    desk.Type(u"7"_s);
+    desk.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.Line()->text(), before);
+    desk.Press(Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(desk.Line()->text(), before + u'7');
+    desk.Press(Qt::Key_Y, Qt::ControlModifier);  // there is nothing left
+    QCOMPARE(desk.Line()->text(), before + u'7');
+    QCOMPARE(behind.Redos, 0);
+    desk.Press(Qt::Key_Return);
+    QCOMPARE(desk.Cell(2, col), before + u'7');
 }
 
 QTEST_MAIN(tst_ctlEditGridKeys)

@@ -187,6 +187,60 @@ private Q_SLOTS:
         desk.Stop();
     }
 
+    /// The system ends the program while the window asks whether to write over a file.
+    void TheEndWaitsForTheAnswer() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.WriteFile(u"tester/Shortcuts.txt"_s, "Clocks=F6\r\n");
+        desk.Machine.Dialogs.BoxAnswers = {6};
+        bool stands = false;
+        desk.Machine.Dialogs.WhileAsking = [&] {
+            desk.Shell->Quit();
+            QCoreApplication::processEvents();
+            stands = desk.Shell->isVisible();
+        };
+        desk.ClickOn(u"cmdButton0"_s);
+        QVERIFY(stands);
+        QVERIFY(desk.User(u"Shortcuts.txt"_s).contains("Property Window=Ctrl+J"));
+        QTRY_VERIFY(!desk.Shell->isVisible());
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 1U);
+        desk.Stop();
+    }
+
+    void ACloseDuringTheQuestionIsRefused() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.WriteFile(u"tester/Shortcuts.txt"_s, "Clocks=F6\r\n");
+        desk.Machine.Dialogs.BoxAnswers = {7, 7};
+        desk.Machine.Dialogs.WhileAsking = [&] {
+            desk.Shell->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        desk.ClickOn(u"cmdButton0"_s);
+        QVERIFY(desk.Shell->isVisible());
+        QCOMPARE(desk.Editors(), 1);
+        QCOMPARE(desk.Clocks(), QStringList{u"UTC"_s});
+        desk.Stop();
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 2U);
+    }
+
+    /// It is asked for while a question at the end stands already, which then keeps the shell.
+    void TheEndIsNotForgotten() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.Files.Unwritable += desk.Module.Paths.ShortcutsFile;
+        desk.Machine.Dialogs.BoxAnswers = {6, 7};
+        desk.Machine.Dialogs.WhileAsking = [&] { desk.Shell->Quit(); };
+        QVERIFY(!desk.Shell->close());
+        QTRY_VERIFY(!desk.Shell->isVisible());
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 2U);
+        desk.Shell->Quit();  // it has ended
+        desk.Stop();
+    }
+
     /// "Close All" asks, too, and leaves what keeps its say.
     void CloseAllAsks() {
         EditDesk desk;

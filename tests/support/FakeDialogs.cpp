@@ -1,6 +1,7 @@
 #include "support/FakeDialogs.h"
 
 #include <QtGlobal>
+#include <utility>
 
 int FakeDialogs::MessageBox(const QString& text, int flags, const QString& title) {
     Boxes.push_back({text, flags, title});
@@ -9,6 +10,9 @@ int FakeDialogs::MessageBox(const QString& text, int flags, const QString& title
     }
     const int answer = BoxAnswers.front();
     BoxAnswers.erase(BoxAnswers.begin());
+    if (WhileAsking) {
+        std::exchange(WhileAsking, {})();
+    }
     return answer;
 }
 
