@@ -2,6 +2,7 @@
 #include "fuzz/MemoryFiles.h"
 #include "platform/RandomNumbers.h"
 #include "timers/TimerFile.h"
+#include "timers/TimerTail.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +48,26 @@ void WriteAndReadBack(const timers::ClockTimer& timer, const QDateTime& clockTim
     Require(back.MusicVolume.trimmed() == timer.MusicVolume.trimmed());
 }
 
+// A timer that is kept as an instant comes back as it was, at any hour.
+void WriteAndReadTail(const timers::TimerLine& line, const QDateTime& clockTime) {
+    timers::ClockTimer timer;
+    Numbers random;
+    timers::FillTimer(line, random, timer);
+    if (!timers::FillFromTail(line, timer)) {
+        Require(!timer.Due.At.isValid());
+        return;
+    }
+    const QString text = timers::TimerLineText(timer, clockTime);
+    if (!IsPlain(timer)) {
+        return;
+    }
+    const auto again = timers::ParseTimerLine(text.trimmed(), clockTime.date().year());
+    Require(again.has_value());
+    timers::ClockTimer back;
+    Require(timers::FillFromTail(*again, back));
+    Require(back.Due == timer.Due && back.TimerTime == timer.TimerTime);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
@@ -65,6 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         Require(timer.OnDial && timer.IsPermanent() != line->OneShot);
         WriteAndReadBack(timer, morning);
         WriteAndReadBack(timer, evening);
+        WriteAndReadTail(*line, morning);
+        WriteAndReadTail(*line, evening);
     }
     return 0;
 }

@@ -256,6 +256,6 @@ int main(int argc, char** argv) {
     if (options.QuitWhenPainted) {
         application.installEventFilter(&firstPaint);
     }
-    const platform::QuitSignals quitSignals([&shell] { shell.close(); });
+    const platform::QuitSignals quitSignals([&shell] { shell.Quit(); });
     return QApplication::exec();
 }

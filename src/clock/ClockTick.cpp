@@ -157,6 +157,7 @@ void ClockTick::RefreshTickValues() {
         return;
     }
     revisionRead_ = data_.Revision();
+    parts_.Timers.ReadKeys();
     stayTime_ = mduAPILib::Val(mduLib::GetPropertyRaw(u"Stay Time"_s, data_.Properties()));
     autoBackground_ = mduAPILib::IntegerValue(
         mduLib::GetProperty(u"Auto Background Display"_s, data_.Properties()));

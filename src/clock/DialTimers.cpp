@@ -53,12 +53,18 @@ void DialTimers::ChangeTime(const ChosenTimer& chosen, const QString& time) {
     if (IsThere(chosen)) {
         parts_.Timers.PlaceTimerMark(chosen.Slot, time);
         Save();
+        parts_.Timers.Log(timers::TimerHappening::Set, chosen.Slot);
         parts_.Typing.TellLoss(parts_.Timers.Timer(chosen.Slot));
     }
 }
 
+void DialTimers::ChangeDialTime(const ChosenTimer& chosen, const QString& time) {
+    ChangeTime(chosen, parts_.Timers.PickedTime(time));
+}
+
 void DialTimers::Remove(const ChosenTimer& chosen) {
     if (IsThere(chosen)) {
+        parts_.Timers.Log(timers::TimerHappening::Removed, chosen.Slot);
         parts_.Timers.ClearTimerSlot(chosen.Slot);
         parts_.Typing.Follow();
         Save();

@@ -50,6 +50,11 @@ public:
                     const QString& text);
     /// Gives a timer another time, "hh:mm", and moves its mark.
     void ChangeTime(const ChosenTimer& chosen, const QString& time);
+    /// The same with a time of the dial's twelve hours, for which `ClockTimers::PickedTime` tells
+    /// the half.
+    void ChangeDialTime(const ChosenTimer& chosen, const QString& time);
+    /// What a time of the dial means that is picked now.
+    QString PickedTime(const QString& time) const { return parts_.Timers.PickedTime(time); }
     /// Empties the slot. A permanent one stays reserved.
     void Remove(const ChosenTimer& chosen);
 

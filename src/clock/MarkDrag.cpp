@@ -77,7 +77,7 @@ bool MarkDrag::Drop() {
     Forget();
     const auto before = timers::TimeOfText(chosen.Timer.TimerTime, AnyYear);
     if (!before || timers::DialMinute(*before) != timers::DialMinute(time)) {
-        parts_.Dial.ChangeTime(chosen, timers::HourMinute(time));
+        parts_.Dial.ChangeDialTime(chosen, timers::HourMinute(time));
     }
     return true;
 }

@@ -80,6 +80,9 @@ bool MessageTyping::Delete() {
 }
 
 void MessageTyping::Remove() {
+    if (!isNew_) {
+        parts_.Timers.Log(timers::TimerHappening::Removed, slot_);
+    }
     parts_.Timers.ClearTimerSlot(slot_);
     FinishMessage();
 }
@@ -101,12 +104,26 @@ void MessageTyping::FinishMessage() {
 
 void MessageTyping::Settle(int slot, const std::optional<QDateTime>& calculated) {
     const timers::ClockTimer timer = parts_.Timers.Timer(slot);
+    if (isNew_) {
+        parts_.Timers.Log(timers::TimerHappening::Set, slot);
+    }
     if (calculated && ClockTime().secsTo(*calculated) > SecondsOfDay) {
         DeferTo(slot, *calculated);
         TellLoss(timer, parts_.Timers.DeferredTimerLines().last());
     } else {
         parts_.Timers.PlaceTimerMark(slot, timer.TimerTime);
+        KeepDay(slot, calculated);
         TellLoss(timer);
+    }
+}
+
+// The calculator tells the day as well.
+void MessageTyping::KeepDay(int slot, const std::optional<QDateTime>& calculated) {
+    const QString& text = parts_.Timers.Timer(slot).TimerTime;
+    const std::optional<QTime> time = timers::TimeOfText(text, ClockTime().date().year());
+    const bool ahead = calculated && time && MomentOf(*time, *calculated) >= ClockTime();
+    if (isNew_ && ahead) {
+        parts_.Timers.SetMoment(slot, MomentOf(*time, *calculated));
     }
 }
 

@@ -96,6 +96,7 @@ private:
     void CloseBox();
     void Remove();
     void Settle(int slot, const std::optional<QDateTime>& calculated);
+    void KeepDay(int slot, const std::optional<QDateTime>& calculated);
     void TellLoss(const timers::ClockTimer& timer, const QString& line);
     void DeferTo(int slot, const QDateTime& calculated);
     QDateTime ClockTime() const;

@@ -1,6 +1,7 @@
 #include "clock/StylePreview.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "foundation/PropertyLookup.h"
 #include "foundation/TextHelpers.h"
@@ -50,10 +51,17 @@ void StylePreview::Show(const QString& style) {
         styles_.Peek(program_.Module.Paths.StylesFolder + style + u".ini"_s, problem);
     if (!look) {
         screen_.ShowStatus(problem);
-        End();
+        EndStyle();
         return;
     }
     ShowLook(*look);
+    showsStyle_ = true;
+}
+
+void StylePreview::EndStyle() {
+    if (std::exchange(showsStyle_, false)) {
+        ShowProperties(ClockProperties(values_));
+    }
 }
 
 // Most changes of a property window are of keys that show nothing: the face then stays as it is.
@@ -63,6 +71,7 @@ void StylePreview::ShowProperties(const ClockProperties& values) {
     } else {
         End();
     }
+    values_ = values;
 }
 
 bool StylePreview::TriesAny(const ClockProperties& look) const {
@@ -80,12 +89,13 @@ bool StylePreview::IsKnown(const QString& name) const {
 }
 
 void StylePreview::ShowLook(const ClockProperties& look) {
-    Forget();
+    TakeAllBack();
     Try(look);
     look_.ApplyFace();
 }
 
 void StylePreview::End() {
+    values_ = {};
     if (!tried_.empty() && data_.State != ClockState::Closing) {
         Forget();
         look_.ApplyFace();
@@ -105,8 +115,14 @@ void StylePreview::Try(const ClockProperties& style) {
 }
 
 void StylePreview::Forget() {
+    values_ = {};
+    TakeAllBack();
+}
+
+void StylePreview::TakeAllBack() {
     TakeBack(data_.EditProperties());
     tried_.clear();
+    showsStyle_ = false;
 }
 
 ClockProperties StylePreview::OwnProperties() const {

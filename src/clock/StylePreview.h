@@ -34,6 +34,8 @@ public:
     /// Shows these values in the place of what is shown already; without any it is `End`. A key
     /// that is not of the face, or that the clock does not have, shows nothing.
     void ShowProperties(const ClockProperties& values);
+    /// Ends the style that is shown, if one is: the values that were shown before come back.
+    void EndStyle();
     /// Gives the clock its own look back; the typing of a time has ended. A value that somebody
     /// else has changed meanwhile stays.
     void End();
@@ -51,6 +53,7 @@ private:
         QString Shown;
     };
     void ShowLook(const ClockProperties& look);
+    void TakeAllBack();
     bool TriesAny(const ClockProperties& look) const;
     void TakeBack(ClockProperties& properties) const;
     void Try(const ClockProperties& style);
@@ -63,6 +66,8 @@ private:
     ClockScreen& screen_;
     ClockLook& look_;
     std::vector<Tried> tried_;
+    ClockProperties values_;  ///< of `ShowProperties`, while a style may stand in their place
+    bool showsStyle_ = false;
 };
 
 }  // namespace clockcore

@@ -42,4 +42,12 @@ void TimerDialogs::PickProgram(const ChosenTimer& chosen) {
     }
 }
 
+bool TimerDialogs::MayLoseTimers(const QString& path, const QString& caption) const {
+    constexpr int yesNoExclamation = 4 + 48 + 256;  // with No as the default
+    constexpr int yes = 6;
+    return program_.Services.Dialog.MessageBox(
+               path + u" can't be written.\n\nClose the clock and lose its timers?"_s,
+               yesNoExclamation, caption) == yes;
+}
+
 }  // namespace clockcore

@@ -24,6 +24,10 @@ public:
     void PickSound(const ChosenTimer& chosen);
     /// Asks for a program as a timer's action. One that is there comes into the menu of actions.
     void PickProgram(const ChosenTimer& chosen);
+    /// Asks whether a clock may close whose timers could not be saved.
+    /// @param path of their file
+    /// @param caption of the clock
+    bool MayLoseTimers(const QString& path, const QString& caption) const;
 
 private:
     const QObject& clock_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "foundation/Dates.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/MenuLists.h"
 #include "foundation/NamedValues.h"
@@ -33,13 +34,22 @@ MenuNode Separator() {
 
 MenuNode TimerMenus::SetTimerMenu(const QString& time) const {
     MenuNode menu{.Name = u"SetTimer"_s, .Caption = u"Set Timer"_s};
-    const int presentYear = program_.Services.Clock.Now().date().year();
-    for (const QString& entry : timers::FillTimeMenu(time, presentYear)) {
-        menu.Children.push_back({.Name = u"TimerTime"_s, .Caption = entry, .Choose = [this, entry] {
-                                     parts_.Timers.SetNewTimer(entry);
-                                 }});
+    const auto moment = mduAPILib::ParseMoment(time, PresentYear());
+    const bool isOfTheDial = !moment || !moment->HasDate;
+    for (const QString& entry : timers::FillTimeMenu(time, PresentYear())) {
+        AddTime(menu, isOfTheDial ? parts_.Timers.PickedTime(entry) : entry);
     }
     return menu;
+}
+
+void TimerMenus::AddTime(MenuNode& menu, const QString& time) const {
+    menu.Children.push_back({.Name = u"TimerTime"_s, .Caption = time, .Choose = [this, time] {
+                                 parts_.Timers.SetNewTimer(time);
+                             }});
+}
+
+int TimerMenus::PresentYear() const {
+    return program_.Services.Clock.Now().date().year();
 }
 
 MenuNode TimerMenus::ImgTimerMenu(int slot) {
@@ -191,7 +201,7 @@ MenuNode TimerMenus::MusicVolumes(const ChosenTimer& chosen) const {
 
 MenuNode TimerMenus::OtherTimes(const ChosenTimer& chosen) const {
     MenuNode menu{.Name = u"ChangeTimer"_s, .Caption = u"Change Timer "_s + chosen.Timer.TimerTime};
-    const int presentYear = program_.Services.Clock.Now().date().year();
+    const int presentYear = PresentYear();
     const std::optional<QTime> time = timers::TimeOfText(chosen.Timer.TimerTime, presentYear);
     const QString from = time ? timers::HourMinute(time->addSecs(-SecondsBefore)) : QString();
     for (const QString& entry : timers::FillTimeMenu(from, presentYear)) {

@@ -24,7 +24,8 @@ public:
         : data_(data), program_(program), parts_(parts) {}
 
     /// `SetTimer`: twelve times, each of which makes a timer. Without entries for a text that is no
-    /// time; see `timers::FillTimeMenu`.
+    /// time; see `timers::FillTimeMenu`. Of a time of the dial, which has no date, each entry is
+    /// what `DialTimers::PickedTime` makes of it.
     MenuNode SetTimerMenu(const QString& time) const;
     /// `ImgTimerMenu`: all that can be changed of a slot's timer. Without entries for a slot that
     /// has no timer on the dial. The sounds are left out until the machine has told that it has a
@@ -34,6 +35,8 @@ public:
     void CountSoundDevices();
 
 private:
+    void AddTime(MenuNode& menu, const QString& time) const;
+    int PresentYear() const;
     MenuNode Colours(const ChosenTimer& chosen) const;
     MenuNode DisplayTimes(const ChosenTimer& chosen) const;
     MenuNode Sounds(const ChosenTimer& chosen) const;

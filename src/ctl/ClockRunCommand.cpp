@@ -6,9 +6,11 @@
 #include <utility>
 
 #include "clock/ui/frmTempolark.h"
+#include "ctl/ClockScript.h"
 #include "ctl/Command.h"
 #include "ctl/RecordingMachine.h"
 #include "ctl/ZoneByName.h"
+#include "foundation/PropertyFile.h"
 #include "foundation/SetupPaths.h"
 #include "platform/SimulatedClock.h"
 #include "platform/SystemClock.h"
@@ -118,6 +120,158 @@ void PassTime(platform::SimulatedClock& clock, qint64 milliseconds, bool real) {
     loop.exec();
 }
 
+/// The machine of a run, and the clock that runs on it while its program does.
+class ClockOnMachine {
+public:
+    ClockOnMachine(Context& context, bool real)
+        : context_(context),
+          real_(real),
+          clock_(context.Services.Clock.Now(), platform::TzZone(context.Global.LocalZone)),
+          zones_(clock_, context.Global.LocalZone) {
+        if (context.Global.Utc) {
+            clock_.SetInstant(*context.Global.Utc);
+        }
+    }
+
+    /// @return false where the files can't be made, or no file can have the clock's name
+    bool Start() {
+        const QString name = context_.Arguments[0];
+        ClockProperties central;
+        if (mduMain::SetupFiles(context_.State, services_, name, central) !=
+            mduMain::SetupResult::Done) {
+            Complain(context_.State.FailedSetupPath + u" can't be made"_s);
+            return false;
+        }
+        TellNotice(mduTimeZones::UnknownClockNotice(services_, context_.State.Paths, name));
+        window_ = std::make_unique<frmTempolark>(Program{services_, context_.State, windows_},
+                                                 &shell_, nullptr);
+        WatchClock(*window_, log_.Teller(), messages_);
+        window_->setWindowFlag(Qt::FramelessWindowHint);
+        window_->setFixedSize(1, 1);
+        window_->SetLookedAt(false);
+        return window_->ShowMeMDIChild(name);
+    }
+    /// Lets time pass; a clock that has just been started comes to the front in it.
+    void Pass(qint64 milliseconds) {
+        const qint64 untilShown = std::min(milliseconds, FirstTicks);
+        PassTime(clock_, untilShown, real_);
+        if (window_) {
+            window_->activateWindow();  // a clock that is looked at: it speaks its patterns
+        }
+        QCoreApplication::processEvents();
+        PassTime(clock_, milliseconds - untilShown, real_);
+    }
+    /// Plays the script, and then runs on until so much time has passed since the start.
+    bool Play(const std::vector<ScriptStep>& steps, qint64 milliseconds) {
+        clock_.SetInstant(clock_.InstantOf(clock_.Now()));
+        for (const ScriptStep& step : steps) {
+            const qint64 wait = clock_.Now().msecsTo(step.At);
+            const qint64 passes = InstantNow().msecsTo(clock_.InstantOf(step.At));
+            PassBy(wait > 0 ? passes : 0);
+            if (!Take(step)) {
+                return false;
+            }
+        }
+        PassBy(milliseconds - passed_);
+        return true;
+    }
+
+private:
+    QDateTime InstantNow() const { return clock_.Now().addSecs(-clock_.OffsetFromGmt()); }
+    // A program that was killed is started a second later.
+    void PassBy(qint64 milliseconds) {
+        if (wasKilled_ && milliseconds >= Second) {
+            Pass(Second);
+            passed_ += Second;
+            milliseconds -= Second;
+        }
+        if (std::exchange(wasKilled_, false)) {
+            Start();
+        }
+        Pass(std::max(qint64{0}, milliseconds));
+        passed_ += std::max(qint64{0}, milliseconds);
+    }
+    bool Take(const ScriptStep& step) {
+        switch (step.Action) {
+            case ScriptAction::Sleep:
+                clock_.SetInstant(InstantNow().addSecs(60LL * step.Minutes));
+                passed_ += 60LL * step.Minutes * Second;
+                return true;
+            case ScriptAction::SetClock:
+                clock_.SetClock(step.Time);
+                return true;
+            case ScriptAction::Zone:
+                return Move(step.Zone.toUtf8());
+            case ScriptAction::Kill:
+                wasKilled_ = window_ != nullptr;
+                window_.reset();
+                return true;
+            case ScriptAction::Quit:
+                if (window_) {
+                    window_->Unload();
+                }
+                window_.reset();
+                return true;
+            case ScriptAction::Start:
+                return window_ || Start();
+            case ScriptAction::DiskFull:
+            case ScriptAction::DiskFree:
+                files_.SetFull(step.Action == ScriptAction::DiskFull);
+                return true;
+        }
+        return false;
+    }
+    bool Move(const QByteArray& iana) {
+        const QTimeZone zone(iana);
+        if (!zone.isValid()) {
+            Complain(QString::fromUtf8(iana) + u" is no time zone"_s);
+            return false;
+        }
+        clock_.SetZone(zone);
+        zones_.MoveTo(iana);
+        return true;
+    }
+
+    static constexpr qint64 Second = 1000;  // milliseconds
+
+    Context& context_;
+    bool real_;
+    platform::SimulatedClock clock_;
+    platform::TzZoneDatabase zones_;
+    EventLog log_{clock_};
+    RecordingVoices voices_{log_.Teller()};
+    RecordingPlayers players_{log_.Teller(), clock_};
+    SilentActions actions_;
+    RecordingFiles files_{context_.Services.FileSystem, log_.Teller()};
+    RecordingShell shell_{log_.Teller()};
+    platform::Services services_ =
+        context_.Services.With(clock_, zones_, files_, actions_, voices_, players_);
+    Forms windows_;
+    MessageLog messages_{log_.Teller()};
+    std::unique_ptr<frmTempolark> window_;
+    bool wasKilled_ = false;
+    qint64 passed_ = 0;  ///< milliseconds since the start
+};
+
+/// The steps of the script that is given; none without one.
+std::optional<std::vector<ScriptStep>> ScriptOf(const Context& context) {
+    if (!context.HasOption(u"--script"_s)) {
+        return std::vector<ScriptStep>();
+    }
+    const QString path = context.Option(u"--script"_s);
+    const std::optional<QByteArray> content = context.Services.FileSystem.Read(path);
+    if (!content) {
+        Complain(path + u" can't be read"_s);
+        return std::nullopt;
+    }
+    QString wrong;
+    auto steps = ReadClockScript(mduLib::FileLines(*content), wrong);
+    if (!steps) {
+        Complain(u"this is no step: "_s + wrong);
+    }
+    return steps;
+}
+
 int Run(Context& context) {
     bool isNumber = false;
     const qint64 seconds = context.Option(u"--seconds"_s).toLongLong(&isNumber);
@@ -127,44 +281,18 @@ int Run(Context& context) {
         (speed != u"fast"_s && speed != u"real"_s)) {
         return WrongArguments;
     }
-    const platform::Services& machine = context.Services;
-    platform::SimulatedClock clock(machine.Clock.Now(), platform::TzZone(context.Global.LocalZone));
-    if (context.Global.Utc) {
-        clock.SetInstant(*context.Global.Utc);
+    const auto steps = ScriptOf(context);
+    if (!steps) {
+        return WrongArguments;
     }
-    platform::TzZoneDatabase zones(clock, context.Global.LocalZone);
-    const EventLog log(clock);
-    RecordingVoices voices(log.Teller());
-    RecordingPlayers players(log.Teller(), clock);
-    SilentActions actions;
-    RecordingFiles files(machine.FileSystem, log.Teller());
-    RecordingShell shell(log.Teller());
-    const platform::Services services = machine.With(clock, zones, files, actions, voices, players);
-    const QString name = context.Arguments[0];
-    ClockProperties central;
-    if (mduMain::SetupFiles(context.State, services, name, central) != mduMain::SetupResult::Done) {
-        Complain(context.State.FailedSetupPath + u" can't be made"_s);
+    ClockOnMachine machine(context, speed == u"real"_s);
+    if (!machine.Start()) {
         return OperationFailed;
     }
-    TellNotice(mduTimeZones::UnknownClockNotice(services, context.State.Paths, name));
-    Forms windows;
-    const Program program{services, context.State, windows};
-    MessageLog messages(log.Teller());
-    auto window = std::make_unique<frmTempolark>(program, &shell, nullptr);
-    WatchClock(*window, log.Teller(), messages);
-    window->setWindowFlag(Qt::FramelessWindowHint);
-    window->setFixedSize(1, 1);
-    window->SetLookedAt(false);
-    if (!window->ShowMeMDIChild(name)) {
-        return OperationFailed;
+    if (context.HasOption(u"--script"_s)) {
+        return machine.Play(*steps, seconds * 1000) ? Done : OperationFailed;
     }
-    const qint64 milliseconds = seconds * 1000;
-    const qint64 untilShown = std::min(milliseconds, FirstTicks);
-    const bool real = speed == u"real"_s;
-    PassTime(clock, untilShown, real);
-    window->activateWindow();  // a clock that is looked at: it speaks its patterns
-    QCoreApplication::processEvents();
-    PassTime(clock, milliseconds - untilShown, real);
+    machine.Pass(seconds * 1000);
     return Done;
 }
 
@@ -173,10 +301,10 @@ int Run(Context& context) {
 std::vector<Command> ClockRunCommands() {
     return {{u"clock"_s,
              u"run"_s,
-             u"ZONE --seconds N [--speed fast|real]"_s,
+             u"ZONE --seconds N [--speed fast|real] [--script FILE]"_s,
              1,
              1,
-             {u"--seconds="_s, u"--speed="_s},
+             {u"--seconds="_s, u"--speed="_s, u"--script="_s},
              Run,
              true,
              FolderNeed::Starts}};

@@ -78,7 +78,7 @@ std::unique_ptr<platform::MediaPlayer> RecordingPlayers::MakePlayer() {
 }
 
 bool RecordingFiles::Write(const QString& path, const QByteArray& content) {
-    const bool written = files_.Write(path, content);
+    const bool written = !full_ && files_.Write(path, content);
     if (written) {
         tell_(u"saved"_s, {{u"file"_s, path}});
     }
@@ -86,7 +86,7 @@ bool RecordingFiles::Write(const QString& path, const QByteArray& content) {
 }
 
 bool RecordingFiles::Copy(const QString& source, const QString& destination) {
-    const bool copied = files_.Copy(source, destination);
+    const bool copied = !full_ && files_.Copy(source, destination);
     if (copied) {
         tell_(u"saved"_s, {{u"file"_s, destination}});
     }

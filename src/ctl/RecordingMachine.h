@@ -78,6 +78,8 @@ public:
     bool FolderExists(const QString& path) const override { return files_.FolderExists(path); }
     bool MakeFolder(const QString& path) override { return files_.MakeFolder(path); }
     std::optional<QByteArray> Read(const QString& path) const override { return files_.Read(path); }
+    /// From now on nothing can be written, or all again.
+    void SetFull(bool full) { full_ = full; }
     /// Tell "saved" when the file holds the content; one that failed is not told.
     bool Write(const QString& path, const QByteArray& content) override;
     bool Copy(const QString& source, const QString& destination) override;
@@ -95,6 +97,7 @@ public:
 private:
     platform::Files& files_;
     TellEvent tell_;
+    bool full_ = false;
 };
 
 /// A shell of which only the status bar is there: each text becomes the event "status" ("text").

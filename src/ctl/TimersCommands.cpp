@@ -1,9 +1,11 @@
 #include <QJsonArray>
 #include <QJsonObject>
+#include <memory>
 
+#include "ctl/LoadedTimers.h"
+#include "ctl/TimerLists.h"
 #include "ctl/ZoneByName.h"
 #include "platform/WallClock.h"
-#include "timers/ClockTimers.h"
 #include "timezones/ZoneArithmetic.h"
 #include "timezones/ZoneSources.h"
 
@@ -13,51 +15,16 @@ namespace ctl {
 
 namespace {
 
-/// A clock without a window: it tells of failures on standard error, all else is silent.
-class QuietHost final : public timers::TimerHost {
-public:
-    bool Failed = false;
-
-    void SpeakMessage(const QString&, int, Urgency) override {}
-    void PurgeSpeech(Urgency) override {}
-    void PlaySound(const QString&) override {}
-    void StopMusic() override {}
-    void ShowStatus(const QString& text) override {
-        Failed = true;
-        Complain(text);
-    }
-    void FitLabel(mduUILib::Control&) override {}
-    void PlaceMark(int, int, int) override {}
-    int TimerInterval() const override { return 1000; }
-    void SetTimerInterval(int) override {}
-    int BackColor() const override { return 0; }
-    double DevicePixelRatio() const override { return 1; }
-    int ScaleHeight() const override { return 0; }
-    ClockProperties& EditProperties() override { return Properties; }
-
-    ClockProperties Properties;
-};
-
-/// The timers of a clock of that zone, loaded from the first argument.
-struct LoadedTimers {
-    QuietHost Host;
-    mduUILib::ClockControls Controls;
-    TimeZoneRecord Zone;
-    timers::TimerContext Shared;
-    timers::ClockMessages Messages;
-    timers::ClockTimers Timers;
-
-    explicit LoadedTimers(const Context& context)
-        : Zone(FindAndTell(context, context.Option(u"--zone"_s))),
-          Shared{Host.Properties, Zone, Controls, context.Services, context.State, Host},
-          Messages(Shared, [](const QString&) {}),
-          Timers(Shared, Messages) {
-        const float local = mduTimeZones::GetLocalZone(context.Services).CurrentGMTHours;
-        mduTimeZones::ApplyCurrentOffset(Zone, context.Services.Clock.Now(), local);
-        Timers.LoadTimers(context.Arguments[0]);
-    }
-    Q_DISABLE_COPY_MOVE(LoadedTimers)
-};
+/// Loads the first argument as the timers of a clock of the zone that is named.
+std::unique_ptr<LoadedTimers> LoadFirst(const Context& context) {
+    TimeZoneRecord zone = FindAndTell(context, context.Option(u"--zone"_s));
+    const float local = mduTimeZones::GetLocalZone(context.Services).CurrentGMTHours;
+    mduTimeZones::ApplyCurrentOffset(zone, context.Services.Clock.Now(), local);
+    auto loaded =
+        std::make_unique<LoadedTimers>(context.Services, context.State, zone, ClockProperties());
+    loaded->Timers.LoadTimers(context.Arguments[0]);
+    return loaded;
+}
 
 QJsonObject SlotAsJson(int slot, const timers::ClockTimer& timer) {
     return {{u"slot"_s, slot},
@@ -76,7 +43,8 @@ int Load(Context& context) {
     if (context.Option(u"--zone"_s).isEmpty()) {
         return WrongArguments;
     }
-    const LoadedTimers loaded(context);
+    const auto loading = LoadFirst(context);
+    const LoadedTimers& loaded = *loading;
     QJsonArray taken;
     for (int slot = 1; slot <= loaded.Timers.SlotCount(); ++slot) {
         if (!loaded.Timers.Timer(slot).IsFree()) {
@@ -92,7 +60,8 @@ int Save(Context& context) {
     if (context.Option(u"--zone"_s).isEmpty()) {
         return WrongArguments;
     }
-    LoadedTimers loaded(context);
+    const auto loading = LoadFirst(context);
+    LoadedTimers& loaded = *loading;
     const bool read = loaded.Timers.FileWasRead();
     if (read) {
         loaded.Timers.SaveTimer(context.Arguments[1]);
@@ -111,6 +80,8 @@ std::vector<Command> TimersCommands() {
     return {
         {group, u"load"_s, u"FILE --zone NAME"_s, 1, 1, zone, Load},
         {group, u"save"_s, u"FILE OUT --zone NAME"_s, 2, 2, zone, Save},
+        {group, u"next"_s, u"[--zone NAME]"_s, 0, 0, zone, TimersNext},
+        {group, u"log"_s, u"[--last N]"_s, 0, 0, {u"--last="_s}, TimersLog},
     };
 }
 

@@ -41,6 +41,30 @@ QStringList LinesOf(const QString& text) {
     return text.split(lineEnds, Qt::SkipEmptyParts);
 }
 
+/// A value alone goes to the current record of its key, where it is that.
+std::vector<PastedValue> AtCurrent(const PastedValue& pasted, const ClockProperties& properties,
+                                   int current) {
+    const bool isIts =
+        HasRecord(properties, current) &&
+        properties[current].Name.trimmed() == properties[pasted.Record].Name.trimmed();
+    return {{isIts ? current : pasted.Record, pasted.Cell}};
+}
+
+/// The values of the lines that begin with a key of the file.
+std::vector<PastedValue> ValuesOfKeys(const QStringList& lines, const ClockProperties& properties) {
+    QHash<QString, std::vector<int>> records = RecordsByKey(properties);
+    std::vector<PastedValue> pasted;
+    for (const QString& line : lines) {
+        const std::optional<ClipLine> read = ReadLine(line);
+        const auto found = read ? records.find(read->Key) : records.end();
+        if (found != records.end() && !found->empty()) {
+            pasted.push_back({found->front(), read->Value});
+            found->erase(found->begin());
+        }
+    }
+    return pasted;
+}
+
 }  // namespace
 
 QString ClipText(const ClockProperties& properties, const std::vector<int>& records) {
@@ -55,24 +79,21 @@ QString ClipText(const ClockProperties& properties, const std::vector<int>& reco
 
 std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties& properties,
                                       int current) {
-    QHash<QString, std::vector<int>> records = RecordsByKey(properties);
-    std::vector<PastedValue> pasted;
     const QStringList lines = LinesOf(text);
-    for (const QString& line : lines) {
-        const std::optional<ClipLine> read = ReadLine(line);
-        const auto found = read ? records.find(read->Key) : records.end();
-        if (found != records.end() && !found->empty()) {
-            pasted.push_back({found->front(), read->Value});
-            found->erase(found->begin());
-        }
-    }
-    if (lines.size() > 1 && !pasted.empty()) {
-        return pasted;
+    const std::vector<PastedValue> pasted = ValuesOfKeys(lines, properties);
+    if (!pasted.empty()) {
+        return lines.size() > 1 ? pasted : AtCurrent(pasted.front(), properties, current);
     }
     if (!HasRecord(properties, current) || lines.isEmpty()) {
         return {};
     }
-    return {{current, pasted.empty() ? lines.join(u' ') : pasted.front().Cell}};
+    return {{current, lines.join(u' ')}};
+}
+
+int LinesWithoutRecord(const QString& text, const ClockProperties& properties) {
+    const QStringList lines = LinesOf(text);
+    const auto pasted = static_cast<int>(ValuesOfKeys(lines, properties).size());
+    return pasted == 0 ? 0 : static_cast<int>(lines.size()) - pasted;
 }
 
 }  // namespace editor

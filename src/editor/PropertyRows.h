@@ -8,6 +8,9 @@
 /// back to its record. A record's number is its row in the array, from 1.
 namespace editor {
 
+/// Told where a value is cut off, since what stands behind a comma are its choices.
+inline const QString CommaProblem = QStringLiteral("A value can't hold a comma");
+
 /// What stands in the column "Value": the text before the first comma, or all of it.
 QString PropertyCell(const QString& value);
 

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int Category = 1;
 constexpr int Key = 2;
+constexpr int Ascending = 1;
+constexpr int Descending = 2;
 
 bool Holds(const ClockProperty& record, const QString& sentence, const QString& word) {
     for (const QString* text : {&record.Name, &record.Category, &record.Value, &sentence}) {
@@ -43,6 +45,18 @@ QString PropertyView::Tag() const {
     return u"%1,%2"_s.arg(column_).arg(order_);
 }
 
+QString PropertyView::TagOfClick(int gridColumn) const {
+    const int column = gridColumn + Key;
+    const bool isAscending = column == column_ && order_ == Ascending;
+    return u"%1,%2"_s.arg(column).arg(isAscending ? Descending : Ascending);
+}
+
+std::optional<PropertyView::SortMark> PropertyView::Mark() const {
+    const bool isSorted = order_ == Ascending || order_ == Descending;
+    return isSorted && column_ >= Key ? std::optional(SortMark{column_ - Key, order_ == Ascending})
+                                      : std::nullopt;
+}
+
 void PropertyView::SetFilter(const QString& words) {
     words_ = words.simplified().split(u' ', Qt::SkipEmptyParts);
 }
@@ -63,7 +77,7 @@ std::vector<int> PropertyView::Records(const ClockProperties& properties,
 
 QString PropertyView::HeadingOver(const std::vector<int>& records, int entry,
                                   const ClockProperties& properties) const {
-    const bool isSorted = column_ == Category && (order_ == 1 || order_ == 2);
+    const bool isSorted = column_ == Category && (order_ == Ascending || order_ == Descending);
     if (!isSorted || entry < 0 || entry >= static_cast<int>(records.size())) {
         return {};
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 #include "editor/KeyNotes.h"
@@ -17,6 +18,16 @@ public:
     void SortByTag(const QString& tag);
     /// "2,0" for key and order of the file.
     QString Tag() const;
+
+    /// The `Tag` that a click on the heading of a column of the grid asks for (0 key, 1 value):
+    /// ascending, then descending, then ascending again.
+    QString TagOfClick(int gridColumn) const;
+    /// The column of the grid that the records are sorted by.
+    struct SortMark {
+        int Column = 0;
+        bool IsAscending = true;
+    };
+    std::optional<SortMark> Mark() const;
 
     /// Words of which each must occur, letter case aside, in a record's category, key, value,
     /// choices or sentence. "hand colour" finds "Hour Hand Colour". No word shows all.

@@ -1,7 +1,5 @@
 #include "editor/ZoneTitle.h"
 
-#include "foundation/Shortcuts.h"
-
 using namespace Qt::StringLiterals;
 
 namespace editor {
@@ -9,11 +7,6 @@ namespace editor {
 namespace {
 
 const QString Prefix = u"Properties - "_s;
-
-constexpr int FirstLetter = 65;
-constexpr int LastLetter = 122;
-constexpr int ToSmall = 32;
-constexpr int MinusKey = 189;
 
 }  // namespace
 
@@ -32,19 +25,11 @@ bool ZoneTitle::Key(int keyCode) {
     return edited_ && drawing::EditTitleKey(name_, caption_, Prefix, keyCode, caret_);
 }
 
-QString StripCaret(const QString& text) {
-    const QString plain = text.endsWith(u'_') ? text.chopped(1).trimmed() : text;
-    const qsizetype prefix = plain.indexOf(Prefix);
-    return prefix < 0 ? plain : plain.mid(prefix + Prefix.size());
-}
-
-int NameKey(int keyCode, int shift, bool capsLock) {
-    const bool isShift = (shift & mduUILib::KeyShift::Shift) != 0;
-    if (keyCode == MinusKey) {
-        return isShift ? u'-' : u'_';
+QString NameKey(const QString& text, bool isShift) {
+    if (text == u'-' && !isShift) {
+        return u"_"_s;
     }
-    const bool isLetter = keyCode >= FirstLetter && keyCode <= LastLetter;
-    return isLetter && isShift == capsLock ? keyCode + ToSmall : keyCode;
+    return text == u'_' && isShift ? u"-"_s : text;
 }
 
 }  // namespace editor

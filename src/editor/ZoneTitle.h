@@ -33,15 +33,8 @@ private:
     bool edited_ = false;
 };
 
-/// What stands behind "Properties - ", without a "_" at its end and the blanks before it.
-///
-///     StripCaret("Properties - Tokyo _")  // "Tokyo"
-QString StripCaret(const QString& text);
-
-/// The character that a key of the keyboard types into a name: letters are small unless one of
-/// Shift and Caps Lock is on, and the key of code 189 gives "_", with Shift "-". Other codes, and
-/// those of `drawing::TypedKey`, stay as they are.
-/// @param shift bits of `mduUILib::KeyShift`
-int NameKey(int keyCode, int shift, bool capsLock);
+/// What a key types into a name instead of its own text: the key of "-" gives "_", and with Shift,
+/// where its text is "_", gives "-". Any other text stays.
+QString NameKey(const QString& text, bool isShift);
 
 }  // namespace editor

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace platform {
 
@@ -10,9 +11,9 @@ public:
     virtual ~Dialogs() = default;
 
     /// A box with the buttons and icon of @p flags (the system's message-box flags: 16 critical,
-    /// 48 exclamation, 4 Yes and No). Answers the button pressed: 1 OK, 6 Yes, 7 No.
-    /// More flags are 32 for a question mark and 256 for the second button as the default. Without
-    /// 4 there is the one button OK:
+    /// 48 exclamation, 32 question, 4 for Yes and No in the place of OK, 256 for the second button
+    /// as the default). Answers the button pressed: 1 OK, 6 Yes, 7 No. A question that is dismissed,
+    /// by Escape or its close button, answers 2, which is neither: nothing is to be done then.
     ///
     ///     MessageBox(u"Remove London?"_s, 4 + 32 + 256, u"Remove"_s)  // Enter answers 7
     virtual int MessageBox(const QString& text, int flags, const QString& title) = 0;
@@ -21,6 +22,19 @@ public:
     /// behind those that were posted before. One that stands or waits already is not posted again.
     virtual void PostMessageBox(const QString& text, int flags, const QString& title) {
         MessageBox(text, flags, title);
+    }
+
+    /// A question with Yes and No that waits for nobody: it stands behind those that were posted
+    /// before, with No as the default, and @p answer is told Yes (true) or No.
+    /// @param seconds after which it answers No by itself; 0 for a question that stands until it is
+    /// answered
+    /// @param answer is called once or, where the program ends first, never; not before this
+    /// returns, unless nobody can be asked
+    virtual void PostQuestion(const QString& text, const QString& title, int seconds,
+                              const std::function<void(bool)>& answer) {
+        constexpr int yesAndNo = 4, question = 32, secondButton = 256, yes = 6;
+        Q_UNUSED(seconds)
+        answer(MessageBox(text, yesAndNo + question + secondButton, title) == yes);
     }
 
     /// A picker for opening a file; an empty text when it is cancelled.

@@ -78,6 +78,18 @@ void SimulatedClock::SetNow(const QDateTime& now) {
     moment_ = knowsInstant_ ? QDateTime(now.date(), now.time(), zone_).toUTC() : reading;
 }
 
+void SimulatedClock::SetClock(const QDateTime& now) {
+    const QDateTime before = moment_;
+    SetNow(now);
+    for (SimulatedTicker* ticker : tickers_) {
+        ticker->Due = ticker->Due.addMSecs(before.msecsTo(moment_));
+    }
+}
+
+QDateTime SimulatedClock::InstantOf(const QDateTime& reading) const {
+    return QDateTime(reading.date(), reading.time(), zone_).toUTC();
+}
+
 void SimulatedClock::SetInstant(const QDateTime& gmt) {
     if (!knowsInstant_) {
         const int ahead = OffsetFromGmt();

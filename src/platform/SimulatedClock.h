@@ -38,6 +38,11 @@ public:
     void SetNow(const QDateTime& now);
     /// Sets the instant, in GMT, without calling anyone; tickers keep their moments, as ever.
     void SetInstant(const QDateTime& gmt);
+    /// Sets the reading as a user sets a clock: what waits goes on waiting as long as before.
+    void SetClock(const QDateTime& now);
+    /// The instant of a reading; the earlier of two, and for one that is left out that of the clock
+    /// put forward.
+    QDateTime InstantOf(const QDateTime& reading) const;
     /// Another zone of the machine; the reading stays, or the instant where that is known.
     void SetZone(const QTimeZone& zone) { zone_ = zone; }
 

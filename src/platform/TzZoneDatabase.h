@@ -29,6 +29,12 @@ public:
     /// not keep the offset of the wall clock at any time of the year.
     explicit TzZoneDatabase(const WallClock& clock, QByteArray localIana = {});
 
+    /// The machine has moved to another zone, as the constructor takes one.
+    void MoveTo(const QByteArray& localIana) {
+        namedIana_ = localIana;
+        local_.reset();
+    }
+
     ZoneRoot Open() const override { return ZoneRoot::Opened; }
     std::optional<QString> SubkeyName(int index) const override;
     std::optional<QString> TextValue(const QString& subkey, const QString& name) const override;

@@ -206,10 +206,13 @@ void MinimiseAllChildren(const Forms& windows) {
     ForEachChild(windows, [](IForm& window) { window.SetWindowState(1); });
 }
 
-void CloseAllChildren(const Forms& windows) {
+bool CloseAllChildren(const Forms& windows) {
     HandleList handles = ChildHandles(windows);
     std::reverse(handles.begin(), handles.end());
     ForEachOf(handles, windows, [](IForm& window) { window.Unload(); });
+    bool allGone = true;
+    ForEachClock(windows, [&allGone](IForm&) { allGone = false; });
+    return allGone;
 }
 
 void CloseClocksOf(const Forms& windows, const QString& caption) {

@@ -60,7 +60,8 @@ bool IsArrangeableChild(const IForm& window);
 void MaximiseAllChildren(const Forms& windows, IForm& shellWindow);
 void RestoreAllChildren(const Forms& windows);
 void MinimiseAllChildren(const Forms& windows);
-void CloseAllChildren(const Forms& windows);
+/// @return false where a clock has refused, so as not to lose its timers
+bool CloseAllChildren(const Forms& windows);
 
 /// Closes the clocks of that caption.
 void CloseClocksOf(const Forms& windows, const QString& caption);

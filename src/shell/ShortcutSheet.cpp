@@ -18,6 +18,7 @@ namespace shell {
 namespace {
 
 const QString BoxTitle = u"Save Shortcut"_s;
+constexpr int NoAnswer = 7;  // the button "No"
 
 }  // namespace
 
@@ -28,7 +29,8 @@ public:
         : QUndoCommand(u"Change "_s + sheet.Command(row)),
           sheet_(sheet),
           row_(row),
-          before_(sheet.grid_.TextMatrix(row, 1)),
+          before_(sheet.RawValue(row)),
+          shownBefore_(sheet.grid_.TextMatrix(row, 1)),
           after_(std::move(after)),
           followsPress_(sheet.openRow_ == row) {}
 
@@ -39,29 +41,36 @@ public:
             return false;
         }
         after_ = press.after_;
-        setObsolete(after_ == before_);
+        setObsolete(after_ == shownBefore_);
         return true;
     }
     void redo() override {
         if (isDone_) {
-            Put(after_);
+            Show(after_);
+            sheet_.CommitShortcutRow(row_);
         } else {
             sheet_.grid_.SetTextMatrix(row_, 1, after_);
         }
         isDone_ = true;
     }
-    void undo() override { Put(before_); }
+    // The value comes back as it was, also one that says nothing.
+    void undo() override {
+        sheet_.PutRawValue(row_, before_);
+        Show(sheet_.ShownValue(row_));
+    }
 
 private:
-    void Put(const QString& text) {
+    void Show(const QString& text) {
         sheet_.grid_.SetRow(row_);
         sheet_.grid_.SetTextMatrix(row_, 1, text);
-        sheet_.CommitShortcutRow(row_);
+        sheet_.openRow_ = 0;
+        sheet_.refusedKey_.clear();
     }
 
     ShortcutSheet& sheet_;
     int row_;
-    QString before_;
+    QString before_;       ///< the value of the record, with its choices
+    QString shownBefore_;  ///< what stood in the cell
     QString after_;
     bool followsPress_;
     bool isDone_ = false;
@@ -99,6 +108,18 @@ QString ShortcutSheet::Command(int row) const {
 QString ShortcutSheet::ShownValue(int row) const {
     const int record = grid_.RowData(row);
     return editor::HasRecord(List(), record) ? mduLib::RowFirstField(record, List()) : QString();
+}
+
+QString ShortcutSheet::RawValue(int row) const {
+    const int record = grid_.RowData(row);
+    return editor::HasRecord(List(), record) ? List()[record].Value : QString();
+}
+
+void ShortcutSheet::PutRawValue(int row, const QString& value) {
+    const int record = grid_.RowData(row);
+    if (editor::HasRecord(List(), record)) {
+        List()[record].Value = value;
+    }
 }
 
 bool ShortcutSheet::PressKey(int row, int code, int shift) {
@@ -202,9 +223,10 @@ bool ShortcutSheet::MayClose(int row) {
     if (!Dirty()) {
         return true;
     }
-    if (hooks_.Ask(u"Do you want to save the %1?"_s.arg(title_), MsgBox::YesNoQuestion, BoxTitle) ==
-        MsgBox::Yes) {
-        return Save(row);
+    const int answer =
+        hooks_.Ask(u"Do you want to save the %1?"_s.arg(title_), MsgBox::YesNoQuestion, BoxTitle);
+    if (answer != NoAnswer) {
+        return answer == MsgBox::Yes && Save(row);
     }
     ClockProperties now;
     const bool isThere = mduLib::ReadPropertyFile(program_.Services.FileSystem, file_, now);

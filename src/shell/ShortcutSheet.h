@@ -51,7 +51,8 @@ public:
     void RefreshByDefault();
 
     /// Asks whether to save, where there is something. "No" brings the list back to what the file
-    /// holds. @param row the current one @return false when it was to be saved and could not be
+    /// holds. @param row the current one @return false when it was to be saved and could not be, or
+    /// when the question was dismissed
     bool MayClose(int row);
 
     /// Whether something differs from what was last read or written.
@@ -74,6 +75,9 @@ private:
     ClockProperties& List() const { return program_.Module.ShortcutList; }
     bool HasCommand(int row) const { return !Command(row).isEmpty(); }
     QString ShownValue(int row) const;
+    /// The value of a row's record as the list holds it, with all its choices.
+    QString RawValue(int row) const;
+    void PutRawValue(int row, const QString& value);
     void ShowList(const ClockProperties& list);
     /// The list of a file; nothing, and that is told, when it can't be read.
     std::optional<ClockProperties> Read(const QString& file) const;

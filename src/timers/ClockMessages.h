@@ -46,11 +46,21 @@ public:
     /// Lets the pending action run @p minutes behind @p clockTime. @return false when there is none
     /// ("None" is none), or when one is counting down already.
     bool StartCountdown(const QDateTime& clockTime, int minutes);
+    /// The same, up to a moment of the clock's time.
+    bool CountDownTo(const QDateTime& deadline);
+    /// Moves the deadline of the countdown to another moment of the clock's time; nothing without
+    /// one.
+    void MoveDeadline(const QDateTime& deadline);
     /// Moves the deadline to @p minutes from the clock's present time, 0 or less to the next tick;
     /// nothing without a countdown.
     void PostponeAction(int minutes);
     /// Forgets the pending action and hides its marks. The message runs on.
     void CancelAction();
+    /// Tells, when a countdown has ended, somebody who may see to its action: where that gives true
+    /// nothing more is done for it.
+    void HandEndsTo(std::function<bool()> seesToIt) { seesToIt_ = std::move(seesToIt); }
+    /// Carries an action out at once, without a countdown.
+    void RunAction(const QString& action);
     /// Gives the text of the action that counts down a colour, by its name, and the action that
     /// colour from now on; nothing without a countdown.
     void SetActionColour(const QString& colour);
@@ -94,6 +104,7 @@ private:
 
     TimerContext context_;
     std::function<void(const QString&)> runAction_;
+    std::function<bool()> seesToIt_;
     Watcher watcher_;
     QString pendingMessage_;
     QString messageExpiry_ = QStringLiteral("0");

@@ -49,6 +49,10 @@ QString WithActionColour(const QString& colours, const QString& action, const QS
 }  // namespace
 
 bool ClockMessages::StartCountdown(const QDateTime& clockTime, int minutes) {
+    return CountDownTo(clockTime.addSecs(60LL * minutes));
+}
+
+bool ClockMessages::CountDownTo(const QDateTime& deadline) {
     mduUILib::Control& label = context_.Controls.lblActionMsg(1);
     if (pendingAction_.isEmpty() || pendingAction_ == "None"_L1 || label.Visible) {
         return false;
@@ -57,15 +61,19 @@ bool ClockMessages::StartCountdown(const QDateTime& clockTime, int minutes) {
     SetActionCaption(ShownAction(pendingAction_));
     label.ForeColor = ActionColour();
     SetLabelFont(label);
-    actionDeadline_ = mduAPILib::MomentText(clockTime.addSecs(60LL * minutes));
+    actionDeadline_ = mduAPILib::MomentText(deadline);
     ShowActionMarks(true);
     PlaceActionMarks();
     return true;
 }
 
 void ClockMessages::PostponeAction(int minutes) {
+    MoveDeadline(context_.ClockTime().addSecs(60LL * minutes));
+}
+
+void ClockMessages::MoveDeadline(const QDateTime& deadline) {
     if (IsCountingDown()) {
-        actionDeadline_ = mduAPILib::MomentText(context_.ClockTime().addSecs(60LL * minutes));
+        actionDeadline_ = mduAPILib::MomentText(deadline);
     }
 }
 
@@ -118,6 +126,12 @@ void ClockMessages::SpeakNumber(qint64 left) {
 void ClockMessages::FinishAction() {
     const QString action = pendingAction_;
     CancelAction();
+    if (!seesToIt_ || !seesToIt_()) {
+        RunAction(action);
+    }
+}
+
+void ClockMessages::RunAction(const QString& action) {
     Tell(MessageEvent::ActionRuns, action);
     runAction_(action);
 }

@@ -1,12 +1,25 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 namespace timers {
 
 inline constexpr int HalfDay = 12;  ///< hours; the dial has no more
 
-/// One timer of a clock. The dial has twelve hours, so a time stands for both halves of the day.
+/// When a timer comes, where its clock keeps it as an instant ("Late Timers", "Timer Clock").
+struct TimerDue {
+    /// In GMT, to the second; invalid for a timer that goes by the rules of the dial alone. Of a
+    /// timer whose action counts down it is the end of that.
+    QDateTime At = {};
+    bool WholeDay = false;  ///< the time is that time of day, not either half
+    bool Acting = false;    ///< the timer has fired; what is left of it is its action
+
+    bool operator==(const TimerDue&) const = default;
+};
+
+/// One timer of a clock. The dial has twelve hours, so a time stands for both halves of the day,
+/// unless `Due` says that it does not.
 ///
 /// A slot that has been cleared keeps some of the fields: see `ClockTimers::ClearTimerSlot`.
 struct ClockTimer {
@@ -27,8 +40,12 @@ struct ClockTimer {
     /// A number above 0, in percent, becomes "Music Volume" when the timer fires; any other text
     /// leaves it.
     QString MusicVolume;
+    TimerDue Due = {};
 
     bool IsPermanent() const { return Permanent == QLatin1StringView("P"); }
+    bool HasAction() const {
+        return !TimerAction.isEmpty() && TimerAction != QLatin1StringView("None");
+    }
     /// Whether a new timer may take the slot.
     bool IsFree() const { return !OnDial && !IsPermanent(); }
 

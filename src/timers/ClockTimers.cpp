@@ -28,8 +28,10 @@ int DueMinute(const ClockTimer& timer) {
 ClockTimers::ClockTimers(const TimerContext& context, ClockMessages& messages)
     : context_(context),
       messages_(messages),
+      effects_(context, messages),
       timers_(static_cast<std::size_t>(context.Controls.imgTimer.Count())),
-      dueMinutes_(timers_.size(), -1) {}
+      dueMinutes_(timers_.size(), -1),
+      lateTimers_(context, *this, messages) {}
 
 void ClockTimers::SetTemplate() {
     ClockTimer timer = Timer(1);
@@ -40,6 +42,7 @@ void ClockTimers::SetTemplate() {
 }
 
 void ClockTimers::LoadTimers(const QString& path) {
+    ReadKeys();
     loaded_ = true;
     path_ = path;
     const platform::Files& files = context_.Services.FileSystem;
@@ -54,6 +57,9 @@ void ClockTimers::LoadTimers(const QString& path) {
     for (const QString& line : mduLib::FileLines(*content)) {
         LoadLine(line.trimmed());
     }
+    if (lateTimers_.IsOn()) {
+        SaveTimer(path);  // lines of an older program have been given their instants
+    }
 }
 
 void ClockTimers::LoadLine(const QString& line) {
@@ -62,14 +68,18 @@ void ClockTimers::LoadLine(const QString& line) {
     if (!parsed) {
         return;
     }
-    const TimerLineUse use = UseOf(*parsed, clockTime);
+    const KeptTimes& times = lateTimers_.Times();
+    const TimerLineUse use = times.IsOn() ? times.UseOf(*parsed) : UseOf(*parsed, clockTime);
     if (use.Defer) {
-        deferredTimerLines_ += line;
+        DeferLine(line, times.IsOn() ? times.DueOf(*parsed) : std::nullopt);
     }
     if (use.Load) {
         const int slot = GetFreeTimerSlot();
         ClockTimer timer = Timer(slot);
         FillTimer(*parsed, context_.Services.Random, timer);
+        if (times.IsOn()) {
+            times.Fill(*parsed, timer);
+        }
         ChangeTimer(slot, timer);
         PlaceTimerMark(slot, timer.TimerTime);
     }
@@ -83,9 +93,7 @@ void ClockTimers::SaveTimer(const QString& path) {
     for (const QString& line : TimerLines()) {
         text += line + u"\r\n"_s;
     }
-    if (!context_.Services.FileSystem.Write(path, text.toUtf8())) {
-        context_.Host.ShowStatus(path + u" can't be written"_s);
-    }
+    NoteSaved(path, context_.Services.FileSystem.Write(path, text.toUtf8()));
 }
 
 // What has not been read may not be lost.
@@ -121,7 +129,8 @@ void ClockTimers::ChangeTimer(int slot, const ClockTimer& timer) {
         late_.erase(slot);
         std::erase_if(fired_, [slot](const Fired& fired) { return fired.Slot == slot; });
     }
-    own = timer;
+    own = lateTimers_.Times().Completed(own, timer);
+    lateTimers_.Changed();
     dueMinutes_[Index(slot)] = DueMinute(own);
     if (own.IsFree()) {
         firstMaybeFree_ = std::min(firstMaybeFree_, Index(slot));
@@ -166,6 +175,7 @@ void ClockTimers::PlaceTimerMark(int slot, const QString& time) {
     if (!parsed) {
         return;
     }
+    lateTimers_.FollowClock();
     ClockTimer timer = Timer(slot);
     timer.TimerTime = HourMinute(*parsed);
     ChangeTimer(slot, timer);
@@ -182,6 +192,7 @@ void ClockTimers::PlaceTimerMarks() {
 }
 
 int ClockTimers::SetNewTimer(const QString& time) {
+    lateTimers_.FollowClock();
     const int slot = GetFreeTimerSlot();
     ClockTimer timer;
     timer.SoundFile = NewTimersSound();
@@ -204,11 +215,6 @@ QString ClockTimers::NewTimersSound() const {
     }
     context_.Host.ShowStatus(NotKept(sound));
     return {};
-}
-
-void ClockTimers::DeferTimer(int slot, const QDate& date) {
-    deferredTimerLines_ += DeferredLineText(Timer(slot), date);
-    ClearTimerSlot(slot);
 }
 
 QString ClockTimers::Property(const QString& name) const {

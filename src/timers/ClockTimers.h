@@ -7,7 +7,9 @@
 
 #include "timers/ClockMessages.h"
 #include "timers/ClockTimer.h"
+#include "timers/LateTimers.h"
 #include "timers/TimerContext.h"
+#include "timers/TimerEffects.h"
 #include "timers/TimerSlots.h"
 
 namespace timers {
@@ -21,6 +23,9 @@ namespace timers {
 /// kept across runs until it has fired. A timer that comes due while it is held fires as soon as it
 /// is not, be it minutes later.
 ///
+/// With the keys "Late Timers" and "Timer Clock" timers are kept as instants instead, and
+/// `LateTimers` fires them.
+///
 /// A slot's number that is asked for lies between 1 and `SlotCount`; nothing checks it.
 class ClockTimers final : public TimerSlots {
 public:
@@ -30,6 +35,7 @@ public:
     /// @param messages shows what fires; it outlives the timers
     ClockTimers(const TimerContext& context, ClockMessages& messages);
 
+    void ReadKeys() override { lateTimers_.ReadKeys(); }
     void SetTemplate() override;
 
     /// Fills slots and `DeferredTimerLines`, and keeps the path for the saves of firing timers. A
@@ -62,7 +68,16 @@ public:
     /// one that never comes due. Nothing stays of the timer that had the slot before. @return its
     /// slot
     int SetNewTimer(const QString& time);
-    /// Takes a timer off the dial and keeps it for its day, with its time and its message alone.
+    /// What a time means that was picked on the dial: see `KeptTimes::PickedTime`.
+    QString PickedTime(const QString& time) const { return lateTimers_.Times().PickedTime(time); }
+    /// Makes a date and time of the clock the moment of a timer that is kept as an instant; any
+    /// other timer stays.
+    void SetMoment(int slot, const QDateTime& reading);
+    /// A timer has done what it had to do: it leaves the dial, or, permanent and with an action,
+    /// waits for its next coming as an instant.
+    void SpendTimer(int slot);
+    /// Takes a timer off the dial and keeps it for its day, with its time and its message alone;
+    /// one that is kept as an instant with all that it has.
     void DeferTimer(int slot, const QDate& date);
 
     /// Lines of the file that belong to another half-day. They are written back at each save.
@@ -70,6 +85,11 @@ public:
 
     QStringList TimerLines() const;  ///< all lines that `SaveTimer` would write at present
     QString Path() const { return path_; }
+    QString ClockName() const;  ///< as the timer file is named; empty without one
+    /// Whether the last save failed, so that the file tells of other timers than these.
+    bool IsUnsaved() const { return unsaved_; }
+    /// Whether that is to be asked about before they are lost: of timers that are kept as instants.
+    bool AsksBeforeItLoses() const { return unsaved_ && lateTimers_.IsOn(); }
     /// False when `LoadTimers` found a file that it could not read as a text.
     bool FileWasRead() const { return unreadPath_.isEmpty(); }
 
@@ -78,10 +98,24 @@ public:
     /// Asks, at each check, whether a timer must wait.
     void HoldWhile(Holder isHeld) { isHeld_ = std::move(isHeld); }
 
+    // What `LateTimers` asks for.
+    bool IsHeld(int slot) const;
+    void TellFiring(int slot, const ClockTimer& timer) const;
+    /// Loads the deferred lines again; those that are not due yet come back.
+    void TakeDeferredLines();
+    /// Saves what could not be saved, ten seconds after the last time.
+    void SaveAgain(const QDateTime& instant);
+    /// All timers on the dial get their instants, or lose them.
+    void KeepAnew();
+    /// Tells the log of a timer that the user has set or removed.
+    void Log(TimerHappening happening, int slot) { lateTimers_.Log(happening, Timer(slot)); }
+
 private:
     static std::size_t Index(int slot) { return static_cast<std::size_t>(slot) - 1; }
     void LoadLine(const QString& line);
+    void DeferLine(const QString& line, const std::optional<QDateTime>& due);
     bool MayWrite(const QString& path);
+    void NoteSaved(const QString& path, bool saved);
     void AddSlot();
     QString NewTimersSound() const;
     QString Property(const QString& name) const;
@@ -90,19 +124,15 @@ private:
     bool HasFired(int slot) const;
     bool IsDue(int slot, int dialMinute) const;
     bool ComesAt(int slot, int dialMinute) const;
-    bool IsHeld(int slot) const;
     void NoteHeld(int dialMinute);
     bool IsLastOfPass(int slot, int dialMinute) const;
     void Fire(int slot, const QDateTime& clockTime);
     bool MayFire() const;
     void EndFiring(int slot, const QDateTime& clockTime, int minutes);
-    void AnnounceAction(const QString& action);
-    void Announce(const QString& key, const QString& text);
-    void PlayTimerSound(const QString& file);
-    void SetMusicVolume(const QString& volume);
 
     TimerContext context_;
     ClockMessages& messages_;
+    TimerEffects effects_;
     std::vector<ClockTimer> timers_;
     /// For each slot the minute of the dial (0 to 719) at which it is due; -1 for never. Each tick
     /// looks through these.
@@ -113,6 +143,8 @@ private:
     QString unreadPath_;  ///< a file that could not be read whole
     QString toldPath_;    ///< of which the status bar has told
     bool loaded_ = false;
+    bool unsaved_ = false;
+    QDateTime triedAt_;  ///< the last save that failed; an instant
     /// A slot that has fired and the minute of the dial at which it did.
     struct Fired {
         int Slot = 0;
@@ -122,6 +154,7 @@ private:
     std::set<int> late_;        ///< slots that have come due while they were held
     Watcher watcher_;
     Holder isHeld_;
+    LateTimers lateTimers_;
 };
 
 }  // namespace timers

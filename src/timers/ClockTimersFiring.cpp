@@ -2,10 +2,6 @@
 #include <cstdlib>
 
 #include "foundation/Dates.h"
-#include "foundation/FileHelpers.h"
-#include "foundation/NamedValues.h"
-#include "foundation/Numbers.h"
-#include "foundation/PropertyLookup.h"
 #include "timers/ClockTimers.h"
 #include "timers/DialSpot.h"
 #include "timers/TimerFile.h"
@@ -24,6 +20,10 @@ constexpr int MostSaves = 20;
 }  // namespace
 
 void ClockTimers::CheckTimers(const QString& clockTime) {
+    if (lateTimers_.IsOn()) {
+        lateTimers_.Check();
+        return;
+    }
     const auto parsed = mduAPILib::ParseMoment(clockTime, 0);
     if (!parsed || !parsed->HasDate || !parsed->HasTime) {
         return;
@@ -101,64 +101,18 @@ bool ClockTimers::HasFired(int slot) const {
 
 void ClockTimers::Fire(int slot, const QDateTime& clockTime) {
     const ClockTimer timer = Timer(slot);  // a copy: a step may change the slot
-    const int minutes = WholeNumber(timer.DisplayMinutes);
     late_.erase(slot);
     fired_.push_back({slot, DialMinute(clockTime.time())});
-    const std::function<void()> steps[] = {
-        [&] { messages_.ShowMessage(timer.Message); },
-        [&] { Announce(u"Speak Timer Message"_s, timer.Message); },
-        [&] { messages_.SetMessageColour(timer.MessageColour); },
-        [&] { messages_.SetMessageExpiry(clockTime, minutes); },
-        [&] { messages_.SetPendingAction(timer.TimerAction); },
-        [&] { AnnounceAction(timer.TimerAction); },
-        [&] { PlayTimerSound(timer.SoundFile); },
-        [&] { SetMusicVolume(timer.MusicVolume); },
-        [&] { EndFiring(slot, clockTime, minutes); },
-    };
-    for (const auto& step : steps) {
-        if (context_.Host.IsClosing()) {
-            return;
-        }
-        step();
+    const auto takeAction = [&] { messages_.SetPendingAction(timer.TimerAction); };
+    effects_.Run(timer, clockTime, takeAction);
+    if (!context_.Host.IsClosing()) {
+        EndFiring(slot, clockTime, WholeNumber(timer.DisplayMinutes));
     }
 }
 
 void ClockTimers::EndFiring(int slot, const QDateTime& clockTime, int minutes) {
     if (!messages_.StartCountdown(clockTime, minutes)) {
         ClearTimerSlot(slot);
-    }
-}
-
-void ClockTimers::AnnounceAction(const QString& action) {
-    if (messages_.PendingMessage().isEmpty() && action != "None"_L1) {
-        Announce(u"Speak Action Message"_s, action);
-    }
-}
-
-void ClockTimers::Announce(const QString& key, const QString& text) {
-    if (mduUILib::YesNoToBool(Property(key))) {
-        context_.Host.PurgeSpeech(Urgency::Urgent);
-        context_.Host.SpeakMessage(text, 0, Urgency::Urgent);
-    }
-}
-
-void ClockTimers::PlayTimerSound(const QString& file) {
-    if (mduUILib::IsNoneValue(file)) {
-        return;
-    }
-    const QString path = mduLib::ResolveAppPath(file, context_.Module.Paths.AppFolder);
-    if (mduLib::FileExists(context_.Services.FileSystem, path)) {
-        context_.Host.PlaySound(path);
-    } else {
-        context_.Host.ShowStatus(file + u" does not exist"_s);
-    }
-}
-
-void ClockTimers::SetMusicVolume(const QString& volume) {
-    const double value = mduAPILib::Val(volume);
-    if (value > 0) {
-        mduLib::PutProperty(u"Music Volume"_s, QString::number(value, 'g', 15),
-                            context_.Host.EditProperties());
     }
 }
 

@@ -6,6 +6,7 @@
 #include "foundation/NamedValues.h"
 #include "foundation/Numbers.h"
 #include "platform/RandomNumbers.h"
+#include "timers/TimerTail.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,18 +49,10 @@ QString NumberText(double value) {
 }
 
 // The hour loses its half of the day; an hour of the first half leaves the head as it stands.
-QString DialTime(const TimerLine& line) {
-    const QTime time = line.When.time();
-    return time.hour() < HalfDay ? line.Head
-                                 : u"%1:%2"_s.arg(time.hour() - HalfDay).arg(time.minute());
-}
-
-// meta = minutes "," colour "," sound "," action "," volume "#"
-QString MetaText(const ClockTimer& timer) {
-    return QStringList{timer.DisplayMinutes, mduUILib::ColourName(timer.MessageColour),
-                       timer.SoundFile, timer.TimerAction, timer.MusicVolume}
-               .join(u',') +
-           u'#';
+QString HeadTime(const TimerLine& line) {
+    const QTime time = line.DialTime();
+    return line.When.time().hour() < HalfDay ? line.Head
+                                             : u"%1:%2"_s.arg(time.hour()).arg(time.minute());
 }
 
 // when = date blank hour ":" minute
@@ -78,6 +71,11 @@ QString PermanentWhen(const QTime& time) {
 }
 
 }  // namespace
+
+QTime TimerLine::DialTime() const {
+    const QTime time = When.time();
+    return {time.hour() % HalfDay, time.minute()};
+}
 
 // line = head ( "@" | "=" ) message
 std::optional<TimerLine> ParseTimerLine(const QString& line, int presentYear) {
@@ -114,7 +112,7 @@ TimerLineUse UseOf(const TimerLine& line, const QDateTime& clockTime) {
 void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTimer& timer) {
     timer.OnDial = true;
     timer.Permanent = line.OneShot ? QString() : u"P"_s;
-    timer.TimerTime = DialTime(line);
+    timer.TimerTime = HeadTime(line);
     timer.Message = line.Message;
     timer.DisplayMinutes = NumberText(mduAPILib::Val(line.Meta[0]));
     if (line.Meta.size() > 1) {
@@ -125,9 +123,20 @@ void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTime
     timer.MusicVolume = line.Meta.value(4, timer.MusicVolume);
 }
 
+// meta = minutes "," colour "," sound "," action "," volume [ tail ] "#"
+QString MetaText(const ClockTimer& timer) {
+    return QStringList{timer.DisplayMinutes, mduUILib::ColourName(timer.MessageColour),
+                       timer.SoundFile, timer.TimerAction, timer.MusicVolume}
+               .join(u',') +
+           TailText(timer) + u'#';
+}
+
 // line = meta [ when ] ( "@" | "=" ) message
 QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime) {
-    const std::optional<QTime> time = TimeOfText(timer.TimerTime, clockTime.date().year());
+    std::optional<QTime> time = TimeOfText(timer.TimerTime, clockTime.date().year());
+    if (time && timer.Due.At.isValid()) {
+        time = QTime(time->hour() % HalfDay, time->minute());
+    }
     QString line = MetaText(timer);
     if (time) {
         line += timer.IsPermanent() ? PermanentWhen(*time) : OneShotWhen(*time, clockTime);

@@ -18,7 +18,8 @@ class RandomNumbers;
 ///
 /// The hour of a written line has 12 added, and a reader takes 12 off again: date and hour tell
 /// only for how long a timer lives, never which half of the day it means. Nothing is quoted, so a
-/// path with ",", "#" or "=" breaks its own line, and one with "@" that of a permanent timer.
+/// path with ",", "#" or "=" breaks its own line, and one with "@" that of a permanent timer. What
+/// a line tells of the half that is meant stands behind its five values: see `TimerTail.h`.
 namespace timers {
 
 /// What one line says, its pieces still as they stand.
@@ -29,6 +30,9 @@ struct TimerLine {
     QStringList Meta;       ///< one empty value where there is no "#"
     bool TimeAlone = true;  ///< the head is too short for a date and time
     QDateTime When;         ///< of the head; without a valid date where it has none
+
+    /// The time of the head on a dial, 0:00 to 11:59.
+    QTime DialTime() const;
 
     bool operator==(const TimerLine&) const = default;
 };
@@ -51,9 +55,13 @@ TimerLineUse UseOf(const TimerLine& line, const QDateTime& clockTime);
 /// Takes over what the line gives; a value that it does not give stays as it is. `OnDial` is set.
 void FillTimer(const TimerLine& line, platform::RandomNumbers& random, ClockTimer& timer);
 
+/// The meta part of a timer's line, up to its "#", with what `TailText` adds.
+QString MetaText(const ClockTimer& timer);
+
 /// The line that keeps a timer beyond this run, at the clock's time @p clockTime. Where `TimerTime`
 /// can't be read the line has no time, and a reader skips it: so a permanent timer that has fired
-/// ends. A permanent "12:30" becomes hour 24 and does not come back either.
+/// ends. A permanent "12:30" becomes hour 24 and does not come back either, unless the timer is
+/// kept as an instant (`ClockTimer::Due`): what is written then is its time on the dial.
 QString TimerLineText(const ClockTimer& timer, const QDateTime& clockTime);
 
 /// The line that keeps a timer for a later day: it has the time and the message alone.

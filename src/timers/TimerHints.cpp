@@ -54,6 +54,9 @@ TimerHint MarkHint(const ClockTimer& timer) {
         u"Remove timer: "_s + timer.TimerTime,
         u"Change timer: "_s + timer.TimerTime,
     };
+    if (timer.Due.WholeDay) {
+        lines.prepend(u"Comes at "_s + timer.TimerTime);
+    }
     if (!timer.Message.isEmpty()) {
         lines.prepend(Shortened(timer.Message));
     }

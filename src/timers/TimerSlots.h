@@ -9,6 +9,8 @@ class TimerSlots {
 public:
     virtual ~TimerSlots() = default;
 
+    /// Reads the properties that timers are kept by; called whenever one has changed.
+    virtual void ReadKeys() {}
     /// Gives slot 1 the colour of "Message Colour" and the sound of "Timer Sound File", as the
     /// template of new timers.
     virtual void SetTemplate() {}

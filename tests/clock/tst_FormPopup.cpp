@@ -57,6 +57,24 @@ private Q_SLOTS:
                  QStringList({u"A && B"_s, u"More"_s}));
     }
 
+    void LeavesTheValuesOfAPropertyWindow() {
+        ClickedDesk desk;
+        frmTempolark* clock = desk.Running(u"UTC"_s);
+        Style(desk, u"Oak"_s, "Red");
+        ClockProperties values;
+        mduLib::AppendProperty({}, u"Window Background Colour"_s, u"Blue"_s, values);
+        clock->PreviewProperties(values);
+        QCOMPARE(Ground(*clock), qRgb(0, 0, 255));
+        QMenu* menu = Open(*clock);
+        menu->close();
+        QCOMPARE(Ground(*clock), qRgb(0, 0, 255));
+        menu = Open(*clock);
+        EntryOf(*menu, u"Clock Style"_s, u"Oak"_s)->hover();
+        QCOMPARE(Ground(*clock), qRgb(255, 0, 0));
+        menu->close();
+        QCOMPARE(Ground(*clock), qRgb(0, 0, 255));
+    }
+
     void PreviewsAStyle() {
         ClickedDesk desk;
         frmTempolark* clock = desk.Running(u"UTC"_s);

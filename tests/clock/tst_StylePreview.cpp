@@ -68,6 +68,35 @@ private Q_SLOTS:
         QCOMPARE(desk.Data.Properties(), before);
     }
 
+    void AStyleGivesTheValuesBack() {
+        PreviewDesk desk;
+        const ClockProperties before = desk.Data.Properties();
+        const QString own = desk.Value(u"Hour Hand Colour"_s);
+        desk.Style(u"Oak"_s, {{u"Minute Hand Colour"_s, u"Cyan"_s}});
+        desk.Preview.ShowProperties(desk.HandColour(u"Red"_s));
+        desk.Calls();
+        desk.Preview.EndStyle();  // there is none
+        QCOMPARE(desk.Calls(), QString());
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Red"_s);
+        desk.Preview.Show(u"Oak"_s);
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), own);
+        desk.Preview.EndStyle();
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Red"_s);
+        desk.Preview.Show(u"Oak"_s);
+        desk.Preview.ShowProperties(desk.HandColour(u"Blue"_s));
+        desk.Preview.EndStyle();
+        QCOMPARE(desk.Value(u"Hour Hand Colour"_s), u"Blue"_s);
+        desk.Preview.Show(u"Oak"_s);
+        desk.Preview.End();
+        QCOMPARE(desk.Data.Properties(), before);
+        desk.Preview.EndStyle();
+        desk.Preview.ShowProperties(desk.HandColour(u"Red"_s));
+        desk.Preview.Forget();
+        desk.Preview.Show(u"Oak"_s);
+        desk.Preview.EndStyle();
+        QCOMPARE(desk.Data.Properties(), before);
+    }
+
     void ShowsSeveralValues() {
         PreviewDesk desk;
         const ClockProperties before = desk.Data.Properties();

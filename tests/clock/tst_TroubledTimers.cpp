@@ -1,4 +1,5 @@
 #include "MenuClicks.h"
+#include "support/FakeDialogs.h"
 
 namespace {
 
@@ -49,6 +50,9 @@ private Q_SLOTS:
     void TwoMayBeClosedWhileTheySpeak();
     void SurvivesASetClock_data();
     void SurvivesASetClock();
+    void AsksBeforeItLosesTimers_data();
+    void AsksBeforeItLosesTimers();
+    void SetsTimersInTheirHalf();
 };
 
 void tst_TroubledTimers::TakesTheGoodLinesOnly() {
@@ -272,6 +276,50 @@ void tst_TroubledTimers::SurvivesASetClock() {
     // Set forward beyond the deadline the action has run; set back, it counts down on.
     QCOMPARE(desk.Devices.Actions.Log, seconds > 0 ? QStringList{u"lock"_s} : QStringList{});
     QCOMPARE(clock->Controls().lblActionMsg(1).Visible, seconds < 0);
+}
+
+void tst_TroubledTimers::AsksBeforeItLosesTimers_data() {
+    QTest::addColumn<QByteArray>("keys");
+    QTest::addColumn<bool>("asks");
+
+    QTest::newRow("kept") << QByteArray("Timer:Late Timers=Show,Show,Ask,Skip\r\n") << true;
+    QTest::newRow("by the rules") << QByteArray() << false;
+}
+
+// The disk is full from then on.
+void tst_TroubledTimers::AsksBeforeItLosesTimers() {
+    QFETCH(QByteArray, keys);
+    QFETCH(bool, asks);
+    TroubledDesk desk;
+    desk.Base.Machine.WriteFile(u"tester/TimeZones/UTC.ini"_s, keys);
+    frmTempolark* clock = desk.Launch("1,red,,,0#12:1@Tea\r\n1,red,,,0#15:1@Cake\r\n");
+    const QString path = desk.Base.Machine.AppFolder() + u'/' + TimerPath(Zone);
+    desk.Base.Machine.Files.Unwritable += path;
+    desk.Pass(2 * Minute);
+    if (asks) {
+        desk.Base.Machine.Dialogs.BoxAnswers = {7};
+        clock->Unload();
+        QVERIFY(clock->isVisible());
+        QCOMPARE(MarksOn(*clock), 1);
+        QCOMPARE(desk.Base.Machine.Dialogs.Boxes.back().Text,
+                 path + u" can't be written.\n\nClose the clock and lose its timers?"_s);
+        desk.Pass(Minute);
+        desk.Base.Machine.Dialogs.BoxAnswers = {6};
+    }
+    clock->Unload();
+    QVERIFY(!clock->isVisible());
+    QCOMPARE(desk.Base.Machine.Dialogs.Boxes.size(), asks ? 2U : 0U);
+}
+
+void tst_TroubledTimers::SetsTimersInTheirHalf() {
+    TroubledDesk desk;
+    desk.Base.Machine.WriteFile(u"tester/TimeZones/UTC.ini"_s, "Timer:Timer Clock=24,24,12\r\n");
+    frmTempolark* clock = desk.Launch("1,red,,,0#15:1@Cake\r\n");
+    QVERIFY(desk.Base.Machine.ReadFile(TimerPath(Zone)).contains("15:01,2026-06-15T15:01:00Z"));
+    desk.Pass(3 * 60 * Minute);
+    QVERIFY(clock->PendingMessage().isEmpty());
+    desk.Pass(Minute);
+    QCOMPARE(clock->PendingMessage(), u"Cake"_s);
 }
 
 QTEST_MAIN(tst_TroubledTimers)

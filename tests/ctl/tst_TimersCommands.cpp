@@ -44,6 +44,8 @@ private Q_SLOTS:
     void Saves();
     void TellsWhenItCannotSave();
     void SavesNothingOfAFileThatIsNoText();
+    void TellsTheNextTimers();
+    void TellsTheLog();
     void RefusesOtherArguments_data();
     void RefusesOtherArguments();
 };
@@ -143,6 +145,53 @@ void tst_TimersCommands::SavesNothingOfAFileThatIsNoText() {
     QCOMPARE(answer.Status, 1);
     QCOMPARE(answer.Object(), QJsonObject({{u"lines"_s, 0}}));
     QCOMPARE(companion.Read(u"Out.txt"_s), QByteArray("3:5@Kept\r\n"));
+}
+
+// At 9 o'clock in London it is 18 o'clock in Tokyo.
+void tst_TimersCommands::TellsTheNextTimers() {
+    const Companion companion;
+    const QString kept =
+        companion.Write(u"ann/Timers/GMT Standard TimeTimer.txt"_s,
+                        "5,red,,None,0,16:30,2026-11-16T16:30:00Z#16/11/2026 16:30=Tea\r\n"
+                        "16/12/2026 21:30=Call home\r\n");
+    companion.Write(u"ann/TimeZones/GMT Standard Time.ini"_s, "Timer:Timer Clock=24,24,12\r\n");
+    companion.Write(u"ann/Timers/Tokyo Standard TimeTimer.txt"_s, "5,red,,Reboot,0#19:5@Go\r\n");
+    const QByteArray before = companion.Read(u"ann/Timers/GMT Standard TimeTimer.txt"_s);
+    const CompanionAnswer answer = Run(companion, {u"next"_s});
+    QCOMPARE(answer.Status, 0);
+    const QJsonArray all = QJsonDocument::fromJson(answer.Output).array();
+    QStringList lines;
+    for (const QJsonValue& value : all) {
+        lines += QStringList{value[u"at"_s].toString(), value[u"zone"_s].toString(),
+                             value[u"time"_s].toString(), value[u"message"_s].toString(),
+                             value[u"action"_s].toString()}
+                     .join(u'|');
+    }
+    QCOMPARE(lines, QStringList({u"2026-11-16T10:05:00Z|Tokyo Standard Time|07:05|Go|Reboot"_s,
+                                 u"2026-11-16T16:30:00Z|GMT Standard Time|16:30|Tea|None"_s,
+                                 u"2026-12-16T21:30:00Z|GMT Standard Time|21:30|Call home|"_s}));
+    QCOMPARE(all[1].toObject()[u"file"_s].toString(), kept);
+    QCOMPARE(companion.Read(u"ann/Timers/GMT Standard TimeTimer.txt"_s), before);
+    const CompanionAnswer one = Run(companion, {u"next"_s, u"--zone"_s, u"Tokyo Standard Time"_s});
+    QCOMPARE(QJsonDocument::fromJson(one.Output).array().size(), 1);
+}
+
+void tst_TimersCommands::TellsTheLog() {
+    const Companion companion;
+    QCOMPARE(Run(companion, {u"log"_s}).Output.trimmed(), QByteArray("[]"));
+    companion.Write(u"ann/Timers.log"_s,
+                    "2026-11-16T14:10:00Z\tLondon\tset\t14:10\t0\tTea\r\n"
+                    "2026-11-16T14:22:10Z\tLondon\tlate\t14:10\t730\tTea\r\n");
+    const QJsonArray all = QJsonDocument::fromJson(Run(companion, {u"log"_s}).Output).array();
+    QCOMPARE(all.size(), 2);
+    const QJsonArray last =
+        QJsonDocument::fromJson(Run(companion, {u"log"_s, u"--last"_s, u"1"_s}).Output).array();
+    QCOMPARE(last, (QJsonArray{QJsonObject{{u"at"_s, u"2026-11-16T14:22:10Z"_s},
+                                           {u"zone"_s, u"London"_s},
+                                           {u"event"_s, u"late"_s},
+                                           {u"time"_s, u"14:10"_s},
+                                           {u"message"_s, u"Tea"_s},
+                                           {u"late"_s, 730}}}));
 }
 
 void tst_TimersCommands::RefusesOtherArguments_data() {

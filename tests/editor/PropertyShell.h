@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 #include "foundation/Forms.h"
@@ -10,6 +11,7 @@
 struct PropertyShell final : IShell {
     QStringList Messages, Boxes, Launched, Refreshed;
     std::vector<int> Answers;
+    std::function<void()> OnBox = [] {};  ///< while a box stands open
     int LaunchHandle = 1;
     int Helps = 0;
 
@@ -21,6 +23,7 @@ struct PropertyShell final : IShell {
         }
         const int answer = Answers.front();
         Answers.erase(Answers.begin());
+        OnBox();
         return answer;
     }
     int RefreshForm(const QString& zoneName) override {

@@ -47,7 +47,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("pasted");
         QTest::newRow("a value") << u"Blue"_s << 2 << u"2=Blue"_s;
         QTest::newRow("a value with a line end") << u"Blue\r\n"_s << 2 << u"2=Blue"_s;
-        QTest::newRow("a row, wherever it is from") << u"Hand\tBlue"_s << 2 << u"2=Blue"_s;
+        QTest::newRow("a row goes to its key") << u"Hand\tBlue"_s << 2 << u"1=Blue"_s;
+        QTest::newRow("a row of the key's second record") << u"Hand\tBlue"_s << 3 << u"3=Blue"_s;
+        QTest::newRow("a row without a current one") << u"Face\tBlack"_s << 0 << u"2=Black"_s;
         QTest::newRow("a row whose value holds a tab") << u"Note\tx\ty"_s << 4 << u"4=x\ty"_s;
         QTest::newRow("a tab that is no row's") << u"x\ty"_s << 4 << u"4=x\ty"_s;
         QTest::newRow("a tab in front") << u"\tBlue"_s << 2 << u"2=\tBlue"_s;
@@ -72,6 +74,20 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(int, current);
         QTEST(Pasted(text, current), "pasted");
+    }
+
+    void CountsWhatGoesNowhere_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("lost");
+        QTest::newRow("a value") << u"Blue"_s << 0;
+        QTest::newRow("lines that are one value") << u"one\ntwo"_s << 0;
+        QTest::newRow("rows") << u"Face\tBlack\nNote\tc"_s << 0;
+        QTest::newRow("a key that is not there") << u"Face\tBlack\nno key\tc"_s << 1;
+        QTest::newRow("a key too often") << u"Note\ta\nd\nNote\tb\n"_s << 2;
+    }
+    void CountsWhatGoesNowhere() {
+        QFETCH(QString, text);
+        QTEST(editor::LinesWithoutRecord(text, Properties()), "lost");
     }
 
     void WhatIsCopiedComesBack() {

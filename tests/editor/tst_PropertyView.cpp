@@ -38,6 +38,7 @@ private Q_SLOTS:
     void FiltersWithTheHelp();
     void AFilterKeepsTheOrder();
     void HeadsCategories();
+    void SortsByItsHeadings();
 };
 
 void tst_PropertyView::Sorts_data() {
@@ -138,6 +139,26 @@ void tst_PropertyView::HeadsCategories() {
     for (const QString& tag : {u"1,0"_s, u"2,1"_s}) {
         view.SortByTag(tag);
         QCOMPARE(view.HeadingOver({1, 2}, 1, properties), QString());
+    }
+}
+
+void tst_PropertyView::SortsByItsHeadings() {
+    PropertyView view;
+    QVERIFY(!view.Mark());
+    QCOMPARE(view.TagOfClick(0), u"2,1"_s);
+    QCOMPARE(view.TagOfClick(1), u"3,1"_s);
+    view.SortByTag(u"2,1"_s);
+    QCOMPARE(view.TagOfClick(0), u"2,2"_s);
+    QCOMPARE(view.TagOfClick(1), u"3,1"_s);
+    QCOMPARE(view.Mark()->Column, 0);
+    QVERIFY(view.Mark()->IsAscending);
+    view.SortByTag(u"3,2"_s);
+    QCOMPARE(view.TagOfClick(1), u"3,1"_s);
+    QCOMPARE(view.Mark()->Column, 1);
+    QVERIFY(!view.Mark()->IsAscending);
+    for (const QString& tag : {u"1,1"_s, u"1,2"_s, u"3,0"_s}) {
+        view.SortByTag(tag);
+        QVERIFY(!view.Mark());
     }
 }
 

@@ -76,6 +76,34 @@ private Q_SLOTS:
         QVERIFY(desk.Window->CanEdit(EditAction::Redo));
     }
 
+    void AnOpenLineKeepsItsOwnUndo() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Stay Time"_s, u"7"_s);
+        desk.GoTo(u"Title"_s);
+        desk.Key(Qt::Key_Backspace);
+        QVERIFY(desk.Grid().Editing().IsEditing());
+        for (const int key : {Qt::Key_Y, Qt::Key_Z, Qt::Key_F}) {
+            QTest::keyClick(desk.Window.get(), static_cast<Qt::Key>(key), Qt::ControlModifier);
+            QVERIFY(desk.Grid().Editing().IsEditing());
+        }
+        QCOMPARE(desk.Cell(u"Stay Time"_s), u"7"_s);
+        QVERIFY(desk.View().isAncestorOf(desk.Focus()));
+    }
+
+    void ADefaultBringsItsListAlong() {
+        PropertyWindowDesk desk;
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile), "Hand Style=Flat\r\n");
+        desk.Publish(desk.Clock->File);
+        desk.Open();
+        desk.GoTo(u"Hand Style"_s);
+        desk.Run(u"BackToDefault"_s);
+        QCOMPARE(desk.Cell(u"Hand Style"_s), u"3D"_s);
+        desk.Key(Qt::Key_Return);
+        QCOMPARE(desk.Grid().Columns().Items(1), QStringList({u"Line"_s, u"Frame"_s, u"3D"_s}));
+        QVERIFY(desk.Grid().GetComboCtl(1) != nullptr);
+    }
+
     void ApplyKeepsWhatCanBeUndone() {
         PropertyWindowDesk desk;
         desk.Open();
@@ -107,7 +135,10 @@ private Q_SLOTS:
         QCOMPARE(Clipboard(), u"Hand Colour\tRed"_s);
         desk.GoTo(u"Title"_s);
         desk.Key(Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(desk.Cell(u"Title"_s), u"Red"_s);
+        QCOMPARE(desk.Cell(u"Title"_s), u"Old"_s);  // a row goes to its own key
+        SetClipboard(u"Plain"_s);
+        desk.Key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(desk.Cell(u"Title"_s), u"Plain"_s);
         SetClipboard(u"Title\tA\r\nStay Time\t5\nHand Colour\tBlack\nunknown\t1"_s);
         desk.GoTo(u"Hand Style"_s);
         desk.Key(Qt::Key_V, Qt::ControlModifier);
@@ -116,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(desk.Cell(u"Hand Colour"_s), u"Black"_s);
         QCOMPARE(desk.Cell(u"Hand Style"_s), u"3D"_s);
         desk.Key(Qt::Key_Z, Qt::ControlModifier);  // one step
-        QCOMPARE(desk.Cell(u"Title"_s), u"Red"_s);
+        QCOMPARE(desk.Cell(u"Title"_s), u"Plain"_s);
         QCOMPARE(desk.Cell(u"Stay Time"_s), u"0"_s);
         QCOMPARE(desk.Cell(u"Hand Colour"_s), u"Red"_s);
         desk.Window->Edit(EditAction::SelectAll);
@@ -147,6 +178,9 @@ private Q_SLOTS:
         desk.Key(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(desk.Cell(u"Hand Style"_s), u"3D"_s);
         QCOMPARE(desk.Info(), u"Not a value of Hand Style"_s);
+        QVERIFY(!desk.Window->CanEdit(EditAction::Undo));
+        SetClipboard(u"3d"_s);  // what it has already
+        desk.Key(Qt::Key_V, Qt::ControlModifier);
         QVERIFY(!desk.Window->CanEdit(EditAction::Undo));
         SetClipboard(u" frame\n"_s);
         desk.Key(Qt::Key_V, Qt::ControlModifier);

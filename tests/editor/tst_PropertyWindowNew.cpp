@@ -56,6 +56,43 @@ private Q_SLOTS:
         QCOMPARE(desk.Shell.Boxes, QStringList());
     }
 
+    void LaunchTakesAnOpenEditAlong_data() {
+        QTest::addColumn<bool>("takesFocus");
+        QTest::newRow("by the focus that goes to the button") << true;
+        QTest::newRow("by the press") << false;
+    }
+    void LaunchTakesAnOpenEditAlong() {
+        QFETCH(bool, takesFocus);
+        PropertyWindowDesk desk;
+        desk.OpenForNew();
+        desk.Type(u"Lima"_s);
+        desk.Key(Qt::Key_Return);
+        desk.GoTo(u"Title"_s);
+        desk.Type(u"Andes"_s);
+        QVERIFY(desk.Grid().Editing().IsEditing());
+        if (!takesFocus) {
+            desk.Button().setFocusPolicy(Qt::NoFocus);
+        }
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Launched, QStringList{u"Lima"_s});
+        QCOMPARE(desk.Stored(u"Title"_s, u"TimeZones/Lima.ini"_s), u"Andes"_s);
+        QVERIFY(!desk.Window->isVisible());
+    }
+
+    void TheKeyOfTheMinusTypesALine() {
+        PropertyWindowDesk desk;
+        desk.OpenForNew();
+        desk.Type(u"a"_s);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Minus, u"-"_s, Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Underscore, u"_"_s,
+                            Qt::ShiftModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Minus, u"-"_s, Qt::KeypadModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_B, u"B"_s, Qt::ShiftModifier);
+        QTest::sendKeyEvent(QTest::Click, desk.Focus(), Qt::Key_Udiaeresis, u"\u00fc"_s,
+                            Qt::NoModifier);
+        QCOMPARE(desk.Window->windowTitle(), u"Properties - a_--B\u00fc _"_s);
+    }
+
     void AClockThatCannotBeLaunchedLeavesTheWindow() {
         PropertyWindowDesk desk;
         desk.Shell.LaunchHandle = 0;
@@ -77,7 +114,7 @@ private Q_SLOTS:
         desk.Key(Qt::Key_Return);
         const QString path = desk.Module.Paths.ZoneFileFolder + u"Oslo.ini"_s;
         QCOMPARE(desk.Shell.Boxes,
-                 QStringList(path + u"\r\nexists, do you want to over write this file?|36|"
+                 QStringList(path + u"\r\nexists, do you want to over write this file?|292|"
                                     u"Property File Exists"_s));
         QCOMPARE(desk.Stored(u"Title"_s), u"Kept"_s);
         QCOMPARE(desk.Window->windowTitle(), u"Properties - Oslo _"_s);
@@ -169,6 +206,35 @@ private Q_SLOTS:
         desk.Find<QPushButton>(u"cmdButton1"_s).setFocus();
         desk.Key(Qt::Key_Return);
         QVERIFY(!desk.Window->isVisible());
+    }
+
+    void AZoneThatIsOpenTakesWhatIsWrittenOverIt() {
+        PropertyWindowDesk desk;
+        desk.OpenForNew();
+        desk.Type(u"Oslo"_s);
+        desk.Shell.Answers = {6};
+        desk.Told();
+        desk.Key(Qt::Key_Return);
+        QCOMPARE(desk.Told(), u"Oslo: refresh form"_s);
+        QCOMPARE(mduLib::GetProperty(u"Time Zone Standard Name"_s, desk.OfClock), u"Oslo"_s);
+        QCOMPARE(desk.Shell.Refreshed, QStringList());
+        desk.Enter(u"Title"_s, u"New"_s);  // and the window is its from now on
+        QVERIFY(desk.Told().contains(u"preview Title=New"_s));
+    }
+
+    void AnotherZoneIsNotShownByTheClock() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Key(Qt::Key_A, Qt::ControlModifier | Qt::AltModifier);
+        QCOMPARE(desk.Window->PropertyFile(), desk.Clock->File);
+        desk.Type(u"2"_s);
+        desk.Told();
+        desk.Key(Qt::Key_Return);
+        QVERIFY(desk.Told().endsWith(u"Oslo: preview "_s));
+        QCOMPARE(desk.Window->PropertyFile(), desk.Module.Paths.ZoneFileFolder + u"Oslo2.ini"_s);
+        desk.Enter(u"Stay Time"_s, u"7"_s);
+        QCOMPARE(desk.Told(), QString());
     }
 
     void TheFlowCanBeTurnedOver() {

@@ -161,6 +161,7 @@ void tst_ValueForm::TakesWhatFits_data() {
     QTest::newRow("a line takes all") << u"x"_s << u" any thing "_s << true << u" any thing "_s;
     QTest::newRow("a number, too") << u"3,1,2,3"_s << u"4.5"_s << true << u"4.5"_s;
     QTest::newRow("a choice") << u"A,A,Bold"_s << u" bOLD "_s << true << u"Bold"_s;
+    QTest::newRow("a choice with blanks") << u"A, A ,Bold"_s << u"a"_s << true << u" A "_s;
     QTest::newRow("none of the choices") << u"A,A,Bold"_s << u"Bol"_s << false << QString();
     QTest::newRow("nothing") << u"A,A,Bold"_s << QString() << false << QString();
     QTest::newRow("no") << u"Yes,Yes,No"_s << u"no"_s << true << u"No"_s;

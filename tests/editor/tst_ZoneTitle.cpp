@@ -12,8 +12,6 @@ private Q_SLOTS:
     void ShowsAName();
     void IsTypedInto();
     void KeepsItsNameWhenTheEditEnds();
-    void StripsTheCaret_data();
-    void StripsTheCaret();
     void NamesKeys_data();
     void NamesKeys();
 };
@@ -53,47 +51,22 @@ void tst_ZoneTitle::KeepsItsNameWhenTheEditEnds() {
     QCOMPARE(title.Caption(), u"Properties - Oslos"_s);
 }
 
-void tst_ZoneTitle::StripsTheCaret_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("caret") << u"Properties - Tokyo _"_s << u"Tokyo"_s;
-    QTest::newRow("no caret") << u"Properties - Tokyo"_s << u"Tokyo"_s;
-    QTest::newRow("no caret, blanks") << u"Properties - Tokyo "_s << u"Tokyo "_s;
-    QTest::newRow("one of two") << u"Properties - Tokyo__"_s << u"Tokyo_"_s;
-    QTest::newRow("a bare name") << u"Tokyo _"_s << u"Tokyo"_s;
-    QTest::newRow("nothing") << QString() << QString();
-    QTest::newRow("the caret alone") << u"_"_s << QString();
-}
-
-void tst_ZoneTitle::StripsTheCaret() {
-    QFETCH(QString, text);
-    QTEST(editor::StripCaret(text), "name");
-}
-
 void tst_ZoneTitle::NamesKeys_data() {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("shift");
-    QTest::addColumn<bool>("capsLock");
-    QTest::addColumn<int>("key");
-    QTest::newRow("small") << 65 << 0 << false << 97;
-    QTest::newRow("Shift") << 65 << 1 << false << 65;
-    QTest::newRow("Caps Lock") << 90 << 0 << true << 90;
-    QTest::newRow("both") << 90 << 1 << true << 122;
-    QTest::newRow("Ctrl is no Shift") << 65 << 2 << false << 97;
-    QTest::newRow("below the letters") << 64 << 0 << false << 64;
-    QTest::newRow("the last") << 122 << 0 << false << 154;
-    QTest::newRow("above the letters") << 123 << 0 << false << 123;
-    QTest::newRow("line") << 189 << 0 << false << 95;
-    QTest::newRow("line with Shift") << 189 << 1 << false << 45;
-    QTest::newRow("line with Caps Lock") << 189 << 0 << true << 95;
-    QTest::newRow("a character") << drawing::TypedKey(u'A') << 0 << false << 0x1000041;
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isShift");
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("line") << u"-"_s << false << u"_"_s;
+    QTest::newRow("line with Shift") << u"_"_s << true << u"-"_s;
+    QTest::newRow("- elsewhere, with Shift") << u"-"_s << true << u"-"_s;
+    QTest::newRow("_ elsewhere") << u"_"_s << false << u"_"_s;
+    QTest::newRow("a letter") << u"a"_s << false << u"a"_s;
+    QTest::newRow("two") << u"--"_s << false << u"--"_s;
 }
 
 void tst_ZoneTitle::NamesKeys() {
-    QFETCH(int, code);
-    QFETCH(int, shift);
-    QFETCH(bool, capsLock);
-    QTEST(editor::NameKey(code, shift, capsLock), "key");
+    QFETCH(QString, text);
+    QFETCH(bool, isShift);
+    QTEST(editor::NameKey(text, isShift), "typed");
 }
 
 QTEST_GUILESS_MAIN(tst_ZoneTitle)

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void LeavesGapsOfABlock();
     void LeavesGapsWhereTheHostSays();
     void OpensNoChooserWithoutOptions();
+    void SelectsNothingByHeadings();
     void OpensTheChooser();
     void OpensTheChooserOverTheFirstRow();
     void SortsByTheColumnUnderIt();
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void PressesTheCheckBox();
     void PressesByKeys();
     void Scrolls();
+    void TurnsNoValue_data();
+    void TurnsNoValue();
 };
 
 void tst_ctlEditGridMouse::TellsAClick() {
@@ -153,6 +156,19 @@ void tst_ctlEditGridMouse::OpensNoChooserWithoutOptions() {
     QVERIFY(desk.Grid.findChild<QComboBox*>(u"ctlColCombo"_s)->isHidden());
     QCOMPARE(desk.Host.Events, QStringList({u"MouseDown 1 0"_s, u"MouseUp 1 0"_s}));
     QCOMPARE(desk.Grid.Data().Row(), 1);
+}
+
+void tst_ctlEditGridMouse::SelectsNothingByHeadings() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(2, GridDesk::Combo);
+    QWidget* header = desk.View().horizontalHeader()->viewport();
+    QTest::mousePress(header, Qt::LeftButton, {}, desk.Middle(0, 2));
+    MoveTo(header, desk.Middle(0, 3), Qt::LeftButton);
+    MoveTo(header, desk.Middle(0, 4), Qt::LeftButton);
+    QTest::mouseRelease(header, Qt::LeftButton, {}, desk.Middle(0, 4));
+    QCOMPARE(desk.View().selectionModel()->selectedIndexes().size(), 1);
+    QCOMPARE(desk.Grid.Data().Col(), 1);
 }
 
 void tst_ctlEditGridMouse::OpensTheChooser() {
@@ -347,6 +363,37 @@ void tst_ctlEditGridMouse::Scrolls() {
     QVERIFY(desk.Grid.Places().RowIsVisible(100));
     QVERIFY(desk.Grid.Places().RowIsVisible(0));
     QVERIFY(!desk.Grid.Places().RowIsVisible(200));
+}
+
+void tst_ctlEditGridMouse::TurnsNoValue_data() {
+    QTest::addColumn<int>("col");
+    QTest::addColumn<QString>("cell");
+    QTest::newRow("a list that has been closed") << int(GridDesk::Combo) << u"Green"_s;
+    QTest::newRow("spin buttons") << int(GridDesk::UpDown) << u"3"_s;
+    QTest::newRow("a line with a list") << int(GridDesk::ComboEdit) << u"x"_s;
+}
+
+/// The wheel over an open editor goes on to the grid, which scrolls.
+void tst_ctlEditGridMouse::TurnsNoValue() {
+    QFETCH(int, col);
+    QFETCH(QString, cell);
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(2, col);
+    QVERIFY(desk.Grid.OnCellKeyPress(13));
+    if (desk.List() != nullptr) {
+        desk.List()->hidePopup();
+    }
+    QWidget* editor = desk.Editor();
+    editor->setFocus();
+    const QPointF place = editor->rect().center();
+    QWheelEvent turn(place, editor->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(editor, &turn);
+    QVERIFY(desk.Editor() != nullptr);
+    QVERIFY(!turn.isAccepted());
+    desk.Grid.EndCellEdit();
+    QCOMPARE(desk.Cell(2, col), cell);
 }
 
 QTEST_MAIN(tst_ctlEditGridMouse)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -10,7 +11,8 @@
 /// fails the test.
 struct FakeShell final : IShell {
     QStringList Log;
-    std::vector<int> BoxAnswers;  ///< taken from the front
+    std::vector<int> BoxAnswers;        ///< taken from the front
+    std::function<void()> WhileAsking;  ///< what happens, once, while a box stands
     int Colour = 0;
 
     /// What was written down since the last time.
@@ -24,6 +26,9 @@ struct FakeShell final : IShell {
         }
         const int answer = BoxAnswers.front();
         BoxAnswers.erase(BoxAnswers.begin());
+        if (WhileAsking) {
+            std::exchange(WhileAsking, {})();
+        }
         return answer;
     }
     int RefreshForm(const QString&) override { return 0; }

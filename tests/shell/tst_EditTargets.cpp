@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QVBoxLayout>
 #include <set>
@@ -72,6 +74,30 @@ private Q_SLOTS:
         QVERIFY(desk.Targets.CanEdit(EditAction::Copy));
         desk.Targets.Edit(EditAction::Copy);
         QCOMPARE(QApplication::clipboard()->text(), u"Oak"_s);
+        QCOMPARE(desk.Log, QStringList());
+    }
+
+    /// The window's own cut, which takes a whole row away, is not meant.
+    void TheLineInsideOfWhatHasTheFocus() {
+        Desk desk;
+        desk.Front->Editable = {EditAction::Cut, EditAction::Delete, EditAction::Copy};
+        auto* list = new QComboBox;
+        list->setEditable(true);
+        list->setEditText(u"Elm"_s);
+        auto* spin = new QSpinBox;
+        for (QWidget* widget : std::initializer_list<QWidget*>{list, spin}) {
+            desk.Front->layout()->addWidget(widget);
+            widget->show();
+            widget->setFocus();
+            QTRY_VERIFY(widget->hasFocus());
+            desk.Targets.Edit(EditAction::SelectAll);
+            desk.Targets.Edit(EditAction::Copy);
+            desk.Targets.Edit(EditAction::Cut);
+            QVERIFY(!desk.Targets.CanEdit(EditAction::Cut));
+            desk.Targets.Edit(EditAction::Delete);
+        }
+        QCOMPARE(list->currentText(), QString());
+        QCOMPARE(QApplication::clipboard()->text(), u"0"_s);
         QCOMPARE(desk.Log, QStringList());
     }
 

@@ -1,10 +1,13 @@
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 
 #include "clock/ui/frmTempolark.h"
+#include "foundation/PropertyFile.h"
 #include "foundation/PropertyLookup.h"
 #include "shell/ShellDesk.h"
 #include "support/FakeDialogs.h"
@@ -61,6 +64,12 @@ private:
             QTest::mouseClick(In<QPushButton>(button), Qt::LeftButton);
         }
     };
+
+    static QString BackgroundIn(EditDesk& desk, const QString& file) {
+        ClockProperties stored;
+        mduLib::ReadPropertyFile(desk.Machine.Files, file, stored);
+        return mduLib::GetProperty(u"Window Background Colour"_s, stored);
+    }
 
 private Q_SLOTS:
     void TheToolbarOpensThem() {
@@ -178,6 +187,60 @@ private Q_SLOTS:
         desk.Stop();
     }
 
+    /// The system ends the program while the window asks whether to write over a file.
+    void TheEndWaitsForTheAnswer() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.WriteFile(u"tester/Shortcuts.txt"_s, "Clocks=F6\r\n");
+        desk.Machine.Dialogs.BoxAnswers = {6};
+        bool stands = false;
+        desk.Machine.Dialogs.WhileAsking = [&] {
+            desk.Shell->Quit();
+            QCoreApplication::processEvents();
+            stands = desk.Shell->isVisible();
+        };
+        desk.ClickOn(u"cmdButton0"_s);
+        QVERIFY(stands);
+        QVERIFY(desk.User(u"Shortcuts.txt"_s).contains("Property Window=Ctrl+J"));
+        QTRY_VERIFY(!desk.Shell->isVisible());
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 1U);
+        desk.Stop();
+    }
+
+    void ACloseDuringTheQuestionIsRefused() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.WriteFile(u"tester/Shortcuts.txt"_s, "Clocks=F6\r\n");
+        desk.Machine.Dialogs.BoxAnswers = {7, 7};
+        desk.Machine.Dialogs.WhileAsking = [&] {
+            desk.Shell->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        desk.ClickOn(u"cmdButton0"_s);
+        QVERIFY(desk.Shell->isVisible());
+        QCOMPARE(desk.Editors(), 1);
+        QCOMPARE(desk.Clocks(), QStringList{u"UTC"_s});
+        desk.Stop();
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 2U);
+    }
+
+    /// It is asked for while a question at the end stands already, which then keeps the shell.
+    void TheEndIsNotForgotten() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.Files.Unwritable += desk.Module.Paths.ShortcutsFile;
+        desk.Machine.Dialogs.BoxAnswers = {6, 7};
+        desk.Machine.Dialogs.WhileAsking = [&] { desk.Shell->Quit(); };
+        QVERIFY(!desk.Shell->close());
+        QTRY_VERIFY(!desk.Shell->isVisible());
+        QCOMPARE(desk.Machine.Dialogs.Boxes.size(), 2U);
+        desk.Shell->Quit();  // it has ended
+        desk.Stop();
+    }
+
     /// "Close All" asks, too, and leaves what keeps its say.
     void CloseAllAsks() {
         EditDesk desk;
@@ -225,6 +288,44 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(desk.Clocks(), (QStringList{u"UTC"_s, u"Atlantis"_s}));
         QCOMPARE(desk.Editors(), 0);
+        desk.Stop();
+    }
+
+    void ThePropertiesOfAPropertyWindowAreItself() {
+        EditDesk desk;
+        desk.PressClock(Qt::Key_P, Qt::ControlModifier);
+        QTest::mouseClick(desk.Button(u"Property"_s), Qt::LeftButton);
+        QCOMPARE(desk.Editors(), 1);
+        QCOMPARE(desk.Front()->Caption(), u"Properties - UTC"_s);
+        desk.Stop();
+    }
+
+    void AClockMayCloseWhileItShowsWhatIsEdited() {
+        EditDesk desk;
+        const auto ground = [&desk] { return desk.Clock->PaintedSurface().Image().pixel(2, 2); };
+        const QString file = desk.Clock->IniFile();
+        const QRgb own = ground();
+        desk.PressClock(Qt::Key_P, Qt::ControlModifier);
+        desk.In<QLineEdit>(u"txtSearch"_s)->setText(u"Window Background Colour"_s);
+        QTableView* grid = desk.Grid();
+        grid->setFocus();
+        QGuiApplication::clipboard()->setText(u"Red"_s);
+        QTest::keyClick(grid, Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(own != qRgb(255, 0, 0));
+        QCOMPARE(ground(), qRgb(255, 0, 0));
+        const QPointer<frmTempolark> clock = desk.Clock;
+        desk.Clock->Unload();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!clock);
+        QCOMPARE(BackgroundIn(desk, file), u"15397106"_s);  // what was shown is not stored
+        grid->setFocus();
+        QGuiApplication::clipboard()->setText(u"Blue"_s);
+        QTest::keyClick(grid, Qt::Key_V, Qt::ControlModifier);
+        desk.Machine.Dialogs.BoxAnswers = {7, 7, 7};
+        desk.Front()->Unload();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(desk.Editors(), 0);
+        QCOMPARE(BackgroundIn(desk, file), u"15397106"_s);
         desk.Stop();
     }
 

@@ -273,6 +273,47 @@ private Q_SLOTS:
         QCOMPARE(desk.Cell(2), u"Ctrl+J"_s);
     }
 
+    void TheFirstKeyOfACommandIsUndone_data() {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("done");
+        QTest::newRow("nothing") << QString() << u"Ctrl+J"_s;
+        QTest::newRow("choices behind a key") << u"F7,F5,F6"_s << u"Ctrl+J,F5,F6"_s;
+    }
+    void TheFirstKeyOfACommandIsUndone() {
+        QFETCH(QString, value);
+        QFETCH(QString, done);
+        Desk desk;
+        desk.Module.ShortcutList[2].Value = value;
+        desk.Sheet.Open(desk.File(), u"Clock Shortcuts"_s);
+        const QString cell = desk.Cell(2);
+        desk.Sheet.PressKey(2, 'J', Ctrl);
+        desk.Sheet.CommitShortcutRow(2);
+        QCOMPARE(desk.Listed(2), done);
+        desk.Sheet.Steps().undo();
+        QCOMPARE(desk.Listed(2), value);
+        QCOMPARE(desk.Cell(2), cell);
+        QVERIFY(!desk.Sheet.Dirty());
+        desk.Sheet.Steps().redo();
+        QCOMPARE(desk.Listed(2), done);
+        QCOMPARE(desk.Cell(2), u"Ctrl+J"_s);
+    }
+
+    void UndoBeforeTheCommit() {
+        Desk desk;
+        desk.Module.ShortcutList[2].Value.clear();
+        desk.Sheet.Open(desk.File(), u"Clock Shortcuts"_s);
+        desk.Sheet.PressKey(2, 122, 0);  // "Used"
+        desk.Sheet.PressKey(2, 'J', Ctrl);
+        desk.Sheet.Steps().undo();
+        QCOMPARE(desk.Cell(2), QString());
+        desk.Sheet.CommitShortcutRow(2);
+        QCOMPARE(desk.Listed(2), QString());
+        desk.Sheet.PressKey(2, 'L', Ctrl);  // another visit
+        QCOMPARE(desk.Sheet.Steps().count(), 1);
+        desk.Sheet.Steps().undo();
+        QCOMPARE(desk.Cell(2), QString());
+    }
+
     void UndoGoesBehindASave() {
         Desk desk;
         desk.Sheet.PressKey(2, 'J', Ctrl);
@@ -308,6 +349,16 @@ private Q_SLOTS:
         QCOMPARE(desk.Cell(2), u"Ctrl+D"_s);
         QVERIFY(desk.Stored().contains("Disable=Ctrl+D"));
         QVERIFY(desk.Sheet.MayClose(2));  // there is nothing left to ask for
+    }
+
+    void ADismissedQuestionChangesNothing() {
+        Desk desk;
+        desk.Sheet.PressKey(2, 'J', Ctrl);
+        desk.Answers = {2};
+        QVERIFY(!desk.Sheet.MayClose(2));
+        QCOMPARE(desk.Cell(2), u"Ctrl+J"_s);
+        QVERIFY(desk.Sheet.Dirty());
+        QVERIFY(desk.Stored().contains("Disable=Ctrl+D"));
     }
 
     void NoAndTheFileIsGone() {

@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTextEdit>
 
+#include "editor/GridDesk.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,6 +37,18 @@ template <class Box>
 void SetText(Box& box, const QString& text) {
     box.setPlainText(text);
 }
+void SetText(ListEditor& list, const QString& text) {
+    list.setEditText(text);
+}
+void SetText(SpinEditor& spin, const QString& text) {
+    spin.Line()->setText(text);
+}
+QString TextOf(const ListEditor& list) {
+    return list.currentText();
+}
+QString TextOf(const SpinEditor& spin) {
+    return spin.text();
+}
 QString TextOf(const QLineEdit& line) {
     return line.text();
 }
@@ -44,9 +58,8 @@ QString TextOf(const Box& box) {
 }
 
 template <class Text>
-void WalksThrough() {
+void WalksThrough(Text&& text) {
     QApplication::clipboard()->clear();
-    Text text;
     QCOMPARE(Can(text), QString());
     SetText(text, u"Oak"_s);
     QCOMPARE(Can(text), u"clear all"_s);
@@ -81,9 +94,44 @@ class tst_TextEditing : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void Lines() { WalksThrough<QLineEdit>(); }
-    void Boxes() { WalksThrough<QTextEdit>(); }
-    void PlainBoxes() { WalksThrough<QPlainTextEdit>(); }
+    void Lines() { WalksThrough(QLineEdit()); }
+    void Boxes() { WalksThrough(QTextEdit()); }
+    void PlainBoxes() { WalksThrough(QPlainTextEdit()); }
+    void LinesWithSpinButtons() {
+        WalksThrough(SpinEditor([](int) {}, nullptr));
+    }
+    void LinesWithAList() {
+        const auto nothing = [] {};
+        const auto plain = [](const QString&) { return CellLook(); };
+        WalksThrough(ListEditor({}, true, {nothing, nothing, plain}, nullptr));
+    }
+
+    void OpenEditorsOfTheGrid_data() {
+        QTest::addColumn<int>("col");
+        QTest::addColumn<QString>("cell");
+        QTest::newRow("with spin buttons") << int(GridDesk::UpDown) << u"1.50"_s;
+        QTest::newRow("a line") << int(GridDesk::Text) << u"abc"_s;
+        QTest::newRow("with a list") << int(GridDesk::ComboEdit) << u"Blue"_s;
+    }
+    /// By what has the focus, which need not be the line.
+    void OpenEditorsOfTheGrid() {
+        QFETCH(int, col);
+        QFETCH(QString, cell);
+        GridDesk desk;
+        desk.Show();
+        desk.GoTo(1, col);
+        desk.Press(Qt::Key_Return);
+        QWidget* focus = QApplication::focusWidget();
+        TextEditing::Edit(focus, EditAction::SelectAll);
+        TextEditing::Edit(focus, EditAction::Cut);
+        QCOMPARE(QApplication::clipboard()->text(), cell);
+        QCOMPARE(desk.Line()->text(), QString());
+        QCOMPARE(desk.Cell(1, col), cell);
+        TextEditing::Edit(focus, EditAction::Paste);
+        TextEditing::Edit(focus, EditAction::Paste);
+        desk.Press(Qt::Key_Escape);
+        QCOMPARE(desk.Cell(1, col), cell);
+    }
 
     void WhatCanOnlyBeRead() {
         QApplication::clipboard()->setText(u"Elm"_s);
@@ -114,6 +162,8 @@ private Q_SLOTS:
         QVERIFY(!TextEditing::CanEdit(&button, EditAction::Copy).has_value());
         QVERIFY(!TextEditing::CanEdit(nullptr, EditAction::Copy).has_value());
         TextEditing::Edit(nullptr, EditAction::Copy);
+        QComboBox list;  // to pick from
+        QVERIFY(!TextEditing::CanEdit(&list, EditAction::Copy).has_value());
     }
 };
 

@@ -279,6 +279,30 @@ private Q_SLOTS:
         QVERIFY(desk.Window->isVisible());
     }
 
+    void ADismissedQuestionKeepsTheWindow() {
+        Desk desk;
+        desk.Press(Qt::Key_J, Qt::ControlModifier);
+        desk.Shell.BoxAnswers = {2};
+        desk.Window->Unload();
+        QVERIFY(desk.Window->isVisible());
+        QCOMPARE(desk.Cell(1), u"Ctrl+J"_s);
+        QVERIFY(desk.Save().isEnabled());
+    }
+
+    /// Whoever closes it meanwhile: what asks comes back to it.
+    void ItStaysWhileItAsks() {
+        Desk desk;
+        desk.Press(Qt::Key_J, Qt::ControlModifier);
+        desk.Machine.WriteFile(u"Shortcuts.txt"_s, "Clocks=F6\r\n");
+        desk.Shell.BoxAnswers = {7, 7};
+        desk.Shell.WhileAsking = [&desk] { desk.Window->Unload(); };
+        QTest::mouseClick(&desk.Save(), Qt::LeftButton);
+        QVERIFY(desk.Window->isVisible());
+        QCOMPARE(desk.Shell.BoxAnswers, std::vector<int>{7});  // one box has been shown
+        desk.Window->Unload();
+        QVERIFY(!desk.Window->isVisible());
+    }
+
     void AloneItAsksTheMachine() {
         Desk desk(false);
         desk.Press(Qt::Key_J, Qt::ControlModifier);

@@ -1,6 +1,7 @@
 #include "support/FakeDialogs.h"
 
 #include <QtGlobal>
+#include <utility>
 
 int FakeDialogs::MessageBox(const QString& text, int flags, const QString& title) {
     Boxes.push_back({text, flags, title});
@@ -9,6 +10,9 @@ int FakeDialogs::MessageBox(const QString& text, int flags, const QString& title
     }
     const int answer = BoxAnswers.front();
     BoxAnswers.erase(BoxAnswers.begin());
+    if (WhileAsking) {
+        std::exchange(WhileAsking, {})();
+    }
     return answer;
 }
 
@@ -18,6 +22,7 @@ QString FakeDialogs::OpenFile(const QString& title, const QString& folder, const
     if (FileAnswers.isEmpty()) {
         qFatal("a file picker that the test did not expect: %s", qPrintable(title));
     }
+    OnPicker();
     return FileAnswers.takeFirst();
 }
 
@@ -29,6 +34,7 @@ int FakeDialogs::PickColour(int) {
     if (ColourAnswers.empty()) {
         qFatal("a colour picker that the test did not expect");
     }
+    OnPicker();
     const int answer = ColourAnswers.front();
     ColourAnswers.erase(ColourAnswers.begin());
     return answer;

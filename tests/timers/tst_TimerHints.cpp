@@ -30,6 +30,13 @@ private Q_SLOTS:
         QCOMPARE(SpotHint(u"noon"_s), TimerHint());
     }
 
+    void OfAMarkThatMeansItsHalf() {
+        ClockTimer timer{u"15:10"_s, {}, true, u"5"_s, u"Tea"_s, 0, {}, {}, {}};
+        QVERIFY(!MarkHint(timer).Text.contains(u"Comes at"_s));
+        timer.Due.WholeDay = true;
+        QVERIFY(MarkHint(timer).Text.startsWith(u"Tea\r\nComes at 15:10\r\nSet timer action"_s));
+    }
+
     void OfAMark() {
         const ClockTimer timer{u"15:30"_s,
                                u"P"_s,

@@ -20,7 +20,7 @@ MenuNode FormPopup::Fill() {
     MenuNode menu =
         MakeFormMenu(state, {[this](const FormEntry& entry) { parts_.Commands.Run(entry); },
                              [this](const QString& style) { preview_.Show(style); },
-                             [this] { preview_.End(); }});
+                             [this] { preview_.EndStyle(); }});
     SetMenuIcon(menu, program_);
     return menu;
 }
@@ -36,7 +36,7 @@ void FormPopup::FormRightClick(const QPoint& globalPosition) {
     parts_.Files.MakeCurrent();
     menu_ = MakeMenu(&form_, Fill());
     // However it closes: a row of styles may have been highlighted without its sub-menu.
-    QObject::connect(menu_, &QMenu::aboutToHide, menu_, [this] { preview_.End(); });
+    QObject::connect(menu_, &QMenu::aboutToHide, menu_, [this] { preview_.EndStyle(); });
     menu_->popup(globalPosition);
 }
 

@@ -36,6 +36,7 @@ public:
     void Follow();
     /// Asks, behind the first tick, for what the menus will have to know.
     void FillMenus() { menus_.CountSoundDevices(); }
+    TimerDialogs& Dialogs() { return dialogs_; }
     /// What is to see the form's mouse and keys before the form itself does.
     QObject& EventFilter() { return mouse_; }
 

@@ -220,7 +220,9 @@ void frmTempolark::Activate() {
 // shows in this tick; what goes by the hour alone follows in the next.
 void frmTempolark::Tick() {
     const bool zoneChanged = data_.State.IsDrawn() && zoneFollow_.Follow();
+    ticks_ = true;
     tick_.Tick();
+    ticks_ = false;
     if (data_.State == ClockState::Running) {
         canvas_.ShowChanges();
         timersOnDial_.Follow();
@@ -230,7 +232,22 @@ void frmTempolark::Tick() {
     }
 }
 
+// A tick asks nobody.
+bool frmTempolark::MayEnd() {
+    if (data_.State == ClockState::Closing || ticks_ || !timers_.AsksBeforeItLoses()) {
+        return true;
+    }
+    timersOnDial_.FinishMessage();
+    timers_.SaveTimer(data_.TimerFile);
+    return !timers_.AsksBeforeItLoses() ||
+           timersOnDial_.Dialogs().MayLoseTimers(data_.TimerFile, placement_.Caption());
+}
+
 void frmTempolark::closeEvent(QCloseEvent* event) {
+    if (!MayEnd()) {
+        event->ignore();
+        return;
+    }
     const ClockState before = data_.State;
     data_.State = ClockState::Closing;
     if (before == ClockState::Closing) {

@@ -183,6 +183,8 @@ private:
     void Load();
     /// The zone has been filled: the title, the label of the place, the patterns.
     void FinishLoading();
+    /// Whether the window may close. Timers that are kept and could not be saved are asked about.
+    bool MayEnd();
     /// The clock that comes to the front makes its file and its properties the current ones.
     void Activate();
     /// For another size, and for another screen.
@@ -249,4 +251,5 @@ private:
     clockcore::ClockInput input_;
     clockcore::ZoneFollow zoneFollow_;
     clockcore::ClockTick tick_;
+    bool ticks_ = false;  ///< a tick is under way
 };

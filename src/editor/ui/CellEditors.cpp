@@ -240,6 +240,16 @@ bool CellEditors::HasLeft(Qt::FocusReason reason) const {
     return !IsPopupReason(reason) && !isOwnList && QApplication::focusWidget() != nullptr;
 }
 
+// The host, to which the key would go on, steps back and forth by whole edits.
+bool CellEditors::Redo(const QKeyEvent& event) {
+    QLineEdit* line = LineOf(widget_);
+    const bool asks = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+    if (asks && line != nullptr) {
+        line->redo();
+    }
+    return asks && line != nullptr;
+}
+
 bool CellEditors::PressKey(QKeyEvent& event) {
     const int code = editor::HostCode(event);
     if (code != 0) {
@@ -247,6 +257,9 @@ bool CellEditors::PressKey(QKeyEvent& event) {
     }
     const EditKey key = editor::EditKeyOf(event);
     typed_ = key.Typed;
+    if (Redo(event)) {
+        return true;
+    }
     const bool isShifted = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool isForTheLine = isShifted && key.Code != KeyCode::Tab && key.Typed.isEmpty();
     if ((key.Code == 0 && key.Typed.isEmpty()) || isForTheLine) {

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
+#include <QWheelEvent>
 #include <algorithm>
 #include <limits>
 
@@ -68,6 +69,10 @@ void SpinEditor::stepBy(int steps) {
     spin_(steps > 0 ? 1 : -1);
 }
 
+void SpinEditor::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
 ListEditor::ListEditor(const QStringList& items, bool hasLine, Handlers handlers, QWidget* parent)
     : QComboBox(parent), handlers_(std::move(handlers)) {
     setObjectName(hasLine ? u"ctlComboEdit"_s : u"ctlCombo"_s);
@@ -103,6 +108,10 @@ void ListEditor::hidePopup() {
     if (std::exchange(isOpen_, false)) {
         handlers_.Closed();
     }
+}
+
+void ListEditor::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 QLineEdit* LineOf(QWidget* editor) {

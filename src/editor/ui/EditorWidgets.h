@@ -17,6 +17,8 @@ public:
     void stepBy(int steps) override;
 
 protected:
+    /// Goes on to the grid, which scrolls: a wheel changes no value in passing.
+    void wheelEvent(QWheelEvent* event) override;
     StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
 
 private:
@@ -38,6 +40,10 @@ public:
     bool IsOpen() const { return isOpen_; }
     void showPopup() override;
     void hidePopup() override;
+
+protected:
+    /// Likewise; the list itself, once it is open, scrolls.
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     Handlers handlers_;

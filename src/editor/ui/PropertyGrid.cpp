@@ -1,6 +1,6 @@
 #include "editor/ui/PropertyGrid.h"
 
-#include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QTableView>
 
 #include "foundation/NamedValues.h"
@@ -58,11 +58,23 @@ void PropertyGrid::SetupPropertyGrid() {
         [this](int row, int, const QString& item) { return LookOfItem(row, item); });
     grdProperty_->SetName(u"Properties"_s);
     grdProperty_->View().installEventFilter(this);
+    connect(grdProperty_->View().horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int col) { events_.HeaderClicked(col); });
 }
 
 void PropertyGrid::SetupPropertyHeaders() {
     grdProperty_->Data().SetTextMatrix(0, KeyColumn, u"Property"_s);
     grdProperty_->Data().SetTextMatrix(0, ValueColumn, u"Value"_s);
+}
+
+void PropertyGrid::ShowSortMark() {
+    QHeaderView& header = *grdProperty_->View().horizontalHeader();
+    const auto mark = sheet_.View().Mark();
+    header.setSortIndicatorShown(mark.has_value());
+    if (mark) {
+        header.setSortIndicator(mark->Column,
+                                mark->IsAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    }
 }
 
 void PropertyGrid::FitColumns(int windowWidth) {
@@ -95,6 +107,7 @@ void PropertyGrid::FillPropertyGrid() {
     grdProperty_->Setup();
     grdProperty_->Tag = sheet_.View().Tag();
     SetupPropertyHeaders();
+    ShowSortMark();
     for (int row = 1; row < data.Rows(); ++row) {
         if (row <= Count()) {
             FillRow(row, records_[static_cast<std::size_t>(row - 1)]);
@@ -203,11 +216,19 @@ void PropertyGrid::CommitRow(int row) {
         return;
     }
     sheet_.Records().BeginVisit();
-    const editor::RowCommit commit = sheet_.Commit(record, data.TextMatrix(row, ValueColumn));
+    const editor::RowCommit commit = Take(record, data.TextMatrix(row, ValueColumn));
     if (commit.Cell != data.TextMatrix(row, ValueColumn)) {
         data.SetTextMatrix(row, ValueColumn, commit.Cell);
         grdProperty_->RefreshRow(row);
     }
+}
+
+// What stands behind a comma would be taken for choices.
+editor::RowCommit PropertyGrid::Take(int record, const QString& text) {
+    if (text.contains(u',')) {
+        events_.HasComma();
+    }
+    return sheet_.Commit(record, editor::PropertyCell(text));
 }
 
 void PropertyGrid::RowColChange() {

@@ -26,6 +26,10 @@ public:
         std::function<void()> IsHidden;  ///< a record is to be seen that the search leaves out
         std::function<void()> GotFocus;
         std::function<void(const QPoint& at)> MenuAsked;  ///< in global pixels
+        /// Runs what shows a picker, while which the window stays open.
+        std::function<void(const std::function<void()>& box)> RunBox;
+        std::function<void()> HasComma;  ///< a value was cut off at its comma
+        std::function<void(int col)> HeaderClicked;
     };
 
     /// All outlive this but @p parent, which owns the control.
@@ -80,6 +84,7 @@ private:
     // EditGridHost
     void DblClick() override;
     void KeyDown(int& code, int shift) override;
+    void MouseDown(int button, int shift, double x, double y) override;
     void MouseUp(int button, int shift, double x, double y) override;
     void RowColChange() override;
     void GotFocus() override;
@@ -89,12 +94,15 @@ private:
 
     void SetupPropertyGrid();
     void SetupPropertyHeaders();
+    void ShowSortMark();
     void FillPropertyGrid();
     void FillRow(int row, int record);
     void SetupRowEditor();
     void FillValueChoices(const editor::ValueForm& form, QStringList choices);
     void ClearRowEditor();
     void CommitRow(int row);
+    /// Commits a text up to its comma, if it has one.
+    editor::RowCommit Take(int record, const QString& text);
     /// Puts a text into a record, as the end of an edit does.
     void PutCell(int record, const QString& text);
     /// Opens the editor of the current value with its text.
@@ -102,6 +110,8 @@ private:
     void Commit(const std::vector<editor::PastedValue>& cells, const QString& commandText);
     void Step(void (QUndoStack::*step)());
     void PickColour(int record);
+    /// Shows a picker, and puts into the record what it answers.
+    void Pick(int record, const std::function<std::optional<QString>(platform::Dialogs&)>& picker);
     void PickFile(int record);
     void TurnOver(int record);
 
@@ -121,6 +131,7 @@ private:
     std::vector<int> records_;  ///< that are listed, by row; the first stands in row 1
     int lastRow_ = 0;           ///< the row that was current before, to be committed; 0 for none
     bool filling_ = false;
-    int steps_ = 0;  ///< how deep in `InOneStep`
+    bool onButton_ = false;  ///< the last press was one of a button or a check box
+    int steps_ = 0;          ///< how deep in `InOneStep`
     std::set<int> changed_;
 };

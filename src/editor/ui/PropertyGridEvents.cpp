@@ -1,5 +1,6 @@
 // What the grid of properties does with the events of its control, and with changed records.
 #include <QContextMenuEvent>
+#include <QPointer>
 #include <QTableView>
 
 #include "editor/EditorKeys.h"
@@ -26,6 +27,12 @@ bool WouldChange(const ClockProperty& record, const QString& text) {
     ClockProperties alone;
     alone[1] = record;
     return editor::CommitRow(alone, 1, text).Dirty;
+}
+
+/// Whether an empty text leaves the choice that the record has.
+bool StaysFull(const ClockProperty& record, const QString& text) {
+    return text.isEmpty() && !editor::PropertyCell(record.Value).isEmpty() &&
+           !WouldChange(record, text);
 }
 
 }  // namespace
@@ -69,7 +76,8 @@ void PropertyGrid::GotFocus() {
 
 // A file is picked; any other value opens its editor, as Enter does.
 void PropertyGrid::DblClick() {
-    if (!grdProperty_->Editing().Editable || CurrentRecord() == 0) {
+    const bool onRow = grdProperty_->MouseRow() == grdProperty_->Data().Row() && !onButton_;
+    if (!grdProperty_->Editing().Editable || CurrentRecord() == 0 || !onRow) {
         return;
     }
     if (mduUILib::IsFileKey(sheet_.Key(CurrentRecord()))) {
@@ -79,7 +87,12 @@ void PropertyGrid::DblClick() {
     }
 }
 
+void PropertyGrid::MouseDown(int, int, double, double) {
+    onButton_ = false;
+}
+
 void PropertyGrid::ButtonClicked(int, int) {
+    onButton_ = true;
     PickValue();
 }
 
@@ -136,23 +149,31 @@ void PropertyGrid::OpenEditor() {
 
 void PropertyGrid::PickColour(int record) {
     const int present = mduUILib::ColourValue(sheet_.Cell(record), program_.Services.Random);
-    const int picked = program_.Services.Dialog.PickColour(present);
-    if (picked != Cancelled) {
-        PutCell(record, mduLib::IntegerText(picked));
-    }
+    Pick(record, [present](platform::Dialogs& dialogs) -> std::optional<QString> {
+        const int picked = dialogs.PickColour(present);
+        return picked == Cancelled ? std::nullopt : std::optional(mduLib::IntegerText(picked));
+    });
 }
 
 void PropertyGrid::PickFile(int record) {
-    const auto picker = sheet_.PickerOf(record);
-    if (!picker) {
+    if (!sheet_.PickerOf(record)) {
         return;
     }
     const PathTable& paths = program_.Module.Paths;
-    const QString file = program_.Services.Dialog.OpenFile(
-        sheet_.Key(record).trimmed(), mduUILib::PickerStart(*picker, sheet_.Cell(record), paths),
-        picker->DialogFilter());
-    if (!file.isEmpty()) {
-        PutCell(record, mduUILib::StoredFile(file, paths.AppFolder));
+    Pick(record, [&](platform::Dialogs& dialogs) {
+        return std::optional(
+            mduUILib::PickPropertyFile(dialogs, sheet_.Key(record), sheet_.Cell(record), paths));
+    });
+}
+
+// The window may be gone once the picker is closed.
+void PropertyGrid::Pick(int record,
+                        const std::function<std::optional<QString>(platform::Dialogs&)>& picker) {
+    const QPointer<PropertyGrid> standing(this);
+    std::optional<QString> text;
+    events_.RunBox([&] { text = picker(program_.Services.Dialog); });
+    if (standing && text) {
+        PutCell(record, *text);
     }
 }
 
@@ -168,7 +189,7 @@ void PropertyGrid::TurnOver(int record) {
 // The row may no longer be listed when a box has been answered.
 void PropertyGrid::PutCell(int record, const QString& text) {
     sheet_.Records().BeginVisit();
-    sheet_.Commit(record, text);
+    Take(record, text);
 }
 
 QStringList PropertyGrid::PutCells(const std::vector<editor::PastedValue>& cells,
@@ -177,8 +198,9 @@ QStringList PropertyGrid::PutCells(const std::vector<editor::PastedValue>& cells
     QStringList refused;
     for (const editor::PastedValue& cell : cells) {
         const ClockProperty& record = sheet_.Properties()[cell.Record];
-        const auto text = editor::FittingText(record.Name, record.Value, cell.Cell);
-        if (!text) {
+        const QString cut = editor::PropertyCell(cell.Cell);
+        const auto text = editor::FittingText(record.Name, record.Value, cut);
+        if (!text || StaysFull(record, *text)) {
             refused += record.Name.trimmed();
         } else if (WouldChange(record, *text)) {
             changes.push_back({cell.Record, *text});
@@ -253,6 +275,9 @@ void PropertyGrid::ShowChanges(const std::set<int>& records) {
             FillRow(row, record);
             grdProperty_->RefreshRow(row);
         }
+    }
+    if (records.contains(CurrentRecord()) && !grdProperty_->Editing().IsEditing()) {
+        SetupRowEditor();  // its choices may be others
     }
     preview_.Show();
     events_.RecordsChanged();

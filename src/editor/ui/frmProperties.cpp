@@ -83,7 +83,10 @@ void frmProperties::Open(const QString& zoneName, int ownerHandle) {
         [this](int code, int shift) { return WindowKey(code, shift); },
         [this] { parts_->Controls.Search().clear(); },
         [this] { CheckPropertyChanged(); },
-        [this](const QPoint& at) { parts_->Menu.Popup(MenuState(), at); }};
+        [this](const QPoint& at) { parts_->Menu.Popup(MenuState(), at); },
+        [this](const std::function<void()>& box) { RunBox(box); },
+        [this] { TellLater(editor::CommaProblem); },
+        [this](int col) { Sort(parts_->Sheet.View().TagOfClick(col)); }};
     parts_ = std::make_unique<PropertyWindowParts>(
         program_, shell_, ownerHandle, zoneName, events,
         [this](PropertyMenu::Item item) { RunItem(item); }, this);
@@ -117,14 +120,23 @@ void frmProperties::ShowState() {
     }
     const editor::PropertySheet& sheet = parts_->Sheet;
     setWindowTitle(sheet.Caption());
-    QPushButton& button = parts_->Controls.Apply();
-    button.setText(editor::ButtonCaption(sheet.Button()));
-    button.setAccessibleName(button.text());
+    ShowButton();
     if (parts_->Grid.Control().isEnabled() == sheet.IsForNewFile()) {
         parts_->Grid.SetEditable(!sheet.IsForNewFile());
         parts_->Controls.Search().setEnabled(!sheet.IsForNewFile());
     }
     ShowNewName();
+}
+
+// "Launch" writes what was edited, too: it stays where an edit ends since the button is pressed.
+void frmProperties::ShowButton() {
+    QPushButton& button = parts_->Controls.Apply();
+    const editor::PropertySheet& sheet = parts_->Sheet;
+    const bool isPressed = button.hasFocus() && shown_ == editor::ButtonTag::Launch &&
+                           !sheet.IsForNewFile() && sheet.IsDirty();
+    shown_ = isPressed ? shown_ : sheet.Button();
+    button.setText(editor::ButtonCaption(shown_));
+    button.setAccessibleName(button.text());
 }
 
 void frmProperties::ShowNewName() {
@@ -140,7 +152,7 @@ void frmProperties::ShowNewName() {
     const QString typed = sheet.Caption().mid(TitlePrefix.size()).trimmed();
     const QString problem = typed == u'_' ? QString() : sheet.NameProblem();
     const QString exists = u"There is a file of that name already"_s;
-    controls.ShowName(typed, problem.isEmpty() && sheet.OverwriteQuestion() ? exists : problem);
+    controls.ShowName(typed, sheet.NamesAFile() ? exists : problem);
 }
 
 void frmProperties::Search(const QString& words) {
@@ -153,6 +165,11 @@ void frmProperties::Tell(const QString& problem) {
         parts_->Controls.ShowInfo(problem);
         parts_->Owner.Tell(problem);
     }
+}
+
+void frmProperties::TellLater(const QString& problem) {
+    QMetaObject::invokeMethod(
+        this, [this, problem] { Tell(problem); }, Qt::QueuedConnection);
 }
 
 QWidget& frmProperties::Outer() {
@@ -209,7 +226,7 @@ void frmProperties::Unload() {
 }
 
 QString frmProperties::PropertyFile() const {
-    return parts_ && !parts_->Sheet.IsForNewFile() ? parts_->Sheet.Path() : QString();
+    return parts_ ? parts_->Sheet.Path() : QString();
 }
 
 void frmProperties::SetPropertyChanged(bool state) {

@@ -20,8 +20,8 @@ struct PropertyWindowParts;
 ///     frame->setWidget(window);
 ///     window->ShowPropertyMDIChild("Tokyo Standard Time", clock.hwnd(), 0, 0, 9000, 7500);
 ///
-/// The owner is told by its handle and looked up at each use: a clock that has been closed in the
-/// meantime is simply no more there, and its file is still saved.
+/// A clock is looked up by the file at each use: one that has been closed in the meantime is simply
+/// no more there, and its file is still saved; one that is opened again goes on taking it over.
 class frmProperties final : public QWidget,
                             public IForm,
                             public IPropertyWindow,
@@ -84,6 +84,7 @@ private:
     void ShowRowInfo();
     /// Title, button, name of a new zone, and whether the grid can be edited.
     void ShowState();
+    void ShowButton();
     /// The name of a new zone while it is typed, and why it can't be one.
     void ShowNewName();
     /// Gives the focus to the grid, or to the name that is typed.
@@ -91,17 +92,25 @@ private:
     void Search(const QString& words);
     /// Tells why something was not done, in the line of information and by the owner.
     void Tell(const QString& problem);
+    /// The same once the current row has moved on, which tells of itself.
+    void TellLater(const QString& problem);
 
     // What is done (frmPropertiesActions.cpp)
     void PressButton();
+    /// Runs what shows a box or a picker, unless one is open; the window stays open meanwhile.
+    void RunBox(const std::function<void()>& box);
+    /// @return whether the answer is Yes; true where there is nothing to ask
+    bool Ask(const std::optional<editor::SheetQuestion>& question);
     /// Runs what writes the file, with the current record, its cell, and the owner's properties.
     void Write(const std::function<void(int, const QString&, const ClockProperties&)>& writing);
     void Follow(const editor::SheetOutcome& outcome);
     /// The grid has got the focus.
     void CheckPropertyChanged();
     /// Asks about a change that somebody else has made to the file.
-    /// @return whether the values are those that the user has seen
+    /// @return whether the values are those that the user has seen, and may be written
     bool AskChange();
+    bool SettleChange();  ///< the same within a box of this window
+    void RefreshTimeZone();
     /// @return whether the window may close now
     bool AskToSave();
     bool SaveAtClose();
@@ -126,6 +135,7 @@ private:
     Program program_;
     IShell* shell_;
     int handle_;
-    bool asking_ = false;  ///< a box of this window is open
+    bool asking_ = false;                                 ///< a box of this window is open
+    editor::ButtonTag shown_ = editor::ButtonTag::Apply;  ///< what the button tells that it does
     std::unique_ptr<PropertyWindowParts> parts_;
 };

@@ -2,12 +2,14 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QScopedValueRollback>
 
 #include "editor/ui/PropertyWindowParts.h"
 #include "editor/ui/frmProperties.h"
 
 using namespace Qt::StringLiterals;
+using editor::SheetAnswer;
 using editor::SheetOutcome;
 using Item = PropertyMenu::Item;
 
@@ -34,15 +36,35 @@ QString ClipboardText() {
 }  // namespace
 
 void frmProperties::PressButton() {
+    const editor::ButtonTag seen = shown_;
     parts_->Grid.EndEdit();
-    if (!AskChange() || !parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
+    if (!AskChange() || !Ask(parts_->Sheet.WriteQuestion())) {
         return;
     }
     SheetOutcome outcome;
     Write([&](int record, const QString& cell, const ClockProperties& present) {
-        outcome = parts_->Sheet.Press(record, cell, present);
+        outcome = parts_->Sheet.Press(record, cell, present, seen);
     });
     Follow(outcome);
+}
+
+// A window that is closed from within its own box would be gone when that is answered.
+void frmProperties::RunBox(const std::function<void()>& box) {
+    if (asking_) {
+        return;
+    }
+    const QPointer<QWidget> standing(this);
+    asking_ = true;
+    box();
+    if (standing) {
+        asking_ = false;
+    }
+}
+
+bool frmProperties::Ask(const std::optional<editor::SheetQuestion>& question) {
+    bool isYes = false;
+    RunBox([&] { isYes = parts_->Owner.Ask(question); });
+    return isYes;
 }
 
 // The owner lays out its own look when it is asked for its properties.
@@ -50,6 +72,9 @@ void frmProperties::Write(
     const std::function<void(int, const QString&, const ClockProperties&)>& writing) {
     PropertyGrid& grid = parts_->Grid;
     const ClockProperties present = parts_->Owner.Now();
+    if (parts_->Sheet.IsForNewFile()) {
+        grid.Preview().End();  // another file is open behind it
+    }
     grid.Preview().Forget();
     grid.InOneStep([&] { writing(grid.CurrentRecord(), grid.CurrentCell(), present); });
 }
@@ -59,7 +84,9 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
         parts_->Owner.RefreshForm(*outcome.RefreshOwner);
         parts_->Grid.InOneStep([this] { parts_->Sheet.OwnerHasTaken(); });
     }
-    parts_->Sheet.SetPropertyChanged(false);
+    if (outcome.Problem.isEmpty()) {
+        parts_->Sheet.SetPropertyChanged(false);
+    }
     parts_->Grid.Preview().Show();
     ShowState();
     Tell(outcome.Problem);
@@ -70,7 +97,7 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
 
 // The box comes behind the change of the focus.
 void frmProperties::CheckPropertyChanged() {
-    if (asking_ || !parts_->Sheet.ChangeQuestion()) {
+    if (asking_ || !parts_->Sheet.FocusQuestion()) {
         return;
     }
     QMetaObject::invokeMethod(
@@ -78,14 +105,19 @@ void frmProperties::CheckPropertyChanged() {
 }
 
 bool frmProperties::AskChange() {
-    const QScopedValueRollback guard(asking_, true);
+    bool goesOn = false;
+    RunBox([&] { goesOn = SettleChange(); });
+    return goesOn;
+}
+
+bool frmProperties::SettleChange() {
     const auto question = parts_->Sheet.ChangeQuestion();
     if (!question) {
         return true;
     }
-    const bool refresh = parts_->Owner.Ask(question);
-    Refill([&] { return parts_->Sheet.AnswerChange(refresh); });
-    return !refresh;
+    const SheetAnswer answer = parts_->Owner.AnswerTo(*question);
+    Refill([&] { return parts_->Sheet.AnswerChange(answer); });
+    return answer == SheetAnswer::No;
 }
 
 void frmProperties::Refill(const std::function<QString()>& action) {
@@ -111,15 +143,18 @@ bool frmProperties::AskToSave() {
     const QScopedValueRollback guard(asking_, true);
     parts_->Grid.EndEdit();
     const auto question = parts_->Sheet.CloseQuestion();
-    if (question && parts_->Owner.Ask(question)) {
-        return SaveAtClose();
+    const SheetAnswer answer = question ? parts_->Owner.AnswerTo(*question) : SheetAnswer::No;
+    if (answer == SheetAnswer::Yes) {
+        return SettleChange() && SaveAtClose();
     }
-    parts_->Grid.Preview().End();
-    return true;
+    if (answer == SheetAnswer::No) {
+        parts_->Grid.Preview().End();
+    }
+    return answer == SheetAnswer::No;
 }
 
 bool frmProperties::SaveAtClose() {
-    if (!parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
+    if (!parts_->Owner.Ask(parts_->Sheet.WriteQuestion())) {
         return false;
     }
     SheetOutcome outcome;
@@ -158,11 +193,7 @@ void frmProperties::RunItem(Item item) {
         case Item::RefreshByDefault:
             return Refill([&] { return sheet.RefreshFromDefault(); });
         case Item::RefreshTimeZoneDefaults:
-            parts_->Grid.Preview().End();  // what is only shown must not be written
-            return Refill([&] {
-                sheet.RefreshTimeZoneDefaults(parts_->Owner.Clock());
-                return QString();
-            });
+            return RefreshTimeZone();
         case Item::Close:
             return Unload();
         case Item::BackToDefault:
@@ -174,6 +205,15 @@ void frmProperties::RunItem(Item item) {
         default:
             return;
     }
+}
+
+void frmProperties::RefreshTimeZone() {
+    if (!AskChange() ||
+        (parts_->Owner.Clock() != nullptr && !parts_->Owner.Ask(parts_->Sheet.WriteQuestion()))) {
+        return;
+    }
+    parts_->Grid.Preview().End();  // what is only shown must not be written
+    Refill([this] { return parts_->Sheet.RefreshTimeZoneDefaults(parts_->Owner.Clock()); });
 }
 
 PropertyMenu::State frmProperties::MenuState() const {
@@ -251,17 +291,32 @@ void frmProperties::Cut() {
     for (const int record : parts_->Grid.SelectedRecords()) {
         empty.push_back({record, {}});
     }
-    parts_->Grid.PutCells(empty, u"Cut"_s);
+    const QStringList kept = parts_->Grid.PutCells(empty, u"Cut"_s);
+    if (!kept.isEmpty()) {
+        Tell(u"Not cut, since it can't be empty: "_s + kept.join(u", "_s));
+    }
 }
 
 void frmProperties::Paste() {
     parts_->Grid.EndEdit();
-    const auto cells = editor::PastedValues(ClipboardText(), parts_->Sheet.Properties(),
-                                            parts_->Grid.CurrentRecord());
+    const QString text = ClipboardText();
+    const auto cells =
+        editor::PastedValues(text, parts_->Sheet.Properties(), parts_->Grid.CurrentRecord());
+    const int lost = editor::LinesWithoutRecord(text, parts_->Sheet.Properties());
     const QStringList refused = parts_->Grid.PutCells(cells, u"Paste"_s);
+    QStringList problems;
     if (!refused.isEmpty()) {
-        Tell(u"Not a value of "_s + refused.join(u", "_s));
+        problems += u"Not a value of "_s + refused.join(u", "_s);
     }
+    if (lost > 0) {
+        problems +=
+            lost == 1 ? u"1 line has no row here"_s : u"%1 lines have no row here"_s.arg(lost);
+    }
+    if (std::any_of(cells.begin(), cells.end(),
+                    [](const auto& c) { return c.Cell.contains(u','); })) {
+        problems += editor::CommaProblem;
+    }
+    Tell(problems.join(u"; "_s));
 }
 
 void frmProperties::Find() {

@@ -85,7 +85,9 @@ bool frmProperties::WindowKey(int code, int shift) {
 bool frmProperties::EditKey(int code, int shift) {
     for (const EditKeyRow& row : EditKeys) {
         if (row.Code == code && row.Shift == shift) {
-            Edit(row.Action);
+            if (!parts_->Grid.Control().Editing().IsEditing()) {
+                Edit(row.Action);  // else the key is one of the line that is typed
+            }
             return true;
         }
     }
@@ -120,7 +122,10 @@ bool frmProperties::NameKey(const QKeyEvent& event) {
         return false;
     }
     bool ended = special != 0 && parts_->Sheet.TitleKey(special);
-    for (const QChar character : types ? event.text() : QString()) {
+    const bool isShift = event.modifiers().testFlag(Qt::ShiftModifier);
+    const bool isOnPad = event.modifiers().testFlag(Qt::KeypadModifier);
+    const QString text = isOnPad ? event.text() : editor::NameKey(event.text(), isShift);
+    for (const QChar character : types ? text : QString()) {
         ended = parts_->Sheet.TitleKey(drawing::TypedKey(character)) || ended;
     }
     if (ended) {

@@ -3,6 +3,9 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTimer>
 
 namespace platform {
 
@@ -17,8 +20,29 @@ constexpr int IconMask = 0x70;
 constexpr int ButtonMask = 0x0F;
 
 constexpr int OkPressed = 1;
+constexpr int Dismissed = 2;
 constexpr int YesPressed = 6;
 constexpr int NoPressed = 7;
+
+/// A box that tells "No" from being dismissed, for which Qt presses that button.
+class QuestionBox final : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+    bool IsDismissed() const { return dismissed_; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        dismissed_ = event->matches(QKeySequence::Cancel);
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        dismissed_ = true;
+        QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool dismissed_ = false;
+};
 
 QMessageBox::Icon IconOf(int flags) {
     switch (flags & IconMask) {
@@ -46,6 +70,29 @@ void MakeRoomForHeading(QMessageBox& box, const QString& title) {
     }
 }
 
+QMessageBox::StandardButtons ButtonsOf(int flags) {
+    const bool asks = (flags & ButtonMask) == YesNo;
+    return asks ? QMessageBox::Yes | QMessageBox::No
+                : QMessageBox::StandardButtons(QMessageBox::Ok);
+}
+
+/// Counts down on the button No, and then presses it.
+void EndWithNo(QMessageBox& box, int seconds) {
+    constexpr int second = 1000;  // milliseconds
+    QAbstractButton* no = box.button(QMessageBox::No);
+    const auto tell = [no](int left) { no->setText(QStringLiteral("No (%1)").arg(left)); };
+    tell(seconds);
+    auto* timer = new QTimer(&box);
+    QObject::connect(timer, &QTimer::timeout, &box, [no, tell, left = seconds]() mutable {
+        left -= 1;
+        tell(left);
+        if (left <= 0) {
+            no->click();
+        }
+    });
+    timer->start(second);
+}
+
 /// "ini" of a filter such as "Ini File (*.ini)".
 QString SuffixOf(const QString& filter) {
     return filter.section(QStringLiteral("*."), 1, 1).section(u')', 0, 0).section(u' ', 0, 0);
@@ -55,10 +102,7 @@ QString SuffixOf(const QString& filter) {
 
 int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& title) {
     const bool asks = (flags & ButtonMask) == YesNo;
-    QMessageBox box(
-        IconOf(flags), title, text,
-        asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
-        owner_);
+    QuestionBox box(IconOf(flags), title, text, ButtonsOf(flags), owner_);
     box.setTextFormat(Qt::PlainText);
     if (asks && (flags & SecondButton) != 0) {
         box.setDefaultButton(QMessageBox::No);
@@ -68,11 +112,22 @@ int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& ti
     if (!asks) {
         return OkPressed;
     }
+    if (box.IsDismissed()) {
+        return Dismissed;
+    }
     return pressed == QMessageBox::Yes ? YesPressed : NoPressed;
 }
 
 void DesktopDialogs::PostMessageBox(const QString& text, int flags, const QString& title) {
-    const Post post{text, flags, title};
+    Queue({text, flags & ~ButtonMask, title});
+}
+
+void DesktopDialogs::PostQuestion(const QString& text, const QString& title, int seconds,
+                                  const std::function<void(bool)>& answer) {
+    Queue({text, YesNo + Question, title, seconds, answer});
+}
+
+void DesktopDialogs::Queue(const Post& post) {
     if (owner_ == nullptr || posts_.contains(post)) {
         return;
     }
@@ -87,17 +142,30 @@ void DesktopDialogs::ShowNextPost() {
         return;
     }
     const Post& post = posts_.first();
-    standing_ = new QMessageBox(IconOf(post.Flags), post.Title, post.Text, QMessageBox::Ok, owner_);
+    standing_ =
+        new QMessageBox(IconOf(post.Flags), post.Title, post.Text, ButtonsOf(post.Flags), owner_);
     standing_->setTextFormat(Qt::PlainText);
     standing_->setAttribute(Qt::WA_DeleteOnClose);
     standing_->setModal(false);
     MakeRoomForHeading(*standing_, post.Title);
-    QObject::connect(standing_, &QDialog::finished, owner_, [this] {
-        standing_ = nullptr;
-        posts_.removeFirst();
-        ShowNextPost();
-    });
+    if (post.Answer) {
+        standing_->setDefaultButton(QMessageBox::No);
+    }
+    if (post.Seconds > 0) {
+        EndWithNo(*standing_, post.Seconds);
+    }
+    QObject::connect(standing_, &QDialog::finished, owner_,
+                     [this](int pressed) { EndPost(pressed == QMessageBox::Yes); });
     standing_->show();
+}
+
+void DesktopDialogs::EndPost(bool yes) {
+    standing_ = nullptr;
+    const Post post = posts_.takeFirst();
+    if (post.Answer) {
+        post.Answer(yes);
+    }
+    ShowNextPost();
 }
 
 QString DesktopDialogs::OpenFile(const QString& title, const QString& folder,

@@ -88,6 +88,10 @@ void ShellWindows::ShowCentralProperties(bool forNewClock) {
 
 void ShellWindows::OpenProperties() {
     IForm* active = area_.ActiveChild();
+    if (active != nullptr && active->AsPropertyWindow() != nullptr) {
+        mduLib::BringToFront(*active);
+        return;
+    }
     IClock* clock = active != nullptr ? active->AsClock() : nullptr;
     if (clock != nullptr) {
         OpenClockProperties(*clock);

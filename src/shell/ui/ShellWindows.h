@@ -38,7 +38,8 @@ public:
     /// Like all windows that edit a file it comes to the front where it is open already.
     void ShowCentralProperties(bool forNewClock);
 
-    /// The properties of the clock in front, beside it, or of the shell where none is.
+    /// The properties of the clock in front, beside it, or of the shell where none is. Nothing more
+    /// is opened while a window of properties is in front.
     void OpenProperties();
     void OpenShortcuts();  ///< once: one that is open comes to the front
     void OpenTimeZones();  ///< likewise

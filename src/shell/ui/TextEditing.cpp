@@ -1,6 +1,8 @@
 #include "shell/ui/TextEditing.h"
 
+#include <QAbstractSpinBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -93,9 +95,19 @@ void Do(Text& text, EditAction action) {
     }
 }
 
+/// The text of a widget that has a line inside and the focus for it; else the widget itself.
+QWidget* TextIn(QWidget* widget) {
+    if (const auto* list = qobject_cast<QComboBox*>(widget); list != nullptr) {
+        return list->lineEdit();
+    }
+    const auto* spin = qobject_cast<QAbstractSpinBox*>(widget);
+    return spin != nullptr ? spin->findChild<QLineEdit*>({}, Qt::FindDirectChildrenOnly) : widget;
+}
+
 /// Calls @p act with the widget as the kind of text that it is. @return whether it is any
-template <class Widget, class Act>
-bool AsText(Widget* widget, const Act& act) {
+template <class Act>
+bool AsText(QWidget* given, const Act& act) {
+    QWidget* widget = TextIn(given);
     const auto as = [&](auto* text) {
         if (text != nullptr) {
             act(*text);

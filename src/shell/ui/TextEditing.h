@@ -5,7 +5,8 @@
 
 #include "foundation/Forms.h"
 
-/// Lines and boxes of text, as the menu "Edit" acts on them.
+/// Lines and boxes of text, as the menu "Edit" acts on them. A line within a list or within spin
+/// buttons, which have the focus in its place, counts as one.
 namespace TextEditing {
 
 /// Whether a text can do that at this moment; nothing for a widget that is no text.

@@ -167,7 +167,21 @@ void frmMain::OpenWindow(ShellWindow window) {
 }
 
 int frmMain::ShowMsgbox(const QString& text, int flags, const QString& title) {
-    return program_.Services.Dialog.MessageBox(text, flags, title);
+    ++boxes_;
+    const int answer = program_.Services.Dialog.MessageBox(text, flags, title);
+    if (--boxes_ == 0 && std::exchange(quitAsked_, false)) {
+        QMetaObject::invokeMethod(this, &frmMain::Quit, Qt::QueuedConnection);
+    }
+    return answer;
+}
+
+// A window that closes already can't be closed from within its own question.
+void frmMain::Quit() {
+    if (boxes_ > 0) {
+        quitAsked_ = true;
+    } else if (!isHidden()) {
+        close();
+    }
 }
 
 int frmMain::BackColor() const {
@@ -195,11 +209,10 @@ void frmMain::ShowWindowMenu(const QPoint& onScreen) {
 
 // What could not be saved keeps the shell open.
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!windows_->CloseEditors()) {
+    if (!windows_->CloseEditors() || !shell::CloseAllChildren(program_.Windows)) {
         event->ignore();
         return;
     }
-    shell::CloseAllChildren(program_.Windows);
     ExitShell();
     event->accept();
 }

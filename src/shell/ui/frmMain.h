@@ -61,6 +61,10 @@ public:
     /// Opens the shell's own settings, or the defaults of a new clock.
     void ShowCentralProperties(bool forNewClock);
 
+    /// Ends the program, as the system asks it to. While a box waits for its answer that comes
+    /// behind the answer.
+    void Quit();
+
     /// The help of the shell, or of the file @p name; the window in front tells the page.
     void ShowHelp(const QString& name = {});
 
@@ -168,4 +172,6 @@ private:
     std::unique_ptr<ShellWindows> windows_;
     std::unique_ptr<ToolBarCommands> buttons_;
     std::unique_ptr<EditTargets> edit_;
+    int boxes_ = 0;           ///< that wait for their answers
+    bool quitAsked_ = false;  ///< meanwhile
 };

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QTableView>
 
 #include "clock/ClockKeys.h"
@@ -222,6 +223,7 @@ void frmShortcuts::ShowHelp() {
 }
 
 int frmShortcuts::Ask(const QString& text, int flags, const QString& title) {
+    const QScopedValueRollback<bool> asking(asks_, true);
     return shell_ != nullptr ? shell_->ShowMsgbox(text, flags, title)
                              : program_.Services.Dialog.MessageBox(text, flags, title);
 }
@@ -266,5 +268,5 @@ void frmShortcuts::resizeEvent(QResizeEvent*) {
 }
 
 void frmShortcuts::closeEvent(QCloseEvent* event) {
-    event->setAccepted(sheet_.MayClose(Row()));
+    event->setAccepted(!asks_ && sheet_.MayClose(Row()));
 }

@@ -40,7 +40,7 @@ public:
     void Show() override { ChildFrame::Show(*this); }
     void SetFocus() override { ChildFrame::SetFocus(*this); }
     /// Asks where something is not saved. The window stays where that was to be saved and could
-    /// not be.
+    /// not be, where the question is dismissed, and while a question of its own stands.
     void Unload() override { ChildFrame::Outer(*this).close(); }
     IEditTarget* AsEditTarget() override { return this; }
 
@@ -84,6 +84,7 @@ private:
     int handle_;
     ctlEditGrid& grid_;
     shell::ShortcutSheet sheet_;
+    bool asks_ = false;  ///< a box stands, which the window must outlive
     int lastRow_ = 0;  ///< the row that was current before; 0 for none
     QLabel* lblInfo_ = nullptr;
     QPushButton* cmdSave_ = nullptr;
