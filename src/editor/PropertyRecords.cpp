@@ -140,6 +140,17 @@ void PropertyRecords::PutQuietly(const QString& name, const QString& value) {
     changed_(record);
 }
 
+// A row that is added has a gap before it, see `mduLib::PutProperty`.
+void PropertyRecords::DropQuietly(const QString& name) {
+    for (ClockProperties* properties : {&now_, &written_}) {
+        const int last = properties->UpperBound();
+        if (last > 2 && mduLib::FindPropertyRow(name, *properties) == last) {
+            properties->Resize(last - 2);
+        }
+    }
+    changed_(0);
+}
+
 bool PropertyRecords::Follow(const ClockProperties& file) {
     if (!HaveSameKeys(written_, file)) {
         return false;

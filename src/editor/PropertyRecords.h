@@ -43,6 +43,9 @@ public:
     /// Takes a value that is not the user's: it can't be undone, and counts as written. The first
     /// record of that name takes it and keeps its choices; one that is missing is added.
     void PutQuietly(const QString& name, const QString& value);
+    /// Takes the last record away, where it is one of that name that `PutQuietly` has added; that
+    /// counts as written, too.
+    void DropQuietly(const QString& name);
     /// Takes over what the file holds now: it counts as written, and what is not edited here
     /// follows it. @return false, and nothing happens, where the file has not the keys that were
     /// written, in their order

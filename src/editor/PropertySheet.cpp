@@ -42,8 +42,9 @@ PropertySheet::PropertySheet(const Program& program, const Source& source)
     }
 }
 
-QString PropertySheet::PresentName() const {
-    return Cell(mduLib::FindPropertyRow(ZoneNameKey, Properties()));
+std::optional<QString> PropertySheet::PresentName() const {
+    const int record = mduLib::FindPropertyRow(ZoneNameKey, Properties());
+    return record == 0 ? std::nullopt : std::optional(Cell(record));
 }
 
 QString PropertySheet::Key(int record) const {

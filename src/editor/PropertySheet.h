@@ -168,7 +168,8 @@ public:
     std::optional<mduUILib::FilePicker> PickerOf(int record) const;
 
 private:
-    QString PresentName() const;
+    /// Nothing where no record takes a zone's name.
+    std::optional<QString> PresentName() const;
     void TakeNameBack();
     SheetOutcome Create();
     SheetOutcome Apply(ButtonTag held, const ClockProperties& ownerNow);
@@ -188,7 +189,7 @@ private:
     PropertyDefaults defaults_;
     PropertyView view_;
     ZoneTitle title_;
-    QString nameBefore_;                   ///< the zone's name in the records before one was typed
+    std::optional<QString> nameBefore_;    ///< `PresentName` before one was typed
     ButtonTag button_ = ButtonTag::Apply;  ///< while nothing waits to be written
     bool forNewFile_;
     bool propertyChanged_ = false;

@@ -75,8 +75,10 @@ void PropertySheet::FlipNewFile() {
 }
 
 void PropertySheet::TakeNameBack() {
-    if (mduLib::FindPropertyRow(ZoneNameKey, Properties()) != 0) {
-        records_.PutQuietly(ZoneNameKey, nameBefore_);
+    if (nameBefore_) {
+        records_.PutQuietly(ZoneNameKey, *nameBefore_);
+    } else {
+        records_.DropQuietly(ZoneNameKey);
     }
     title_.SetName(zoneName_);
     if (Path().isEmpty()) {

@@ -165,6 +165,13 @@ void tst_PropertyRecords::QuietValuesCantBeUndone() {
     records.PutQuietly(u"Window State"_s, u"Normal"_s);
     QCOMPARE(mduLib::GetPropertyRaw(u"Window State"_s, records.Now()), u"Normal"_s);
     QVERIFY(!records.IsDirty());
+    records.DropQuietly(u"Window Top"_s);  // the file's own
+    QCOMPARE(records.Now().UpperBound(), 3);
+    records.DropQuietly(u"Window State"_s);
+    QCOMPARE(records.Now().UpperBound(), 1);
+    QVERIFY(!records.IsDirty());
+    records.DropQuietly(u"Window Top"_s);
+    QCOMPARE(Lines(records.Now()), QStringList{u"Window Top=900,1,2"_s});
 }
 
 void tst_PropertyRecords::QuietValuesSurviveAnUndoneList() {

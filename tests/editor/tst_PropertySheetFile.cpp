@@ -431,11 +431,18 @@ void tst_PropertySheetFile::FlipsBackToTheDefaultFile() {
 
 void tst_PropertySheetFile::FlipsBackWithoutAName() {
     SheetDesk desk;
-    const auto sheet = desk.Open("Size=1\r\n");
+    const auto sheet = desk.Open("Size=1\r\nColour=Red\r\n");
     sheet->FlipNewFile();
     sheet->FlipNewFile();
-    QCOMPARE(sheet->Properties().UpperBound(), 1);
+    QCOMPARE(sheet->Properties().UpperBound(), 2);
+    sheet->FlipNewFile();
+    TypeName(*sheet, u"er"_s);
+    QCOMPARE(sheet->Cell(4), u"Londoner"_s);
+    sheet->FlipNewFile();
+    QCOMPARE(sheet->Properties().UpperBound(), 2);
     QVERIFY(!sheet->IsDirty());
+    QCOMPARE(sheet->Press(2, u"Blue"_s, {}).Problem, QString());
+    QCOMPARE(desk.Zone(u"London.ini"_s), QByteArray("Size=1\r\nColour=Blue\r\n"));
 }
 
 void tst_PropertySheetFile::CopiesAnOpenFile() {
