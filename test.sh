@@ -14,7 +14,7 @@ Say "Unit and widget tests"
 Count "unit and widget tests" tools/run_tests.sh debug
 
 Say "End-to-end tests"
-for script in run styles parts mouse timers ticks profiles shell bars places once zones; do
+for script in run styles parts mouse timers ticks profiles shell bars places once zones editing; do
     Count "end-to-end tests, $script" tools/with_display.sh "tests/e2e/$script.sh" build/debug/bin
 done
 

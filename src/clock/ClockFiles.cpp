@@ -150,15 +150,9 @@ void ClockFiles::SaveZone() {
     }
 }
 
-// All that is in memory has just come from the file.
 void ClockFiles::RefreshDefaultTimeZoneDetails(const QString& zoneName) {
-    if (mayWrite_) {
-        bool written = true;
-        mduTimeZones::WriteZoneKeys(program_.Services, program_.Module.Paths,
-                                    data_.EditProperties(), zoneName, data_.PropertyFileName,
-                                    &written);
-        ReportUnless(written);
-    }
+    RenewZone(zoneName);
+    SaveZone();
     program_.Module.CurrentProperties = data_.Properties();
 }
 

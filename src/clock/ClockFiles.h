@@ -45,8 +45,8 @@ public:
     /// Keys with days of another year are made anew first.
     void RefreshZone();
 
-    /// Rewrites the zone keys of the file from the zone's present rules and publishes the
-    /// properties.
+    /// Rewrites the zone keys of the file, as it now stands on disk, from the zone's present rules
+    /// and publishes the properties. What else has been changed waits for its own save.
     void RefreshDefaultTimeZoneDetails(const QString& zoneName);
 
     /// Stores the window's rectangle, in twips, into the file as it now stands on disk. @return

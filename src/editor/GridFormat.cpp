@@ -85,6 +85,7 @@ bool SetColPosition(EditGridData& grid, GridLook& look, int col, int place) {
         grid.PutRow(row, moved);
     }
     std::vector<ColumnLook> looks;
+    looks.reserve(order.size());
     for (const int from : order) {
         looks.push_back(look.ColumnAt(from));
     }

@@ -56,6 +56,15 @@ std::vector<PastedValue> ValuesOfKeys(const QStringList& lines, const ClockPrope
     return pasted;
 }
 
+/// A value alone goes to the current record of its key, where it is that.
+std::vector<PastedValue> AtCurrent(const PastedValue& pasted, const ClockProperties& properties,
+                                   int current) {
+    const bool isIts =
+        HasRecord(properties, current) &&
+        properties[current].Name.trimmed() == properties[pasted.Record].Name.trimmed();
+    return {{isIts ? current : pasted.Record, pasted.Cell}};
+}
+
 }  // namespace
 
 QString ClipText(const ClockProperties& properties, const std::vector<int>& records) {
@@ -71,14 +80,14 @@ QString ClipText(const ClockProperties& properties, const std::vector<int>& reco
 std::vector<PastedValue> PastedValues(const QString& text, const ClockProperties& properties,
                                       int current) {
     const QStringList lines = LinesOf(text);
-    std::vector<PastedValue> pasted = ValuesOfKeys(lines, properties);
-    if (lines.size() > 1 && !pasted.empty()) {
-        return pasted;
+    const std::vector<PastedValue> pasted = ValuesOfKeys(lines, properties);
+    if (!pasted.empty()) {
+        return lines.size() > 1 ? pasted : AtCurrent(pasted.front(), properties, current);
     }
     if (!HasRecord(properties, current) || lines.isEmpty()) {
         return {};
     }
-    return {{current, pasted.empty() ? lines.join(u' ') : pasted.front().Cell}};
+    return {{current, lines.join(u' ')}};
 }
 
 int LinesWithoutRecord(const QString& text, const ClockProperties& properties) {

@@ -22,11 +22,11 @@ struct PastedValue {
 };
 
 /// What a text puts where. Lines that begin with a key of the file and a tab go to their keys; the
-/// second line of a key goes to its second record. One such line alone goes to the current record,
-/// and so does any other text as a whole, which is then one value.
+/// second line of a key goes to its second record, and a line alone to the current record where
+/// that is of its key. Any other text as a whole is one value, which goes to the current record.
 ///
 ///     PastedValues("Red", properties, 7)                 // {7, "Red"}
-///     PastedValues("Hour Hand Colour\tRed", ..., 7)      // {7, "Red"}
+///     PastedValues("Hour Hand Colour\tRed", ..., 7)      // to its own record
 ///     PastedValues("A\t1\nB\t2\nno key\t3", ..., 7)      // "1" to A, "2" to B
 ///
 /// @param current the current record; 0 where there is none, to which nothing goes

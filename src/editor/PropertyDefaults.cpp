@@ -2,6 +2,7 @@
 
 #include "editor/PropertyRows.h"
 #include "foundation/PropertyLookup.h"
+#include "timezones/ExactKeys.h"
 #include "timezones/ZoneKeys.h"
 
 namespace editor {
@@ -18,7 +19,8 @@ QString WithoutMark(const QString& value) {
 
 bool IsEmptyZoneKey(const ClockProperty& record) {
     return PropertyCell(record.Value).trimmed().isEmpty() &&
-           mduTimeZones::ZoneKeys().contains(record.Name.trimmed(), Qt::CaseInsensitive);
+           (mduTimeZones::ZoneKeys() + QStringList(mduTimeZones::ZoneIdKey))
+               .contains(record.Name.trimmed(), Qt::CaseInsensitive);
 }
 
 }  // namespace
@@ -44,8 +46,13 @@ QString PropertyDefaults::ValueOf(const ClockProperty& record) const {
     return WithoutMark(defaults_[RowOf(record)].Value);
 }
 
+bool PropertyDefaults::Gives(const ClockProperty& record) const {
+    const int row = RowOf(record);
+    return row != 0 && !IsEmptyZoneKey(defaults_[row]);
+}
+
 bool PropertyDefaults::Differs(const ClockProperty& record) const {
-    return RowOf(record) != 0 &&
+    return Gives(record) &&
            PropertyCell(WithoutMark(record.Value)) != PropertyCell(ValueOf(record));
 }
 
@@ -53,10 +60,9 @@ ClockProperties PropertyDefaults::MergedOver(const ClockProperties& properties) 
     ClockProperties merged = properties;
     std::vector<bool> taken(static_cast<std::size_t>(defaults_.UpperBound()) + 1);
     for (int record = 1; record <= merged.UpperBound(); ++record) {
-        const int row = RowOf(merged[record]);
-        taken[static_cast<std::size_t>(row)] = true;
-        if (row != 0 && !IsEmptyZoneKey(defaults_[row])) {
-            merged[record].Value = WithoutMark(defaults_[row].Value);
+        taken[static_cast<std::size_t>(RowOf(merged[record]))] = true;
+        if (Gives(merged[record])) {
+            merged[record].Value = ValueOf(merged[record]);
         }
     }
     for (int row = 1; row <= defaults_.UpperBound(); ++row) {

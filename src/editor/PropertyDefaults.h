@@ -19,12 +19,14 @@ public:
     int RowOf(const ClockProperty& record) const;
     /// The whole value that the default gives, without a leading "^"; empty where it has none.
     QString ValueOf(const ClockProperty& record) const;
-    /// Whether a record shows something else than the default; false for a key that it lacks.
+    /// Whether there is a value for a record. An empty one is none for a key of the time zone,
+    /// which is each clock's own.
+    bool Gives(const ClockProperty& record) const;
+    /// Whether a record shows something else than the default gives; false where it gives nothing.
     bool Differs(const ClockProperty& record) const;
 
     /// The records with the defaults' values and choices in the place of their own. A key that
-    /// only the defaults have comes behind them; one that they lack stays as it is. The keys of a
-    /// time zone stay where the default leaves them empty.
+    /// only the defaults have comes behind them; one for which they give nothing stays as it is.
     ClockProperties MergedOver(const ClockProperties& properties) const;
 
 private:

@@ -10,18 +10,14 @@ namespace editor {
 namespace {
 
 constexpr int Exclamation = 48;
+constexpr int NoPressed = 7;
 
 }  // namespace
-
-IClock* PropertyOwner::Clock() const {
-    IForm* owner = IsShell() ? nullptr : program_.Windows.Find(handle_);
-    return owner == nullptr ? nullptr : owner->AsClock();
-}
 
 IClock* PropertyOwner::ClockOf(const QString& file) const {
     for (int i = 0; i < program_.Windows.Count(); ++i) {
         IClock* clock = program_.Windows[i].AsClock();
-        if (clock != nullptr && clock->IniFile() == file) {
+        if (clock != nullptr && !file.isEmpty() && clock->IniFile() == file) {
             return clock;
         }
     }
@@ -37,16 +33,18 @@ PropertySheet::Source PropertyOwner::SourceOf(const QString& zoneName) const {
                      : PropertySheet::Source{SheetKind::Clock, zoneName, paths.ZoneDefaultFile()};
 }
 
-bool PropertyOwner::Ask(const std::optional<SheetQuestion>& question) const {
-    if (!question) {
-        return true;
+SheetAnswer PropertyOwner::AnswerTo(const SheetQuestion& question) const {
+    const auto& [text, title, flags] = question;
+    const int answer = shell_ != nullptr ? shell_->ShowMsgbox(text, flags, title)
+                                         : program_.Services.Dialog.MessageBox(text, flags, title);
+    if (answer == MsgBox::Yes) {
+        return SheetAnswer::Yes;
     }
-    const int answer =
-        shell_ != nullptr
-            ? shell_->ShowMsgbox(question->Text, MsgBox::YesNoQuestion, question->Title)
-            : program_.Services.Dialog.MessageBox(question->Text, MsgBox::YesNoQuestion,
-                                                  question->Title);
-    return answer == MsgBox::Yes;
+    return answer == NoPressed ? SheetAnswer::No : SheetAnswer::Neither;
+}
+
+bool PropertyOwner::Ask(const std::optional<SheetQuestion>& question) const {
+    return !question || AnswerTo(*question) == SheetAnswer::Yes;
 }
 
 void PropertyOwner::Tell(const QString& text) const {
@@ -75,7 +73,7 @@ ClockProperties PropertyOwner::Now() const {
 void PropertyOwner::RefreshForm(const QString& name) const {
     if (IClock* clock = Clock()) {
         clock->RefreshForm(name);
-    } else if (IsShell() && shell_ != nullptr) {
+    } else if (shell_ != nullptr && IsShell() && file_() == program_.Module.Paths.CentralFile) {
         shell_->RefreshForm(name);
     }
 }

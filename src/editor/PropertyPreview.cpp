@@ -15,14 +15,16 @@ QString StoredValue(const ClockProperty& record, int number, const ClockProperti
 
 }  // namespace
 
-// What the clock is to show in the place of what it has stored.
+// What the clock is to show in the place of what it has stored. It goes by the first of two records
+// of one name.
 ClockProperties PropertyPreview::Values(int highlighted, const QString& value) const {
     const ClockProperties& now = records_.Now();
     ClockProperties values;
     for (int number = 1; number <= now.UpperBound(); ++number) {
         const ClockProperty& record = now[number];
         const QString cell = number == highlighted ? value : PropertyCell(record.Value);
-        if (cell != PropertyCell(StoredValue(record, number, records_.Written()))) {
+        const bool isNews = cell != PropertyCell(StoredValue(record, number, records_.Written()));
+        if (isNews && mduLib::FindPropertyRow(record.Name, now) == number) {
             mduLib::AppendProperty(record.Category, record.Name, cell, values);
         }
     }
@@ -30,7 +32,13 @@ ClockProperties PropertyPreview::Values(int highlighted, const QString& value) c
 }
 
 void PropertyPreview::Send(const ClockProperties& values) {
-    if (values != shown_ && !owner_.IsShell()) {
+    const IClock* clock = owner_.Clock();
+    const int handle = clock == nullptr ? 0 : clock->hwnd();
+    if (handle != shownBy_) {
+        shownBy_ = handle;
+        shown_ = {};
+    }
+    if (clock != nullptr && values != shown_) {
         shown_ = values;
         owner_.Preview(values);
     }

@@ -14,7 +14,8 @@ public:
         : owner_(owner), records_(records) {}
 
     /// Shows the records as they are, a record with another value, or the clock's own look. The
-    /// clock is told only what it was not told last.
+    /// clock is told only what it was not told last; one that has been opened anew was told
+    /// nothing.
     void Show() { Send(Values(0, {})); }
     void Highlight(int record, const QString& value) { Send(Values(record, value)); }
     void End() { Send({}); }
@@ -28,6 +29,7 @@ private:
     const PropertyOwner& owner_;
     const PropertyRecords& records_;
     ClockProperties shown_;
+    int shownBy_ = 0;  ///< the handle of the clock that shows them; 0 while there was none
 };
 
 }  // namespace editor

@@ -34,8 +34,7 @@ PropertySheet::PropertySheet(const Program& program, const Source& source)
       defaults_(ReadDefaults(program.Services.FileSystem, source.DefaultFile)
                     .value_or(ClockProperties())),
       title_(source.ZoneName),
-      forNewFile_(source.Kind == SheetKind::NewClock),
-      isShownByOwner_(source.Kind != SheetKind::NewClock) {
+      forNewFile_(source.Kind == SheetKind::NewClock) {
     title_.SetEdited(forNewFile_);
     nameBefore_ = PresentName();
     if (source.Kind == SheetKind::Shell) {
@@ -79,7 +78,7 @@ std::optional<mduUILib::FilePicker> PropertySheet::PickerOf(int record) const {
 }
 
 void PropertySheet::BackToDefault(int record) {
-    if (HasRecord(Properties(), record) && defaults_.RowOf(Properties()[record]) != 0) {
+    if (HasRecord(Properties(), record) && defaults_.Gives(Properties()[record])) {
         const QString value = defaults_.ValueOf(Properties()[record]);
         records_.PutValue(record, value, Key(record).trimmed() + u" Back to Default"_s);
     }
@@ -94,7 +93,7 @@ QString PropertySheet::Reload() {
     records_.Replace(*onDisk, u"Reload Properties"_s);
     records_.MarkWritten();
     file_.Note();
-    propertyChanged_ = false;
+    SetPropertyChanged(false);
     ResetOrder();
     return {};
 }
@@ -122,9 +121,12 @@ bool PropertySheet::CanRefreshTimeZone() const {
            mduTimeZones::FindTimeZone(program_.Services, paths, zoneName_) != nothing;
 }
 
-void PropertySheet::RefreshTimeZoneDefaults(IClock* owner) {
-    const bool ownerWrites = owner != nullptr && isShownByOwner_ && owner->IniFile() == Path();
-    const bool isKnown = file_.State() == FileState::Same;
+QString PropertySheet::RefreshTimeZoneDefaults(IClock* owner) {
+    const bool ownerWrites = owner != nullptr && owner->IniFile() == Path();
+    const FileState state = file_.State();
+    if (ownerWrites && state == FileState::Unreadable) {
+        return UnreadableText(Path());
+    }
     ClockProperties renewed = Properties();
     if (ownerWrites) {
         owner->RefreshDefaultTimeZoneDetails(zoneName_);
@@ -133,11 +135,12 @@ void PropertySheet::RefreshTimeZoneDefaults(IClock* owner) {
         mduTimeZones::PutZoneKeys(program_.Services, program_.Module.Paths, renewed, zoneName_);
     }
     records_.Replace(renewed, u"Refresh Time Zone By Default"_s);
-    if (ownerWrites && isKnown) {
+    if (ownerWrites && state != FileState::Changed) {
         OwnerHasTaken();
     }
     Publish();
     ResetOrder();
+    return {};
 }
 
 }  // namespace editor

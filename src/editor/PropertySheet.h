@@ -11,6 +11,7 @@
 #include "editor/ZoneTitle.h"
 #include "foundation/FilePickers.h"
 #include "foundation/Program.h"
+#include "foundation/RemovalQuestion.h"
 
 namespace editor {
 
@@ -28,13 +29,21 @@ enum class SheetKind {
 struct SheetQuestion {
     QString Text;
     QString Title;
+    int Flags = MsgBox::YesNoQuestion;
     bool operator==(const SheetQuestion&) const = default;
+};
+
+/// What a question was answered with.
+enum class SheetAnswer {
+    Yes,
+    No,
+    Neither  ///< its box was dismissed: nothing is to be done, and the window stays
 };
 
 /// What the window has to do behind a press of its button, or behind its last save.
 struct SheetOutcome {
     QString Problem;  ///< to be told; nothing has been written then. Empty when all is done
-    std::optional<QString> RefreshOwner;  ///< call `RefreshForm` of the owner with this name
+    std::optional<QString> RefreshOwner;  ///< call `RefreshForm` of the file's owner with this
     QString Launch;                       ///< launch the clock of this zone and unload
     bool operator==(const SheetOutcome&) const = default;
 };
@@ -72,7 +81,8 @@ public:
 
     /// Takes a cell's text into its record.
     RowCommit Commit(int record, const QString& cell) { return records_.Commit(record, cell); }
-    /// Gives a record the default's value and choices; nothing for a key that the default lacks.
+    /// Gives a record the default's value and choices, where it has any
+    /// (`PropertyDefaults::Gives`).
     void BackToDefault(int record);
 
     // --- what is shown -----------------------------------------------------------------------
@@ -81,7 +91,8 @@ public:
     std::vector<int> Shown() const { return view_.Records(records_.Now(), notes_); }
 
     // --- state -------------------------------------------------------------------------------
-    const QString& Path() const { return file_.Path(); }  ///< empty for a new file without a name
+    /// Of the file that is open, also while another is named; empty in a window for a new one.
+    const QString& Path() const { return file_.Path(); }
     const QString& ZoneName() const { return zoneName_; }
     bool IsForNewFile() const { return forNewFile_; }  ///< the grid can't be edited then
     bool IsDirty() const { return records_.IsDirty(); }
@@ -98,38 +109,45 @@ public:
     /// A key of the title, see `drawing::EditTitleKey`. @return true for the Enter that
     /// ends a name: the button is to be pressed.
     bool TitleKey(int keyCode);
-    /// Turns the flow of a new file over, or back to the file that was open.
+    /// Turns the flow of a new file over, or back to the file that was open: the default file in a
+    /// window that was opened for a new one. The shell's window has no such flow.
     void FlipNewFile();
     /// Why the name typed can't be a new zone's; empty when it can.
     QString NameProblem() const;
-    /// Asked before `Press` in the new-file flow where there is such a file; No ends the press.
-    std::optional<SheetQuestion> OverwriteQuestion() const;
+    /// Whether the name typed is that of a file.
+    bool NamesAFile() const;
 
     // --- the buttons ---------------------------------------------------------------------------
+    /// Asked before `Press` and `SaveAtClose`, behind `ChangeQuestion`: in the new-file flow before
+    /// a file is written over, else before one that is gone is made anew. But for Yes nothing is to
+    /// be written.
+    std::optional<SheetQuestion> WriteQuestion() const;
     /// The button: commits the cell of @p record (0 for none), then goes by its state.
     /// @param ownerNow the owner's properties as they stand (`IClock::SetProperty`): what the user
-    /// has not edited of the window's place is taken from there; an empty array leaves it as it is
+    /// has not edited of the window's place is taken from there, or from the file for an empty
+    /// array
     /// @param seen what the button has told before an edit ended with this press
     SheetOutcome Press(int record, const QString& cell, const ClockProperties& ownerNow,
                        std::optional<ButtonTag> seen = std::nullopt);
     /// Asked before the window closes; nothing when there is nothing to save.
     std::optional<SheetQuestion> CloseQuestion() const;
-    /// The answer Yes. With a `Problem` the window had better stay. In the new-file flow
-    /// `OverwriteQuestion` comes first.
+    /// The answer Yes. With a `Problem` the window had better stay.
     SheetOutcome SaveAtClose(int record, const QString& cell, const ClockProperties& ownerNow);
     /// To be called when the owner has taken what was written: what it wrote itself meanwhile, such
     /// as keys of its zone, is no change that is asked about.
     void OwnerHasTaken();
 
     // --- changes by others -----------------------------------------------------------------------
-    void SetPropertyChanged(bool state) { propertyChanged_ = state; }
+    void SetPropertyChanged(bool state);
     FileState CheckFile() const { return file_.State(); }
-    /// Asked when the grid gets the focus and before `Press`, where a clock or another program has
-    /// written the file.
+    /// Asked before `Press` and `SaveAtClose`, where a clock or another program has written the
+    /// file; the values are written behind the answer No alone.
     std::optional<SheetQuestion> ChangeQuestion() const;
-    /// Yes reads the file (`Reload`); No goes on with what is here, and is not asked again for that
-    /// content. @return a problem to be told, or empty
-    QString AnswerChange(bool yes);
+    /// The same for the moment when the grid gets the focus: not once more what was dismissed.
+    std::optional<SheetQuestion> FocusQuestion() const;
+    /// Yes reads the file (`Reload`), in one step that can be undone; No goes on with what is here,
+    /// and is not asked again for that content. @return a problem to be told, or empty
+    QString AnswerChange(SheetAnswer answer);
 
     // --- the menu
     // ----------------------------------------------------------------------------------
@@ -140,8 +158,10 @@ public:
     QString RefreshFromDefault();
     bool CanRefreshTimeZone() const;
     /// Brings the present rules of the zone into the keys of the time zone, and publishes the
-    /// records. @param owner rewrites those keys in its file first; may be null
-    void RefreshTimeZoneDefaults(IClock* owner);
+    /// records. `ChangeQuestion` and, with an owner, `WriteQuestion` come first.
+    /// @param owner rewrites those keys in its file first; may be null
+    /// @return why nothing was done, or empty
+    QString RefreshTimeZoneDefaults(IClock* owner);
 
     // --- files that values name
     // ---------------------------------------------------------------------
@@ -149,6 +169,7 @@ public:
 
 private:
     QString PresentName() const;
+    void TakeNameBack();
     SheetOutcome Create();
     SheetOutcome Apply(ButtonTag held, const ClockProperties& ownerNow);
     SheetOutcome Launch(const ClockProperties& ownerNow);
@@ -170,8 +191,8 @@ private:
     QString nameBefore_;                   ///< the zone's name in the records before one was typed
     ButtonTag button_ = ButtonTag::Apply;  ///< while nothing waits to be written
     bool forNewFile_;
-    bool isShownByOwner_;  ///< false for a file that was made here and waits for its launch
     bool propertyChanged_ = false;
+    bool putOff_ = false;  ///< the question about a change was dismissed
 };
 
 }  // namespace editor

@@ -61,15 +61,27 @@ bool PropertySheet::TitleKey(int keyCode) {
 }
 
 void PropertySheet::FlipNewFile() {
+    if (source_.Kind == SheetKind::Shell) {
+        return SetButton(-1);
+    }
     forNewFile_ = !forNewFile_;
     SetButton(forNewFile_ ? -1 : 0);
     if (forNewFile_) {
         nameBefore_ = PresentName();
     } else {
-        records_.PutQuietly(ZoneNameKey, nameBefore_);
-        title_.SetName(zoneName_);
+        TakeNameBack();
     }
     title_.SetEdited(forNewFile_);
+}
+
+void PropertySheet::TakeNameBack() {
+    if (mduLib::FindPropertyRow(ZoneNameKey, Properties()) != 0) {
+        records_.PutQuietly(ZoneNameKey, nameBefore_);
+    }
+    title_.SetName(zoneName_);
+    if (Path().isEmpty()) {
+        file_.SetPath(source_.DefaultFile);
+    }
 }
 
 QString PropertySheet::NameProblem() const {
@@ -77,19 +89,28 @@ QString PropertySheet::NameProblem() const {
     if (name.isEmpty()) {
         return u"The time zone has no name"_s;
     }
-    if (IsShellName(name) && source_.Kind != SheetKind::Shell) {
+    if (IsShellName(name)) {
         return u"%1 is the name of the shell's own settings"_s.arg(mduMain::CentralExeName);
     }
     return mduLib::ZoneNameProblem(name == ScreenSaverRun ? u"/"_s : name);
 }
 
-std::optional<SheetQuestion> PropertySheet::OverwriteQuestion() const {
+bool PropertySheet::NamesAFile() const {
     const QString path = forNewFile_ && NameProblem().isEmpty() ? PropertyFilePath() : QString();
-    if (!mduLib::FileExists(program_.Services.FileSystem, path)) {
-        return std::nullopt;
+    return mduLib::FileExists(program_.Services.FileSystem, path);
+}
+
+std::optional<SheetQuestion> PropertySheet::WriteQuestion() const {
+    if (NamesAFile()) {
+        return SheetQuestion{
+            PropertyFilePath() + u"\r\nexists, do you want to over write this file?"_s,
+            u"Property File Exists"_s, MsgBox::RemovalQuestion};
     }
-    return SheetQuestion{path + u"\r\nexists, do you want to over write this file?"_s,
-                         u"Property File Exists"_s};
+    if (!forNewFile_ && CheckFile() == FileState::Gone) {
+        return SheetQuestion{Path() + u"\r\nis gone, do you want to save it anew?"_s,
+                             u"Property File Gone"_s};
+    }
+    return std::nullopt;
 }
 
 SheetOutcome PropertySheet::Press(int record, const QString& cell, const ClockProperties& ownerNow,
@@ -100,7 +121,9 @@ SheetOutcome PropertySheet::Press(int record, const QString& cell, const ClockPr
         return Create();
     }
     SheetOutcome outcome = held == ButtonTag::Launch ? Launch(ownerNow) : Apply(held, ownerNow);
-    propertyChanged_ = propertyChanged_ && !outcome.Problem.isEmpty();
+    if (outcome.Problem.isEmpty()) {
+        SetPropertyChanged(false);
+    }
     return outcome;
 }
 
@@ -117,14 +140,13 @@ SheetOutcome PropertySheet::Create() {
     file_.SetPath(created.Path());
     records_.MarkWritten();
     forNewFile_ = false;
-    isShownByOwner_ = false;
-    propertyChanged_ = false;
+    SetPropertyChanged(false);
     zoneName_ = ZoneOf(Path());
     title_.SetEdited(false);
     title_.SetName(zoneName_);
     SetButton(2);
     Publish();
-    return {};
+    return {{}, Path(), {}};  // a clock may have that file open
 }
 
 SheetOutcome PropertySheet::Apply(ButtonTag held, const ClockProperties& ownerNow) {
@@ -132,17 +154,16 @@ SheetOutcome PropertySheet::Apply(ButtonTag held, const ClockProperties& ownerNo
     if (!problem.isEmpty()) {
         return {problem, {}, {}};
     }
-    if (!isShownByOwner_) {
-        SetButton(2);
-        return {};
+    if (button_ != ButtonTag::Launch) {
+        SetButton(held == ButtonTag::Save ? -1 : 0);
     }
-    SetButton(held == ButtonTag::Save ? -1 : 0);
     Publish();
     return {{}, Path(), {}};
 }
 
 SheetOutcome PropertySheet::Launch(const ClockProperties& ownerNow) {
-    const QString problem = IsDirty() ? Write(ownerNow) : QString();
+    const bool writes = IsDirty() || CheckFile() == FileState::Gone;
+    const QString problem = writes ? Write(ownerNow) : QString();
     if (!problem.isEmpty()) {
         return {problem, {}, {}};
     }
@@ -159,20 +180,20 @@ QString PropertySheet::Write(const ClockProperties& ownerNow) {
     return problem;
 }
 
-// A window that has been moved since would otherwise jump back.
+// A window that has been moved since would otherwise jump back; one that was closed has left its
+// place in the file.
 void PropertySheet::TakePlace(const ClockProperties& ownerNow) {
-    if (!isShownByOwner_) {
-        return;
-    }
+    const bool isThere = ownerNow != ClockProperties();
+    const ClockProperties stands = isThere ? ownerNow : file_.Read().value_or(ClockProperties());
     for (const QString& key : PlaceKeys()) {
         const int row = mduLib::FindPropertyRow(key, Properties());
         const int written = mduLib::FindPropertyRow(key, records_.Written());
-        const int owner = mduLib::FindPropertyRow(key, ownerNow);
-        if (row == 0 || written == 0 || owner == 0) {
+        const int standing = mduLib::FindPropertyRow(key, stands);
+        if (row == 0 || written == 0 || standing == 0) {
             continue;
         }
         const QString cell = PropertyCell(Properties()[row].Value);
-        const QString present = PropertyCell(ownerNow[owner].Value);
+        const QString present = PropertyCell(stands[standing].Value);
         if (cell == PropertyCell(records_.Written()[written].Value) && cell != present) {
             records_.PutQuietly(key, present);
         }
@@ -203,19 +224,26 @@ SheetOutcome PropertySheet::SaveAtClose(int record, const QString& cell,
         return {problem, {}, {}};
     }
     Publish();
-    return {{}, isShownByOwner_ ? std::optional(QString()) : std::nullopt, {}};
+    return {{}, QString(), {}};
 }
 
 void PropertySheet::OwnerHasTaken() {
     const std::optional<ClockProperties> onDisk = file_.Read();
     if (onDisk && records_.Follow(*onDisk)) {
         file_.Note();
-        propertyChanged_ = false;
+        SetPropertyChanged(false);
     }
 }
 
+void PropertySheet::SetPropertyChanged(bool state) {
+    propertyChanged_ = state;
+    putOff_ = false;
+}
+
 std::optional<SheetQuestion> PropertySheet::ChangeQuestion() const {
-    if (forNewFile_ || (!propertyChanged_ && CheckFile() != FileState::Changed)) {
+    const FileState state = CheckFile();
+    const bool isChanged = propertyChanged_ || state == FileState::Changed;
+    if (forNewFile_ || !isChanged || state == FileState::Gone) {
         return std::nullopt;
     }
     return SheetQuestion{
@@ -223,9 +251,17 @@ std::optional<SheetQuestion> PropertySheet::ChangeQuestion() const {
         u"Property Changed"_s};
 }
 
-QString PropertySheet::AnswerChange(bool yes) {
-    propertyChanged_ = false;
-    if (yes) {
+std::optional<SheetQuestion> PropertySheet::FocusQuestion() const {
+    return putOff_ ? std::nullopt : ChangeQuestion();
+}
+
+QString PropertySheet::AnswerChange(SheetAnswer answer) {
+    if (answer == SheetAnswer::Neither) {
+        putOff_ = true;
+        return {};
+    }
+    SetPropertyChanged(false);
+    if (answer == SheetAnswer::Yes) {
         return Reload();
     }
     file_.Note();

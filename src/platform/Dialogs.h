@@ -10,9 +10,9 @@ public:
     virtual ~Dialogs() = default;
 
     /// A box with the buttons and icon of @p flags (the system's message-box flags: 16 critical,
-    /// 48 exclamation, 4 Yes and No). Answers the button pressed: 1 OK, 6 Yes, 7 No.
-    /// More flags are 32 for a question mark and 256 for the second button as the default. Without
-    /// 4 there is the one button OK:
+    /// 48 exclamation, 32 question, 4 for Yes and No in the place of OK, 256 for the second button
+    /// as the default). Answers the button pressed: 1 OK, 6 Yes, 7 No. A question that is dismissed,
+    /// by Escape or its close button, answers 2, which is neither: nothing is to be done then.
     ///
     ///     MessageBox(u"Remove London?"_s, 4 + 32 + 256, u"Remove"_s)  // Enter answers 7
     virtual int MessageBox(const QString& text, int flags, const QString& title) = 0;

@@ -8,7 +8,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::int64_t LongestHalf = 366 * 86400;
+constexpr std::int64_t LongestHalf = std::int64_t{366} * 86400;
 
 /// A span as the tz database has it: its daylight time may be one of less than none.
 struct TzSpan {

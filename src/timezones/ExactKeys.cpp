@@ -21,6 +21,10 @@ namespace {
 
 using platform::ZoneSpan;
 
+bool IsToBeExact(const ClockProperties& properties) {
+    return ZoneKeyValue(properties, ZoneRulesKey) == ZoneRulesNames().first();
+}
+
 bool IsKnown(const platform::Services& services, const QString& id) {
     return !id.isEmpty() && services.Zones.SpanAt(id, services.Clock.Instant()).has_value();
 }
@@ -34,7 +38,7 @@ bool Shows(const ZoneSpan& span, const TimeZoneRecord& record, bool isDaylight) 
 /// will have them within a year.
 bool HasKept(const platform::Services& services, const QString& id, const TimeZoneRecord& record) {
     const ExactZone zone(services.Zones, id);
-    constexpr qint64 year = 366 * 86400;
+    constexpr qint64 year = qint64{366} * 86400;
     constexpr qint64 begin = 946684800;  // 1 January 2000
     const qint64 now = services.Clock.Instant();
     bool standard = false;
@@ -76,25 +80,34 @@ QStringList ZoneRulesNames() {
     return {u"Exact"_s, u"As Stored"_s};
 }
 
+bool FillZoneId(const platform::Services& services, const QString& source,
+                const TimeZoneRecord& record, ClockProperties& properties) {
+    if (!IsToBeExact(properties) || !ZoneKeyValue(properties, ZoneIdKey).isEmpty()) {
+        return false;
+    }
+    const QString id = FindId(services, source, record, properties);
+    if (!id.isEmpty()) {
+        mduLib::PutProperty(ZoneIdKey, id, properties);
+    }
+    return !id.isEmpty();
+}
+
 bool OverlayExactKeys(const platform::Services& services, const QString& source,
                       TimeZoneRecord& record, ClockProperties& properties) {
     record.ExactId.clear();
     record.LacksId = false;
-    if (ZoneKeyValue(properties, ZoneRulesKey) != ZoneRulesNames().first()) {
+    if (!IsToBeExact(properties)) {
         return false;
     }
-    const QString stored = ZoneKeyValue(properties, ZoneIdKey);
-    const QString id = stored.isEmpty() ? FindId(services, source, record, properties) : stored;
+    const bool isFilledIn = FillZoneId(services, source, record, properties);
+    const QString id = ZoneKeyValue(properties, ZoneIdKey);
     if (!IsKnown(services, id)) {
         record.LacksId = true;
         return false;
     }
     record.ExactId = id;
     TakeTzi(services.Zones.TziOfId(id).value_or(QByteArray()), record);
-    if (stored != id) {
-        mduLib::PutProperty(ZoneIdKey, id, properties);
-    }
-    return RenewZoneRules(record, properties, services.Clock.Now().date()) || stored != id;
+    return RenewZoneRules(record, properties, services.Clock.Now().date()) || isFilledIn;
 }
 
 }  // namespace mduTimeZones

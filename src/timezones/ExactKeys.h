@@ -21,6 +21,12 @@ inline const QString ZoneIdKey = QStringLiteral("Time Zone Id");
 /// The words of the first key.
 QStringList ZoneRulesNames();
 
+/// Gives a key without an identifier the one of the record, as `OverlayExactKeys` does; in memory,
+/// so that it is saved with what else is to be. Nothing happens unless the rules are "Exact".
+/// @return whether it has been filled in
+bool FillZoneId(const platform::Services& services, const QString& source,
+                const TimeZoneRecord& record, ClockProperties& properties);
+
 /// Reads them over @p record, which has read the six keys. Nothing happens unless the rules are
 /// "Exact". With an identifier that the database knows the record takes its offsets and transitions
 /// for the present year, and so do their keys, so that the user may go back to them at any time.

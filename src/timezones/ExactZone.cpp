@@ -7,7 +7,7 @@ namespace {
 using platform::ZoneSpan;
 
 // No clock has ever been further from Greenwich: Manila was 15:56 behind it.
-constexpr qint64 FurthestFromGreenwich = 24 * 3600;
+constexpr qint64 FurthestFromGreenwich = qint64{24} * 3600;
 
 }  // namespace
 

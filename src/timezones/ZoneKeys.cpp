@@ -85,6 +85,13 @@ void ForgetIdOfAnother(const QString& standardName, ClockProperties& properties)
     }
 }
 
+/// The identifier of the zone that the file is about to get.
+void RenewZoneId(const platform::Services& services, const TimeZoneRecord& record,
+                 ClockProperties& properties) {
+    ForgetIdOfAnother(record.StandardName, properties);
+    FillZoneId(services, record.KeyName, record, properties);
+}
+
 /// Reads the texts of the six keys over a record, in the order of the table.
 class KeyReader {
 public:
@@ -143,7 +150,6 @@ QString ProfilePath(const PathTable& paths, const QString& zoneName) {
 bool WriteFromRecord(platform::Files& files, const TimeZoneRecord& record, const QDate& today,
                      ClockProperties& properties, const QString& path) {
     bool saved = true;
-    ForgetIdOfAnother(record.StandardName, properties);
     for (qsizetype key = 0; key < ZoneKeys().size(); ++key) {
         const QString text = KeyText(record, key, today);
         saved = mduLib::SavePropertyNow(files, ZoneKeys()[key], text, properties, path) && saved;
@@ -216,6 +222,9 @@ TimeZoneRecord WriteZoneKeys(const platform::Services& services, const PathTable
                              const QString& path, bool* written) {
     TimeZoneRecord record = FindTimeZone(services, paths, zoneName);
     platform::Files& files = services.FileSystem;
+    if (!record.KeyName.isEmpty()) {
+        RenewZoneId(services, record, properties);
+    }
     const bool saved =
         record.KeyName.isEmpty()
             ? WriteFromProfile(files, ProfilePath(paths, zoneName), properties, path)
@@ -256,7 +265,7 @@ void PutZoneKeys(const platform::Services& services, const PathTable& paths,
         return;
     }
     const QDate today = services.Clock.Now().date();
-    ForgetIdOfAnother(record.StandardName, properties);
+    RenewZoneId(services, record, properties);
     for (qsizetype key = 0; key < ZoneKeys().size(); ++key) {
         PutWhole(ZoneKeys()[key], KeyText(record, key, today), properties);
     }

@@ -47,7 +47,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("pasted");
         QTest::newRow("a value") << u"Blue"_s << 2 << u"2=Blue"_s;
         QTest::newRow("a value with a line end") << u"Blue\r\n"_s << 2 << u"2=Blue"_s;
-        QTest::newRow("a row, wherever it is from") << u"Hand\tBlue"_s << 2 << u"2=Blue"_s;
+        QTest::newRow("a row goes to its key") << u"Hand\tBlue"_s << 2 << u"1=Blue"_s;
+        QTest::newRow("a row of the key's second record") << u"Hand\tBlue"_s << 3 << u"3=Blue"_s;
+        QTest::newRow("a row without a current one") << u"Face\tBlack"_s << 0 << u"2=Black"_s;
         QTest::newRow("a row whose value holds a tab") << u"Note\tx\ty"_s << 4 << u"4=x\ty"_s;
         QTest::newRow("a tab that is no row's") << u"x\ty"_s << 4 << u"4=x\ty"_s;
         QTest::newRow("a tab in front") << u"\tBlue"_s << 2 << u"2=\tBlue"_s;

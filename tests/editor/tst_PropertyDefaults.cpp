@@ -79,11 +79,16 @@ void tst_PropertyDefaults::ComparesWhatIsShown_data() {
     QTest::newRow("forced there") << u"Forced"_s << u"Yes"_s << false;
     QTest::newRow("emptied") << u"Colour"_s << QString() << true;
     QTest::newRow("unknown") << u"Other"_s << u"x"_s << false;
+    QTest::newRow("a clock's own zone") << u"Time Zone Standard Name"_s << u"Tokyo"_s << false;
+    QTest::newRow("and its identifier") << u"Time Zone Id"_s << u"Asia/Tokyo"_s << false;
+    QTest::newRow("a zone of all clocks") << u"Time Zone Daylight Name"_s << u"x"_s << true;
 }
 
 void tst_PropertyDefaults::ComparesWhatIsShown() {
     const PropertyDefaults defaults(
-        Properties({u"Clock:Colour=Red,Red,Green"_s, u"Clock:Forced=^Yes"_s}));
+        Properties({u"Clock:Colour=Red,Red,Green"_s, u"Clock:Forced=^Yes"_s,
+                    u"Clock:Time Zone Standard Name="_s, u"Clock:Time Zone Daylight Name=Summer"_s,
+                    u"Clock:Time Zone Id="_s}));
     QFETCH(QString, key);
     QFETCH(QString, value);
     QTEST(defaults.Differs({u"Clock"_s, key, value}), "differs");

@@ -9,6 +9,7 @@
 
 using namespace Qt::StringLiterals;
 using editor::PropertyOwner;
+using editor::SheetAnswer;
 using editor::SheetKind;
 using editor::SheetQuestion;
 
@@ -23,11 +24,17 @@ struct OwnerDesk {
     FakeForm Other{Windows, u"frmTimeZones"_s, u"Zones"_s, Log};
     FakeClock Clock{Windows, u"Oslo"_s, Log};
     PropertyShell Shell;
-    PropertyOwner OfClock{TheProgram, &Shell, Clock.hwnd()};
-    PropertyOwner OfShell{TheProgram, &Shell, 0};
-    PropertyOwner Alone{TheProgram, nullptr, 0};
+    QString File = u"/clocks/Oslo.ini"_s;  ///< the one that the clock's window edits
+    PropertyOwner OfClock{TheProgram, &Shell, Clock.hwnd(), [this] { return File; }};
+    PropertyOwner OfShell{TheProgram, &Shell, 0, [this] { return Module.Paths.CentralFile; }};
+    PropertyOwner OfNew{TheProgram, &Shell, 0, [this] { return File; }};
+    PropertyOwner Alone{TheProgram, nullptr, 0, [] { return QString(); }};
 
-    OwnerDesk() { Module.Paths.AppFolder = u"/clocks"_s; }
+    OwnerDesk() {
+        Module.Paths.AppFolder = u"/clocks"_s;
+        Module.Paths.CentralFile = u"/clocks/TempolarkCentral.ini"_s;
+        Clock.File = File;
+    }
 };
 
 }  // namespace
@@ -42,13 +49,20 @@ private Q_SLOTS:
         QVERIFY(!desk.OfClock.IsShell());
         QCOMPARE(desk.OfShell.Clock(), nullptr);
         QVERIFY(desk.OfShell.IsShell());
-        QCOMPARE(PropertyOwner(desk.TheProgram, nullptr, desk.Other.hwnd()).Clock(), nullptr);
-        desk.Clock.File = u"/clocks/Oslo.ini"_s;
+        QCOMPARE(desk.OfNew.Clock(), &desk.Clock);
+        QCOMPARE(desk.Alone.Clock(), nullptr);
         QCOMPARE(desk.OfShell.ClockOf(u"/clocks/Oslo.ini"_s), &desk.Clock);
         QCOMPARE(desk.OfShell.ClockOf(u"/clocks/Lima.ini"_s), nullptr);
         desk.Clock.Unload();
         QCOMPARE(desk.OfClock.Clock(), nullptr);
         QVERIFY(!desk.OfClock.IsShell());
+        FakeClock again(desk.Windows, u"Oslo"_s, desk.Log);
+        QCOMPARE(desk.OfClock.Clock(), nullptr);  // it has no file yet
+        QCOMPARE(desk.OfClock.ClockOf({}), nullptr);
+        again.File = desk.File;
+        QCOMPARE(desk.OfClock.Clock(), &again);
+        desk.File = u"/clocks/Lima.ini"_s;
+        QCOMPARE(desk.OfClock.Clock(), nullptr);
     }
 
     void NamesTheSource() {
@@ -73,6 +87,12 @@ private Q_SLOTS:
         QVERIFY(!desk.OfClock.Ask(question));
         QVERIFY(desk.OfClock.Ask(std::nullopt));
         QCOMPARE(desk.Shell.Boxes, QStringList(2, u"Save?|36|Save Property"_s));
+        desk.Shell.Answers = {6, 7, 2, 2};
+        QCOMPARE(desk.OfClock.AnswerTo(question), SheetAnswer::Yes);
+        QCOMPARE(desk.OfClock.AnswerTo(question), SheetAnswer::No);
+        QCOMPARE(desk.OfClock.AnswerTo(question), SheetAnswer::Neither);
+        QVERIFY(!desk.OfClock.Ask(SheetQuestion{u"Write over?"_s, u"File"_s, 292}));
+        QCOMPARE(desk.Shell.Boxes.last(), u"Write over?|292|File"_s);
         desk.Machine.Dialogs.BoxAnswers = {7};
         QVERIFY(!desk.Alone.Ask(question));
         QCOMPARE(desk.Machine.Dialogs.Boxes.front().Title, u"Save Property"_s);
@@ -109,6 +129,9 @@ private Q_SLOTS:
         QCOMPARE(desk.Log, (QStringList{u"Oslo: refresh form"_s, u"Oslo: preview "_s}));
         desk.OfShell.RefreshForm(u"/clocks/TempolarkCentral.ini"_s);
         QCOMPARE(desk.Shell.Refreshed, QStringList{u"/clocks/TempolarkCentral.ini"_s});
+        desk.OfNew.RefreshForm({});  // the clock of the file, never the shell
+        QCOMPARE(desk.Log.last(), u"Oslo: refresh form"_s);
+        QCOMPARE(desk.Shell.Refreshed.size(), 1);
         QVERIFY(desk.OfClock.Launch(u"Lima"_s));
         QCOMPARE(desk.Shell.Launched, QStringList{u"Lima"_s});
         desk.Shell.LaunchHandle = 0;
@@ -120,6 +143,7 @@ private Q_SLOTS:
         desk.Log.clear();
         desk.OfClock.RefreshForm({});
         desk.OfClock.Preview({});
+        desk.OfNew.RefreshForm({});
         QCOMPARE(desk.Log, QStringList());
         QCOMPARE(desk.Shell.Refreshed.size(), 1);
         desk.Alone.RefreshForm({});

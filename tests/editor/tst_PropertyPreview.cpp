@@ -17,9 +17,11 @@ struct PreviewDesk {
     Program TheProgram{Machine.Services, Module, Windows};
     QStringList Log;
     FakeClock Clock{Windows, u"Oslo"_s, Log};
-    editor::PropertyOwner Owner{TheProgram, nullptr, Clock.hwnd()};
+    editor::PropertyOwner Owner{TheProgram, nullptr, Clock.hwnd(), [] { return u"Oslo.ini"_s; }};
     editor::PropertyRecords Records{Properties()};
     editor::PropertyPreview Preview{Owner, Records};
+
+    PreviewDesk() { Clock.File = u"Oslo.ini"_s; }
 
     static ClockProperties Properties() {
         ClockProperties properties;
@@ -107,6 +109,35 @@ private Q_SLOTS:
         QCOMPARE(desk.Told(), u"Oslo: preview New=1;Face=Black"_s);
     }
 
+    void TheFirstOfTwoCounts() {
+        PreviewDesk desk;
+        ClockProperties twice = PreviewDesk::Properties();
+        mduLib::AppendProperty({}, u"Hand"_s, u"Red"_s, twice);
+        desk.Records.Replace(twice, u"Twice"_s);
+        desk.Records.MarkWritten();
+        desk.Records.Commit(3, u"Green"_s);
+        desk.Preview.Show();
+        QCOMPARE(desk.Told(), QString());
+        desk.Records.Commit(1, u"Blue"_s);
+        desk.Preview.Show();
+        QCOMPARE(desk.Told(), u"Oslo: preview Hand=Blue"_s);
+    }
+
+    void AClockThatIsOpenedAgainIsTold() {
+        PreviewDesk desk;
+        desk.Records.Commit(1, u"Blue"_s);
+        desk.Preview.Show();
+        desk.Clock.Unload();
+        desk.Preview.Show();
+        desk.Told();
+        FakeClock again(desk.Windows, u"Again"_s, desk.Log);
+        again.File = u"Oslo.ini"_s;
+        desk.Preview.Show();
+        QCOMPARE(desk.Told(), u"Again: preview Hand=Blue"_s);
+        desk.Preview.End();
+        QCOMPARE(desk.Told(), u"Again: preview "_s);
+    }
+
     void AClosedClockAndTheShellAreToldNothing() {
         PreviewDesk desk;
         desk.Records.Commit(1, u"Blue"_s);
@@ -115,7 +146,7 @@ private Q_SLOTS:
         desk.Preview.Show();
         desk.Preview.End();
         QCOMPARE(desk.Told(), QString());
-        const editor::PropertyOwner shell(desk.TheProgram, nullptr, 0);
+        const editor::PropertyOwner shell(desk.TheProgram, nullptr, 0, [] { return QString(); });
         editor::PropertyPreview none(shell, desk.Records);
         none.Show();
         none.End();

@@ -49,7 +49,7 @@ public:
     void Refresh() override {}
     void LayOutAgain() override {}
     void SetProperty() override {}
-    void PreviewProperty(const QString&, const QString&) override {}
+    void PreviewProperties(const ClockProperties&) override {}
     int DrawStyle() const override { return 0; }
     void SetBackColor(int) override {}
 
@@ -79,6 +79,7 @@ private Q_SLOTS:
     void CanRefreshAZoneItKnows();
     void RefreshesTheZoneByItsOwner();
     void ARefreshOfTheZoneHidesNoChange();
+    void RefreshesNoZoneThatCantBeRead();
     void RefreshesTheZoneByItself();
     void OneOfManyRecords();
 };
@@ -183,8 +184,11 @@ void tst_PropertySheet::TheButtonFollowsWhatIsDirty() {
 
 void tst_PropertySheet::GoesBackToTheDefault() {
     SheetDesk desk;
-    desk.WriteDefault("Hands:Colour=^Red,Red,White\r\nHands:Size=3\r\n");
+    desk.WriteDefault(
+        "Hands:Colour=^Red,Red,White\r\nHands:Size=3\r\nTime Zone:Time Zone Standard Name=\r\n");
     const auto sheet = desk.Open(London);
+    sheet->BackToDefault(4);
+    QCOMPARE(sheet->Cell(4), u"London"_s);  // the default leaves it to each clock
     sheet->BackToDefault(1);
     QCOMPARE(sheet->Properties()[1].Value, u"Red,Red,White"_s);
     QCOMPARE(sheet->Records().Undo().undoText(), u"Colour Back to Default"_s);
@@ -301,6 +305,17 @@ void tst_PropertySheet::ARefreshOfTheZoneHidesNoChange() {
     QCOMPARE(sheet->Cell(4), u"Renewed"_s);
     QCOMPARE(sheet->Cell(2), u"3"_s);
     QVERIFY(sheet->ChangeQuestion());
+}
+
+void tst_PropertySheet::RefreshesNoZoneThatCantBeRead() {
+    SheetDesk desk;
+    const auto sheet = desk.Open(London);
+    ZoneClock owner(desk, sheet->Path());
+    desk.WriteZone(u"London.ini"_s, QByteArray("a\0b", 3));
+    QCOMPARE(sheet->RefreshTimeZoneDefaults(&owner),
+             sheet->Path() + u" can't be read as a property file; it is left as it is"_s);
+    QCOMPARE(owner.Log, QStringList());
+    QVERIFY(!sheet->IsDirty());
 }
 
 void tst_PropertySheet::RefreshesTheZoneByItself() {

@@ -7,6 +7,7 @@ using namespace Qt::StringLiterals;
 using editor::ButtonTag;
 using editor::FileState;
 using editor::PropertySheet;
+using editor::SheetAnswer;
 using editor::SheetOutcome;
 using editor::SheetQuestion;
 
@@ -15,7 +16,10 @@ namespace {
 const QByteArray London =
     "Size=3\r\nWindow Top=100\r\nWindow Left=200\r\nWindow State=Normal,Normal,Minimized\r\n";
 
-const SheetOutcome Done;
+/// Written, and whoever shows the file takes it over.
+SheetOutcome Written(const QString& path) {
+    return {{}, path, {}};
+}
 
 QString Current(const SheetDesk& desk, const QString& key) {
     return mduLib::GetPropertyRaw(key, desk.Module.CurrentProperties);
@@ -42,6 +46,7 @@ private Q_SLOTS:
     void AppliesTheCellThatIsOpen();
     void AppliesWithoutAChange();
     void TakesThePlaceThatTheWindowHasNow();
+    void TakesThePlaceThatAClosedClockHasLeft();
     void AnEditedPlaceIsWritten();
     void AFailureLosesNothing();
     void NeverWritesOverWhatItCantRead();
@@ -50,16 +55,18 @@ private Q_SLOTS:
 
     void NamesANewZone_data();
     void NamesANewZone();
-    void NamesTheShellsOwnFile();
+    void TheShellHasNoNewFile();
     void CreatesAFile();
     void AsksBeforeItWritesOver();
     void TellsWhyItCantCreate();
-    void ANewFileNeverTakesTheShellsPlace();
+    void ANewFileTakesNoPlaceBeforeItIsShown();
     void LaunchesWhatItMade();
     void LaunchesByTheNameOfTheFile();
     void AChangeComesBeforeTheLaunch();
     void LaunchesTheCellThatIsOpen();
     void FlipsToANewFileAndBack();
+    void FlipsBackToTheDefaultFile();
+    void FlipsBackWithoutAName();
     void CopiesAnOpenFile();
 
     void AsksBeforeItCloses();
@@ -73,7 +80,9 @@ private Q_SLOTS:
     void YesTakesWhatIsThere();
     void AnApplyEndsTheQuestion();
     void WhatTheOwnerWritesIsNoChange();
+    void WhatIsDismissedIsAskedBeforeItIsWritten();
     void AGoneFileIsWrittenAnew();
+    void AGoneFileIsLaunchedAnew();
 };
 
 void tst_PropertySheetFile::AppliesToItsOwnFile() {
@@ -126,6 +135,19 @@ void tst_PropertySheetFile::TakesThePlaceThatTheWindowHasNow() {
     sheet->Records().Undo().undo();
     QCOMPARE(sheet->Cell(2), u"150"_s);
     QCOMPARE(sheet->Cell(1), u"3"_s);
+}
+
+void tst_PropertySheetFile::TakesThePlaceThatAClosedClockHasLeft() {
+    SheetDesk desk;
+    const auto sheet = desk.Open(London);
+    sheet->Commit(1, u"4"_s);
+    sheet->Commit(3, u"500"_s);
+    desk.WriteZone(u"London.ini"_s, "Size=9\r\nWindow Top=900\r\nWindow Left=800\r\n");
+    sheet->AnswerChange(SheetAnswer::No);
+    sheet->SaveAtClose(0, {}, {});
+    QCOMPARE(desk.Zone(u"London.ini"_s),
+             QByteArray("Size=4\r\nWindow Top=900\r\nWindow Left=500\r\n"
+                        "Window State=Normal,Normal,Minimized\r\n"));
 }
 
 void tst_PropertySheetFile::AnEditedPlaceIsWritten() {
@@ -235,12 +257,21 @@ void tst_PropertySheetFile::NamesANewZone() {
     QCOMPARE(sheet->CloseQuestion(), std::nullopt);
 }
 
-void tst_PropertySheetFile::NamesTheShellsOwnFile() {
+void tst_PropertySheetFile::TheShellHasNoNewFile() {
     SheetDesk desk;
     const auto sheet = desk.OpenShell("Size=1\r\n");
-    sheet->FlipNewFile();
-    QCOMPARE(sheet->PropertyFilePath(), desk.Module.Paths.CentralFile);
-    QCOMPARE(sheet->NameProblem(), QString());
+    sheet->Commit(1, u"2"_s);
+    sheet->Press(0, {}, {});
+    QCOMPARE(sheet->Button(), ButtonTag::Apply);
+    for (int flip = 0; flip < 2; ++flip) {
+        sheet->FlipNewFile();
+        QVERIFY(!sheet->IsForNewFile());
+        QCOMPARE(sheet->Button(), ButtonTag::Save);
+        QCOMPARE(sheet->Caption(), u"Properties - TempolarkCentral"_s);
+        QCOMPARE(sheet->Properties().UpperBound(), 1);
+    }
+    QCOMPARE(sheet->Press(0, {}, {}), Written(desk.Module.Paths.CentralFile));
+    QCOMPARE(desk.Machine.ReadFile(u"tester/TempolarkCentral.ini"_s), QByteArray("Size=2\r\n"));
 }
 
 void tst_PropertySheetFile::CreatesAFile() {
@@ -249,9 +280,9 @@ void tst_PropertySheetFile::CreatesAFile() {
     const auto sheet = desk.OpenNew();
     TypeName(*sheet, u"Rome"_s);
     QVERIFY(sheet->TitleKey(13));
-    QCOMPARE(sheet->OverwriteQuestion(), std::nullopt);
-    QCOMPARE(sheet->Press(0, {}, {}), Done);
+    QCOMPARE(sheet->WriteQuestion(), std::nullopt);
     const QString path = desk.ZoneFile(u"Rome.ini"_s);
+    QCOMPARE(sheet->Press(0, {}, {}), Written(path));
     QCOMPARE(desk.Zone(u"Rome.ini"_s), QByteArray("Size=3\r\nTime Zone Standard Name=Rome\r\n"));
     QCOMPARE(sheet->Path(), path);
     QCOMPARE(sheet->ZoneName(), u"Rome"_s);
@@ -270,17 +301,20 @@ void tst_PropertySheetFile::AsksBeforeItWritesOver() {
     SheetDesk desk;
     desk.WriteZone(u"rome.ini"_s, "Size=1\r\n");
     const auto sheet = desk.OpenNew();
-    QCOMPARE(sheet->OverwriteQuestion(), std::nullopt);
+    QCOMPARE(sheet->WriteQuestion(), std::nullopt);
+    QVERIFY(!sheet->NamesAFile());
     TypeName(*sheet, u"Rome"_s);
-    QCOMPARE(sheet->OverwriteQuestion(),
+    QVERIFY(sheet->NamesAFile());
+    QCOMPARE(sheet->WriteQuestion(),
              (SheetQuestion{desk.ZoneFile(u"rome.ini"_s) +
                                 u"\r\nexists, do you want to over write this file?"_s,
-                            u"Property File Exists"_s}));
-    QCOMPARE(sheet->Press(0, {}, {}), Done);
+                            u"Property File Exists"_s, 292}));
+    QCOMPARE(sheet->Press(0, {}, {}), Written(desk.ZoneFile(u"rome.ini"_s)));
     QVERIFY(desk.Zone(u"rome.ini"_s).contains("Time Zone Standard Name=Rome"));
     QCOMPARE(sheet->ZoneName(), u"rome"_s);
     QCOMPARE(sheet->Caption(), u"Properties - rome"_s);
-    QCOMPARE(sheet->OverwriteQuestion(), std::nullopt);
+    QCOMPARE(sheet->WriteQuestion(), std::nullopt);
+    QVERIFY(!sheet->NamesAFile());
 }
 
 void tst_PropertySheetFile::TellsWhyItCantCreate() {
@@ -297,15 +331,20 @@ void tst_PropertySheetFile::TellsWhyItCantCreate() {
     QCOMPARE(desk.Module.Paths.CurrentPropertyFile, desk.Module.Paths.ZoneDefaultFile());
 }
 
-void tst_PropertySheetFile::ANewFileNeverTakesTheShellsPlace() {
+void tst_PropertySheetFile::ANewFileTakesNoPlaceBeforeItIsShown() {
     SheetDesk desk;
     desk.WriteDefault("Size=3\r\nWindow Top=-1\r\n");
     const auto sheet = desk.OpenNew();
     TypeName(*sheet, u"Rome"_s);
     sheet->Press(0, {}, Moved());
+    QVERIFY(desk.Zone(u"Rome.ini"_s).startsWith("Size=3\r\nWindow Top=-1\r\n"));
     sheet->Commit(1, u"4"_s);
-    QCOMPARE(sheet->Press(0, {}, Moved()), Done);
+    sheet->Press(0, {}, {});
     QVERIFY(desk.Zone(u"Rome.ini"_s).startsWith("Size=4\r\nWindow Top=-1\r\n"));
+    sheet->Commit(1, u"5"_s);
+    sheet->Press(0, {}, Moved());  // its clock has been launched meanwhile
+    QVERIFY(desk.Zone(u"Rome.ini"_s).startsWith("Size=5\r\nWindow Top=150\r\n"));
+    QCOMPARE(sheet->Button(), ButtonTag::Launch);
 }
 
 void tst_PropertySheetFile::LaunchesWhatItMade() {
@@ -337,7 +376,7 @@ void tst_PropertySheetFile::AChangeComesBeforeTheLaunch() {
     sheet->Press(0, {}, {});
     sheet->Commit(2, u"8"_s);
     QCOMPARE(sheet->Button(), ButtonTag::Apply);
-    QCOMPARE(sheet->Press(0, {}, {}), Done);
+    QCOMPARE(sheet->Press(0, {}, {}), Written(sheet->Path()));
     QVERIFY(desk.Zone(u"Rome.ini"_s).contains("Hands:Size=8\r\n"));
     QCOMPARE(sheet->Button(), ButtonTag::Launch);
 }
@@ -375,19 +414,45 @@ void tst_PropertySheetFile::FlipsToANewFileAndBack() {
     QVERIFY(!sheet->IsDirty());
 }
 
+void tst_PropertySheetFile::FlipsBackToTheDefaultFile() {
+    SheetDesk desk;
+    desk.WriteDefault("Size=3\r\n");
+    const auto sheet = desk.OpenNew();
+    sheet->FlipNewFile();
+    const QString path = desk.Module.Paths.ZoneDefaultFile();
+    QCOMPARE(sheet->Path(), path);
+    QCOMPARE(sheet->PropertyFilePath(), path);
+    QCOMPARE(sheet->Press(1, u"4"_s, {}), Written(path));
+    QCOMPARE(desk.Machine.ReadFile(u"ini/Tempolark.ini"_s), QByteArray("Size=4\r\n"));
+    sheet->FlipNewFile();
+    TypeName(*sheet, u"Rome"_s);
+    QCOMPARE(sheet->PropertyFilePath(), desk.ZoneFile(u"Rome.ini"_s));
+}
+
+void tst_PropertySheetFile::FlipsBackWithoutAName() {
+    SheetDesk desk;
+    const auto sheet = desk.Open("Size=1\r\n");
+    sheet->FlipNewFile();
+    sheet->FlipNewFile();
+    QCOMPARE(sheet->Properties().UpperBound(), 1);
+    QVERIFY(!sheet->IsDirty());
+}
+
 void tst_PropertySheetFile::CopiesAnOpenFile() {
     SheetDesk desk;
     const auto sheet = desk.Open("Time Zone Standard Name=GMT\r\nSize=1\r\n");
     sheet->FlipNewFile();
     TypeName(*sheet, u"er"_s);
-    QCOMPARE(sheet->Press(0, {}, {}), Done);
+    const QString path = desk.ZoneFile(u"Londoner.ini"_s);
+    QCOMPARE(sheet->Press(0, {}, {}), Written(path));
     QCOMPARE(desk.Zone(u"London.ini"_s), QByteArray("Time Zone Standard Name=GMT\r\nSize=1\r\n"));
     QCOMPARE(desk.Zone(u"Londoner.ini"_s),
              QByteArray("Time Zone Standard Name=Londoner\r\nSize=1\r\n"));
     sheet->Commit(2, u"5"_s);
-    QCOMPARE(sheet->Press(0, {}, {}).RefreshOwner, std::nullopt);
+    QCOMPARE(sheet->Press(0, {}, {}), Written(path));
+    QCOMPARE(desk.Module.Paths.CurrentPropertyFile, path);
     sheet->Commit(2, u"6"_s);
-    QCOMPARE(sheet->SaveAtClose(0, {}, {}).RefreshOwner, std::nullopt);
+    QCOMPARE(sheet->SaveAtClose(0, {}, {}), Written(QString()));
     QVERIFY(desk.Zone(u"Londoner.ini"_s).endsWith("Size=6\r\n"));
 }
 
@@ -422,7 +487,7 @@ void tst_PropertySheetFile::SavesANewFileAtClose() {
     sheet->Commit(1, u"4"_s);
     sheet->FlipNewFile();
     TypeName(*sheet, u"er"_s);
-    QCOMPARE(sheet->SaveAtClose(0, {}, {}), Done);
+    QCOMPARE(sheet->SaveAtClose(0, {}, {}), Written(desk.ZoneFile(u"Londoner.ini"_s)));
     QVERIFY(desk.Zone(u"Londoner.ini"_s).startsWith("Size=4\r\n"));
     QCOMPARE(desk.Zone(u"London.ini"_s), London);
 }
@@ -464,7 +529,7 @@ void tst_PropertySheetFile::NoKeepsWhatIsHere() {
     const auto sheet = desk.Open(London);
     sheet->SetPropertyChanged(true);
     desk.WriteZone(u"London.ini"_s, "Size=5\r\n");
-    QCOMPARE(sheet->AnswerChange(false), QString());
+    QCOMPARE(sheet->AnswerChange(SheetAnswer::No), QString());
     QCOMPARE(sheet->ChangeQuestion(), std::nullopt);
     QCOMPARE(sheet->Cell(1), u"3"_s);
     desk.WriteZone(u"London.ini"_s, "Size=6\r\n");
@@ -477,7 +542,7 @@ void tst_PropertySheetFile::YesTakesWhatIsThere() {
     sheet->Commit(1, u"4"_s);
     sheet->View().Sort(3, 1);
     desk.WriteZone(u"London.ini"_s, "Size=5\r\n");
-    QCOMPARE(sheet->AnswerChange(true), QString());
+    QCOMPARE(sheet->AnswerChange(SheetAnswer::Yes), QString());
     QCOMPARE(sheet->Cell(1), u"5"_s);
     QCOMPARE(sheet->View().Tag(), u"2,0"_s);
     QCOMPARE(sheet->ChangeQuestion(), std::nullopt);
@@ -485,7 +550,7 @@ void tst_PropertySheetFile::YesTakesWhatIsThere() {
     QCOMPARE(sheet->Cell(1), u"4"_s);
     desk.Machine.Files.Delete(sheet->Path());
     sheet->SetPropertyChanged(true);
-    QCOMPARE(sheet->AnswerChange(true), sheet->Path() + u" is not there any more"_s);
+    QCOMPARE(sheet->AnswerChange(SheetAnswer::Yes), sheet->Path() + u" is not there any more"_s);
     QCOMPARE(sheet->ChangeQuestion(), std::nullopt);
 }
 
@@ -514,15 +579,50 @@ void tst_PropertySheetFile::WhatTheOwnerWritesIsNoChange() {
     QVERIFY(sheet->ChangeQuestion());
 }
 
+void tst_PropertySheetFile::WhatIsDismissedIsAskedBeforeItIsWritten() {
+    SheetDesk desk;
+    const auto sheet = desk.Open(London);
+    sheet->Commit(1, u"4"_s);
+    desk.WriteZone(u"London.ini"_s, "Size=5\r\n");
+    QVERIFY(sheet->FocusQuestion());
+    QCOMPARE(sheet->AnswerChange(SheetAnswer::Neither), QString());
+    QCOMPARE(sheet->FocusQuestion(), std::nullopt);
+    QVERIFY(sheet->ChangeQuestion());
+    QCOMPARE(sheet->Cell(1), u"4"_s);
+    sheet->SetPropertyChanged(true);  // a clock has written it once more
+    QVERIFY(sheet->FocusQuestion());
+    sheet->AnswerChange(SheetAnswer::Neither);
+    sheet->AnswerChange(SheetAnswer::No);
+    desk.WriteZone(u"London.ini"_s, "Size=6\r\n");
+    QVERIFY(sheet->FocusQuestion());
+}
+
 void tst_PropertySheetFile::AGoneFileIsWrittenAnew() {
     SheetDesk desk;
     const auto sheet = desk.Open(London);
     desk.Machine.Files.Delete(sheet->Path());
     QCOMPARE(sheet->CheckFile(), FileState::Gone);
+    sheet->SetPropertyChanged(true);  // its clock has stored its place before
     QCOMPARE(sheet->ChangeQuestion(), std::nullopt);
+    QCOMPARE(sheet->WriteQuestion(),
+             (SheetQuestion{sheet->Path() + u"\r\nis gone, do you want to save it anew?"_s,
+                            u"Property File Gone"_s, 36}));
     QCOMPARE(sheet->Press(1, u"4"_s, {}).Problem, QString());
     QCOMPARE(desk.Zone(u"London.ini"_s), QByteArray(London).replace("Size=3", "Size=4"));
     QCOMPARE(sheet->CheckFile(), FileState::Same);
+    QCOMPARE(sheet->WriteQuestion(), std::nullopt);
+}
+
+void tst_PropertySheetFile::AGoneFileIsLaunchedAnew() {
+    SheetDesk desk;
+    const auto sheet = desk.OpenNew();
+    TypeName(*sheet, u"Rome"_s);
+    sheet->Press(0, {}, {});
+    const QByteArray made = desk.Zone(u"Rome.ini"_s);
+    desk.Machine.Files.Delete(sheet->Path());
+    QVERIFY(sheet->WriteQuestion());
+    QCOMPARE(sheet->Press(0, {}, {}).Launch, u"Rome"_s);
+    QCOMPARE(desk.Zone(u"Rome.ini"_s), made);
 }
 
 QTEST_GUILESS_MAIN(tst_PropertySheetFile)

@@ -135,7 +135,10 @@ private Q_SLOTS:
         QCOMPARE(Clipboard(), u"Hand Colour\tRed"_s);
         desk.GoTo(u"Title"_s);
         desk.Key(Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(desk.Cell(u"Title"_s), u"Red"_s);
+        QCOMPARE(desk.Cell(u"Title"_s), u"Old"_s);  // a row goes to its own key
+        SetClipboard(u"Plain"_s);
+        desk.Key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(desk.Cell(u"Title"_s), u"Plain"_s);
         SetClipboard(u"Title\tA\r\nStay Time\t5\nHand Colour\tBlack\nunknown\t1"_s);
         desk.GoTo(u"Hand Style"_s);
         desk.Key(Qt::Key_V, Qt::ControlModifier);
@@ -144,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(desk.Cell(u"Hand Colour"_s), u"Black"_s);
         QCOMPARE(desk.Cell(u"Hand Style"_s), u"3D"_s);
         desk.Key(Qt::Key_Z, Qt::ControlModifier);  // one step
-        QCOMPARE(desk.Cell(u"Title"_s), u"Red"_s);
+        QCOMPARE(desk.Cell(u"Title"_s), u"Plain"_s);
         QCOMPARE(desk.Cell(u"Stay Time"_s), u"0"_s);
         QCOMPARE(desk.Cell(u"Hand Colour"_s), u"Red"_s);
         desk.Window->Edit(EditAction::SelectAll);

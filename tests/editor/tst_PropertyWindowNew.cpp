@@ -114,7 +114,7 @@ private Q_SLOTS:
         desk.Key(Qt::Key_Return);
         const QString path = desk.Module.Paths.ZoneFileFolder + u"Oslo.ini"_s;
         QCOMPARE(desk.Shell.Boxes,
-                 QStringList(path + u"\r\nexists, do you want to over write this file?|36|"
+                 QStringList(path + u"\r\nexists, do you want to over write this file?|292|"
                                     u"Property File Exists"_s));
         QCOMPARE(desk.Stored(u"Title"_s), u"Kept"_s);
         QCOMPARE(desk.Window->windowTitle(), u"Properties - Oslo _"_s);
@@ -206,6 +206,35 @@ private Q_SLOTS:
         desk.Find<QPushButton>(u"cmdButton1"_s).setFocus();
         desk.Key(Qt::Key_Return);
         QVERIFY(!desk.Window->isVisible());
+    }
+
+    void AZoneThatIsOpenTakesWhatIsWrittenOverIt() {
+        PropertyWindowDesk desk;
+        desk.OpenForNew();
+        desk.Type(u"Oslo"_s);
+        desk.Shell.Answers = {6};
+        desk.Told();
+        desk.Key(Qt::Key_Return);
+        QCOMPARE(desk.Told(), u"Oslo: refresh form"_s);
+        QCOMPARE(mduLib::GetProperty(u"Time Zone Standard Name"_s, desk.OfClock), u"Oslo"_s);
+        QCOMPARE(desk.Shell.Refreshed, QStringList());
+        desk.Enter(u"Title"_s, u"New"_s);  // and the window is its from now on
+        QVERIFY(desk.Told().contains(u"preview Title=New"_s));
+    }
+
+    void AnotherZoneIsNotShownByTheClock() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Key(Qt::Key_A, Qt::ControlModifier | Qt::AltModifier);
+        QCOMPARE(desk.Window->PropertyFile(), desk.Clock->File);
+        desk.Type(u"2"_s);
+        desk.Told();
+        desk.Key(Qt::Key_Return);
+        QVERIFY(desk.Told().endsWith(u"Oslo: preview "_s));
+        QCOMPARE(desk.Window->PropertyFile(), desk.Module.Paths.ZoneFileFolder + u"Oslo2.ini"_s);
+        desk.Enter(u"Stay Time"_s, u"7"_s);
+        QCOMPARE(desk.Told(), QString());
     }
 
     void TheFlowCanBeTurnedOver() {

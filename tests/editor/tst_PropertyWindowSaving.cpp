@@ -8,6 +8,8 @@ class tst_PropertyWindowSaving : public QObject {
     static constexpr auto ChangedBox =
         "Property has been changed, do you want to refresh with the new values?|36|"
         "Property Changed";
+    static constexpr auto GoneBox =
+        "\r\nis gone, do you want to save it anew?|36|Property File Gone";
 
 private Q_SLOTS:
     void AppliedToTheShell() {
@@ -123,6 +125,20 @@ private Q_SLOTS:
         QCOMPARE(desk.Shell.Boxes.size(), 1);
     }
 
+    void AFailureForgetsNoChange() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Clock->OnSetProperty = [&desk] { desk.Window->SetPropertyChanged(true); };
+        desk.Machine.Files.Unwritable = {desk.Clock->File};
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Boxes, QStringList());
+        desk.Machine.Files.Unwritable.clear();
+        desk.Shell.Answers = {7};
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Boxes, QStringList{QString::fromLatin1(ChangedBox)});
+    }
+
     void NoGoesOnWithWhatIsThere() {
         PropertyWindowDesk desk;
         desk.Open();
@@ -159,9 +175,106 @@ private Q_SLOTS:
         QCOMPARE(desk.Info(), desk.Clock->File + u" is not there any more"_s);
         QCOMPARE(desk.Listed().size(), 8);
         desk.Enter(u"Title"_s, u"New"_s);
+        desk.Shell.Answers = {7, 2};
+        desk.ClickButton();
+        desk.ClickButton();
+        QCOMPARE(desk.Shell.Boxes, QStringList(2, desk.Clock->File + QString::fromLatin1(GoneBox)));
+        QVERIFY(!QFile::exists(desk.Clock->File));
+        desk.Shell.Answers = {6};
         desk.ClickButton();
         QCOMPARE(desk.Stored(u"Title"_s), u"New"_s);
         QCOMPARE(desk.Stored(u"Stay Time"_s), u"0"_s);
+    }
+
+    void ADeletedFileIsAskedForAtClosing() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        QVERIFY(QFile::remove(desk.Clock->File));
+        desk.Shell.Answers = {6, 7};
+        QVERIFY(!desk.Window->close());
+        QVERIFY(!QFile::exists(desk.Clock->File));
+        desk.Shell.Answers = {6, 6};
+        QVERIFY(desk.Window->close());
+        QCOMPARE(desk.Shell.Boxes.last(), desk.Clock->File + QString::fromLatin1(GoneBox));
+        QCOMPARE(desk.Stored(u"Title"_s), u"New"_s);
+    }
+
+    void ADeletedFileIsAskedForBeforeItsZoneIsRenewed() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        QVERIFY(QFile::remove(desk.Clock->File));
+        desk.Shell.Answers = {7};
+        desk.Run(u"RefreshTimeZoneDefaults"_s);
+        QVERIFY(!desk.Told().contains(u"zone details"_s));
+        desk.Clock->Unload();
+        desk.Run(u"RefreshTimeZoneDefaults"_s);  // nobody writes it
+        QCOMPARE(desk.Shell.Boxes.size(), 1);
+    }
+
+    void ADismissedBoxLeavesTheWindow() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Shell.Answers = {2};
+        QVERIFY(!desk.Window->close());
+        QVERIFY(desk.Window->isVisible());
+        QCOMPARE(desk.Cell(u"Title"_s), u"New"_s);
+        QCOMPARE(desk.Stored(u"Title"_s), u"Old"_s);
+        QVERIFY(!desk.Told().endsWith(u"preview "_s));  // the clock goes on showing it
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
+                               desk.Content().replace("Old", "Other's"));
+        desk.Shell.Answers = {2};
+        desk.ClickButton();
+        QCOMPARE(desk.Stored(u"Title"_s), u"Other's"_s);
+        QCOMPARE(desk.Cell(u"Title"_s), u"New"_s);
+        desk.Search().setFocus();
+        desk.View().setFocus();
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.Shell.Boxes.size(), 2);
+    }
+
+    void ClosingAsksForAChangeByOthers_data() {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("cell");
+        QTest::newRow("yes") << 6 << false << u"Other's"_s << u"Other's"_s;
+        QTest::newRow("no") << 7 << true << u"New"_s << u"New"_s;
+        QTest::newRow("dismissed") << 2 << false << u"Other's"_s << u"New"_s;
+    }
+    void ClosingAsksForAChangeByOthers() {
+        QFETCH(int, answer);
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
+                               desk.Content().replace("Old", "Other's"));
+        desk.Shell.Answers = {6, answer};
+        const bool closed = desk.Window->close();
+        QTEST(closed, "closes");
+        QCOMPARE(desk.Shell.Boxes,
+                 (QStringList{QString::fromLatin1(SaveBox), QString::fromLatin1(ChangedBox)}));
+        QTEST(desk.Stored(u"Title"_s), "stored");
+        QTEST(desk.Cell(u"Title"_s), "cell");
+        if (answer == 6) {
+            desk.Window->Edit(EditAction::Undo);
+            QCOMPARE(desk.Cell(u"Title"_s), u"New"_s);
+        }
+    }
+
+    void AFileThatCantBeReadKeepsTheWindow() {
+        PropertyWindowDesk desk;
+        desk.Open();
+        desk.Enter(u"Title"_s, u"New"_s);
+        const QByteArray locked("a\0b", 3);
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile), locked);
+        desk.Shell.Answers = {6};
+        QVERIFY(!desk.Window->close());
+        QCOMPARE(desk.Machine.ReadFile(QString::fromLatin1(desk.ClockFile)), locked);
+        QCOMPARE(desk.Info(),
+                 desk.Clock->File + u" can't be read as a property file; it is left as it is"_s);
+        QCOMPARE(desk.Cell(u"Title"_s), u"New"_s);
     }
 
     void ALockedFileIsTold() {
@@ -278,7 +391,14 @@ private Q_SLOTS:
         desk.Open();
         desk.Enter(u"Hand Colour"_s, u""_s);
         desk.Log.clear();
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
+                               desk.Content().replace("Old", "Other's"));
+        desk.Shell.Answers = {2};
         desk.Run(u"RefreshTimeZoneDefaults"_s);
+        QVERIFY(!desk.Told().contains(u"zone details"_s));
+        desk.Shell.Answers = {7};
+        desk.Run(u"RefreshTimeZoneDefaults"_s);
+        QCOMPARE(desk.Shell.Boxes, QStringList(2, QString::fromLatin1(ChangedBox)));
         QVERIFY(desk.Told().contains(u"Oslo: zone details Oslo"_s));
         QCOMPARE(desk.Grid().Tag, u"2,0"_s);
     }

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void LeavesGapsOfABlock();
     void LeavesGapsWhereTheHostSays();
     void OpensNoChooserWithoutOptions();
+    void SelectsNothingByHeadings();
     void OpensTheChooser();
     void OpensTheChooserOverTheFirstRow();
     void SortsByTheColumnUnderIt();
@@ -153,6 +154,19 @@ void tst_ctlEditGridMouse::OpensNoChooserWithoutOptions() {
     QVERIFY(desk.Grid.findChild<QComboBox*>(u"ctlColCombo"_s)->isHidden());
     QCOMPARE(desk.Host.Events, QStringList({u"MouseDown 1 0"_s, u"MouseUp 1 0"_s}));
     QCOMPARE(desk.Grid.Data().Row(), 1);
+}
+
+void tst_ctlEditGridMouse::SelectsNothingByHeadings() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(2, GridDesk::Combo);
+    QWidget* header = desk.View().horizontalHeader()->viewport();
+    QTest::mousePress(header, Qt::LeftButton, {}, desk.Middle(0, 2));
+    MoveTo(header, desk.Middle(0, 3), Qt::LeftButton);
+    MoveTo(header, desk.Middle(0, 4), Qt::LeftButton);
+    QTest::mouseRelease(header, Qt::LeftButton, {}, desk.Middle(0, 4));
+    QCOMPARE(desk.View().selectionModel()->selectedIndexes().size(), 1);
+    QCOMPARE(desk.Grid.Data().Col(), 1);
 }
 
 void tst_ctlEditGridMouse::OpensTheChooser() {

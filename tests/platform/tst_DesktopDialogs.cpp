@@ -44,8 +44,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("answer");
         QTest::newRow("Enter on a question") << YesNo << int(Qt::Key_Return) << 6;
         QTest::newRow("Enter on a removal") << YesNo + NoIsDefault << int(Qt::Key_Return) << 7;
-        QTest::newRow("Escape") << YesNo << int(Qt::Key_Escape) << 7;
-        QTest::newRow("Escape on a removal") << YesNo + NoIsDefault << int(Qt::Key_Escape) << 7;
+        QTest::newRow("Escape") << YesNo << int(Qt::Key_Escape) << 2;
+        QTest::newRow("Escape on a removal") << YesNo + NoIsDefault << int(Qt::Key_Escape) << 2;
+        QTest::newRow("Escape on a message") << 16 << int(Qt::Key_Escape) << 1;
         QTest::newRow("Enter on a message") << 16 << int(Qt::Key_Return) << 1;
     }
 
@@ -56,6 +57,20 @@ private Q_SLOTS:
             QTest::keyClick(&box, static_cast<Qt::Key>(key));
         });
         QTEST(answer, "answer");
+    }
+
+    void ClosingIsNeither() {
+        const auto close = [](QMessageBox& box) { box.close(); };
+        QCOMPARE(Answer(YesNo, u"Do you?"_s, u"Title"_s, close), 2);
+        QCOMPARE(Answer(16, u"Done"_s, u"Title"_s, close), 1);
+    }
+
+    void NoNeedsItsButton() {
+        QCOMPARE(Answer(YesNo, u"Do you?"_s, u"Title"_s,
+                        [](QMessageBox& box) {
+                            QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+                        }),
+                 7);
     }
 
     void YesNeedsItsButton() {

@@ -332,19 +332,22 @@ private Q_SLOTS:
         QVERIFY(desk.Button(u"Launch"_s)->isVisible());
     }
 
-    void AnswersOfWindowsThatAreNotThereYet_data() {
+    void ButtonsOpenWindows_data() {
         QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("answer");
-        QTest::newRow("Property") << u"Property"_s << u"The property window can't be opened yet"_s;
-        QTest::newRow("Shortcut") << u"Shortcut"_s << u"The shortcut window can't be opened yet"_s;
+        QTest::addColumn<QString>("window");
+        QTest::newRow("Property") << u"Property"_s << u"frmProperties"_s;
+        QTest::newRow("Shortcut") << u"Shortcut"_s << u"frmShortcuts"_s;
+        QTest::newRow("Timezone") << u"Timezone"_s << u"frmTimeZones"_s;
     }
 
-    void AnswersOfWindowsThatAreNotThereYet() {
+    void ButtonsOpenWindows() {
         QFETCH(QString, button);
+        QFETCH(QString, window);
         Desk desk;
         QVERIFY(desk.Start());
         QTest::mouseClick(desk.Button(button), Qt::LeftButton);
-        QTEST(desk.Status(), "answer");
+        const auto* opened = desk.Shell->findChild<QWidget*>(window);
+        QVERIFY(opened != nullptr && opened->isVisible());
     }
 
     void ARightClickOpensTheBarsOwnMenu() {

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int RowPadding = 8;      // pixels
 constexpr int HeadingPadding = 8;  // pixels
+constexpr int HeadingMargin = 6;   // pixels, as before the text of a cell
 
 int Pixels(double twips) {
     return qRound(twips / TwipsPerPixel);
@@ -346,8 +347,8 @@ void GridView::paintEvent(QPaintEvent* event) {
     for (int line = rowAt(0); line >= 0 && line < model_.rowCount(); ++line) {
         const QString heading = model_.HeadingOf(line);
         if (!heading.isEmpty()) {
-            const QRect place(RowPadding, rowViewportPosition(line),
-                              viewport()->width() - 2 * RowPadding, HeadingHeight() - 2);
+            const QRect place(HeadingMargin, rowViewportPosition(line),
+                              viewport()->width() - 2 * HeadingMargin, HeadingHeight() - 2);
             painter.drawText(place, int(Qt::AlignLeading | Qt::AlignBottom) | Qt::TextSingleLine,
                              OneLine(heading, 200));
         }

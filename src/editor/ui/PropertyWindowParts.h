@@ -11,7 +11,7 @@ struct PropertyWindowParts {
     PropertyWindowParts(const Program& program, IShell* shell, int ownerHandle,
                         const QString& zoneName, const PropertyGrid::Events& events,
                         const std::function<void(PropertyMenu::Item)>& onItem, QWidget* window)
-        : Owner(program, shell, ownerHandle),
+        : Owner(program, shell, ownerHandle, [this] { return Sheet.Path(); }),
           Sheet(program, Owner.SourceOf(zoneName)),
           Controls(window),
           Grid(program, Sheet, Owner, events, window),

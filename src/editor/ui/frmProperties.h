@@ -20,8 +20,8 @@ struct PropertyWindowParts;
 ///     frame->setWidget(window);
 ///     window->ShowPropertyMDIChild("Tokyo Standard Time", clock.hwnd(), 0, 0, 9000, 7500);
 ///
-/// The owner is told by its handle and looked up at each use: a clock that has been closed in the
-/// meantime is simply no more there, and its file is still saved.
+/// A clock is looked up by the file at each use: one that has been closed in the meantime is simply
+/// no more there, and its file is still saved; one that is opened again goes on taking it over.
 class frmProperties final : public QWidget,
                             public IForm,
                             public IPropertyWindow,
@@ -92,8 +92,6 @@ private:
     void Search(const QString& words);
     /// Tells why something was not done, in the line of information and by the owner.
     void Tell(const QString& problem);
-    /// The same once the current row has moved on, which tells of itself.
-    void TellLater(const QString& problem);
 
     // What is done (frmPropertiesActions.cpp)
     void PressButton();
@@ -107,8 +105,10 @@ private:
     /// The grid has got the focus.
     void CheckPropertyChanged();
     /// Asks about a change that somebody else has made to the file.
-    /// @return whether the values are those that the user has seen
+    /// @return whether the values are those that the user has seen, and may be written
     bool AskChange();
+    bool SettleChange();  ///< the same without a guard of its own
+    void RefreshTimeZone();
     /// @return whether the window may close now
     bool AskToSave();
     bool SaveAtClose();

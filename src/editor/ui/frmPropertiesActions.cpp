@@ -9,6 +9,7 @@
 #include "editor/ui/frmProperties.h"
 
 using namespace Qt::StringLiterals;
+using editor::SheetAnswer;
 using editor::SheetOutcome;
 using Item = PropertyMenu::Item;
 
@@ -37,7 +38,7 @@ QString ClipboardText() {
 void frmProperties::PressButton() {
     const editor::ButtonTag seen = shown_;
     parts_->Grid.EndEdit();
-    if (!AskChange() || !Ask(parts_->Sheet.OverwriteQuestion())) {
+    if (!AskChange() || !Ask(parts_->Sheet.WriteQuestion())) {
         return;
     }
     SheetOutcome outcome;
@@ -71,6 +72,9 @@ void frmProperties::Write(
     const std::function<void(int, const QString&, const ClockProperties&)>& writing) {
     PropertyGrid& grid = parts_->Grid;
     const ClockProperties present = parts_->Owner.Now();
+    if (parts_->Sheet.IsForNewFile()) {
+        grid.Preview().End();  // another file is open behind it
+    }
     grid.Preview().Forget();
     grid.InOneStep([&] { writing(grid.CurrentRecord(), grid.CurrentCell(), present); });
 }
@@ -80,7 +84,9 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
         parts_->Owner.RefreshForm(*outcome.RefreshOwner);
         parts_->Grid.InOneStep([this] { parts_->Sheet.OwnerHasTaken(); });
     }
-    parts_->Sheet.SetPropertyChanged(false);
+    if (outcome.Problem.isEmpty()) {
+        parts_->Sheet.SetPropertyChanged(false);
+    }
     parts_->Grid.Preview().Show();
     ShowState();
     Tell(outcome.Problem);
@@ -91,7 +97,7 @@ void frmProperties::Follow(const SheetOutcome& outcome) {
 
 // The box comes behind the change of the focus.
 void frmProperties::CheckPropertyChanged() {
-    if (asking_ || !parts_->Sheet.ChangeQuestion()) {
+    if (asking_ || !parts_->Sheet.FocusQuestion()) {
         return;
     }
     QMetaObject::invokeMethod(
@@ -99,16 +105,19 @@ void frmProperties::CheckPropertyChanged() {
 }
 
 bool frmProperties::AskChange() {
-    if (asking_) {
-        return false;
-    }
+    bool isSettled = false;
+    RunBox([&] { isSettled = SettleChange(); });
+    return isSettled;
+}
+
+bool frmProperties::SettleChange() {
     const auto question = parts_->Sheet.ChangeQuestion();
     if (!question) {
         return true;
     }
-    const bool refresh = Ask(question);
-    Refill([&] { return parts_->Sheet.AnswerChange(refresh); });
-    return !refresh;
+    const SheetAnswer answer = parts_->Owner.AnswerTo(*question);
+    Refill([&] { return parts_->Sheet.AnswerChange(answer); });
+    return answer == SheetAnswer::No;
 }
 
 void frmProperties::Refill(const std::function<QString()>& action) {
@@ -134,15 +143,18 @@ bool frmProperties::AskToSave() {
     const QScopedValueRollback guard(asking_, true);
     parts_->Grid.EndEdit();
     const auto question = parts_->Sheet.CloseQuestion();
-    if (question && parts_->Owner.Ask(question)) {
-        return SaveAtClose();
+    const SheetAnswer answer = question ? parts_->Owner.AnswerTo(*question) : SheetAnswer::No;
+    if (answer == SheetAnswer::Yes) {
+        return SettleChange() && SaveAtClose();
     }
-    parts_->Grid.Preview().End();
-    return true;
+    if (answer == SheetAnswer::No) {
+        parts_->Grid.Preview().End();
+    }
+    return answer == SheetAnswer::No;
 }
 
 bool frmProperties::SaveAtClose() {
-    if (!parts_->Owner.Ask(parts_->Sheet.OverwriteQuestion())) {
+    if (!parts_->Owner.Ask(parts_->Sheet.WriteQuestion())) {
         return false;
     }
     SheetOutcome outcome;
@@ -181,11 +193,7 @@ void frmProperties::RunItem(Item item) {
         case Item::RefreshByDefault:
             return Refill([&] { return sheet.RefreshFromDefault(); });
         case Item::RefreshTimeZoneDefaults:
-            parts_->Grid.Preview().End();  // what is only shown must not be written
-            return Refill([&] {
-                sheet.RefreshTimeZoneDefaults(parts_->Owner.Clock());
-                return QString();
-            });
+            return RefreshTimeZone();
         case Item::Close:
             return Unload();
         case Item::BackToDefault:
@@ -197,6 +205,15 @@ void frmProperties::RunItem(Item item) {
         default:
             return;
     }
+}
+
+void frmProperties::RefreshTimeZone() {
+    if (!AskChange() ||
+        (parts_->Owner.Clock() != nullptr && !parts_->Owner.Ask(parts_->Sheet.WriteQuestion()))) {
+        return;
+    }
+    parts_->Grid.Preview().End();  // what is only shown must not be written
+    Refill([this] { return parts_->Sheet.RefreshTimeZoneDefaults(parts_->Owner.Clock()); });
 }
 
 PropertyMenu::State frmProperties::MenuState() const {

@@ -3,6 +3,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
 
 namespace platform {
 
@@ -17,8 +18,29 @@ constexpr int IconMask = 0x70;
 constexpr int ButtonMask = 0x0F;
 
 constexpr int OkPressed = 1;
+constexpr int Dismissed = 2;
 constexpr int YesPressed = 6;
 constexpr int NoPressed = 7;
+
+/// A box that tells "No" from being dismissed, for which Qt presses that button.
+class QuestionBox final : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+    bool IsDismissed() const { return dismissed_; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        dismissed_ = event->matches(QKeySequence::Cancel);
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        dismissed_ = true;
+        QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool dismissed_ = false;
+};
 
 QMessageBox::Icon IconOf(int flags) {
     switch (flags & IconMask) {
@@ -55,7 +77,7 @@ QString SuffixOf(const QString& filter) {
 
 int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& title) {
     const bool asks = (flags & ButtonMask) == YesNo;
-    QMessageBox box(
+    QuestionBox box(
         IconOf(flags), title, text,
         asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
         owner_);
@@ -67,6 +89,9 @@ int DesktopDialogs::MessageBox(const QString& text, int flags, const QString& ti
     const int pressed = box.exec();
     if (!asks) {
         return OkPressed;
+    }
+    if (box.IsDismissed()) {
+        return Dismissed;
     }
     return pressed == QMessageBox::Yes ? YesPressed : NoPressed;
 }
