@@ -41,15 +41,6 @@ QStringList LinesOf(const QString& text) {
     return text.split(lineEnds, Qt::SkipEmptyParts);
 }
 
-/// A value alone goes to the current record of its key, where it is that.
-std::vector<PastedValue> AtCurrent(const PastedValue& pasted, const ClockProperties& properties,
-                                   int current) {
-    const bool isIts =
-        HasRecord(properties, current) &&
-        properties[current].Name.trimmed() == properties[pasted.Record].Name.trimmed();
-    return {{isIts ? current : pasted.Record, pasted.Cell}};
-}
-
 /// The values of the lines that begin with a key of the file.
 std::vector<PastedValue> ValuesOfKeys(const QStringList& lines, const ClockProperties& properties) {
     QHash<QString, std::vector<int>> records = RecordsByKey(properties);
@@ -63,6 +54,15 @@ std::vector<PastedValue> ValuesOfKeys(const QStringList& lines, const ClockPrope
         }
     }
     return pasted;
+}
+
+/// A value alone goes to the current record of its key, where it is that.
+std::vector<PastedValue> AtCurrent(const PastedValue& pasted, const ClockProperties& properties,
+                                   int current) {
+    const bool isIts =
+        HasRecord(properties, current) &&
+        properties[current].Name.trimmed() == properties[pasted.Record].Name.trimmed();
+    return {{isIts ? current : pasted.Record, pasted.Cell}};
 }
 
 }  // namespace

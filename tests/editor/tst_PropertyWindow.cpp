@@ -1,3 +1,4 @@
+#include <QComboBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -240,6 +241,26 @@ private Q_SLOTS:
         QCOMPARE(pixel(u"B Colour"_s, {}), pixel(u"B Colour"_s, {4, 4}));
         QVERIFY(pixel(u"C Colour"_s, -step).red() > pixel(u"C Colour"_s, -step).blue());
         QVERIFY(pixel(u"C Colour"_s, step).red() < pixel(u"C Colour"_s, step).blue());
+    }
+
+    void PicturesOfAListStandInLine() {
+        PropertyWindowDesk desk;
+        desk.Machine.WriteFile(QString::fromLatin1(desk.ClockFile),
+                               "Hand Colour=Red,Black,Red,Transparent,Random,Custom\r\n");
+        desk.Publish(desk.Clock->File);
+        desk.Open();
+        desk.Key(Qt::Key_Return);
+        QAbstractItemView& list = *desk.Grid().GetCellCombo()->view();
+        const QImage image = list.viewport()->grab().toImage();
+        for (int item = 0; item < 5; ++item) {
+            const QRect row = list.visualRect(list.model()->index(item, 0));
+            const int side = row.height() - 8;
+            const auto isPainted = [&](int x) {
+                return image.pixel(x, row.center().y()) != image.pixel(1, row.center().y());
+            };
+            QVERIFY(!isPainted(4) && isPainted(5));
+            QVERIFY(isPainted(4 + side) && !isPainted(5 + side));
+        }
     }
 
     void StandsWithinTheShell_data() {

@@ -85,7 +85,10 @@ void frmProperties::Open(const QString& zoneName, int ownerHandle) {
         [this] { CheckPropertyChanged(); },
         [this](const QPoint& at) { parts_->Menu.Popup(MenuState(), at); },
         [this](const std::function<void()>& box) { RunBox(box); },
-        [this] { TellLater(editor::CommaProblem); },
+        [this] {  // once the current row has moved on, which tells of itself
+            QMetaObject::invokeMethod(
+                this, [this] { Tell(editor::CommaProblem); }, Qt::QueuedConnection);
+        },
         [this](int col) { Sort(parts_->Sheet.View().TagOfClick(col)); }};
     parts_ = std::make_unique<PropertyWindowParts>(
         program_, shell_, ownerHandle, zoneName, events,
@@ -165,11 +168,6 @@ void frmProperties::Tell(const QString& problem) {
         parts_->Controls.ShowInfo(problem);
         parts_->Owner.Tell(problem);
     }
-}
-
-void frmProperties::TellLater(const QString& problem) {
-    QMetaObject::invokeMethod(
-        this, [this, problem] { Tell(problem); }, Qt::QueuedConnection);
 }
 
 QWidget& frmProperties::Outer() {

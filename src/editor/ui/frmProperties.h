@@ -92,8 +92,6 @@ private:
     void Search(const QString& words);
     /// Tells why something was not done, in the line of information and by the owner.
     void Tell(const QString& problem);
-    /// The same once the current row has moved on, which tells of itself.
-    void TellLater(const QString& problem);
 
     // What is done (frmPropertiesActions.cpp)
     void PressButton();
@@ -109,7 +107,7 @@ private:
     /// Asks about a change that somebody else has made to the file.
     /// @return whether the values are those that the user has seen, and may be written
     bool AskChange();
-    bool SettleChange();  ///< the same within a box of this window
+    bool SettleChange();  ///< the same without a guard of its own
     void RefreshTimeZone();
     /// @return whether the window may close now
     bool AskToSave();

@@ -105,9 +105,9 @@ void frmProperties::CheckPropertyChanged() {
 }
 
 bool frmProperties::AskChange() {
-    bool goesOn = false;
-    RunBox([&] { goesOn = SettleChange(); });
-    return goesOn;
+    bool isSettled = false;
+    RunBox([&] { isSettled = SettleChange(); });
+    return isSettled;
 }
 
 bool frmProperties::SettleChange() {
