@@ -130,10 +130,6 @@ void SetLastEditRow(EditGridData& grid, int row) {
     grid.LastEditRow = row;
 }
 
-QString LastLineNumber(EditGridData& grid) {
-    return grid.TextMatrix(grid.LastEditRow, 0);
-}
-
 QJsonValue ChooserCaptions(GridScript&, const GridArguments& given) {
     QJsonArray captions;
     for (const editor::ColComboItem& item : editor::SetColComboOption(given.Text(0))) {
@@ -159,6 +155,17 @@ QJsonValue SetOfColumn(GridScript& script, const GridArguments& given) {
     if (script.Grid.HasCol(given.Int(0))) {
         script.Look.Column(given.Int(0)).*Value = given.Int(1);
     }
+    return {};
+}
+
+template <bool CellEditing::*Value>
+QJsonValue TellSwitch(GridScript& script, const GridArguments&) {
+    return script.Editing.*Value;
+}
+
+template <bool CellEditing::*Value>
+QJsonValue SetSwitch(GridScript& script, const GridArguments& given) {
+    script.Editing.*Value = given.Flag(0);
     return {};
 }
 
@@ -244,7 +251,7 @@ constexpr GridOperation Operations[] = {
     {"GetLastEditRow", "", Tell<LastEditRow>},
     {"LastEditRow", "i", Do<SetLastEditRow>},
     {"SetLastEditRow", "i", Do<SetLastEditRow>},
-    {"LastLineNumber", "", Tell<LastLineNumber>},
+    {"LastLineNumber", "", Tell<editor::LastLineNumber>},
     {"SetColComboOption", "t", ChooserCaptions},
     {"SetCellCtl", "ii", Do<&GridColumns::SetCellCtlID>},
     {"SetCellCtlID", "ii", Do<&GridColumns::SetCellCtlID>},
@@ -252,6 +259,7 @@ constexpr GridOperation Operations[] = {
     {"SetColFormat", "t", Do<&GridColumns::SetColFormat>},
     {"AddCellComboItem", "it", Do<&GridColumns::AddCellComboItem>},
     {"AddCellComboEditItem", "it", Do<&GridColumns::AddCellComboEditItem>},
+    {"AddComboEditItem", "it", Do<&GridColumns::AddComboEditItem>},
     {"RemoveComboEditItem", "it", Do<&GridColumns::RemoveComboEditItem>},
     {"ClearCellCombo", "i", Do<&GridColumns::ClearCellCombo>},
     {"ClearCellComboEdit", "i", Do<&GridColumns::ClearCellComboEdit>},
@@ -267,6 +275,12 @@ constexpr GridOperation Operations[] = {
     {"FormatString", "t", SetFormat},
     {"RowPosition", "ii", Do<editor::SetRowPosition>},
     {"ColPosition", "ii", MoveColumn},
+    {"Editable", "", TellSwitch<&CellEditing::Editable>},
+    {"Editable", "b", SetSwitch<&CellEditing::Editable>},
+    {"MoveToNextOnEnter", "", TellSwitch<&CellEditing::MoveToNextOnEnter>},
+    {"MoveToNextOnEnter", "b", SetSwitch<&CellEditing::MoveToNextOnEnter>},
+    {"RowChanges", "", TellSwitch<&CellEditing::RowChanges>},
+    {"RowChanges", "b", SetSwitch<&CellEditing::RowChanges>},
     {"MoveToNextCell", "", Do<&CellEditing::MoveToNextCell>},
 };
 

@@ -26,7 +26,7 @@ constexpr QStringView Captions[] = {
 
 std::vector<ColComboItem> SetColComboOption(const QString& options) {
     std::vector<ColComboItem> items;
-    for (int number = 0; number <= FindItem; ++number) {
+    for (int number = 0; number <= FindOption; ++number) {
         if (options.contains(QString::number(number))) {
             items.push_back({number, Captions[number].toString()});
         }
@@ -35,10 +35,10 @@ std::vector<ColComboItem> SetColComboOption(const QString& options) {
 }
 
 ColChoice ChooseColOption(EditGridData& grid, int number) {
-    if (number == FitColumnsItem) {
+    if (number == FitColumnsOption) {
         return ColChoice::FitColumns;
     }
-    if (number == FindItem) {
+    if (number == FindOption) {
         return ColChoice::Find;
     }
     Sort(grid, number);

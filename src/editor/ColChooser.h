@@ -17,8 +17,8 @@ struct ColComboItem {
 /// What a chosen entry asks of the window; what the data can do has been done.
 enum class ColChoice { Nothing, FitColumns, Find };
 /// Numbers of the two entries that don't sort. Those from 0 to 8 are the codes of `Sort`.
-inline constexpr int FitColumnsItem = 9;
-inline constexpr int FindItem = 10;
+inline constexpr int FitColumnsOption = 9;
+inline constexpr int FindOption = 10;
 
 /// The entries whose numbers occur anywhere in @p options, in their order. "10" holds 0 and 1, too:
 ///

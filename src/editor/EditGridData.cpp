@@ -58,6 +58,7 @@ bool EditGridData::SetCols(int cols) {
     const auto count = static_cast<std::size_t>(cols);
     for (GridRow& row : rows_) {
         row.Cells.resize(std::min(row.Cells.size(), count));
+        row.ForeColors.resize(std::min(row.ForeColors.size(), count));
     }
     cols_ = cols;
     KeepCursorWithin();

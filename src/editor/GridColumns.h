@@ -53,6 +53,7 @@ public:
     QStringList Items(int col) const;
     bool AddCellComboItem(int col, const QString& text);
     bool AddCellComboEditItem(int col, const QString& text);
+    bool AddComboEditItem(int col, const QString& text) { return AddCellComboEditItem(col, text); }
     /// False when there is no such entry.
     bool RemoveComboEditItem(int col, const QString& text);
     bool ClearCellCombo(int col);

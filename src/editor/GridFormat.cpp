@@ -79,8 +79,10 @@ bool SetColPosition(EditGridData& grid, GridLook& look, int col, int place) {
     for (int row = 0; row < grid.Rows(); ++row) {
         GridRow moved = grid.RowAt(row);
         moved.Cells.clear();
+        moved.ForeColors.clear();
         for (const int from : order) {
             moved.Cells.push_back(grid.TextMatrix(row, from));
+            moved.ForeColors.push_back(grid.CellForeColor(row, from));
         }
         grid.PutRow(row, moved);
     }

@@ -31,6 +31,10 @@ bool SetLastLineNumber(EditGridData& grid, const QString& text) {
     return grid.LastEditRow > 0 && SetLineNumber(grid, grid.LastEditRow, text);
 }
 
+QString LastLineNumber(const EditGridData& grid) {
+    return grid.LastEditRow > 0 ? grid.TextMatrix(grid.LastEditRow, 0) : QString();
+}
+
 bool SetRowStrikeThrough(EditGridData& grid, bool state) {
     SelectOneRow(grid, grid.Row());
     return grid.SetStruckThrough(grid.Row(), state);

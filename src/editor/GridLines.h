@@ -11,6 +11,8 @@ void RefreshItemNumber(EditGridData& grid);
 bool SetLineNumber(EditGridData& grid, int row, const QString& text);
 /// The same in the row of the last edit; refused when there is none.
 bool SetLastLineNumber(EditGridData& grid, const QString& text);
+/// What stands there; empty when there is none.
+QString LastLineNumber(const EditGridData& grid);
 
 /// Strikes the current row through, or not, and selects it whole.
 bool SetRowStrikeThrough(EditGridData& grid, bool state);

@@ -44,11 +44,8 @@ struct GridLook {
     Bars ScrollBars = Bars::Both;
     Resizing AllowUserResizing = Resizing::Columns;
     bool ScrollTrack = true;  ///< the rows follow the bar while it is dragged
-    bool WordWrap = false;
     bool RightToLeft = false;
-    int RowHeightMin = 0;  ///< no row that is seen is lower
-    int TextStyle = 0;     ///< 0 flat, 1 raised, 2 inset, of the cells
-    int TextStyleFixed = 0;
+    int RowHeightMin = 0;     ///< no row that is seen is lower
     bool MergeCells = false;  ///< whether `ColumnLook::Merge` counts
     QString FormatString;     ///< see `FormatOf`
     bool Enabled = true;
@@ -56,7 +53,13 @@ struct GridLook {
     bool CausesValidation = true;  ///< the host is asked before the focus leaves
     int MousePointer = 0;          ///< 0 arrow, 2 cross, 3 text, 11 waiting
     QString ToolTipText;           ///< of cells that have none of their own
-    // These are only kept for the host.
+    // These are only kept for the host, and show nothing. So it is with two values of others:
+    // `GridLines` that are inset or raised are flat ones, and rows take no other heights from the
+    // mouse. There is no `MouseIcon`, `FontWidth`, `OLEDrag` and `CellPicture` at all: a cell has
+    // its decorations, `CellLook`, in their place.
+    bool WordWrap = false;
+    int TextStyle = 0;  ///< 0 flat, 1 raised, 2 inset, of the cells
+    int TextStyleFixed = 0;
     int Index = 0;
     int WhatsThisHelpID = 0;
     int OLEDropMode = 0;

@@ -44,6 +44,9 @@ bool RowHasText(const EditGridData& grid, int row) {
 }
 
 bool ClearRow(EditGridData& grid, int row) {
+    if (grid.HasRow(row) && grid.ClippedRow.Source == row) {
+        grid.ClippedRow.Source = -1;
+    }
     return grid.PutRow(row, {});
 }
 

@@ -11,7 +11,8 @@ namespace editor {
 /// Whether a row has text in any column, blanks being none.
 bool RowHasText(const EditGridData& grid, int row);
 
-/// Empties every cell; the row's number becomes 0, and it is no longer struck through.
+/// Empties every cell; the row's number becomes 0, and it is no longer struck through. A cut of the
+/// row that waits for its paste is that of a copy from then on.
 bool ClearRow(EditGridData& grid, int row);
 /// `ClearRow` of all rows that are not fixed. The number of rows stays.
 void GridClear(EditGridData& grid);

@@ -36,11 +36,12 @@ std::optional<EditAction> EditActionOf(int index) {
     return item != nullptr ? std::optional(item->Action) : std::nullopt;
 }
 
-void RefreshEditItems(MenuArray& items, const std::function<bool(EditAction)>& canEdit) {
+void RefreshEditItems(MenuArray& items, const std::function<bool(EditAction)>& canEdit,
+                      bool keysHold) {
     for (int i = 1; i <= items.Count(); ++i) {
         const EditItem* item = Find(i);
         items(i).Enabled = item != nullptr && canEdit(item->Action);
-        items(i).Keys = item != nullptr ? item->Keys.toString() : QString();
+        items(i).Keys = item != nullptr && keysHold ? item->Keys.toString() : QString();
     }
 }
 

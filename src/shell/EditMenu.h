@@ -13,7 +13,8 @@ namespace shell {
 std::optional<EditAction> EditActionOf(int index);
 
 /// Greys the items that can't be done at this moment, and gives each the keys that do the same
-/// where one edits.
-void RefreshEditItems(MenuArray& items, const std::function<bool(EditAction)>& canEdit);
+/// where one edits; none where @p keysHold is not true, as in a window that records them.
+void RefreshEditItems(MenuArray& items, const std::function<bool(EditAction)>& canEdit,
+                      bool keysHold);
 
 }  // namespace shell

@@ -167,7 +167,7 @@ void MenuFills::RefreshViewMenu() const {
 }
 
 void MenuFills::RefreshEditMenu() const {
-    RefreshEditItems(state_[u"EditItem"_s], sources_.CanEdit);
+    RefreshEditItems(state_[u"EditItem"_s], sources_.CanEdit, sources_.EditKeysHold());
 }
 
 }  // namespace shell

@@ -22,6 +22,8 @@ public:
         std::function<bool()> HasMessage;   ///< whether the message line holds something
         /// Whether what has the focus, or its window, can do that.
         std::function<bool(EditAction)> CanEdit;
+        /// Whether the keys of the menu "Edit" do there what they say.
+        std::function<bool()> EditKeysHold;
     };
 
     /// All but @p sources outlive this.

@@ -43,6 +43,13 @@ constexpr Hint Hints[] = {
 constexpr QStringView KeysOfEveryClock[] = {u"F1",     u"Ctrl+F1", u"Alt+F1",
                                             u"Ctrl+E", u"Ctrl+W",  u"Ctrl+R"};
 
+/// The key in a sentence: on one line, and no longer than any key is.
+QString InSentence(const QString& keyText) {
+    constexpr int most = 20;
+    const QString line = keyText.left(2 * most).simplified();
+    return line.size() > most ? line.left(most) + u"..."_s : line;
+}
+
 }  // namespace
 
 QString CommandHint(const QString& command) {
@@ -62,7 +69,7 @@ QString KeyHint(const QString& keyText) {
         std::end(KeysOfEveryClock)) {
         return u"A clock keeps %1 for itself. Press another key."_s.arg(keyText);
     }
-    return u"Press the new key in the place of %1."_s.arg(keyText);
+    return u"Press the new key in the place of %1."_s.arg(InSentence(keyText));
 }
 
 QString RefusedKeyHint(const QString& keyText, const QString& holder) {

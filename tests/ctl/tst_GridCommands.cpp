@@ -222,6 +222,18 @@ void tst_GridCommands::runsEachOperation_data() {
 ["GetLastEditRow"])",
         "3");
     row("GetLastEditRow", R"(["LastEditRow"])", "0");
+    for (const char* const name : {"Editable", "MoveToNextOnEnter", "RowChanges"}) {
+        const QByteArray set = "[\"" + QByteArray(name) + "\",";
+        const QByteArray get = "\n[\"" + QByteArray(name) + "\"]";
+        row(name, (set + "true]" + get).constData(), "true");
+        row((name + " off"_ba).constData(), (set + "false]" + get).constData(), "false");
+    }
+    row("AddComboEditItem", R"(["SetCellCtl",1,4]
+["AddComboEditItem",1,"Red"])",
+        "null");
+    row("Editable at first", R"(["Editable"])", "true");
+    row("MoveToNextOnEnter at first", R"(["MoveToNextOnEnter"])", "false");
+    row("RowChanges at first", R"(["RowChanges"])", "false");
     row("SetRowStrikeThrough", R"(["SetRowStrikeThrough",true]
 ["IsRowStrikeThrough"])",
         "true");

@@ -104,7 +104,6 @@ struct GridDesk {
             Grid.Columns().AddCellComboItem(Combo, colour);
             Grid.Columns().AddCellComboEditItem(ComboEdit, colour);
         }
-        Grid.CompactOnPress = false;
         Grid.Refresh();
     }
 

@@ -149,7 +149,7 @@ void tst_EditGridData::RefusesWhatARowCannotHold() {
 void tst_EditGridData::KeepsTheHeightWhereARowIsPut() {
     EditGridData grid({3, 2, 1, 0});
     grid.SetRowHeight(2, 500);
-    QVERIFY(grid.PutRow(2, {{u"a"_s, u"b"_s, u"beyond"_s}, 9, 700, true}));
+    QVERIFY(grid.PutRow(2, {{u"a"_s, u"b"_s, u"beyond"_s}, 9, 700, true, false, {}}));
     QCOMPARE(RowsOf(grid), QStringList({u"|"_s, u"a|b"_s}));
     QCOMPARE(grid.RowData(2), 9);
     QCOMPARE(grid.RowHeight(2), 500);
@@ -217,11 +217,13 @@ void tst_EditGridData::ShrinksByColumns() {
     EditGridData grid = GridOf({u"A|B|C"_s, u"a|b|c"_s}, 3);
     grid.SetCol(1);
     grid.SetColSel(2);
+    grid.SetCellForeColor(1, 2, 255);
     QVERIFY(grid.SetCols(1));
     QCOMPARE(grid.Col(), 0);
     QCOMPARE(grid.ColSel(), 0);
     QVERIFY(grid.SetCols(3));
     QCOMPARE(RowsOf(grid), QStringList{u"a||"_s});
+    QCOMPARE(grid.CellForeColor(1, 2), editor::NoForeColor);
 }
 
 void tst_EditGridData::RemovesARow() {

@@ -69,6 +69,7 @@ void tst_GridColumns::RefusesWhatIsNotThere() {
     QVERIFY(!columns.SetCellCtlVisible(2, true));
     QVERIFY(!columns.AddCellComboItem(2, u"x"_s));
     QVERIFY(!columns.AddCellComboEditItem(2, u"x"_s));
+    QVERIFY(!columns.AddComboEditItem(2, u"x"_s));
     QVERIFY(!columns.RemoveComboEditItem(2, u"x"_s));
     QVERIFY(!columns.ClearCellCombo(2));
     QVERIFY(!columns.ClearCellComboEdit(2));

@@ -76,6 +76,7 @@ void tst_GridFormat::RefusesRows() {
 void tst_GridFormat::MovesColumns() {
     editor::EditGridData grid = GridOf({u"A|B|C"_s, u"1|2|3"_s}, 3);
     grid.SetRowData(1, 9);
+    grid.SetCellForeColor(1, 0, 255);
     editor::GridLook look;
     look.Column(0).Width = 100;
     look.Column(2).Width = 300;
@@ -83,6 +84,8 @@ void tst_GridFormat::MovesColumns() {
     QCOMPARE(grid.RowClipText(0), u"B\tC\tA"_s);
     QCOMPARE(grid.RowClipText(1), u"2\t3\t1"_s);
     QCOMPARE(grid.RowData(1), 9);
+    QCOMPARE(grid.CellForeColor(1, 0), editor::NoForeColor);
+    QCOMPARE(grid.CellForeColor(1, 2), 255);
     QCOMPARE(look.ColumnAt(1).Width, 300);
     QCOMPARE(look.ColumnAt(2).Width, 100);
 }

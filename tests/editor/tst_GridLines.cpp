@@ -49,8 +49,11 @@ void tst_GridLines::SetsALinesNumber() {
 void tst_GridLines::SetsTheNumberOfTheLastEdit() {
     EditGridData grid = GridOf({u"N"_s, u"1"_s, u"2"_s}, 1);
     QVERIFY(!editor::SetLastLineNumber(grid, u"*"_s));
+    QCOMPARE(editor::LastLineNumber(grid), QString());
     grid.LastEditRow = 2;
+    QCOMPARE(editor::LastLineNumber(grid), u"2"_s);
     QVERIFY(editor::SetLastLineNumber(grid, u"*"_s));
+    QCOMPARE(editor::LastLineNumber(grid), u"*"_s);
     grid.LastEditRow = 3;
     QVERIFY(!editor::SetLastLineNumber(grid, u"!"_s));
     QCOMPARE(RowsOf(grid), QStringList({u"1"_s, u"*"_s}));

@@ -1,8 +1,11 @@
 #include "editor/RowOperation.h"
 
 #include <QTest>
+#include <functional>
 
+#include "editor/GridLines.h"
 #include "editor/GridOf.h"
+#include "editor/GridRows.h"
 
 using namespace Qt::StringLiterals;
 using editor::EditGridData;
@@ -52,6 +55,7 @@ private Q_SLOTS:
     void PastesIntoNoHeading();
     void LosesNoRowWithAnEmptiedClip();
     void FollowsTheCutRow();
+    void ForgetsTheCutOfAClearedRow();
     void Deletes();
     void DeletesNoHeading();
     void KnowsNoOtherOperation();
@@ -235,6 +239,27 @@ void tst_RowOperation::FollowsTheCutRow() {
     grid.RemoveItem(1);
     At(grid, 1, Paste);
     QCOMPARE(RowsOf(grid), QStringList({u"1|c"_s, u"2|b"_s, u"3|d"_s}));
+}
+
+/// The texts stay: what is pasted then is a copy.
+void tst_RowOperation::ForgetsTheCutOfAClearedRow() {
+    const std::vector<std::function<void(EditGridData&)>> clears = {
+        [](EditGridData& grid) { editor::ClearRow(grid, 2); }, editor::GridClear, editor::Clear};
+    for (const auto& clear : clears) {
+        EditGridData grid = Letters();
+        At(grid, 2, Cut);
+        editor::ClearRow(grid, 1);
+        editor::ClearRow(grid, -1);
+        QCOMPARE(grid.ClippedRow.Source, 2);
+        clear(grid);
+        QCOMPARE(grid.ClippedRow.Source, -1);
+        QCOMPARE(grid.ClippedRow.Text(), u"2\tb"_s);
+        grid.SetTextMatrix(2, 1, u"new"_s);
+        editor::SelectOneRow(grid, 1);
+        RowOperation(grid, Paste);
+        QCOMPARE(grid.RowClipText(1), u"2\tb"_s);
+        QCOMPARE(grid.TextMatrix(2, 1), u"new"_s);
+    }
 }
 
 void tst_RowOperation::Deletes() {

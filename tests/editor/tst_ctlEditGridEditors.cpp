@@ -331,11 +331,13 @@ void tst_ctlEditGridEditors::GivesItsControls() {
     desk.Show();
     QVERIFY(desk.Grid.GetCellTextBox() == nullptr);
     QVERIFY(desk.Grid.GetCellCombo() == nullptr);
+    QVERIFY(desk.Grid.GetCellComboEdit() == nullptr);
     QCOMPARE(desk.Grid.GetComboEditText(), QString());
     desk.Grid.SetComboEditText(u"lost"_s);
     desk.GoTo(1, GridDesk::ComboEdit);
     desk.Press(Qt::Key_Return);
     QCOMPARE(desk.Grid.GetComboEditCtl(4), desk.List());
+    QCOMPARE(desk.Grid.GetCellComboEdit(), desk.List());
     QVERIFY(desk.Grid.GetComboEditCtl(1) == nullptr);
     QVERIFY(desk.Grid.GetComboCtl(4) == nullptr);
     QCOMPARE(desk.Grid.GetCellTextBox(), desk.Line());
@@ -343,6 +345,10 @@ void tst_ctlEditGridEditors::GivesItsControls() {
     QCOMPARE(desk.Line()->text(), u"given"_s);
     desk.Press(Qt::Key_Return);
     QCOMPARE(desk.Cell(1, 4), u"given"_s);
+    desk.GoTo(1, GridDesk::Combo);
+    desk.Press(Qt::Key_Return);
+    QVERIFY(desk.Grid.GetCellCombo() != nullptr);
+    QVERIFY(desk.Grid.GetCellComboEdit() == nullptr);
 }
 
 void tst_ctlEditGridEditors::HasNames() {

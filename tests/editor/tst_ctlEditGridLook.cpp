@@ -342,6 +342,9 @@ void tst_ctlEditGridLook::CutsTipsOff() {
     desk.Grid.SetLooks(OnlyAt(1, 3, look), {});
     QCOMPARE(desk.View().model()->index(0, 3).data(Qt::ToolTipRole).toString(), u"a tip"_s);
     QCOMPARE(desk.View().model()->index(1, 3).data(Qt::ToolTipRole).toString(), QString());
+    desk.Grid.SetToolTipText(u"of all"_s);
+    QCOMPARE(desk.View().toolTip(), u"of all"_s);
+    QCOMPARE(desk.Grid.Look().ToolTipText, u"of all"_s);
 }
 
 void tst_ctlEditGridLook::ShowsItemsWithTheirLooks() {

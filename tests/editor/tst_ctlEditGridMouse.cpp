@@ -23,9 +23,11 @@ private Q_SLOTS:
     void StaysOffFixedColumns();
     void ClosesGapsByAPress();
     void LeavesGapsOfABlock();
-    void LeavesGapsWhereTheHostSays();
+    void LeavesGapsWhereTheHostDoesNotAsk();
     void OpensNoChooserWithoutOptions();
     void SelectsNothingByHeadings();
+    void TellsNoClickOfAWidth();
+    void TellsARelease();
     void OpensTheChooser();
     void OpensTheChooserOverTheFirstRow();
     void SortsByTheColumnUnderIt();
@@ -139,9 +141,9 @@ void tst_ctlEditGridMouse::LeavesGapsOfABlock() {
     QCOMPARE(desk.Cell(2, 1), u"x"_s);
 }
 
-void tst_ctlEditGridMouse::LeavesGapsWhereTheHostSays() {
+void tst_ctlEditGridMouse::LeavesGapsWhereTheHostDoesNotAsk() {
     GridDesk desk;
-    QVERIFY(ctlEditGrid(desk.Machine.Clock, desk.Host, nullptr).CompactOnPress);
+    QVERIFY(!ctlEditGrid(desk.Machine.Clock, desk.Host, nullptr).CompactOnPress);
     desk.Grid.Data() = GridOf({u"A|B"_s, u"a|1"_s, u"|x"_s, u"c|3"_s}, 2);
     desk.Show();
     desk.GoTo(1, 1);
@@ -154,7 +156,9 @@ void tst_ctlEditGridMouse::OpensNoChooserWithoutOptions() {
     desk.Show();
     desk.ClickHeading(3);
     QVERIFY(desk.Grid.findChild<QComboBox*>(u"ctlColCombo"_s)->isHidden());
-    QCOMPARE(desk.Host.Events, QStringList({u"MouseDown 1 0"_s, u"MouseUp 1 0"_s}));
+    QCOMPARE(desk.Host.Events, QStringList({u"MouseDown 1 0"_s, u"MouseUp 1 0"_s, u"Click"_s}));
+    QCOMPARE(desk.Grid.MouseRow(), 0);
+    QCOMPARE(desk.Grid.MouseCol(), 3);
     QCOMPARE(desk.Grid.Data().Row(), 1);
 }
 
@@ -171,10 +175,36 @@ void tst_ctlEditGridMouse::SelectsNothingByHeadings() {
     QCOMPARE(desk.Grid.Data().Col(), 1);
 }
 
+/// Between two headings the mouse moves their edge.
+void tst_ctlEditGridMouse::TellsNoClickOfAWidth() {
+    GridDesk desk;
+    desk.Show();
+    QHeaderView* header = desk.View().horizontalHeader();
+    const QPoint edge(header->sectionViewportPosition(3), 5);
+    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
+    MoveTo(header->viewport(), edge + QPoint(30, 0), Qt::LeftButton);
+    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
+    QCOMPARE(desk.Host.Events, QStringList({u"MouseDown 1 0"_s, u"MouseUp 1 0"_s}));
+}
+
+/// Before the grid itself lets go of what is being selected.
+void tst_ctlEditGridMouse::TellsARelease() {
+    GridDesk desk;
+    desk.Show();
+    desk.GoTo(1, GridDesk::Text);
+    QTest::mousePress(desk.View().viewport(), Qt::LeftButton, {}, desk.Middle(2, 3));
+    const auto note = [&desk] { desk.Host.Events += u"released"_s; };
+    connect(&desk.View(), &QTableView::clicked, this, note);
+    QTest::mouseRelease(desk.View().viewport(), Qt::LeftButton, {}, desk.Middle(2, 3));
+    QCOMPARE(desk.Host.Events.mid(desk.Host.Events.size() - 3),
+             QStringList({u"MouseUp 1 0"_s, u"released"_s, u"Click"_s}));
+}
+
 void tst_ctlEditGridMouse::OpensTheChooser() {
     GridDesk desk;
     desk.Show();
     desk.Grid.SetColComboOption(u"10"_s);
+    QCOMPARE(desk.Grid.ColComboOption(), u"10"_s);
     desk.ClickHeading(3);
     auto* chooser = desk.Grid.findChild<QComboBox*>(u"ctlColCombo"_s);
     QVERIFY(chooser->isVisible());

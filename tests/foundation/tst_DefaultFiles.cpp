@@ -138,12 +138,14 @@ void tst_DefaultFiles::bindEachKeyOnce() {
     QSet<QString> keys;
     for (const QString& name : Names(shortcuts)) {
         const QString key = mduLib::GetProperty(name, shortcuts);
-        static const QRegularExpression form(u"\\A(Ctrl\\+[A-Z]|(Ctrl\\+)?F([2-9]|1[0-2]))\\z"_s);
+        static const QRegularExpression form(u"\\A(Ctrl\\+[A-Z]|F([2-9]|1[0-2]))\\z"_s);
         QVERIFY2(form.match(key).hasMatch(), qPrintable(key));
         keys += key;
     }
     QCOMPARE(keys.size(), 20);
-    for (const QString& taken : {u"Ctrl+E"_s, u"Ctrl+W"_s, u"Ctrl+R"_s}) {
+    // Desktops take Ctrl with F1 to F12; these are the clock's own and those of the menu "Edit".
+    for (const QString& taken : {u"Ctrl+E"_s, u"Ctrl+W"_s, u"Ctrl+R"_s, u"Ctrl+Z"_s, u"Ctrl+Y"_s,
+                                 u"Ctrl+X"_s, u"Ctrl+C"_s, u"Ctrl+V"_s, u"Ctrl+A"_s, u"Ctrl+F"_s}) {
         QVERIFY2(!keys.contains(taken), qPrintable(taken));
     }
 }

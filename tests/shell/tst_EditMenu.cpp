@@ -33,12 +33,18 @@ private Q_SLOTS:
     void KeysStandBehindTheCaptions() {
         shell::MenuState state;
         shell::MenuArray& menu = state[u"EditItem"_s];
-        shell::RefreshEditItems(menu, [](EditAction) { return true; });
-        QStringList keys;
-        for (int i = 1; i <= menu.Count(); ++i) {
-            keys += menu(i).Keys;
-        }
-        QCOMPARE(keys.join(u','), u"Ctrl+Z,Ctrl+Y,Ctrl+X,Ctrl+C,Ctrl+V,,Del,,Ctrl+A,,Ctrl+F,"_s);
+        const auto keys = [&menu] {
+            QStringList all;
+            for (int i = 1; i <= menu.Count(); ++i) {
+                all += menu(i).Keys;
+            }
+            return all.join(u',');
+        };
+        const auto all = [](EditAction) { return true; };
+        shell::RefreshEditItems(menu, all, true);
+        QCOMPARE(keys(), u"Ctrl+Z,Ctrl+Y,Ctrl+X,Ctrl+C,Ctrl+V,,Del,,Ctrl+A,,Ctrl+F,"_s);
+        shell::RefreshEditItems(menu, all, false);
+        QCOMPARE(keys(), u",,,,,,,,,,,"_s);
         QVERIFY(menu(11).Enabled);
         QVERIFY(!menu(12).Enabled);  // nobody checks spelling
     }

@@ -165,8 +165,10 @@ private Q_SLOTS:
         QCOMPARE(desk.In<QLineEdit>(u"txtSearch"_s)->text(), QString());
         desk.PressClock(Qt::Key_K, Qt::ControlModifier);
         QTest::keyClick(desk.Grid(), Qt::Key_J, Qt::ControlModifier);
+        QCOMPARE(desk.Entry(u"EditItem"_s, 1)->text(), u"Undo"_s);  // Ctrl+Z would be recorded
         desk.ClickItem(u"EditItem"_s, 1);
         QCOMPARE(desk.Grid()->model()->index(0, 1).data().toString(), u"Ctrl+P"_s);
+        QVERIFY(desk.Entry(u"EditItem"_s, 2)->isEnabled());
         desk.Stop();
     }
 

@@ -31,7 +31,7 @@ private:
             Settings,
             Lists,
             {[this] { return Look; }, [this] { return Active; }, [this] { return Message; },
-             [this](EditAction action) { return Editable.contains(action); }}};
+             [this](EditAction action) { return Editable.contains(action); }, [] { return true; }}};
         std::set<EditAction> Editable = {};
 
         Desk() {

@@ -106,7 +106,11 @@ private Q_SLOTS:
         QTEST(shell::RecordedKey(grid, row, code, shift), "text");
     }
 
-    void NoKeyIsReserved() { QVERIFY(!shell::IsReservedKey(u"Ctrl+E"_s)); }
+    /// Those of the shell's own menus are not refused: Alt+E opens "Edit", Ctrl+Z undoes.
+    void TheKeysOfTheMenusMayBeTaken() {
+        QCOMPARE(shell::RecordedKey(Filled(), 1, 'E', 4), u"Alt+E"_s);
+        QCOMPARE(shell::RecordedKey(Filled(), 1, 'Z', 2), u"Ctrl+Z"_s);
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_ShortcutRows)

@@ -361,6 +361,66 @@ private Q_SLOTS:
         QVERIFY(desk.Stored().contains("Disable=Ctrl+D"));
     }
 
+    /// The first of two rows of one command is that of the key; each is shown and kept.
+    void TheSameCommandTwice() {
+        Desk desk;
+        desk.Machine.WriteFile(u"Shortcuts.txt"_s, "Clocks=F2\r\nClocks=F6\r\nDisable=F8\r\n");
+        desk.Sheet.ReloadShortcuts();
+        desk.Sheet.PressKey(2, 'J', Ctrl);
+        QVERIFY(desk.Sheet.Save(2));
+        QCOMPARE(desk.Stored(), "Clocks=F2\r\nClocks=Ctrl+J\r\nDisable=F8\r\n");
+        desk.Sheet.PressKey(1, 'J', Ctrl);
+        QCOMPARE(desk.Cell(1), u"Used"_s);
+        desk.Sheet.Steps().undo();
+        desk.Sheet.Steps().undo();
+        QCOMPARE(desk.Cell(1), u"F2"_s);
+        QCOMPARE(desk.Cell(2), u"F6"_s);
+    }
+
+    void ManyRows() {
+        Desk desk;
+        QByteArray content;
+        for (int row = 1; row <= 5000; ++row) {
+            content +=
+                "Command " + QByteArray::number(row) + "=Alt+" + char('A' + row % 26) + "\r\n";
+        }
+        desk.Machine.WriteFile(u"Shortcuts.txt"_s, content);
+        desk.Sheet.ReloadShortcuts();
+        QCOMPARE(desk.Grid.Rows(), 5001);
+        QVERIFY(desk.Sheet.PressKey(5000, 'J', Ctrl));
+        QVERIFY(desk.Sheet.Save(5000));
+        QVERIFY(desk.Stored().endsWith("Command 4999=Alt+H\r\nCommand 5000=Ctrl+J\r\n"));
+        QCOMPARE(desk.Stored().size(), content.size() + 1);
+    }
+
+    void ALongValue() {
+        Desk desk;
+        const QByteArray value(200'000, 'x');
+        desk.Machine.WriteFile(u"Shortcuts.txt"_s, "Clocks=" + value + "\r\nDisable=F8\r\n");
+        desk.Sheet.ReloadShortcuts();
+        QCOMPARE(desk.Cell(1).size(), 200'000);
+        QVERIFY(desk.Sheet.RowInfo(1).endsWith(u" place of xxxxxxxxxxxxxxxxxxxx...."_s));
+        desk.Sheet.PressKey(1, 'J', Ctrl);
+        desk.Sheet.CommitShortcutRow(1);
+        desk.Sheet.Steps().undo();
+        QCOMPARE(desk.Listed(1), QString::fromLatin1(value));
+    }
+
+    void LineEndsAndTabsInAValue() {
+        Desk desk;
+        const QByteArray content = "Clocks=F2\tF3\r\nDisable=F8\rF9\r\nClock Style=\t\r\n";
+        desk.Machine.WriteFile(u"Shortcuts.txt"_s, content);
+        desk.Sheet.ReloadShortcuts();
+        QCOMPARE(desk.Cell(1), u"F2\tF3"_s);
+        QVERIFY(desk.Sheet.PressKey(1, 'J', Ctrl));
+        QVERIFY(desk.Sheet.Save(1));
+        QVERIFY(desk.Stored().startsWith("Clocks=Ctrl+J\r\nDisable=F8\r"));
+        for (int row = 1; row < desk.Grid.Rows(); ++row) {
+            QVERIFY(!desk.Sheet.RowInfo(row).contains(u'\r'));
+            QVERIFY(!desk.Sheet.RowInfo(row).contains(u'\t'));
+        }
+    }
+
     void NoAndTheFileIsGone() {
         Desk desk;
         desk.Sheet.RefreshByDefault();

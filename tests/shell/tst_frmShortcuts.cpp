@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QTableView>
 #include <QTest>
 
@@ -103,6 +104,21 @@ private Q_SLOTS:
         }
         desk.Window->resize(600, 10);
         QCOMPARE(desk.Window->height(), 100);
+    }
+
+    /// What the user has dragged stays in proportion.
+    void DraggedColumnsKeepTheirShares() {
+        Desk desk;
+        const int room = desk.Grid().width();
+        const int dragged = room / 4;
+        desk.View().horizontalHeader()->resizeSection(0, dragged);
+        for (const int width : {400, 900, 600}) {
+            desk.Window->resize(width, 300);
+            const double now = desk.Grid().width();
+            QVERIFY(std::abs(desk.View().columnWidth(0) - now * dragged / room) <= 1);
+            QVERIFY(std::abs(desk.View().columnWidth(1) - now * 0.325) <= 1);
+        }
+        QCOMPARE(desk.View().columnWidth(0), dragged);
     }
 
     void KeysThatAreRecorded_data() {

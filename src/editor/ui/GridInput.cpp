@@ -53,7 +53,7 @@ bool GridInput::Type(int character) {
 
 bool GridInput::PressControl(const QKeyEvent& event, int code) {
     if (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier)) {
-        HeaderClicked(parts_.Data.Col());
+        ShowColChooser(parts_.Data.Col());
         return true;
     }
     if (!editor::IsPlainKey(event)) {
@@ -183,12 +183,15 @@ void GridInput::MouseUp(const QMouseEvent& event) {
     NoteMouse(event);
     parts_.Host.MouseUp(editor::HostButton(event.button()), editor::HostShift(event.modifiers()),
                         InGrid(event).x(), InGrid(event).y());
+}
+
+void GridInput::MouseReleased(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton || !std::exchange(isPressed_, false)) {
         return;
     }
     parts_.Host.Click();
     if (mouseRow_ == 0 && actors_.Model.HeaderRows() == 0) {
-        HeaderClicked(mouseCol_);
+        ShowColChooser(mouseCol_);
     } else if (onButton_ && IsOnButton(event.position().toPoint())) {
         PressButton();
     }
@@ -228,7 +231,12 @@ void GridInput::HeaderEvent(const QEvent& event) {
     }
 }
 
-void GridInput::HeaderClicked(int col) {
+void GridInput::HeadingClicked(int col) {
+    parts_.Host.Click();
+    ShowColChooser(col);
+}
+
+void GridInput::ShowColChooser(int col) {
     const GridPlaces places(parts_, actors_.Model, *view_);
     if (parts_.Data.HasCol(col)) {
         actors_.Editors.End();

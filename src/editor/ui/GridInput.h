@@ -32,7 +32,9 @@ public:
 
     /// An event of the header, as one of the grid; the header acts itself afterwards.
     void HeaderEvent(const QEvent& event);
-    void HeaderClicked(int col);
+    /// A click on a heading, which opens the chooser where it offers anything.
+    void HeadingClicked(int col);
+    void ShowColChooser(int col);
 
     bool KeyPress(QKeyEvent& event) override;
     void KeyRelease(QKeyEvent& event) override;
@@ -41,6 +43,7 @@ public:
     void MousePressed(const QPoint& place) override;
     void MouseMove(const QMouseEvent& event) override;
     void MouseUp(const QMouseEvent& event) override;
+    void MouseReleased(const QMouseEvent& event) override;
     void DoubleClick(const QMouseEvent& event) override;
     void CursorMoved() override;
     void FocusCame() override { parts_.Host.GotFocus(); }

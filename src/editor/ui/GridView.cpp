@@ -302,8 +302,9 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
-    Act([&] { QTableView::mouseReleaseEvent(event); });
     events_.MouseUp(*event);
+    Act([&] { QTableView::mouseReleaseEvent(event); });
+    events_.MouseReleased(*event);
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {

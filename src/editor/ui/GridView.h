@@ -16,7 +16,8 @@ public:
     virtual void MouseDown(const QMouseEvent& event) = 0;    ///< before the view moves its cursor
     virtual void MousePressed(const QPoint& place) = 0;      ///< behind it; in the viewport
     virtual void MouseMove(const QMouseEvent& event) = 0;
-    virtual void MouseUp(const QMouseEvent& event) = 0;
+    virtual void MouseUp(const QMouseEvent& event) = 0;        ///< before the view is done with it
+    virtual void MouseReleased(const QMouseEvent& event) = 0;  ///< behind it
     virtual void DoubleClick(const QMouseEvent& event) = 0;
     virtual void CursorMoved() = 0;  ///< the current cell or the selection has changed
     virtual void FocusCame() = 0;

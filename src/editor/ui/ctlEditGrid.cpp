@@ -61,7 +61,7 @@ ctlEditGrid::ctlEditGrid(platform::WallClock& clock, EditGridHost& host, QWidget
     QHeaderView* header = inside_->View.horizontalHeader();
     header->viewport()->installEventFilter(this);
     connect(header, &QHeaderView::sectionClicked, this,
-            [this](int col) { inside_->Input.HeaderClicked(col); });
+            [this](int col) { inside_->Input.HeadingClicked(col); });
     connect(header, &QHeaderView::sectionResized, this, [this](int col, int, int width) {
         if (!applies_) {
             look_.Column(col).Width = qRound(width * TwipsPerPixel);
@@ -162,8 +162,12 @@ void ctlEditGrid::SetColComboOption(const QString& options) {
     inside_->Chooser.SetOptions(options);
 }
 
+QString ctlEditGrid::ColComboOption() const {
+    return inside_->Chooser.Options();
+}
+
 void ctlEditGrid::ShowColChooser(int col) {
-    inside_->Input.HeaderClicked(col);
+    inside_->Input.ShowColChooser(col);
 }
 
 void ctlEditGrid::AutoColFit() {
@@ -198,6 +202,11 @@ void ctlEditGrid::ShowInfo(const QString& text) {
     inside_->Info.show();
     inside_->Info.raise();
     PlaceInfo();
+}
+
+void ctlEditGrid::SetToolTipText(const QString& text) {
+    look_.ToolTipText = text;
+    inside_->View.setToolTip(text);
 }
 
 void ctlEditGrid::HideInfo() {
@@ -237,6 +246,10 @@ QLineEdit* ctlEditGrid::GetCellTextBox() const {
 
 QComboBox* ctlEditGrid::GetCellCombo() const {
     return qobject_cast<QComboBox*>(inside_->Editors.Widget());
+}
+
+QComboBox* ctlEditGrid::GetCellComboEdit() const {
+    return editing_.EditColumnId() == editor::EditorKind::ComboEdit ? GetCellCombo() : nullptr;
 }
 
 QComboBox* ctlEditGrid::GetComboCtl(int col) const {

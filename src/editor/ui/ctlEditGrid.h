@@ -71,6 +71,7 @@ public:
     /// The line, or the list, of the open editor; null where there is none.
     QLineEdit* GetCellTextBox() const;
     QComboBox* GetCellCombo() const;
+    QComboBox* GetCellComboEdit() const;  ///< where it is a line with a list
     /// The same where the open editor is that of a column, and of that kind.
     QComboBox* GetComboCtl(int col) const;
     QComboBox* GetComboEditCtl(int col) const;
@@ -80,6 +81,7 @@ public:
 
     /// Which entries the chooser over the headings offers, see `editor::SetColComboOption`.
     void SetColComboOption(const QString& options);
+    QString ColComboOption() const;  ///< as it was given
     /// Opens it over a column, as a click on the heading and Alt+Down do.
     void ShowColChooser(int col);
 
@@ -97,6 +99,9 @@ public:
     void SetGridSize(const QSize& most);
     /// The width alone, not above @p most pixels.
     void SetGridWidthByCaller(int most);
+
+    /// The tip of cells that have none of their own, shown at once.
+    void SetToolTipText(const QString& text);
 
     /// A line of information that floats at the lower edge of the grid.
     void ShowInfo(const QString& text);
@@ -118,8 +123,10 @@ public:
     /// The table itself.
     QTableView& View();
 
-    QString Tag;                 ///< the host's own
-    bool CompactOnPress = true;  ///< a press closes the gaps of its column, `CompactColumn`
+    QString Tag;  ///< the host's own
+    /// A press closes the gaps of its column, `CompactColumn`: rows move and what stands beside a
+    /// gap is lost. Only a host whose rows are a plain list asks for that.
+    bool CompactOnPress = false;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

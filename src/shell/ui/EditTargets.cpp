@@ -6,6 +6,7 @@
 
 #include "shell/ui/ClockArea.h"
 #include "shell/ui/TextEditing.h"
+#include "shell/ui/frmShortcuts.h"
 
 namespace {
 
@@ -43,6 +44,11 @@ bool EditTargets::CanEdit(EditAction action) const {
         return *text;
     }
     return Window(action) != nullptr;
+}
+
+// The window of the keys records them.
+bool EditTargets::KeysHold() const {
+    return dynamic_cast<const frmShortcuts*>(area_.ActiveChild()) == nullptr;
 }
 
 void EditTargets::Edit(EditAction action) const {

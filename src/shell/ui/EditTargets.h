@@ -20,6 +20,8 @@ public:
 
     bool CanEdit(EditAction action) const;  ///< as things stand at this moment
     void Edit(EditAction action) const;     ///< nothing where it can't
+    /// Whether the keys of the menu do what it says; a window may take them for its own.
+    bool KeysHold() const;
 
 private:
     /// The widget with the focus, if it is in the shell and seen.

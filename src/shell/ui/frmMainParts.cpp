@@ -132,5 +132,6 @@ shell::MenuFills::Sources frmMain::MenuSources() {
     };
     return {[this] { return look_->Look(WindowState()); }, activeHandle,
             [this] { return !stages_.Panel().isEmpty(); },
-            [this](EditAction action) { return edit_->CanEdit(action); }};
+            [this](EditAction action) { return edit_->CanEdit(action); },
+            [this] { return edit_->KeysHold(); }};
 }

@@ -19,8 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double CommandShare = 0.58;  ///< of the width, of the columns
-constexpr double KeyShare = 0.325;
 constexpr int LeastHeight = 1500;  ///< twips
 constexpr int RightButton = 2;
 constexpr int DeleteCode = 46;
@@ -68,7 +66,6 @@ void frmShortcuts::ShowMe(const QString& title, const QString& file) {
 void frmShortcuts::MakeControls() {
     grid_.setObjectName(u"grdShortcut"_s);
     grid_.SetName(u"Shortcuts"_s);
-    grid_.CompactOnPress = false;
     grid_.Data() = editor::EditGridData({2, 2, 1, 0});
     grid_.Setup();
     grid_.View().installEventFilter(this);
@@ -260,10 +257,22 @@ void frmShortcuts::Edit(EditAction action) {
     }
 }
 
+void frmShortcuts::TakeWidths() {
+    for (std::size_t col = 0; col < shares_.size(); ++col) {
+        const int width = grid_.Look().ColumnAt(static_cast<int>(col)).Width;
+        if (room_ > 0 && width != given_[col]) {
+            shares_[col] = width / room_;
+        }
+    }
+}
+
 void frmShortcuts::resizeEvent(QResizeEvent*) {
-    const double twips = grid_.width() * TwipsPerPixel;
-    grid_.Look().Column(0).Width = static_cast<int>(twips * CommandShare);
-    grid_.Look().Column(1).Width = static_cast<int>(twips * KeyShare);
+    TakeWidths();
+    room_ = grid_.width() * TwipsPerPixel;
+    for (std::size_t col = 0; col < shares_.size(); ++col) {
+        given_[col] = static_cast<int>(room_ * shares_[col]);
+        grid_.Look().Column(static_cast<int>(col)).Width = given_[col];
+    }
     grid_.Refresh();
 }
 

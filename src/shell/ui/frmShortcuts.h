@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <array>
 
 #include "editor/ui/ctlEditGrid.h"
 #include "foundation/ui/ChildFrame.h"
@@ -73,6 +74,8 @@ private:
     /// Puts a key on the current row. @return false for a key that is none of the list
     bool RecordKey(const QKeyEvent& event);
     void ShowHelp();
+    /// A column that the user has made wider or narrower keeps its share of the window.
+    void TakeWidths();
     /// Brings what is shown in line with the sheet.
     void ShowSheet();
     void ShowRow();
@@ -85,6 +88,10 @@ private:
     ctlEditGrid& grid_;
     shell::ShortcutSheet sheet_;
     bool asks_ = false;  ///< a box stands, which the window must outlive
+    /// The shares of the width that the columns have, and the width they were last given, in twips.
+    std::array<double, 2> shares_ = {0.58, 0.325};
+    std::array<int, 2> given_{};
+    double room_ = 0;  ///< that of the grid then
     int lastRow_ = 0;  ///< the row that was current before; 0 for none
     QLabel* lblInfo_ = nullptr;
     QPushButton* cmdSave_ = nullptr;
