@@ -49,7 +49,8 @@ private:
     void Watch(QLineEdit& line);
     bool HasLeft(Qt::FocusReason reason) const;
     bool PressKey(QKeyEvent& event);
-    /// Ctrl+Y, which lines know by no key of their own on every desktop. @return whether it was that
+    /// Ctrl+Y, which lines know by no key of their own on every desktop. @return whether it was
+    /// that
     bool Redo(const QKeyEvent& event);
     bool ActOn(const editor::EditKey& key, editor::EditorAction action);
     bool StayWith(const editor::EditKey& key);
