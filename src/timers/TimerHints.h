@@ -21,8 +21,8 @@ struct TimerHint {
 TimerHint SpotHint(const QString& spotTime);
 
 /// Of the mark of a timer: its message in its colour, and below what its menu can change, each with
-/// the present value. One that means one half of the day tells that first. A timer without a message begins with these lines; of a long one the first
-/// 200 letters are told.
+/// the present value. One that means one half of the day tells that first. A timer without a
+/// message begins with these lines; of a long one the first 200 letters are told.
 TimerHint MarkHint(const ClockTimer& timer);
 
 }  // namespace timers
