@@ -18,6 +18,28 @@ public:
     std::unique_ptr<platform::Ticker> MakeTicker(std::function<void()>) override { return nullptr; }
 };
 
+/// A database that knows one zone, which is that of the clock.
+class OneZone final : public platform::ZoneDatabase {
+public:
+    explicit OneZone(const TrueClock& clock) : clock_(clock) {}
+    platform::ZoneRoot Open() const override { return platform::ZoneRoot::Opened; }
+    std::optional<QString> SubkeyName(int) const override { return std::nullopt; }
+    std::optional<QString> TextValue(const QString&, const QString&) const override {
+        return std::nullopt;
+    }
+    std::optional<QByteArray> TziValue(const QString&) const override { return std::nullopt; }
+    platform::TimeZoneInformation GetTimeZoneInformation() const override { return {}; }
+    bool IsWindowsNT() const override { return true; }
+    QString LocalStandardName() const override { return {}; }
+    std::optional<platform::ZoneSpan> SpanAt(const QString&, std::int64_t instant) const override {
+        const QDateTime moment = QDateTime::fromSecsSinceEpoch(instant, Qt::UTC);
+        return platform::ZoneSpan{clock_.Ahead(moment), false, instant, instant + 1};
+    }
+
+private:
+    const TrueClock& clock_;
+};
+
 /// Questions that stand until the test answers them.
 class StandingQuestions final : public platform::Dialogs {
 public:
@@ -53,6 +75,7 @@ struct LateDesk {
     FakeServices Machine;
     TrueClock Clock;
     StandingQuestions Questions;
+    OneZone Zones{Clock};
     platform::Services Services;
     ModuleState Module;
     TimeZoneRecord Zone;
@@ -78,7 +101,7 @@ struct LateDesk {
     /// @param files those of the machine; its own where none are given
     explicit LateDesk(const QString& late = QStringLiteral("Show"),
                       const QString& clock = QStringLiteral("24"), platform::Files* files = nullptr)
-        : Services(Machine.Services.With(Clock, Questions,
+        : Services(Machine.Services.With(Clock, Questions, Zones,
                                          files == nullptr ? Machine.Services.FileSystem : *files)) {
         Module.Paths.AppFolder = Machine.AppFolder();
         Zone.StandardName = QStringLiteral("London");

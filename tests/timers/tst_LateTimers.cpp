@@ -56,6 +56,7 @@ private Q_SLOTS:
     void LosesNoneInAnHourThatIsLeftOut();
     void FiresOnceInAnHourThatComesTwice();
     void FollowsAnotherOffset();
+    void KnowsTheChangesOfAnExactZone();
     void LeavesInstantsWhereTheMachineMoves();
     void FollowsAnotherZone();
     void BringsAPermanentTimerNear();
@@ -376,6 +377,28 @@ void tst_LateTimers::FollowsAnotherOffset() {
     desk.TickAt(u"2026-03-29T07:00:30"_s);
     QCOMPARE(desk.Fired, QStringList({u"07:00 late"_s, u"08:00 now"_s}));
     QCOMPARE(desk.Log(), QStringList({u"late 07:00 late +3630"_s, u"fired 08:00 now +30"_s}));
+}
+
+// The instants are right from the beginning, and no change moves them.
+void tst_LateTimers::KnowsTheChangesOfAnExactZone() {
+    LateDesk desk;
+    desk.Zone.ExactId = u"Europe/London"_s;
+    desk.Clock.Ahead = London;
+    desk.GoTo(u"2026-10-24T18:00:00"_s);
+    desk.Tick();
+    const int twice = desk.Add(u"01:30"_s, u"twice"_s);
+    const int behind = desk.Add(u"15:30"_s, u"behind"_s);
+    const QDateTime day(QDate(2026, 10, 25), QTime(0, 0), Qt::UTC);
+    QCOMPARE(desk.Timers().Timer(twice).Due.At, day.addSecs(1800));
+    QCOMPARE(desk.Timers().Timer(behind).Due.At, day.addSecs(15 * Hour + 1800));
+    desk.TickAt(u"2026-10-25T00:59:59"_s);
+    QCOMPARE(desk.Log(), QStringList{u"late 01:30 twice +1799"_s});
+    desk.TickAt(u"2026-10-25T01:00:00"_s);
+    QCOMPARE(desk.Timers().Timer(behind).Due.At, day.addSecs(15 * Hour + 1800));
+    desk.TickAt(u"2026-10-25T15:29:59"_s);
+    QCOMPARE(desk.Fired.size(), 1);
+    desk.TickAt(u"2026-10-25T15:30:00"_s);
+    QCOMPARE(desk.Fired.size(), 2);
 }
 
 void tst_LateTimers::LeavesInstantsWhereTheMachineMoves() {
