@@ -474,7 +474,7 @@ private Q_SLOTS:
         mduUILib::ClockControls otherControls;
         const drawing::FaceContext own = face_->Context();
         ClockBackground other({own.Properties, own.Zone, otherControls, own.Window, own.Clock,
-                               own.FileSystem, own.Random, own.Pictures, own.Paths});
+                               own.FileSystem, own.Random, own.Pictures, own.Paths, own.Zones});
         other.LoadClockPicture();
         QCOMPARE(otherControls.imgClock(1).Picture.get(), first.get());
     }
