@@ -42,12 +42,7 @@ constexpr const char* Day = R"(
 00:00:00.000 saved file=~/me/Shortcuts.txt
 00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
 00:00:00.000 saved file=~/me/TempolarkCentral.ini
-# The zone's six keys are written into the new file one by one.
-00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
-00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
-00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
-00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
-00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
+# The zone's keys are written into the new file in one step.
 00:00:00.000 saved file=~/me/TimeZones/GMT Standard Time.ini
 # The window is built: its first tick is due in ten milliseconds, those behind it each second.
 00:00:00.000 state from=0 to=2
