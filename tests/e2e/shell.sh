@@ -34,12 +34,6 @@ InArea() {
 }
 Ground() { Pixel $(InArea 8 -30); }
 Shows() { [[ "$(Ground)" == "$1" ]]; }
-StatusLine() {
-    local x y w h
-    read -r x y w h < <(Box "$(ShellWindow)")
-    import -window root -crop "$((w - 90))x20+$((x + 30))+$((y + h - 21))" "$scratch/$1.png"
-}
-Differ() { ! compare -metric AE "$scratch/$1.png" "$scratch/$2.png" null: 2>/dev/null; }
 
 # The invitation stands in the middle, below the letters: about a third down and 130 pixels more.
 ClickInvitation() {
@@ -66,13 +60,22 @@ PopsUp() {
     Keys Escape
     WaitFor 5 HasPopups 0
 }
-# Answers BUTTON: the message line tells something new.
-Answers() {
-    StatusLine before
+# Opens BUTTON: a window covers much of the ground, and Escape closes it.
+AreaPicture() {
+    local x y w h
+    read -r x y w h < <(Box "$(ShellWindow)")
+    import -window root -crop "${w}x$((h - AreaTop - 24))+$x+$((y + AreaTop))" "$scratch/$1.png"
+}
+Changed() { compare -metric AE "$scratch/$1.png" "$scratch/$2.png" null: 2>&1 || true; }
+Opens() {
+    AreaPicture before
     PressButton "$1"
-    sleep 0.4
-    StatusLine after
-    Differ before after
+    sleep 1
+    AreaPicture open
+    Keys Escape
+    sleep 0.5
+    AreaPicture closed
+    (($(Changed before open) > 50000 && $(Changed before closed) < 20000))
 }
 HelpShown() { PressButton 19 && WaitFor 5 grep -qs "Help/TempolarkCentral/100.html" "$scratch/shown"; }
 
@@ -114,8 +117,8 @@ sleep 2.5
 for button in 1 2 3 4 5 6 7 8 12 14 15 16; do
     Check "button $button opens its menu" PopsUp "$button"
 done
-Check "button 9 answers" Answers 9
-Check "button 10 answers" Answers 10
+Check "button 9 opens the properties" Opens 9
+Check "button 10 opens the shortcuts" Opens 10
 Check "button 19 shows the help" HelpShown
 Check "the ground becomes red" Central Down Right $(Times 5 Down) Return
 Check "it is red" WaitFor 3 Shows "#FF0000"
