@@ -111,9 +111,10 @@ DragMark() {
         mousemove $(At 0 "$3" "$4") sleep 0.1 mouseup 1
 }
 Kept() { grep -Eq " $1=Tea is ready" "$user/Timers/${message}Timer.txt"; }
-# About three and six, by day or by night, the timer would fire while it is made.
-FiresNow() { [[ $(date -u +%I%M) =~ ^(025|030|055[89]|060) ]]; }
-if ! FiresNow; then
+# About three and six, by day or by night, the timer would fire while it is made, and the marks of
+# the timers of this minute would stand in its way.
+IsInTheWay() { [[ $(date -u +%I%M) =~ ^(02[345]|03[012]|05[345]|06[0123]) ]]; }
+if ! IsInTheWay; then
     Check "a timer is set on the dial" SetTimer
     Check "its file has it" WaitFor 3 Kept 18:1
     Check "its mark is dragged to three" DragMark 139 255 248 147
