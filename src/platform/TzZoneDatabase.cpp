@@ -155,7 +155,7 @@ std::optional<ZoneSpan> TzZoneDatabase::SpanAt(const QString& id, std::int64_t i
 }
 
 QByteArray TzZoneDatabase::IanaOfCity(const QString& city) const {
-    const QByteArray named = Places().IanaOfCity(city);
+    QByteArray named = Places().IanaOfCity(city);
     if (!named.isEmpty()) {
         return named;
     }

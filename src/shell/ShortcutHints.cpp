@@ -45,7 +45,7 @@ constexpr QStringView KeysOfEveryClock[] = {u"F1",     u"Ctrl+F1", u"Alt+F1",
 
 /// The key in a sentence: on one line, and no longer than any key is.
 QString InSentence(const QString& keyText) {
-    constexpr int most = 20;
+    constexpr qsizetype most = 20;
     const QString line = keyText.left(2 * most).simplified();
     return line.size() > most ? line.left(most) + u"..."_s : line;
 }

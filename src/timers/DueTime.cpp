@@ -34,7 +34,7 @@ QString Days(qint64 days) {
 QDateTime InstantOf(const QDateTime& reading, const ClockOffset& offset) {
     const int before = offset(reading.addSecs(-SecondsOfDay));
     const int behind = offset(reading.addSecs(SecondsOfDay));
-    const QDateTime first = reading.addSecs(-std::max(before, behind));
+    QDateTime first = reading.addSecs(-std::max(before, behind));
     const QDateTime last = reading.addSecs(-std::min(before, behind));
     if (first.addSecs(offset(first)) >= reading) {
         return first;

@@ -123,7 +123,7 @@ QPixmap ValueLooks::Thumbnail(const QString& path) const {
     if (const QPixmap* known = thumbnails_.object(key)) {
         return *known;
     }
-    const QPixmap made = ReadThumbnail(files.Read(native).value_or(QByteArray()));
+    QPixmap made = ReadThumbnail(files.Read(native).value_or(QByteArray()));
     thumbnails_.insert(key, new QPixmap(made));
     return made;
 }
